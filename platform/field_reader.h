@@ -1,0 +1,63 @@
+#pragma once
+
+#include <charconv>
+#include <concepts>
+#include <cstddef>
+#include <string>
+
+namespace platform {
+
+/// Reads a text field by field, without looking ahead.
+///
+/// A field ends at a comma or at the end of its line; an empty line is an empty field. Blanks around a field
+/// are not part of it. A field may stand in double quotes: then commas and blanks inside the quotes belong to
+/// it, and what follows the closing quote up to the comma or line end is passed over. Lines end with LF, CR
+/// LF or CR; the last line may lack its end.
+class FieldReader {
+public:
+    explicit FieldReader(std::string text);
+
+    /// Reads the next field. Returns false, and leaves `field` as it was, when the text has no further one.
+    bool read(std::string& field);
+
+    /// Reads the next field as a decimal number. Returns false, and leaves `number` as it was, when there is
+    /// no further field, or when it is empty, holds anything but a number, or does not fit the type.
+    template <std::integral Number>
+    bool read(Number& number);
+
+    /// True when no field is left.
+    bool atEnd() const;
+
+    /// The line that the last field read stands in, counted from 1; 0 before the first.
+    int line() const { return line_; }
+
+private:
+    void skipBlanks();
+    bool atLineEnd() const;
+    void takeSeparator();
+    std::string quotedField();
+    std::string plainField();
+
+    std::string text_;
+    std::size_t position_ = 0;
+    int line_ = 0;
+    int nextLine_ = 1;
+    bool afterComma_ = false;
+};
+
+template <std::integral Number>
+bool FieldReader::read(Number& number)
+{
+    std::string field;
+    if (!read(field))
+        return false;
+    Number value{};
+    const char* const end = field.data() + field.size();
+    const auto [stop, error] = std::from_chars(field.data(), end, value);
+    if (error != std::errc{} || stop != end)
+        return false;
+    number = value;
+    return true;
+}
+
+} // namespace platform

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <chrono>
+#include <string>
+
+namespace platform {
+
+/// What the operating system gives the program. There is one at a time, set by `use` before anything else
+/// runs.
+class Platform {
+public:
+    Platform() = default;
+    Platform(const Platform&) = delete;
+    Platform& operator=(const Platform&) = delete;
+    virtual ~Platform() = default;
+
+    /// Seconds since midnight, local time, from 0 to below 86400.
+    virtual float secondsSinceMidnight() const = 0;
+
+    /// Sleeps until an event comes or `atMost` is over, then lets the windows work off what is pending.
+    virtual void waitForEvents(std::chrono::milliseconds atMost) = 0;
+
+    /// The system beep.
+    virtual void beep() = 0;
+
+    /// Opens the wave-audio device for a file in the working folder. A file that cannot be played stays
+    /// silent.
+    virtual void openSound(const std::string& waveFile) = 0;
+
+    /// Plays a file that was opened from its start and returns at once; silent when it was not opened.
+    virtual void playSound(const std::string& waveFile) = 0;
+
+    /// True while a sound that was started can still be heard.
+    virtual bool soundIsPlaying() const = 0;
+
+    /// Starts a program, minimised, with a command line; false when it cannot be started.
+    virtual bool startProgram(const std::string& commandLine) = 0;
+
+    /// Shows a message box and returns at once.
+    virtual void showMessage(const std::string& text) = 0;
+
+    /// Ends the program as soon as the running event is worked off, with this exit status.
+    virtual void endProgram(int exitStatus) = 0;
+
+    /// True from `endProgram` on.
+    virtual bool ending() const = 0;
+};
+
+/// The platform in use. Throws std::logic_error when none was set.
+Platform& current();
+
+/// Sets the platform in use; it must outlive every later call of `current`.
+void use(Platform& platform);
+
+} // namespace platform
