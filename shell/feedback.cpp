@@ -1,0 +1,57 @@
+#include "shell/feedback.h"
+
+#include "platform/platform.h"
+#include "shell/drill.h"
+#include "shell/pause.h"
+#include "shell/score.h"
+#include "shell/sound_control.h"
+
+namespace shell {
+
+namespace {
+
+// Pauses; false when the drill was left meanwhile.
+bool pauseWithDrill()
+{
+    const int session = drillSession();
+    Pause();
+    return session == drillSession() && !platform::current().ending();
+}
+
+} // namespace
+
+void giveRightFeedback(FeedbackSurface& surface)
+{
+    Drill* const drill = runningDrill();
+    if (drill == nullptr || pausing())
+        return;
+    scoreRightAnswer();
+    surface.showSurface();
+    soundIfOn(RightSound);
+    drill->greyAnsweredBox();
+    drill->showScore(scoreText());
+    if (!pauseWithDrill())
+        return;
+    const int session = drillSession();
+    drill->moveOn();
+    surface.hideSurface();
+    if (session == drillSession())
+        drill->focusQuestion();
+}
+
+void giveWrongFeedback(FeedbackSurface& surface)
+{
+    Drill* const drill = runningDrill();
+    if (drill == nullptr || pausing())
+        return;
+    scoreWrongAnswer();
+    surface.showSurface();
+    soundIfOn(WrongSound);
+    drill->showScore(scoreText());
+    if (!pauseWithDrill())
+        return;
+    surface.hideSurface();
+    drill->askAgain();
+}
+
+} // namespace shell

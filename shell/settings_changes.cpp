@@ -1,0 +1,60 @@
+#include "shell/settings_changes.h"
+
+#include "shell/settings.h"
+
+namespace shell {
+
+namespace {
+
+constexpr platform::Flag MarkingFlagOfDrills = 1;
+
+} // namespace
+
+void chooseLanguage(std::string_view language)
+{
+    settings.CurrentLanguage = language;
+    countSettingsChange();
+}
+
+void chooseCaseOrder(std::string_view caseOrder)
+{
+    settings.CaseOrder = caseOrder;
+    countSettingsChange();
+}
+
+void chooseQuestionOrder(std::string_view questionOrder)
+{
+    settings.QuestionOrder = questionOrder;
+    countSettingsChange();
+}
+
+void switchSound(bool on)
+{
+    settings.SoundOn = platform::flagOf(on);
+    countSettingsChange();
+}
+
+void switchVowelLength(bool shown)
+{
+    settings.ShowVowelLength = platform::flagOf(shown);
+}
+
+void switchSaving(bool saved)
+{
+    settings.SaveSettingsOnExit = platform::flagOf(saved);
+}
+
+void setVowelMarkForDrill()
+{
+    settings.VowelMark = settings.ShowVowelLength == MarkingFlagOfDrills ? ":" : "";
+}
+
+void setVowelMarkAtStart()
+{
+    if (settings.ShowVowelLength == platform::FlagTrue)
+        settings.VowelMark = ":";
+    if (settings.ShowVowelLength == platform::FlagFalse)
+        settings.VowelMark = "";
+}
+
+} // namespace shell

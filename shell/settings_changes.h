@@ -1,0 +1,29 @@
+#pragma once
+
+#include <string_view>
+
+namespace shell {
+
+/// What the main window's menus change in `settings`. The first three raise `SettingsChangeCount` by one.
+void chooseLanguage(std::string_view language);
+void chooseCaseOrder(std::string_view caseOrder);
+void chooseQuestionOrder(std::string_view questionOrder);
+
+/// Sets `SoundOn` and raises `SettingsChangeCount` by one.
+void switchSound(bool on);
+
+/// Sets `ShowVowelLength`; the word lists have to be prepared again afterwards.
+void switchVowelLength(bool shown);
+
+/// Sets `SaveSettingsOnExit`.
+void switchSaving(bool saved);
+
+/// Sets `VowelMark` before a noun or verb drill: ":" where `ShowVowelLength` is exactly 1, else "". The menu
+/// stores true as -1, so that in normal use the mark is emptied here and the generators set it: this is
+/// meant.
+void setVowelMarkForDrill();
+
+/// Sets `VowelMark` at start: ":" where `ShowVowelLength` is true, "" where it is false.
+void setVowelMarkAtStart();
+
+} // namespace shell

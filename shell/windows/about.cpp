@@ -1,0 +1,74 @@
+#include "shell/windows/about.h"
+
+#include "shell/windows/captions.h"
+#include "shell/windows/text.h"
+#include "shell/windows/type.h"
+
+#include <QBoxLayout>
+#include <QCoreApplication>
+#include <QLabel>
+#include <QPushButton>
+
+#include <array>
+
+namespace shell {
+
+namespace {
+
+constexpr QSize LargestBlock{48, 24};
+
+// clang-format off
+constexpr std::array AboutCaptions = {
+    Caption{"About", {"About", "À propos", "Informazioni", "Programminformationen", "Acerca de", "De hoc programmate"}},
+    Caption{"Command1", {"&OK", "&Oui", "&OK", "&OK", "&Si", "&Ita"}},
+    Caption{"AboutText", {
+        "Learn the forms of Latin verbs, nouns and pronouns, and the words of your own lists.",
+        "Apprenez les formes des verbes, des substantifs et des pronoms latins, et les mots de vos propres listes.",
+        "Impara le forme dei verbi, dei sostantivi e dei pronomi latini e le parole delle tue liste.",
+        "Lernen Sie die Formen lateinischer Verben, Substantive und Pronomen und die Wörter Ihrer eigenen Listen.",
+        "Aprenda las formas de los verbos, los nombres y los pronombres latinos y las palabras de sus propias listas.",
+        "Disce formas verborum, nominum et pronominum Latinorum et verba indicum tuorum."}},
+};
+// clang-format on
+
+} // namespace
+
+About::About() : Window("About", "About")
+{
+    auto* const title = new QLabel(QStringLiteral("Velmorane"));
+    setBoldType(*title, TitleType);
+    auto* const text = new QLabel;
+    text->setObjectName(QStringLiteral("AboutText"));
+    text->setWordWrap(true);
+    auto* const version =
+        new QLabel(QStringLiteral("Morvanti %1  ·  MIT").arg(QCoreApplication::applicationVersion()));
+    auto* const close = new QPushButton;
+    close->setObjectName(QStringLiteral("Command1"));
+    close->setDefault(true);
+
+    auto* const layout = new QVBoxLayout(centredBlock(LargestBlock));
+    layout->setSpacing(LargeSpace);
+    layout->addWidget(title);
+    layout->addWidget(text);
+    layout->addWidget(version);
+    layout->addStretch();
+    layout->addWidget(close, 0, Qt::AlignRight);
+
+    connect(close, &QPushButton::clicked, this, &About::hide);
+    applyDesignedCaptions(*this, AboutCaptions);
+}
+
+void About::open()
+{
+    applyCaptions(*this, AboutCaptions);
+    show();
+    raise();
+    activateWindow();
+}
+
+void About::closeBoxPressed()
+{
+    hide();
+}
+
+} // namespace shell

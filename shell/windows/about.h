@@ -1,0 +1,20 @@
+#pragma once
+
+#include "shell/windows/window.h"
+
+namespace shell {
+
+/// Tells what the program is.
+class About : public Window {
+    Q_OBJECT
+
+public:
+    About();
+
+    void open();
+
+protected:
+    void closeBoxPressed() override;
+};
+
+} // namespace shell

@@ -1,0 +1,87 @@
+#include "shell/windows/answer_box.h"
+
+#include "shell/windows/type.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+
+namespace shell {
+
+namespace {
+
+constexpr QColor Grey{0x80, 0x80, 0x80};
+constexpr QColor LightGrey{0xC0, 0xC0, 0xC0};
+constexpr QColor Red{0xFF, 0x00, 0x00};
+constexpr QColor Blue{0x00, 0x00, 0xFF};
+constexpr QColor Black{0x00, 0x00, 0x00};
+constexpr QColor White{0xFF, 0xFF, 0xFF};
+
+} // namespace
+
+AnswerBox::AnswerBox(QWidget* parent) : QLineEdit(parent)
+{
+    setType(*this, FormType);
+}
+
+void AnswerBox::lookIdle()
+{
+    setPalette(QApplication::palette(this));
+}
+
+void AnswerBox::lookAnswered()
+{
+    setColours(Grey, LightGrey);
+}
+
+void AnswerBox::lookGrey()
+{
+    setColours(Grey, White);
+}
+
+void AnswerBox::lookRevealed()
+{
+    setColours(White, Red);
+}
+
+void AnswerBox::lookBlue()
+{
+    setColours(White, Blue);
+}
+
+void AnswerBox::lookBlack()
+{
+    setColours(White, Black);
+}
+
+void AnswerBox::setAsked(bool asked)
+{
+    setReadOnly(!asked);
+    setFocusPolicy(asked ? Qt::StrongFocus : Qt::ClickFocus);
+}
+
+void AnswerBox::focusInEvent(QFocusEvent* event)
+{
+    QLineEdit::focusInEvent(event);
+    Q_EMIT focusReceived();
+}
+
+void AnswerBox::keyPressEvent(QKeyEvent* event)
+{
+    const QString typed = event->text();
+    if (typed == QLatin1String("/") || typed == QLatin1String("?"))
+        Q_EMIT hintRequested();
+    else
+        QLineEdit::keyPressEvent(event);
+}
+
+void AnswerBox::setColours(const QColor& background, const QColor& text)
+{
+    QPalette colours = QApplication::palette(this);
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        colours.setColor(group, QPalette::Base, background);
+        colours.setColor(group, QPalette::Text, text);
+    }
+    setPalette(colours);
+}
+
+} // namespace shell

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QLineEdit>
+
+namespace shell {
+
+/// A box into which a form is typed. "/" and "?" are not entered: they ask for a hint. Its looks are the
+/// colours that all drills share; a fixed colour of the text always comes with one of the background that it
+/// can be read on.
+class AnswerBox : public QLineEdit {
+    Q_OBJECT
+
+public:
+    explicit AnswerBox(QWidget* parent = nullptr);
+
+    /// The plain colours of an empty box.
+    void lookIdle();
+
+    /// Grey: answered right in this round.
+    void lookAnswered();
+
+    /// Grey ground alone, with which a round in random order begins.
+    void lookGrey();
+
+    /// Red: the answer is shown.
+    void lookRevealed();
+
+    /// Blue or black: the answer was shown and is asked again.
+    void lookBlue();
+    void lookBlack();
+
+    /// Makes this the box that is asked: it takes text, and the focus by the keyboard. Another box only sends
+    /// the focus on.
+    void setAsked(bool asked);
+
+Q_SIGNALS:
+    void focusReceived();
+    void hintRequested();
+
+protected:
+    void focusInEvent(QFocusEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void setColours(const QColor& background, const QColor& text);
+};
+
+} // namespace shell

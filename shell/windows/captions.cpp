@@ -1,0 +1,68 @@
+#include "shell/windows/captions.h"
+
+#include "shell/settings.h"
+#include "shell/windows/text.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QGroupBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QMenu>
+
+#include <stdexcept>
+#include <string>
+
+namespace shell {
+
+namespace {
+
+bool setText(QObject* control, const QString& text)
+{
+    if (auto* const button = qobject_cast<QAbstractButton*>(control))
+        return button->setText(text), true;
+    if (auto* const label = qobject_cast<QLabel*>(control))
+        return label->setText(text), true;
+    if (auto* const menu = qobject_cast<QMenu*>(control))
+        return menu->setTitle(text), true;
+    if (auto* const action = qobject_cast<QAction*>(control))
+        return action->setText(text), true;
+    if (auto* const frame = qobject_cast<QGroupBox*>(control))
+        return frame->setTitle(text), true;
+    return false;
+}
+
+void applyIn(std::string_view language, QWidget& window, std::span<const Caption> captions)
+{
+    for (const auto& [control, texts] : captions) {
+        const auto text = texts.in(language);
+        if (!text)
+            continue;
+        const QString name = fromUtf8(control);
+        if (name == window.objectName())
+            window.setWindowTitle(fromUtf8(*text));
+        else if (!setText(window.findChild<QObject*>(name), fromUtf8(*text)))
+            throw std::logic_error("no control with a caption is named " + std::string(control));
+    }
+}
+
+} // namespace
+
+void applyCaptions(QWidget& window, std::span<const Caption> captions)
+{
+    applyIn(settings.CurrentLanguage, window, captions);
+}
+
+void applyDesignedCaptions(QWidget& window, std::span<const Caption> captions)
+{
+    applyIn(language::English, window, captions);
+}
+
+void fillList(QListWidget& list, std::span<const LanguageTexts> rows)
+{
+    list.clear();
+    for (const LanguageTexts& row : rows)
+        list.addItem(fromUtf8(row.designedOrCurrent()));
+}
+
+} // namespace shell

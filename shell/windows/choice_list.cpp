@@ -1,0 +1,50 @@
+#include "shell/windows/choice_list.h"
+
+#include <QKeyEvent>
+
+namespace shell {
+
+namespace {
+
+bool isEnter(int key)
+{
+    return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
+bool isArrow(int key)
+{
+    return key == Qt::Key_Down || key == Qt::Key_Up;
+}
+
+} // namespace
+
+ChoiceList::ChoiceList(QWidget* parent) : QListWidget(parent)
+{
+    connect(this, &QListWidget::itemSelectionChanged, this, [this] { Q_EMIT rowChosen(chosenRow()); });
+    connect(this, &QListWidget::itemDoubleClicked, this, &ChoiceList::activateChosenRow);
+}
+
+int ChoiceList::chosenRow() const
+{
+    const QList<QListWidgetItem*> chosen = selectedItems();
+    return chosen.isEmpty() ? -1 : row(chosen.front());
+}
+
+// The first arrow key chooses the first row, where Qt would go past it.
+void ChoiceList::keyPressEvent(QKeyEvent* event)
+{
+    if (isEnter(event->key()))
+        activateChosenRow();
+    else if (isArrow(event->key()) && chosenRow() < 0)
+        setCurrentRow(0, QItemSelectionModel::ClearAndSelect);
+    else
+        QListWidget::keyPressEvent(event);
+}
+
+void ChoiceList::activateChosenRow()
+{
+    if (chosenRow() >= 0)
+        Q_EMIT rowActivated(chosenRow());
+}
+
+} // namespace shell

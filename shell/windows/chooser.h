@@ -1,0 +1,67 @@
+#pragma once
+
+#include "shell/language_texts.h"
+#include "shell/windows/window.h"
+
+#include <span>
+#include <string_view>
+
+class QFrame;
+class QPushButton;
+
+namespace shell {
+
+class ChoiceList;
+
+/// The object names of a chooser's controls.
+struct ChooserNames {
+    std::string_view window;
+    std::string_view active;
+    std::string_view list;
+    std::string_view ok;
+    std::string_view cancel;
+    std::string_view frame;
+};
+
+/// A small window in which one row of a list is chosen. The OK button is available once a row is chosen; a
+/// double click or Enter activates a row as well.
+class Chooser : public Window {
+    Q_OBJECT
+
+public:
+    Chooser(const ChooserNames& names, std::span<const Caption> captions,
+            std::span<const LanguageTexts> rows);
+
+    /// Shows the window with its list filled anew and no row chosen.
+    void open();
+
+Q_SIGNALS:
+    void chosen(int row);
+    void cancelled();
+
+protected:
+    /// Called each time the list was filled anew: when the window is shown and when it becomes active.
+    virtual void beginChoice() {}
+
+    void becameActive() override;
+    void closeBoxPressed() override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void makeControls(const ChooserNames& names);
+    void layOut();
+    void connectControls();
+    void fill();
+    void choose();
+    void placeFrame();
+
+    std::span<const Caption> captions_;
+    std::span<const LanguageTexts> rows_;
+    QFrame* frame_;
+    ChoiceList* list_;
+    QPushButton* ok_;
+    QPushButton* cancel_;
+};
+
+} // namespace shell

@@ -1,0 +1,87 @@
+#include "shell/windows/feedback_window.h"
+
+#include "shell/windows/captions.h"
+#include "shell/windows/text.h"
+#include "shell/windows/type.h"
+
+#include <QLabel>
+#include <QScreen>
+#include <QVBoxLayout>
+
+namespace shell {
+
+namespace {
+
+// clang-format off
+//                                        English   French    Italian   German      Spanish    Latin
+constexpr Caption RightCaption{"RightCaption", {"Right!", "Bon!",   "Right!", "Richtig!", "¡Bien!",  "Verum"}};
+// French says "Wrong!": its own "Non!" is meant never to be shown.
+constexpr Caption WrongCaption{"WrongCaption", {"Wrong!", "Wrong!", "Wrong!", "Falsch!",  "¡Mal!",   "Falsum"}};
+// clang-format on
+
+constexpr Qt::WindowFlags AboveAllWithoutFocus =
+    Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::WindowDoesNotAcceptFocus;
+
+} // namespace
+
+FeedbackWindow::FeedbackWindow(std::string_view name, const Caption& caption)
+    : QFrame(nullptr, AboveAllWithoutFocus), caption_(caption)
+{
+    setObjectName(fromUtf8(name));
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setFrameStyle(QFrame::Box | QFrame::Plain);
+    setLineWidth(2);
+
+    auto* const label = new QLabel(this);
+    label->setObjectName(fromUtf8(caption.control));
+    setBoldType(*label, TitleType);
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(WideSpace * 2, WideSpace, WideSpace * 2, WideSpace);
+    layout->addWidget(label, 0, Qt::AlignCenter);
+    applyDesignedCaptions(*this, {&caption_, 1});
+}
+
+void FeedbackWindow::showSurface()
+{
+    applyCaptions(*this, {&caption_, 1});
+    adjustSize();
+    moveToLowerRight();
+    show();
+    raise();
+}
+
+void FeedbackWindow::hideSurface()
+{
+    hide();
+}
+
+void FeedbackWindow::moveToLowerRight()
+{
+    const QRect area = screen()->geometry();
+    move(area.left() + area.width() - width() - width() / 10,
+         area.top() + static_cast<int>(area.height() / 1.5));
+}
+
+Bravo::Bravo() : FeedbackWindow("Bravo", RightCaption)
+{
+    setPalette([this] {
+        QPalette accent = palette();
+        accent.setColor(QPalette::Window, accent.color(QPalette::Highlight));
+        accent.setColor(QPalette::WindowText, accent.color(QPalette::HighlightedText));
+        return accent;
+    }());
+}
+
+void Bravo::announce()
+{
+    giveRightFeedback(*this);
+}
+
+Wrong::Wrong() : FeedbackWindow("Wrong", WrongCaption) {}
+
+void Wrong::announce()
+{
+    giveWrongFeedback(*this);
+}
+
+} // namespace shell

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "shell/windows/window.h"
+
+class QAction;
+class QMenuBar;
+class QPushButton;
+
+namespace shell {
+
+/// The start window and hub: large buttons open the drills, a menu bar opens the editors and dialogs and
+/// changes the settings.
+class MainMenu : public Window {
+    Q_OBJECT
+
+public:
+    MainMenu();
+
+    /// Shows the check marks, the available languages and the captions for `settings` as they stand.
+    void showSettings();
+
+    /// Keeps in `MainWindowState` whether the window is normal or maximised; a minimised one changes nothing.
+    void recordWindowState();
+
+Q_SIGNALS:
+    void declensionRequested();
+    void conjugationRequested();
+    void pronounsRequested();
+    void quizRequested();
+    void vocabularyRequested();
+    void nounQuizRequested();
+    void nounManagerRequested();
+    void verbManagerRequested();
+    void vocabularyManagerRequested();
+    void delayRequested();
+    void optionsRequested();
+    void aboutRequested();
+
+    /// `ShowVowelLength` was switched: the word lists have to be prepared again.
+    void vowelLengthSwitched();
+
+    /// The program is to end as `ExitButton` says.
+    void exitRequested();
+
+    /// The program is to end at once, without saving.
+    void quietEndRequested();
+
+protected:
+    void closeBoxPressed() override;
+    void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void makeControls();
+    void layOut();
+    void connectControls();
+    void connectSettings();
+    void connectChoice(const char* item, void (*choose)(std::string_view), std::string_view value);
+    void check(const char* item, bool checked);
+    QAction* item(const char* name) const;
+    QPushButton* button(const char* name) const;
+
+    QMenuBar* menuBar_;
+};
+
+} // namespace shell

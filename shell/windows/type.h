@@ -1,0 +1,26 @@
+#pragma once
+
+class QWidget;
+
+namespace shell {
+
+/// The space scale of every layout, in pixels.
+inline constexpr int HairSpace = 4;
+inline constexpr int SmallSpace = 8;
+inline constexpr int MediumSpace = 12;
+inline constexpr int LargeSpace = 16;
+inline constexpr int WideSpace = 24;
+
+/// Sizes of type, as multiples of the desktop's own.
+inline constexpr double TitleType = 2.4;
+inline constexpr double HeadingType = 1.6;
+inline constexpr double FormType = 1.35;
+inline constexpr double NoteType = 0.95;
+
+/// Sets a widget's font to a multiple of the application's.
+void setType(QWidget& widget, double factor);
+
+/// Sets a widget's font likewise, and bold.
+void setBoldType(QWidget& widget, double factor);
+
+} // namespace shell

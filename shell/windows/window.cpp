@@ -1,0 +1,73 @@
+#include "shell/windows/window.h"
+
+#include "shell/settings.h"
+#include "shell/windows/text.h"
+
+#include <QBoxLayout>
+#include <QCloseEvent>
+#include <QFontMetrics>
+#include <QShortcut>
+
+namespace shell {
+
+namespace {
+
+// So much more than a spacer's stretch that spacers grow only once the block has its greatest size.
+constexpr int BlockStretch = 1000;
+
+} // namespace
+
+Window::Window(std::string_view name, std::string_view activeName) : activeName_(activeName)
+{
+    setObjectName(fromUtf8(name));
+    auto* const help = new QShortcut(Qt::Key_F1, this);
+    connect(help, &QShortcut::activated, this, &Window::helpRequested);
+}
+
+void Window::showInMainWindowState()
+{
+    if (settings.MainWindowState == window_state::Maximised)
+        showMaximized();
+    else if (settings.MainWindowState == window_state::Normal)
+        showNormal();
+    else
+        show();
+    raise();
+    activateWindow();
+}
+
+QWidget* Window::centredBlock(QSize charactersAndLines)
+{
+    auto* const block = new QWidget(this);
+    const QFontMetrics metrics(font());
+    block->setMaximumSize(charactersAndLines.width() * metrics.averageCharWidth(),
+                          charactersAndLines.height() * metrics.lineSpacing());
+
+    auto* const row = new QHBoxLayout;
+    row->addStretch(1);
+    row->addWidget(block, BlockStretch);
+    row->addStretch(1);
+    auto* const column = new QVBoxLayout(this);
+    column->addStretch(1);
+    column->addLayout(row, BlockStretch);
+    column->addStretch(1);
+    return block;
+}
+
+void Window::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::ActivationChange || !isActiveWindow())
+        return;
+    if (!activeName_.empty())
+        settings.ActiveWindowName = activeName_;
+    becameActive();
+}
+
+void Window::closeEvent(QCloseEvent* event)
+{
+    event->ignore();
+    closeBoxPressed();
+}
+
+} // namespace shell

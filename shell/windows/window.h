@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QSize>
+#include <QWidget>
+
+#include <string_view>
+
+namespace shell {
+
+/// What all windows of the program share: the object name, `ActiveWindowName` on activation, F1, the close
+/// box, the state that `MainWindowState` asks for, and a block that keeps a large window's content together.
+class Window : public QWidget {
+    Q_OBJECT
+
+public:
+    /// `name` becomes the object name; `activeName` is what `ActiveWindowName` becomes on activation, empty
+    /// where the window leaves it alone.
+    explicit Window(std::string_view name, std::string_view activeName = {});
+
+    /// Shows the window, brings it to the front, and gives it the state that `MainWindowState` asks for.
+    void showInMainWindowState();
+
+Q_SIGNALS:
+    void helpRequested();
+
+protected:
+    /// A widget for the window's content. It fills the window up to so many characters and lines of the
+    /// window's font; a larger window keeps it in its middle.
+    QWidget* centredBlock(QSize charactersAndLines);
+
+    /// Called after the window became the active one.
+    virtual void becameActive() {}
+
+    /// What the close box does: the same as the window's cancel or quit button.
+    virtual void closeBoxPressed() = 0;
+
+    void changeEvent(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    std::string_view activeName_;
+};
+
+} // namespace shell
