@@ -1,0 +1,34 @@
+#pragma once
+
+#include "verbs/conjugation.h"
+
+#include <array>
+
+namespace verbs {
+
+// clang-format off
+
+// Third conjugation: rego:, regere, re:xi:, re:ctum. Present stem reg-.
+// The mark on the short i of regi:mus and regi:tis is meant.
+// Joined by `PerfectSystem` and `MasculineCompounds`.
+inline constexpr std::array<EndingRow, 11> ThirdConjugationEndings = {{
+    {PresentIndicative,              Stem::Present, {"o:",    "is",       "it",       "i:mus",    "i:tis",      "unt"}},
+    {ImperfectIndicative,            Stem::Present, {"e:bam", "e:ba:s",   "e:bat",    "e:ba:mus", "e:ba:tis",   "e:bant"}},
+    {FutureIndicative,               Stem::Present, {"am",    "e:s",      "et",       "e:mus",    "e:tis",      "ent"}},
+    {PresentSubjunctive,             Stem::Present, {"am",    "a:s",      "at",       "a:mus",    "a:tis",      "ant"}},
+    {ImperfectSubjunctive,           Stem::Present, {"erem",  "ere:s",    "eret",     "ere:mus",  "ere:tis",    "erent"}},
+    {Imperative,                     Stem::Present, {"",      "e",        "",         "",         "ite",        ""}},
+    {PassivePresentIndicative,       Stem::Present, {"or",    "eris",     "itur",     "imur",     "imini:",     "untur"}},
+    {PassiveImperfectIndicative,     Stem::Present, {"e:bar", "e:ba:ris", "e:ba:tur", "e:ba:mur", "e:ba:mini:", "e:bantur"}},
+    {PassiveFutureIndicative,        Stem::Present, {"ar",    "e:ris",    "e:tur",    "e:mur",    "e:mini:",    "entur"}},
+    {PassivePresentSubjunctive,      Stem::Present, {"ar",    "a:ris",    "a:tur",    "a:mur",    "a:mini:",    "antur"}},
+    {PassiveImperfectSubjunctive,    Stem::Present, {"erer",  "ere:ris",  "ere:tur",  "ere:mur",  "ere:mini:",  "erentur"}},
+}};
+
+// These stems are the singular of the imperative by themselves; all others take an e. The list is meant to be
+// as short as this.
+inline constexpr std::array<std::string_view, 3> StemsWithBareImperative = {"dic", "duc", "du:c"};
+
+// clang-format on
+
+} // namespace verbs

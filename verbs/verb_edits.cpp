@@ -1,0 +1,61 @@
+#include "verbs/verb_edits.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+#include <vector>
+
+namespace verbs {
+
+namespace {
+
+struct Edit {
+    int verbClass;
+    int number;
+    VerbRecord verb;
+};
+
+std::vector<Edit> edits;
+
+// By class: first, second, third, fourth conjugation, -io verbs.
+constexpr std::array<std::string_view, LastRegularClass> ListedEndings = {"are", "ere", "ere", "ire", "ire"};
+
+void store(const Edit& edit)
+{
+    storeVerb(edit.verbClass, edit.number, edit.verb);
+    std::int16_t& count = verbList.Count[edit.verbClass];
+    count = std::max(count, static_cast<std::int16_t>(edit.number));
+}
+
+} // namespace
+
+VerbEdit editVerb(int verbClass, int number, const VerbRecord& verb)
+{
+    if (verb.presentStem.empty())
+        return VerbEdit::NoPresentStem;
+    if (number > MostVerbs)
+        return VerbEdit::ListFull;
+    std::erase_if(edits,
+                  [&](const Edit& edit) { return edit.verbClass == verbClass && edit.number == number; });
+    edits.push_back({verbClass, number, verb});
+    store(edits.back());
+    return VerbEdit::Stored;
+}
+
+void repeatVerbEdits()
+{
+    std::ranges::for_each(edits, store);
+}
+
+void forgetVerbEdits()
+{
+    edits.clear();
+}
+
+std::string listedInfinitive(int verbClass, int number)
+{
+    const auto ending = ListedEndings.at(static_cast<std::size_t>(verbClass - FirstConjugation));
+    return verbList.PresentStem[verbClass][number] + std::string(ending);
+}
+
+} // namespace verbs

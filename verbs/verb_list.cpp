@@ -1,0 +1,31 @@
+#include "verbs/verb_list.h"
+
+#include "verbs/vowel_marks.h"
+
+namespace verbs {
+
+VerbList verbList;
+
+VerbRecord verbAt(int verbClass, int number)
+{
+    const int place = number - 1;
+    return {verbList.PresentStem[verbClass][number],
+            verbList.PerfectStem[verbClass][number],
+            verbList.SupineStem[verbClass][number],
+            {verbList.BaseForm[verbClass][place], verbList.Past[verbClass][place],
+             verbList.PastParticiple[verbClass][place], verbList.PresentParticiple[verbClass][place]}};
+}
+
+void storeVerb(int verbClass, int number, const VerbRecord& verb)
+{
+    verbList.PresentStem[verbClass][number] = stemAsShown(verb.presentStem);
+    verbList.PerfectStem[verbClass][number] = stemAsShown(verb.perfectStem);
+    verbList.SupineStem[verbClass][number] = stemAsShown(verb.supineStem);
+    const int place = number - 1;
+    verbList.BaseForm[verbClass][place] = verb.translations[0];
+    verbList.Past[verbClass][place] = verb.translations[1];
+    verbList.PastParticiple[verbClass][place] = verb.translations[2];
+    verbList.PresentParticiple[verbClass][place] = verb.translations[3];
+}
+
+} // namespace verbs

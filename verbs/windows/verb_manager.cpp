@@ -1,0 +1,213 @@
+#include "verbs/windows/verb_manager.h"
+
+#include "platform/platform.h"
+#include "shell/windows/text.h"
+#include "shell/windows/type.h"
+#include "verbs/verb_edits.h"
+#include "verbs/verb_list.h"
+
+#include <QBoxLayout>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+
+namespace verbs {
+
+namespace {
+
+constexpr QSize LargestBlock{110, 40};
+
+struct ClassRow {
+    VerbClass verbClass;
+    const char* name;
+};
+
+// The rows of `VMConjList`, in the order of the list file.
+constexpr std::array<ClassRow, LastRegularClass> Classes = {{{FirstConjugation, "First Conjugation"},
+                                                             {SecondConjugation, "Second Conjugation"},
+                                                             {ThirdConjugation, "Third Conjugation"},
+                                                             {ThirdIoConjugation, "Third -io Conjugation"},
+                                                             {FourthConjugation, "Fourth Conjugation"}}};
+
+// The stems of a verb, the label that previews a form, and that form's ending. The infinitive is meant to end
+// in "are" whatever class is chosen.
+struct StemField {
+    const char* caption;
+    const char* preview;
+    const char* ending;
+};
+
+constexpr std::array<StemField, 3> StemFields = {{{"&Present stem", "LatInfinitive", "are"},
+                                                  {"P&erfect stem", "LatPerfect", "i"},
+                                                  {"&Supine stem", "LatPastParticiple", "us"}}};
+
+constexpr std::array TranslationCaptions = {"&Base form", "Pas&t", "Past pa&rticiple", "Prese&nt participle"};
+
+constexpr auto NewItem = "** Add New Item Here **";
+
+template <std::size_t Size>
+QString textOf(const std::array<QLineEdit*, Size>& fields, std::size_t index)
+{
+    return fields.at(index)->text();
+}
+
+} // namespace
+
+VerbManager::VerbManager()
+    : Window("VerbManager", "verbmanager"), classes_(new QListWidget), verbs_(new QListWidget),
+      add_(new QPushButton(QStringLiteral("&Add"))), cancel_(new QPushButton(QStringLiteral("End &Program")))
+{
+    setWindowTitle(QStringLiteral("Verbs"));
+    makeControls();
+    layOut();
+    connectControls();
+}
+
+void VerbManager::makeControls()
+{
+    classes_->setObjectName(QStringLiteral("VMConjList"));
+    classes_->setAccessibleName(QStringLiteral("Conjugations"));
+    verbs_->setObjectName(QStringLiteral("VMFormsList"));
+    verbs_->setAccessibleName(QStringLiteral("Verbs"));
+    add_->setObjectName(QStringLiteral("VerbManagerAdd"));
+    cancel_->setObjectName(QStringLiteral("VerbMangerCancel"));
+    for (std::size_t i = 0; i < latin_.size(); ++i) {
+        latin_.at(i) = new QLineEdit(this);
+        latin_.at(i)->setObjectName(QStringLiteral("VerbManagerLatinForms%1").arg(i));
+        previews_.at(i) = new QLabel(this);
+        previews_.at(i)->setObjectName(QLatin1String(StemFields.at(i).preview));
+    }
+    for (std::size_t i = 0; i < translations_.size(); ++i) {
+        translations_.at(i) = new QLineEdit(this);
+        translations_.at(i)->setObjectName(QStringLiteral("VerbManagerGermanForms%1").arg(i));
+    }
+    for (const ClassRow& row : Classes)
+        classes_->addItem(QLatin1String(row.name));
+}
+
+void VerbManager::layOut()
+{
+    auto* const fields = new QGridLayout;
+    fields->setHorizontalSpacing(shell::MediumSpace);
+    fields->setVerticalSpacing(shell::SmallSpace);
+    int row = 0;
+    const auto addField = [&](const char* caption, QLineEdit* field, QLabel* preview) {
+        auto* const label = new QLabel(QLatin1String(caption));
+        label->setBuddy(field);
+        fields->addWidget(label, row, 0);
+        fields->addWidget(field, row, 1);
+        if (preview != nullptr)
+            fields->addWidget(preview, row, 2);
+        ++row;
+    };
+    for (std::size_t i = 0; i < latin_.size(); ++i)
+        addField(StemFields.at(i).caption, latin_.at(i), previews_.at(i));
+    for (std::size_t i = 0; i < translations_.size(); ++i)
+        addField(TranslationCaptions.at(i), translations_.at(i), nullptr);
+    fields->setColumnStretch(1, 2);
+    fields->setColumnStretch(2, 1);
+
+    auto* const buttons = new QHBoxLayout;
+    buttons->addWidget(add_);
+    buttons->addStretch();
+    buttons->addWidget(cancel_);
+
+    auto* const right = new QVBoxLayout;
+    right->addLayout(fields);
+    right->addStretch();
+    right->addLayout(buttons);
+
+    auto* const columns = new QHBoxLayout(centredBlock(LargestBlock));
+    columns->setSpacing(shell::LargeSpace);
+    columns->addWidget(classes_, 2);
+    columns->addWidget(verbs_, 2);
+    columns->addLayout(right, 5);
+}
+
+void VerbManager::connectControls()
+{
+    connect(classes_, &QListWidget::currentRowChanged, this, &VerbManager::listVerbs);
+    connect(verbs_, &QListWidget::currentRowChanged, this, &VerbManager::showVerb);
+    for (const QLineEdit* const field : latin_)
+        connect(field, &QLineEdit::textChanged, this, &VerbManager::showPreviews);
+    connect(add_, &QPushButton::clicked, this, &VerbManager::addVerb);
+    connect(cancel_, &QPushButton::clicked, this, &VerbManager::endRequested);
+}
+
+void VerbManager::open()
+{
+    classes_->setCurrentRow(0);
+    listVerbs();
+    showInMainWindowState();
+    classes_->setFocus();
+}
+
+int VerbManager::chosenClass() const
+{
+    return Classes.at(static_cast<std::size_t>(classes_->currentRow())).verbClass;
+}
+
+void VerbManager::listVerbs()
+{
+    verbs_->clear();
+    const int verbClass = chosenClass();
+    for (int number = 1; number <= verbList.Count[verbClass]; ++number)
+        verbs_->addItem(shell::fromUtf8(listedInfinitive(verbClass, number)));
+    verbs_->addItem(QLatin1String(NewItem));
+    verbs_->setCurrentRow(0);
+}
+
+void VerbManager::showVerb(int row)
+{
+    if (row < 0)
+        return;
+    const bool isNew = row == verbs_->count() - 1;
+    const VerbRecord verb = isNew ? VerbRecord{} : verbAt(chosenClass(), row + 1);
+    latin_[0]->setText(shell::fromUtf8(verb.presentStem));
+    latin_[1]->setText(shell::fromUtf8(verb.perfectStem));
+    latin_[2]->setText(shell::fromUtf8(verb.supineStem));
+    for (std::size_t i = 0; i < translations_.size(); ++i)
+        translations_.at(i)->setText(shell::fromUtf8(verb.translations.at(i)));
+    showPreviews();
+}
+
+void VerbManager::showPreviews()
+{
+    for (std::size_t i = 0; i < latin_.size(); ++i)
+        previews_.at(i)->setText(textOf(latin_, i) + QLatin1String(StemFields.at(i).ending));
+}
+
+void VerbManager::addVerb()
+{
+    const int row = verbs_->currentRow();
+    if (row < 0)
+        return;
+    VerbRecord verb{textOf(latin_, 0).toStdString(),
+                    textOf(latin_, 1).toStdString(),
+                    textOf(latin_, 2).toStdString(),
+                    {}};
+    for (std::size_t i = 0; i < translations_.size(); ++i)
+        verb.translations.at(i) = textOf(translations_, i).toStdString();
+
+    switch (editVerb(chosenClass(), row + 1, verb)) {
+    case VerbEdit::NoPresentStem:
+        platform::current().showMessage("A verb needs a present stem.");
+        return;
+    case VerbEdit::ListFull:
+        platform::current().showMessage("A conjugation holds fifteen verbs at the most.");
+        return;
+    case VerbEdit::Stored:
+        break;
+    }
+    listVerbs();
+    verbs_->setCurrentRow(row);
+}
+
+void VerbManager::closeBoxPressed()
+{
+    Q_EMIT left();
+}
+
+} // namespace verbs
