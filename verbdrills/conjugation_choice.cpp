@@ -1,0 +1,86 @@
+#include "verbdrills/conjugation_choice.h"
+
+#include "platform/random.h"
+#include "shell/score.h"
+#include "shell/settings.h"
+#include "verbdrills/conjugation_drill.h"
+#include "verbs/generators.h"
+#include "verbs/person_labels.h"
+#include "verbs/verb_tables.h"
+
+#include <array>
+
+namespace verbdrills {
+
+using verbs::currentParadigm;
+
+namespace {
+
+constexpr std::array<verbs::VerbClass, SingleTenseRow> ClassOfRow = {verbs::FirstConjugation,
+                                                                     verbs::SecondConjugation,
+                                                                     verbs::ThirdConjugation,
+                                                                     verbs::ThirdIoConjugation,
+                                                                     verbs::FourthConjugation,
+                                                                     verbs::Esse,
+                                                                     verbs::Velle,
+                                                                     verbs::Ferre};
+
+} // namespace
+
+void beginConjugationChoice()
+{
+    currentParadigm.SingleTenseMode = 0;
+    conjugationDrill.FormRow = 0;
+    conjugationDrill.PersonIndex = 0;
+    conjugationDrill.AnswerSlots.fill({});
+}
+
+ConjugationChoice chooseConjugation(int row)
+{
+    currentParadigm.SingleTenseMode = 0;
+    if (row == SingleTenseRow) {
+        currentParadigm.SingleTenseMode = 1;
+        return ConjugationChoice::SingleTense;
+    }
+    if (row < 0 || row > SingleTenseRow)
+        return ConjugationChoice::None;
+    currentParadigm.ConjugationCode = ClassOfRow.at(static_cast<std::size_t>(row));
+    return ConjugationChoice::Paradigm;
+}
+
+void beginTenseChoice()
+{
+    currentParadigm.SingleTenseMode = 1;
+}
+
+bool chooseTense(int row)
+{
+    shell::resetScore();
+    if (row < 0 || row >= verbs::BlockCount)
+        return false;
+    currentParadigm.TenseMoodCode = static_cast<std::int16_t>(row + 1);
+    currentParadigm.ConjugationCode = verbs::FirstConjugation;
+    conjugationDrill.FormRow = static_cast<std::int16_t>(verbs::PersonCount * row);
+    conjugationDrill.PersonIndex = 0;
+    return true;
+}
+
+void generateParadigms()
+{
+    verbs::setPersonLabels();
+    verbs::buildRegularConjugations();
+    verbs::buildIrregularVerbs();
+    verbs::buildThirdAndFourthConjugations();
+}
+
+void chooseFirstPerson()
+{
+    const bool random = shell::settings.QuestionOrder == shell::question_order::Random;
+    const auto person = static_cast<std::int16_t>(random ? platform::draw(BoxCount) : 0);
+    conjugationDrill.PersonIndex = person;
+    conjugationDrill.FormRow = person;
+    if (random)
+        conjugationDrill.RoundStartPerson = person;
+}
+
+} // namespace verbdrills

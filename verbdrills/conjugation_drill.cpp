@@ -1,0 +1,151 @@
+#include "verbdrills/conjugation_drill.h"
+
+#include "platform/platform.h"
+#include "platform/random.h"
+#include "shell/score.h"
+#include "shell/settings.h"
+#include "verbs/paradigm_titles.h"
+#include "verbs/verb_tables.h"
+
+#include <algorithm>
+
+namespace verbdrills {
+
+using shell::settings;
+using verbs::currentParadigm;
+using verbs::verbTables;
+
+ConjugationDrill conjugationDrill;
+
+namespace {
+
+// A tense that is drilled alone goes through the regular classes; esse and the other irregular verbs are
+// meant never to come.
+constexpr int FirstClassAfterTense = verbs::Esse;
+
+bool inRandomOrder()
+{
+    return settings.QuestionOrder == shell::question_order::Random;
+}
+
+void askPerson(int person)
+{
+    conjugationDrill.PersonIndex = static_cast<std::int16_t>(person);
+    conjugationDrill.FormRow =
+        static_cast<std::int16_t>(verbs::formNumber(currentParadigm.TenseMoodCode, person + 1) - 1);
+}
+
+bool someoneIsLeft()
+{
+    const auto& done = conjugationDrill.PersonDone;
+    return std::find(done.begin(), done.begin() + BoxCount, platform::FlagFalse) != done.begin() + BoxCount;
+}
+
+int drawPersonLeft()
+{
+    int person = platform::draw(BoxCount);
+    while (conjugationDrill.PersonDone[person] == platform::FlagTrue)
+        person = platform::draw(BoxCount);
+    return person;
+}
+
+// Asks the next person of the round; false when all six have been asked.
+bool askNextPerson()
+{
+    if (!inRandomOrder()) {
+        ++conjugationDrill.PersonIndex;
+        ++conjugationDrill.FormRow;
+        return conjugationDrill.PersonIndex < BoxCount;
+    }
+    conjugationDrill.PersonDone[conjugationDrill.PersonIndex] = platform::FlagTrue;
+    if (!someoneIsLeft())
+        return false;
+    askPerson(drawPersonLeft());
+    return true;
+}
+
+void endRound()
+{
+    conjugationDrill.PersonDone.fill(platform::FlagFalse);
+    conjugationDrill.AnswerSlots.fill({});
+    if (settings.SoundOn == platform::FlagTrue)
+        platform::current().beep();
+}
+
+void beginRound()
+{
+    const int person = inRandomOrder() ? platform::draw(BoxCount) : 0;
+    conjugationDrill.RoundStartPerson = static_cast<std::int16_t>(person);
+    askPerson(person);
+}
+
+bool blockHasForms(int block)
+{
+    if (block > verbs::BlockCount)
+        return false;
+    const auto& column = verbTables.Forms[currentParadigm.ConjugationCode];
+    for (int person = verbs::FirstSingular; person <= verbs::PersonCount; ++person)
+        if (!column[verbs::formNumber(block, person)].empty())
+            return true;
+    return false;
+}
+
+Advance goToNextClass()
+{
+    ++currentParadigm.ConjugationCode;
+    if (currentParadigm.ConjugationCode == FirstClassAfterTense) {
+        conjugationDrill.PersonIndex = 0;
+        return Advance::TenseFinished;
+    }
+    beginRound();
+    return Advance::NextRound;
+}
+
+Advance goToNextTense()
+{
+    ++currentParadigm.TenseMoodCode;
+    if (!blockHasForms(currentParadigm.TenseMoodCode))
+        return Advance::ClassFinished;
+    beginRound();
+    return Advance::NextRound;
+}
+
+} // namespace
+
+void setQuestion()
+{
+    const int verbClass = currentParadigm.ConjugationCode;
+    conjugationDrill.CorrectForm = verbTables.Forms[verbClass][conjugationDrill.FormRow + 1];
+    currentParadigm.VerbLabel = verbTables.Infinitive[verbClass];
+    verbs::setParadigmTitles();
+}
+
+void buildDrillHeading()
+{
+    conjugationDrill.DrillHeading = verbTables.ClassTitles[currentParadigm.ConjugationCode] + ": " +
+                                    verbTables.TenseTitles[currentParadigm.TenseMoodCode];
+}
+
+bool isRightAnswer(const std::string& answer)
+{
+    conjugationDrill.AnswerSlots[conjugationDrill.PersonIndex] = answer;
+    conjugationDrill.FeedbackPending = 1;
+    return answer == conjugationDrill.CorrectForm;
+}
+
+Advance advanceAfterRightAnswer()
+{
+    if (askNextPerson())
+        return Advance::NextPerson;
+    endRound();
+    return currentParadigm.SingleTenseMode == 1 ? goToNextClass() : goToNextTense();
+}
+
+void resetAfterLeaving()
+{
+    currentParadigm.TenseMoodCode = verbs::PresentIndicative;
+    conjugationDrill = {};
+    shell::resetScore();
+}
+
+} // namespace verbdrills

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "shell/windows/chooser.h"
+
+namespace verbdrills {
+
+/// Chooses the class whose whole paradigm is drilled; its last row leads to the tenses.
+class ConjugationChoose : public shell::Chooser {
+    Q_OBJECT
+
+public:
+    ConjugationChoose();
+
+protected:
+    void beginChoice() override;
+};
+
+} // namespace verbdrills
