@@ -1,0 +1,67 @@
+#include "app/ending.h"
+
+#include "platform/platform.h"
+#include "shell/drill.h"
+#include "shell/settings.h"
+#include "shell/settings_file.h"
+#include "shell/sound_control.h"
+#include "shell/windows/main_menu.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+
+#include <cstdlib>
+#include <iostream>
+
+namespace app {
+
+namespace {
+
+constexpr std::chrono::milliseconds LongestSound{3000};
+
+void hideAllWindows()
+{
+    for (QWidget* const window : QApplication::topLevelWidgets())
+        window->hide();
+}
+
+void waitForSound()
+{
+    platform::Platform& platform = platform::current();
+    QElapsedTimer timer;
+    timer.start();
+    while (platform.soundIsPlaying() && !platform.ending() && !timer.hasExpired(LongestSound.count()))
+        platform.waitForEvents(LongestSound - std::chrono::milliseconds(timer.elapsed()));
+}
+
+} // namespace
+
+void exitProgram(shell::MainMenu& mainMenu)
+{
+    shell::leaveDrill();
+    mainMenu.recordWindowState();
+    platform::Platform& platform = platform::current();
+    if (shell::settings.SaveSettingsOnExit == platform::FlagFalse) {
+        platform.endProgram(EXIT_SUCCESS);
+        return;
+    }
+    const auto fault = shell::writeSettings(shell::SettingsFileName);
+    if (fault) {
+        std::cerr << "morvanti: " << fault->message() << std::endl;
+        platform.endProgram(EXIT_FAILURE);
+        return;
+    }
+    shell::settings.SettingsChangeCount = 0;
+    hideAllWindows();
+    shell::soundIfOn(ProgramSound);
+    waitForSound();
+    platform.endProgram(EXIT_SUCCESS);
+}
+
+void endProgramQuietly()
+{
+    shell::leaveDrill();
+    platform::current().endProgram(EXIT_SUCCESS);
+}
+
+} // namespace app

@@ -1,0 +1,24 @@
+#include "app/load_step.h"
+
+#include "app/ending.h"
+#include "shell/settings_changes.h"
+#include "shell/settings_file.h"
+#include "shell/sound_control.h"
+#include "shell/windows/main_menu.h"
+#include "verbs/verb_list_file.h"
+
+namespace app {
+
+void loadProgram(shell::MainMenu& mainMenu)
+{
+    verbs::readVerbList(verbs::VerbListFileName);
+    if (!shell::readSettings(shell::SettingsFileName))
+        shell::applyDefaultSettings();
+    shell::mendSettings();
+    shell::setVowelMarkAtStart();
+    mainMenu.showSettings();
+    mainMenu.showInMainWindowState();
+    shell::soundIfOn(ProgramSound);
+}
+
+} // namespace app

@@ -1,0 +1,51 @@
+#include "app/application.h"
+#include "app/command_line.h"
+#include "app/navigation.h"
+#include "app/qt_platform.h"
+#include "app/working_folder.h"
+#include "platform/platform.h"
+
+#include <cstdlib>
+#include <iostream>
+#include <vector>
+
+namespace {
+
+constexpr int WrongCall = 2;
+
+int refuse(const std::string& fault)
+{
+    std::cerr << "morvanti: " << fault << std::endl;
+    return WrongCall;
+}
+
+std::vector<std::string> argumentsOf(const QStringList& words)
+{
+    std::vector<std::string> arguments;
+    for (const QString& word : words.sliced(1))
+        arguments.push_back(word.toStdString());
+    return arguments;
+}
+
+} // namespace
+
+int main(int argumentCount, char** arguments)
+{
+    app::Application application(argumentCount, arguments);
+    const app::CommandLine line = app::readCommandLine(argumentsOf(app::Application::arguments()));
+    if (line.fault)
+        return refuse(*line.fault);
+    if (line.answer) {
+        std::cout << *line.answer << std::endl;
+        return EXIT_SUCCESS;
+    }
+    const auto samples = app::samplesBeside(app::Application::applicationDirPath().toStdString());
+    if (const auto fault = app::enterWorkingFolder(line.folder, samples))
+        return refuse(*fault);
+
+    app::QtPlatform platform;
+    platform::use(platform);
+    app::Navigation navigation;
+    navigation.start();
+    return app::Application::exec();
+}

@@ -1,0 +1,96 @@
+#include "app/navigation.h"
+
+#include "app/ending.h"
+#include "app/hourglass.h"
+#include "app/load_step.h"
+#include "platform/platform.h"
+#include "shell/settings.h"
+#include "shell/settings_changes.h"
+#include "verbs/verb_edits.h"
+#include "verbs/verb_list_file.h"
+
+namespace app {
+
+using shell::MainMenu;
+
+namespace {
+
+constexpr auto HelpCommand = "winhelp.exe morvanti.hlp";
+
+void prepareWordListsAgain()
+{
+    verbs::readVerbListAgain(verbs::VerbListFileName);
+    verbs::repeatVerbEdits();
+}
+
+} // namespace
+
+Navigation::Navigation()
+{
+    connectMainMenu();
+    connectVerbs();
+}
+
+void Navigation::start()
+{
+    loadProgram(mainMenu_);
+}
+
+void Navigation::connectMainMenu()
+{
+    connect(&mainMenu_, &MainMenu::vowelLengthSwitched, this, &prepareWordListsAgain);
+    connect(&mainMenu_, &MainMenu::exitRequested, this, [this] { exitProgram(mainMenu_); });
+    connect(&mainMenu_, &MainMenu::quietEndRequested, this, &endProgramQuietly);
+    connect(&mainMenu_, &MainMenu::helpRequested, this, &Navigation::showHelp);
+    connect(&mainMenu_, &MainMenu::aboutRequested, this, &Navigation::showAbout);
+}
+
+void Navigation::connectVerbs()
+{
+    connect(&mainMenu_, &MainMenu::conjugationRequested, this, [this] {
+        const Hourglass hourglass;
+        shell::setVowelMarkForDrill();
+        shell::settings.ExerciseType = shell::exercise::Conjugation;
+        giveWay();
+        verbs_.showConjugationChoose();
+    });
+    connect(&mainMenu_, &MainMenu::verbManagerRequested, this, [this] {
+        giveWay();
+        verbs_.showVerbManager();
+    });
+    connect(&verbs_, &VerbNavigation::left, this, &Navigation::showMainMenu);
+    connect(&verbs_, &VerbNavigation::endRequested, this, &endProgramQuietly);
+    connect(&verbs_, &VerbNavigation::helpRequested, this, &Navigation::showHelp);
+}
+
+void Navigation::giveWay()
+{
+    mainMenu_.hide();
+}
+
+void Navigation::showMainMenu()
+{
+    mainMenu_.showInMainWindowState();
+}
+
+void Navigation::showHelp()
+{
+    if (platform::current().startProgram(HelpCommand))
+        return;
+    if (!help_) {
+        help_ = std::make_unique<shell::Help>();
+        connect(help_.get(), &shell::Help::helpRequested, this, &Navigation::showHelp);
+    }
+    help_->showGuide();
+}
+
+void Navigation::showAbout()
+{
+    if (!about_) {
+        about_ = std::make_unique<shell::About>();
+        connect(about_.get(), &shell::About::helpRequested, this, &Navigation::showHelp);
+    }
+    about_->open();
+}
+
+} // namespace app

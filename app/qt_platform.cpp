@@ -1,0 +1,75 @@
+#include "app/qt_platform.h"
+
+#include <QApplication>
+#include <QEventLoop>
+#include <QMessageBox>
+#include <QProcess>
+#include <QTime>
+#include <QTimer>
+
+namespace app {
+
+float QtPlatform::secondsSinceMidnight() const
+{
+    constexpr float millisecondsOfSecond = 1000;
+    return static_cast<float>(QTime::currentTime().msecsSinceStartOfDay()) / millisecondsOfSecond;
+}
+
+void QtPlatform::waitForEvents(std::chrono::milliseconds atMost)
+{
+    QTimer alarm;
+    alarm.setSingleShot(true);
+    alarm.setTimerType(Qt::PreciseTimer);
+    alarm.start(atMost);
+    QEventLoop loop;
+    loop.processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+}
+
+void QtPlatform::beep()
+{
+    QApplication::beep();
+}
+
+void QtPlatform::openSound(const std::string& waveFile)
+{
+    sound_.open(waveFile);
+}
+
+void QtPlatform::playSound(const std::string& waveFile)
+{
+    sound_.play(waveFile);
+}
+
+bool QtPlatform::soundIsPlaying() const
+{
+    return sound_.isPlaying();
+}
+
+bool QtPlatform::startProgram(const std::string& commandLine)
+{
+    QStringList words = QProcess::splitCommand(QString::fromStdString(commandLine));
+    return !words.isEmpty() && QProcess::startDetached(words.takeFirst(), words);
+}
+
+void QtPlatform::showMessage(const std::string& text)
+{
+    auto* const box =
+        new QMessageBox(QMessageBox::Information, QCoreApplication::applicationName(),
+                        QString::fromStdString(text), QMessageBox::Ok, QApplication::activeWindow());
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setTextFormat(Qt::PlainText);
+    box->open();
+}
+
+void QtPlatform::endProgram(int exitStatus)
+{
+    ending_ = true;
+    QCoreApplication::exit(exitStatus);
+}
+
+bool QtPlatform::ending() const
+{
+    return ending_;
+}
+
+} // namespace app

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "app/qt_sound.h"
+#include "platform/platform.h"
+
+namespace app {
+
+/// The platform as Qt gives it. Needs a running QApplication.
+class QtPlatform : public platform::Platform {
+public:
+    float secondsSinceMidnight() const override;
+    void waitForEvents(std::chrono::milliseconds atMost) override;
+    void beep() override;
+    void openSound(const std::string& waveFile) override;
+    void playSound(const std::string& waveFile) override;
+    bool soundIsPlaying() const override;
+    bool startProgram(const std::string& commandLine) override;
+    void showMessage(const std::string& text) override;
+    void endProgram(int exitStatus) override;
+    bool ending() const override;
+
+private:
+    QtSound sound_;
+    bool ending_ = false;
+};
+
+} // namespace app

@@ -1,0 +1,97 @@
+#include "app/working_folder.h"
+
+#include "verbs/verb_list_file.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <string_view>
+
+namespace app {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::array<std::string_view, 4> SampleKinds = {".cfg", ".lst", ".wav", ".hlp"};
+
+// Where the samples may lie, seen from the program's folder: installed, and built in the source tree.
+constexpr std::array<std::string_view, 2> SamplePlaces = {"../share/morvanti", "../../data"};
+
+bool isSample(const fs::path& path)
+{
+    std::string kind = path.extension().string();
+    std::ranges::transform(kind, kind.begin(), [](char letter) {
+        return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+    });
+    return std::ranges::find(SampleKinds, kind) != SampleKinds.end();
+}
+
+fs::path variable(const char* name)
+{
+    const char* const value = std::getenv(name);
+    return value == nullptr ? fs::path() : fs::path(value);
+}
+
+// The verb list comes last: while it is missing, the folder is not yet filled.
+void fillFromSamples(const fs::path& folder, const fs::path& samples)
+{
+    const auto copy = [&](const fs::path& sample) {
+        fs::copy_file(sample, folder / sample.filename(), fs::copy_options::skip_existing);
+    };
+    for (const fs::directory_entry& entry : fs::directory_iterator(samples))
+        if (isSample(entry.path()) && entry.path().filename() != verbs::VerbListFileName)
+            copy(entry.path());
+    copy(samples / verbs::VerbListFileName);
+}
+
+std::optional<std::string> enterOwnFolder(const fs::path& samples)
+{
+    const fs::path own = ownFolder();
+    if (own.empty())
+        return "no folder is given, and the environment does not tell your own";
+    try {
+        fs::create_directories(own);
+        if (!samples.empty() && !fs::exists(own / verbs::VerbListFileName))
+            fillFromSamples(own, samples);
+        fs::current_path(own);
+    } catch (const fs::filesystem_error& error) {
+        return own.string() + ": " + error.code().message();
+    }
+    return {};
+}
+
+} // namespace
+
+fs::path ownFolder()
+{
+    const fs::path data = variable("XDG_DATA_HOME");
+    if (data.is_absolute())
+        return data / "morvanti";
+    const fs::path home = variable("HOME");
+    return home.is_absolute() ? home / ".local/share/morvanti" : fs::path();
+}
+
+fs::path samplesBeside(const fs::path& programFolder)
+{
+    std::error_code error;
+    for (const std::string_view place : SamplePlaces)
+        if (fs::exists(programFolder / place / verbs::VerbListFileName, error))
+            return programFolder / place;
+    return {};
+}
+
+std::optional<std::string> enterWorkingFolder(const std::optional<std::string>& folder,
+                                              const fs::path& samples)
+{
+    std::error_code error;
+    if (folder) {
+        fs::current_path(*folder, error);
+        return error ? std::optional(*folder + ": " + error.message()) : std::nullopt;
+    }
+    if (fs::exists(verbs::VerbListFileName, error))
+        return {};
+    return enterOwnFolder(samples);
+}
+
+} // namespace app
