@@ -1,0 +1,65 @@
+#include "tests/support/fake_platform.h"
+
+#include <cmath>
+
+namespace tests {
+
+namespace {
+constexpr double SecondsOfDay = 86400;
+}
+
+float FakePlatform::secondsSinceMidnight() const
+{
+    return static_cast<float>(std::fmod(clock, SecondsOfDay));
+}
+
+void FakePlatform::waitForEvents(std::chrono::milliseconds atMost)
+{
+    ++waits;
+    if (whileWaiting)
+        whileWaiting();
+    clock += static_cast<double>(atMost.count()) / 1000;
+}
+
+void FakePlatform::beep()
+{
+    ++beeps;
+}
+
+void FakePlatform::openSound(const std::string& waveFile)
+{
+    sounds.push_back("open " + waveFile);
+}
+
+void FakePlatform::playSound(const std::string& waveFile)
+{
+    sounds.push_back("sound " + waveFile);
+}
+
+bool FakePlatform::soundIsPlaying() const
+{
+    return false;
+}
+
+bool FakePlatform::startProgram(const std::string& commandLine)
+{
+    programs.push_back(commandLine);
+    return programsStart;
+}
+
+void FakePlatform::showMessage(const std::string& text)
+{
+    messages.push_back(text);
+}
+
+void FakePlatform::endProgram(int status)
+{
+    exitStatus = status;
+}
+
+bool FakePlatform::ending() const
+{
+    return exitStatus.has_value();
+}
+
+} // namespace tests

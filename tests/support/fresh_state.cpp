@@ -1,0 +1,67 @@
+#include "tests/support/fresh_state.h"
+
+#include "platform/random.h"
+#include "shell/drill.h"
+#include "shell/settings.h"
+#include "verbdrills/conjugation_drill.h"
+#include "verbs/verb_edits.h"
+#include "verbs/verb_list.h"
+#include "verbs/verb_tables.h"
+
+#include <fstream>
+#include <iterator>
+#include <unistd.h>
+
+namespace tests {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+fs::path freshFolder()
+{
+    std::string pattern = (fs::temp_directory_path() / "morvanti-XXXXXX").string();
+    if (::mkdtemp(pattern.data()) == nullptr)
+        throw std::runtime_error("no folder for the test");
+    return pattern;
+}
+
+} // namespace
+
+FreshState::FreshState() : before_(fs::current_path()), folder_(freshFolder())
+{
+    fs::current_path(folder_);
+    platform::use(fake);
+    platform::seedWith(1);
+    shell::leaveDrill();
+    shell::settings = {};
+    verbs::verbTables = {};
+    verbs::verbList = {};
+    verbs::currentParadigm = {};
+    verbs::forgetVerbEdits();
+    verbdrills::conjugationDrill = {};
+}
+
+FreshState::~FreshState()
+{
+    fs::current_path(before_);
+    fs::remove_all(folder_);
+}
+
+void writeFile(const std::string& name, std::string_view bytes)
+{
+    std::ofstream(name, std::ios::binary) << bytes;
+}
+
+std::string bytesOf(const fs::path& path)
+{
+    std::ifstream stream(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+void copySample(const std::string& name)
+{
+    fs::copy_file(fs::path(MORVANTI_DATA) / name, name);
+}
+
+} // namespace tests
