@@ -11,7 +11,26 @@
 #include <QPushButton>
 #include <QScreen>
 
+#include <algorithm>
+
 namespace shell {
+
+namespace {
+
+constexpr int RowSpace = 2;
+constexpr double RowType = 1.2;
+
+// Room for every row, up to most of the screen's height; a longer list scrolls.
+QSize roomForRows(const ChoiceList& list)
+{
+    int height = 2 * list.frameWidth() + 2 * RowSpace;
+    for (int row = 0; row < list.count(); ++row)
+        height += list.sizeHintForRow(row) + 2 * RowSpace;
+    const int width = list.sizeHintForColumn(0) + 2 * list.frameWidth() + 2 * RowSpace + WideSpace;
+    return {width, std::min(height, list.screen()->geometry().height() * 7 / 10)};
+}
+
+} // namespace
 
 Chooser::Chooser(const ChooserNames& names, std::span<const Caption> captions,
                  std::span<const LanguageTexts> rows)
@@ -32,9 +51,9 @@ void Chooser::makeControls(const ChooserNames& names)
     cancel_->setObjectName(fromUtf8(names.cancel));
     ok_->setAutoDefault(true);
     cancel_->setAutoDefault(true);
-    setType(*list_, 1.15);
-    list_->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
-    list_->setSpacing(2);
+    setType(*list_, RowType);
+    list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    list_->setSpacing(RowSpace);
 }
 
 void Chooser::layOut()
@@ -81,6 +100,7 @@ void Chooser::fill()
     fillList(*list_, rows_);
     list_->setAccessibleName(windowTitle());
     ok_->setEnabled(false);
+    list_->setMinimumSize(roomForRows(*list_));
     setMinimumSize(frame_->minimumSizeHint());
     placeFrame();
     beginChoice();

@@ -14,7 +14,7 @@ inline constexpr int WideSpace = 24;
 /// Sizes of type, as multiples of the desktop's own.
 inline constexpr double TitleType = 2.4;
 inline constexpr double HeadingType = 1.6;
-inline constexpr double FormType = 1.35;
+inline constexpr double FormType = 1.5;
 inline constexpr double NoteType = 0.95;
 
 /// Sets a widget's font to a multiple of the application's.

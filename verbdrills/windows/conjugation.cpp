@@ -24,7 +24,7 @@ using verbs::currentParadigm;
 
 namespace {
 
-constexpr QSize LargestBlock{88, 34};
+constexpr QSize LargestBlock{96, 30};
 constexpr int PersonsOfNumber = 3;
 constexpr std::array PersonRows = {"FirstPerson", "SecondPerson", "ThirdPerson"};
 
@@ -129,7 +129,7 @@ QGridLayout* Conjugation::answerGrid()
 {
     auto* const grid = new QGridLayout;
     grid->setHorizontalSpacing(shell::LargeSpace);
-    grid->setVerticalSpacing(shell::HairSpace);
+    grid->setVerticalSpacing(shell::SmallSpace);
     grid->setColumnStretch(1, 1);
     grid->setColumnStretch(2, 1);
     grid->addWidget(makeLabel(this, "Singular"), 0, 1);
