@@ -36,46 +36,43 @@ TEST_F(Gloss, TranslatesEveryTenseOfFerreIntoEnglish)
     // two blanks, their third person passive two more: all of this is meant.
     // clang-format off
     const std::vector<std::array<std::string, 3>> page = {
-        // I                                he, she, it                                 all of you
-        {"I bear",                          "he, she, it bears",                        "all of you bear"},
-        {"I was bearing",                   "he, she, it was bearing",                  "all of you were bearing"},
-        {"I will bear",                     "he, she, it will bear",                    "all of you will bear"},
-        {"I bore,  have borne",             "he, she, it bore,  has borne",             "all of you bore,  have borne"},
-        {"I had borne",                     "he, she, it had borne",                    "all of you had borne"},
-        {"I will have borne",               "he, she, it will have borne",              "all of you will have borne"},
-        {"If I bear",                       "If he, she, it bear",                      "If all of you bear"},
-        {"If I was bearing",                "If he, she, it was bearing",               "If all of you was bearing"},
-        {"If I would have borne",           "If he, she, it would have borne",          "If all of you would have borne"},
-        {"If I had borne",                  "If he, she, it had borne",                 "If all of you had borne"},
-        {"",                                "",                                         "bear!"},
-        {"I am borne",                      "he, she, it is borne",                     "all of you are borne"},
-        {"I was being borne",               "he, she, it was being borne",              "all of you were being borne"},
-        {"I will be borne",                 "he, she, it will be borne",                "all of you will be borne"},
-        {"I was borne,  have been borne",   "he, she, it was borne,  has been  borne",  "all of you were borne,  have been borne"},
-        {"I had been borne",                "he, she, it had been borne",               "all of you had been borne"},
-        {"I will have been borne",          "he, she, it will have been borne",         "all of you will have been borne"},
-        {"if I be borne",                   "if he, she, it be borne",                  "if all of you were borne"},
-        {"if I were borne",                 "if he, she, it were borne",                "if all of you were borne"},
-        {"if I would have been borne",      "if he, she, it would have been borne",     "if all of you would have been borne"},
-        {"if I had been borne",             "if he, she, it had been borne",            "if all of you had been borne"},
+        // 1sg                             3sg                              the others; * is the person
+        {"* bear",                        "* bears",                       "* bear"},
+        {"* was bearing",                 "* was bearing",                 "* were bearing"},
+        {"* will bear",                   "* will bear",                   "* will bear"},
+        {"* bore,  have borne",           "* bore,  has borne",            "* bore,  have borne"},
+        {"* had borne",                   "* had borne",                   "* had borne"},
+        {"* will have borne",             "* will have borne",             "* will have borne"},
+        {"If * bear",                     "If * bear",                     "If * bear"},
+        {"If * was bearing",              "If * was bearing",              "If * was bearing"},
+        {"If * would have borne",         "If * would have borne",         "If * would have borne"},
+        {"If * had borne",                "If * had borne",                "If * had borne"},
+        {"",                              "",                              "bear!"},
+        {"* am borne",                    "* is borne",                    "* are borne"},
+        {"* was being borne",             "* was being borne",             "* were being borne"},
+        {"* will be borne",               "* will be borne",               "* will be borne"},
+        {"* was borne,  have been borne", "* was borne,  has been  borne", "* were borne,  have been borne"},
+        {"* had been borne",              "* had been borne",              "* had been borne"},
+        {"* will have been borne",        "* will have been borne",        "* will have been borne"},
+        {"if * be borne",                 "if * be borne",                 "if * were borne"},
+        {"if * were borne",               "if * were borne",               "if * were borne"},
+        {"if * would have been borne",    "if * would have been borne",    "if * would have been borne"},
+        {"if * had been borne",           "if * had been borne",           "if * had been borne"},
     };
     // clang-format on
+    const std::array<std::string, 6> labels = {"I", "you", "he, she, it", "we", "all of you", "they"};
     generate("English");
-    int block = 1;
+    int block = 0;
     for (const auto& [first, third, others] : page) {
-        EXPECT_EQ(glossOf(block, verbs::Ferre, 1), first);
-        EXPECT_EQ(glossOf(block, verbs::Ferre, 3), third);
-        EXPECT_EQ(glossOf(block, verbs::Ferre, 5), others);
-        // The other three persons follow the second plural.
-        for (const auto& [person, label] : {std::pair{2, "you"}, {4, "we"}, {6, "they"}}) {
-            std::string expected = others;
-            if (const auto at = expected.find("all of you"); at != std::string::npos)
-                expected.replace(at, 10, label);
-            else if (person != verbs::SecondSingular)
+        ++block;
+        for (int person = 1; person <= verbs::PersonCount; ++person) {
+            std::string expected = person == 1 ? first : person == 3 ? third : others;
+            if (const auto star = expected.find('*'); star != std::string::npos)
+                expected.replace(star, 1, labels.at(static_cast<std::size_t>(person - 1)));
+            if (block == verbs::Imperative && (person == 4 || person == 6))
                 expected.clear();
             EXPECT_EQ(glossOf(block, verbs::Ferre, person), expected);
         }
-        ++block;
     }
 }
 

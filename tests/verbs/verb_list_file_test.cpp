@@ -6,6 +6,7 @@
 #include "verbs/vowel_marks.h"
 
 #include <algorithm>
+#include <iterator>
 #include <random>
 #include <vector>
 
@@ -103,39 +104,50 @@ TEST_F(VerbListFile, KeepsWhatWasReadBeforeAFault)
     }
 }
 
+TEST_F(VerbListFile, LosesNothingByAFaultWhenReadAgain)
+{
+    const Fields list = listOf({2, 1, 2, 2, 2});
+    read(joined(list, list.size(), "\n"));
+    for (std::size_t count = 0; count < list.size(); ++count) {
+        tests::writeFile("verbs.cfg", joined(list, count, "\n"));
+        EXPECT_FALSE(verbs::readVerbListAgain("verbs.cfg")) << count;
+        EXPECT_EQ(countsByClass(), (std::array<int, 5>{2, 1, 2, 2, 2})) << count;
+        for (int verbClass = 1; verbClass <= verbs::LastRegularClass; ++verbClass)
+            for (int number = 1; number <= verbList.Count[verbClass]; ++number)
+                expectVerb(verbClass, number);
+    }
+}
+
 TEST_F(VerbListFile, MayHoldAnything)
 {
     const std::string verb = "am,amat,amav,love,loved,loved,loving\n";
     std::string sixteen = "h\n16\n";
     for (int i = 0; i < 16; ++i)
         sixteen += verb;
+    const std::string endless(5 << 20, 'x');
+    // clang-format off
     const std::vector<std::pair<std::string, int>> cases = {
-        {"", 0},
-        {"\n\n\n", 0},
-        {"h,-1\n" + verb, 0},
-        {"h,32768\n" + verb, 0},
-        {"h,x\n" + verb, 0},
-        {"h,1.5\n", 0},
-        {"h,32767\n" + verb, 1},
-        {"h,2\n" + verb, 1},
-        {sixteen, 15},
-        {"h,0\n", 0},
-        {"h,1\n" + verb + std::string(5 << 20, 'x'), 1},
-        {std::string(5 << 20, 'x'), 0},
+        {"", 0},                 {"\n\n\n", 0},             {"h,0\n", 0},         {"h,x\n" + verb, 0},
+        {"h,-1\n" + verb, 0},    {"h,32768\n" + verb, 0},   {"h,1.5\n" + verb, 0}, {"h,32767\n" + verb, 1},
+        {"h,2\n" + verb, 1},     {sixteen, 15},             {endless, 0},         {"h,1\n" + verb + endless, 1},
     };
-    for (const auto& [bytes, count] : cases) {
-        verbList = {};
-        EXPECT_FALSE(read(bytes)) << bytes.substr(0, 20);
-        EXPECT_EQ(countsByClass(), (std::array<int, 5>{count, 0, 0, 0, 0})) << bytes.substr(0, 20);
-    }
-    for (unsigned seed = 1; seed <= 50; ++seed) {
-        std::mt19937 noise(seed);
-        std::string bytes = "h,9\n";
-        for (int i = 0; i < 5000; ++i)
-            bytes += static_cast<char>(noise());
-        read(bytes);
-        for (const int count : countsByClass())
-            EXPECT_TRUE(count >= 0 && count <= verbs::MostVerbs) << seed;
+    // clang-format on
+    for (auto* const reader : {verbs::readVerbList, verbs::readVerbListAgain}) {
+        for (const auto& [bytes, count] : cases) {
+            verbList = {};
+            tests::writeFile("verbs.cfg", bytes);
+            EXPECT_FALSE(reader("verbs.cfg")) << bytes.substr(0, 20);
+            EXPECT_EQ(countsByClass(), (std::array<int, 5>{count, 0, 0, 0, 0})) << bytes.substr(0, 20);
+        }
+        for (unsigned seed = 1; seed <= 50; ++seed) {
+            std::mt19937 noise(seed);
+            std::string bytes = "h,9\n";
+            std::generate_n(std::back_inserter(bytes), 5000, [&] { return static_cast<char>(noise()); });
+            tests::writeFile("verbs.cfg", bytes);
+            reader("verbs.cfg");
+            for (const int count : countsByClass())
+                EXPECT_TRUE(count >= 0 && count <= verbs::MostVerbs) << seed;
+        }
     }
 }
 
