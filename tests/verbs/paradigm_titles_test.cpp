@@ -67,15 +67,13 @@ TEST_F(ParadigmTitles, StayWhereTheLanguageIsUnknownOrTheClassHasNone)
     setTitles("Deutsch", 3, 4);
     EXPECT_EQ(currentParadigm.WindowTitle, "3. Konjugation");
     EXPECT_EQ(currentParadigm.TenseLabel, "Perfekt Indikativ");
-    setTitles("Spanish", 2, 22); // past the last tense
-    EXPECT_EQ(currentParadigm.TenseLabel, "");
-    EXPECT_EQ(verbTables.ClassTitles[3], "3. Konjugation")
-        << "only the title of the current class is written";
-    EXPECT_EQ(verbTables.TenseTitles[21], "Pluscuamperfecto de subjuntivo pasivo");
-    for (const int none : {0, 8, 9, 10}) {
-        setTitles("English", none, 50);
+    for (const int none : {0, 8, 10}) {
+        setTitles("Spanish", none, 22); // past the last tense
+        EXPECT_EQ(currentParadigm.TenseLabel, "");
         EXPECT_EQ(verbTables.ClassTitles[none], "");
     }
+    EXPECT_EQ(verbTables.ClassTitles[3], "3. Konjugation")
+        << "only the title of the current class is written";
     EXPECT_THROW(setTitles("English", 11, 1), std::out_of_range);
     EXPECT_THROW(setTitles("English", 1, 51), std::out_of_range);
 }

@@ -3,7 +3,6 @@
 #include "verbs/verb_edits.h"
 #include "verbs/verb_list.h"
 #include "verbs/verb_list_file.h"
-#include "verbs/vowel_marks.h"
 
 #include <algorithm>
 #include <iterator>
@@ -57,6 +56,16 @@ void expectVerb(int verbClass, int number)
     EXPECT_EQ(verbs::verbAt(verbClass, number), expected) << n;
 }
 
+// Every verb that is counted stands in the list whole. Returns how many there are.
+int expectEveryVerb()
+{
+    int counted = 0;
+    for (int verbClass = 1; verbClass <= verbs::LastRegularClass; ++verbClass)
+        for (int number = 1; number <= verbList.Count[verbClass]; ++number, ++counted)
+            expectVerb(verbClass, number);
+    return counted;
+}
+
 class VerbListFile : public tests::FreshState {
 protected:
     bool read(std::string_view bytes)
@@ -81,9 +90,7 @@ TEST_F(VerbListFile, IsReadSectionBySectionWhateverEndsTheFields)
         verbList = {};
         EXPECT_TRUE(read("\xEF\xBB\xBF" + joined(list, list.size(), separator) + "never read"));
         EXPECT_EQ(countsByClass(), (std::array<int, 5>{2, 1, 3, 15, 2}));
-        for (int verbClass = 1; verbClass <= verbs::LastRegularClass; ++verbClass)
-            for (int number = 1; number <= verbList.Count[verbClass]; ++number)
-                expectVerb(verbClass, number);
+        expectEveryVerb();
     }
 }
 
@@ -96,11 +103,7 @@ TEST_F(VerbListFile, KeepsWhatWasReadBeforeAFault)
         // A verb is whole once its last field is there.
         const auto whole = std::count_if(list.begin(), list.begin() + static_cast<std::ptrdiff_t>(count),
                                          [](const std::string& field) { return field.ends_with("being"); });
-        int counted = 0;
-        for (int verbClass = 1; verbClass <= verbs::LastRegularClass; ++verbClass)
-            for (int number = 1; number <= verbList.Count[verbClass]; ++number, ++counted)
-                expectVerb(verbClass, number);
-        EXPECT_EQ(counted, whole) << count;
+        EXPECT_EQ(expectEveryVerb(), whole) << count;
     }
 }
 
@@ -112,9 +115,7 @@ TEST_F(VerbListFile, LosesNothingByAFaultWhenReadAgain)
         tests::writeFile("verbs.cfg", joined(list, count, "\n"));
         EXPECT_FALSE(verbs::readVerbListAgain("verbs.cfg")) << count;
         EXPECT_EQ(countsByClass(), (std::array<int, 5>{2, 1, 2, 2, 2})) << count;
-        for (int verbClass = 1; verbClass <= verbs::LastRegularClass; ++verbClass)
-            for (int number = 1; number <= verbList.Count[verbClass]; ++number)
-                expectVerb(verbClass, number);
+        expectEveryVerb();
     }
 }
 
