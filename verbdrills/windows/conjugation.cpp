@@ -309,14 +309,11 @@ void Conjugation::moveOn()
     }
 }
 
-// A box that has the focus already is not told that it received it.
+// A box that has the focus already, or gets it while another window is active, is not told so by Qt.
 void Conjugation::focusQuestion()
 {
-    if (askedBox().hasFocus())
-        boxReceivedFocus(conjugationDrill.PersonIndex);
-    else
-        askedBox().setFocus();
-    showQuestion();
+    askedBox().setFocus();
+    boxReceivedFocus(conjugationDrill.PersonIndex);
 }
 
 void Conjugation::askAgain()
