@@ -4,6 +4,7 @@
 #include "shell/drill.h"
 #include "shell/settings.h"
 #include "verbdrills/conjugation_drill.h"
+#include "verbdrills/verb_quiz.h"
 #include "verbs/verb_edits.h"
 #include "verbs/verb_list.h"
 #include "verbs/verb_tables.h"
@@ -40,6 +41,7 @@ FreshState::FreshState() : before_(fs::current_path()), folder_(freshFolder())
     verbs::currentParadigm = {};
     verbs::forgetVerbEdits();
     verbdrills::conjugationDrill = {};
+    verbdrills::verbQuiz = {};
 }
 
 FreshState::~FreshState()
