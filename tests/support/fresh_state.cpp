@@ -4,6 +4,7 @@
 #include "shell/drill.h"
 #include "shell/settings.h"
 #include "verbdrills/conjugation_drill.h"
+#include "verbdrills/quiz_inclusion.h"
 #include "verbdrills/verb_quiz.h"
 #include "verbs/verb_edits.h"
 #include "verbs/verb_list.h"
@@ -42,6 +43,7 @@ FreshState::FreshState() : before_(fs::current_path()), folder_(freshFolder())
     verbs::forgetVerbEdits();
     verbdrills::conjugationDrill = {};
     verbdrills::verbQuiz = {};
+    verbdrills::QuizIncludeSet = platform::FlagFalse;
 }
 
 FreshState::~FreshState()
