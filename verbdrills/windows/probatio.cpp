@@ -3,16 +3,17 @@
 #include "shell/pause.h"
 #include "shell/settings.h"
 #include "shell/windows/captions.h"
-#include "shell/windows/choice_list.h"
+#include "shell/windows/controls.h"
 #include "shell/windows/text.h"
 #include "shell/windows/type.h"
 #include "verbdrills/quiz_draw.h"
 #include "verbdrills/quiz_texts.h"
+#include "verbdrills/windows/probatio_captions.h"
+#include "verbdrills/windows/quiz_list.h"
 
 #include <QBoxLayout>
 #include <QButtonGroup>
 #include <QGridLayout>
-#include <QItemSelectionModel>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
@@ -23,16 +24,12 @@
 
 namespace verbdrills {
 
-using shell::Caption;
-using shell::ChoiceList;
-using shell::englishToo;
+using shell::makeButton;
+using shell::makeLabel;
 
 namespace {
 
 constexpr QSize LargestBlock{120, 43};
-constexpr int FewestRows = 5;
-constexpr int RowSpace = 1;
-constexpr double RowType = 1.1;
 
 // So much more than a spacer's stretch that a list grows first.
 constexpr int FillsColumn = 1000;
@@ -43,55 +40,6 @@ constexpr int Singular = 0;
 constexpr int Plural = 1;
 constexpr std::array PersonButtons = {"QuizFirst", "QuizSecond", "QuizThird"};
 constexpr std::array NumberButtons = {"QuizSing", "QuizPlural"};
-
-// clang-format off
-constexpr std::array Captions = {
-    //                                    English, French, Italian              German                                                             Spanish                              Latin
-    Caption{"Probatio",        QuizTitle},
-    Caption{"YourAnswerLabel", englishToo("Your Answer",                        "Ihre Antwort",                                                    "Tu respuesta",                      "Responsum Tuum")},
-    Caption{"HelpLabel",       englishToo("Help=F1",                            "Hilfe=F1",                                                        "Ayuda=F1",                          "Auxilium=F1")},
-    Caption{"IdentifyLabel",   englishToo("Identify the grammar of this form:", "Geben Sie die grammatischen Einzelheiten der folgenden Form an!", "Analiza la forma de esta palabra:", "Dona grammaticam sequentis verbi:")},
-    Caption{"QuizOK",          englishToo("&OK",                                "&OK",                                                             "&Si",                               "&Ita")},
-    Caption{"QuizCancel",      englishToo("&Cancel",                            "&Abbruch",                                                        "&Cancelar",                         "&Reverte!")},
-    Caption{"QuizSkip",        englishToo("&Skip",                              "Aus&lassen",                                                      "S&altar",                           "&Transgredire!")},
-    Caption{"QuizOptions",     englishToo("O&ptions",                           "O&ptionen",                                                       "&Opciones",                         "O&ptiones")},
-    Caption{"QuizFirst",       englishToo("&First Person",                      "&Erste Person",                                                   "Pri&mera persona",                  "Persona &prima")},
-    Caption{"QuizSecond",      englishToo("&Second Person",                     "&Zweite Person",                                                  "&Segunda persona",                  "Persona se&cunda")},
-    Caption{"QuizThird",       englishToo("&Third Person",                      "&Dritte Person",                                                  "&Tercera persona",                  "Persona &tertia")},
-    Caption{"QuizSing",        englishToo("Sin&gular",                          "Ein&zahl",                                                        "Sin&gular",                         "Sin&gularis")},
-    Caption{"QuizPlural",      englishToo("&Plural",                            "&Mehrzahl",                                                       "&Plural",                           "&Pluralis")},
-};
-
-// Spanish has the English heading.
-constexpr shell::LanguageTexts CorrectHeading = englishToo("Correct Answer", "Korrekte Antwort", "Correct Answer", "Responsum rectum");
-// clang-format on
-
-QLabel* makeLabel(QWidget* parent, const char* name)
-{
-    auto* const label = new QLabel(parent);
-    label->setObjectName(QLatin1String(name));
-    label->setTextFormat(Qt::PlainText);
-    return label;
-}
-
-QPushButton* makeButton(QWidget* parent, const char* name)
-{
-    auto* const button = new QPushButton(parent);
-    button->setObjectName(QLatin1String(name));
-    button->setAutoDefault(true);
-    return button;
-}
-
-ChoiceList* makeList(QWidget* parent, const char* name, const QString& accessibleName)
-{
-    auto* const list = new ChoiceList(parent);
-    list->setObjectName(QLatin1String(name));
-    list->setAccessibleName(accessibleName);
-    shell::setType(*list, RowType);
-    list->setSpacing(RowSpace);
-    list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    return list;
-}
 
 template <std::size_t Count>
 QButtonGroup* makeOptions(QWidget* parent, const std::array<const char*, Count>& names, int firstNumber)
@@ -106,16 +54,6 @@ QButtonGroup* makeOptions(QWidget* parent, const std::array<const char*, Count>&
     return group;
 }
 
-// A list takes the height of its rows where there is room, and scrolls where there is little.
-void fill(ChoiceList& list, std::span<const shell::LanguageTexts> rows)
-{
-    shell::fillList(list, rows);
-    const int frame = 2 * (list.frameWidth() + RowSpace);
-    const int row = list.sizeHintForRow(0) + 2 * RowSpace;
-    list.setMinimumSize(list.sizeHintForColumn(0) + frame + shell::WideSpace, FewestRows * row + frame);
-    list.setMaximumHeight(list.count() * row + frame);
-}
-
 } // namespace
 
 Probatio::Probatio() : Window("Probatio", "quiz")
@@ -123,7 +61,7 @@ Probatio::Probatio() : Window("Probatio", "quiz")
     makeControls();
     layOut();
     connectControls();
-    shell::applyDesignedCaptions(*this, Captions);
+    shell::applyDesignedCaptions(*this, probatioCaptions());
     shell::registerDrill(shell::exercise::Quiz, *this);
 }
 
@@ -138,8 +76,8 @@ void Probatio::makeControls()
     baseForm_ = makeLabel(this, "QuizBaseForm");
     shell::setBoldType(*item_, shell::TitleType);
     shell::setType(*baseForm_, shell::FormType);
-    classes_ = makeList(this, "QuizConjList", QStringLiteral("Conjugations"));
-    tenses_ = makeList(this, "QuizTenseList", QStringLiteral("Tenses"));
+    classes_ = new QuizList("QuizConjList", QStringLiteral("Conjugations"), this);
+    tenses_ = new QuizList("QuizTenseList", QStringLiteral("Tenses"), this);
     persons_ = makeOptions(this, PersonButtons, FirstPerson);
     numbers_ = makeOptions(this, NumberButtons, Singular);
     yourAnswer_ = makeLabel(this, "QuizYourAnswer");
@@ -245,8 +183,8 @@ QBoxLayout* Probatio::buttonRow()
 
 void Probatio::connectControls()
 {
-    for (ChoiceList* const list : {classes_, tenses_}) {
-        connect(list, &ChoiceList::rowChosen, this, &Probatio::showChosenAnswer);
+    for (QuizList* const list : {classes_, tenses_}) {
+        connect(list, &QuizList::rowChosen, this, &Probatio::showChosenAnswer);
         checkOnEnter(list);
     }
     for (const QButtonGroup* const group : {persons_, numbers_}) {
@@ -272,9 +210,9 @@ void Probatio::checkOnEnter(QWidget* control)
 
 void Probatio::open()
 {
-    shell::applyCaptions(*this, Captions);
-    fill(*classes_, quizClassNames());
-    fill(*tenses_, quizTenseNames());
+    shell::applyCaptions(*this, probatioCaptions());
+    classes_->fill(quizClassNames());
+    tenses_->fill(quizTenseNames());
     verbQuiz.formIsAsked = false;
     resume();
 }
@@ -321,10 +259,8 @@ void Probatio::showForm()
 
 void Probatio::resetAnswer()
 {
-    for (ChoiceList* const list : {classes_, tenses_}) {
-        list->selectionModel()->clear();
-        list->scrollToTop();
-    }
+    classes_->reset();
+    tenses_->reset();
     persons_->button(FirstPerson)->setChecked(true);
     numbers_->button(Singular)->setChecked(true);
     yourAnswer_->clear();
@@ -364,7 +300,7 @@ void Probatio::showRightAnswer()
     if (shell::pausing() || !verbQuiz.formIsAsked)
         return;
     showChosenAnswer();
-    correctHeading_->setText(shell::fromUtf8(CorrectHeading.designedOrCurrent()));
+    correctHeading_->setText(shell::fromUtf8(correctHeading()));
     correct_->setText(shell::fromUtf8(describe(rightIdentification())));
 }
 

@@ -10,11 +10,9 @@ class QGridLayout;
 class QLabel;
 class QPushButton;
 
-namespace shell {
-class ChoiceList;
-}
-
 namespace verbdrills {
+
+class QuizList;
 
 /// The verb quiz: shows a form, whose class, tense, person and number the learner names.
 class Probatio : public shell::Window, public shell::Drill {
@@ -79,8 +77,8 @@ private:
 
     QLabel* item_;
     QLabel* baseForm_;
-    shell::ChoiceList* classes_;
-    shell::ChoiceList* tenses_;
+    QuizList* classes_;
+    QuizList* tenses_;
     QButtonGroup* persons_;
     QButtonGroup* numbers_;
     QLabel* yourAnswer_;

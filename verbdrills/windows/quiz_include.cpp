@@ -2,6 +2,7 @@
 
 #include "shell/windows/big_frame.h"
 #include "shell/windows/captions.h"
+#include "shell/windows/controls.h"
 #include "shell/windows/type.h"
 #include "verbdrills/quiz_texts.h"
 
@@ -18,6 +19,7 @@ namespace verbdrills {
 
 using shell::Caption;
 using shell::englishToo;
+using shell::makeButton;
 
 namespace {
 
@@ -77,14 +79,6 @@ QCheckBox* makeBox(QWidget* parent, const char* name, std::size_t index)
     return box;
 }
 
-QPushButton* makeButton(QWidget* parent, const char* name)
-{
-    auto* const button = new QPushButton(parent);
-    button->setObjectName(QLatin1String(name));
-    button->setAutoDefault(true);
-    return button;
-}
-
 bool isEnter(int key)
 {
     return key == Qt::Key_Return || key == Qt::Key_Enter;
@@ -94,7 +88,7 @@ bool isEnter(int key)
 
 QuizInclude::QuizInclude()
     : Window("QuizInclude", "quizinclude"), frame_(new QFrame(this)), classFrame_(new QGroupBox(frame_)),
-      tenseFrame_(new QGroupBox(frame_)), note_(new QLabel(frame_))
+      tenseFrame_(new QGroupBox(frame_)), note_(shell::makeLabel(frame_, "InclNote"))
 {
     makeControls();
     layOut();
@@ -107,7 +101,6 @@ void QuizInclude::makeControls()
     frame_->setObjectName(QStringLiteral("CIBigFrame"));
     classFrame_->setObjectName(QStringLiteral("ConjFrame"));
     tenseFrame_->setObjectName(QStringLiteral("TenseFrame"));
-    note_->setObjectName(QStringLiteral("InclNote"));
     for (std::size_t i = 0; i < classes_.size(); ++i)
         classes_.at(i) = makeBox(classFrame_, "InclConj", i);
     for (std::size_t i = 0; i < tenses_.size(); ++i)
