@@ -29,6 +29,7 @@ Navigation::Navigation()
 {
     connectMainMenu();
     connectVerbs();
+    connectQuiz();
 }
 
 void Navigation::start()
@@ -61,6 +62,16 @@ void Navigation::connectVerbs()
     connect(&verbs_, &VerbNavigation::left, this, &Navigation::showMainMenu);
     connect(&verbs_, &VerbNavigation::endRequested, this, &endProgramQuietly);
     connect(&verbs_, &VerbNavigation::helpRequested, this, &Navigation::showHelp);
+}
+
+void Navigation::connectQuiz()
+{
+    connect(&mainMenu_, &MainMenu::quizRequested, this, [this] {
+        giveWay();
+        quiz_.showQuiz();
+    });
+    connect(&quiz_, &QuizNavigation::left, this, &Navigation::showMainMenu);
+    connect(&quiz_, &QuizNavigation::helpRequested, this, &Navigation::showHelp);
 }
 
 void Navigation::giveWay()

@@ -1,5 +1,6 @@
 #include "shell/windows/chooser.h"
 
+#include "shell/windows/big_frame.h"
 #include "shell/windows/captions.h"
 #include "shell/windows/choice_list.h"
 #include "shell/windows/text.h"
@@ -85,7 +86,7 @@ void Chooser::open()
     if (!isVisible())
         resize(frame_->sizeHint());
     showInMainWindowState();
-    placeFrame();
+    placeBigFrame(*this, *frame_);
     list_->setFocus();
 }
 
@@ -102,7 +103,7 @@ void Chooser::fill()
     ok_->setEnabled(false);
     list_->setMinimumSize(roomForRows(*list_));
     setMinimumSize(frame_->minimumSizeHint());
-    placeFrame();
+    placeBigFrame(*this, *frame_);
     beginChoice();
 }
 
@@ -128,22 +129,7 @@ void Chooser::keyPressEvent(QKeyEvent* event)
 void Chooser::resizeEvent(QResizeEvent* event)
 {
     Window::resizeEvent(event);
-    placeFrame();
-}
-
-// On a maximised window the frame stands in the middle of the screen, a little to the left: the divisor of
-// the width is meant.
-void Chooser::placeFrame()
-{
-    if (!isMaximized()) {
-        frame_->setGeometry(rect());
-        return;
-    }
-    const QSize screenSize = screen()->geometry().size();
-    const QSize frameSize = frame_->sizeHint().boundedTo(size());
-    frame_->setGeometry(static_cast<int>(screenSize.width() / 2.0 - frameSize.width() / 1.9),
-                        static_cast<int>(screenSize.height() / 2.0 - frameSize.height() / 2.0),
-                        frameSize.width(), frameSize.height());
+    placeBigFrame(*this, *frame_);
 }
 
 } // namespace shell

@@ -4,6 +4,8 @@
 #include "shell/drill.h"
 #include "shell/settings.h"
 #include "verbdrills/conjugation_drill.h"
+#include "verbdrills/quiz_inclusion.h"
+#include "verbdrills/verb_quiz.h"
 #include "verbs/verb_edits.h"
 #include "verbs/verb_list.h"
 #include "verbs/verb_tables.h"
@@ -40,6 +42,8 @@ FreshState::FreshState() : before_(fs::current_path()), folder_(freshFolder())
     verbs::currentParadigm = {};
     verbs::forgetVerbEdits();
     verbdrills::conjugationDrill = {};
+    verbdrills::verbQuiz = {};
+    verbdrills::QuizIncludeSet = platform::FlagFalse;
 }
 
 FreshState::~FreshState()
