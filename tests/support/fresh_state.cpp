@@ -7,6 +7,7 @@
 #include "verbs/verb_edits.h"
 #include "verbs/verb_list.h"
 #include "verbs/verb_tables.h"
+#include "vocabulary/vocabulary_list.h"
 
 #include <fstream>
 #include <iterator>
@@ -40,6 +41,7 @@ FreshState::FreshState() : before_(fs::current_path()), folder_(freshFolder())
     verbs::currentParadigm = {};
     verbs::forgetVerbEdits();
     verbdrills::conjugationDrill = {};
+    vocabulary::vocabularyList = {};
 }
 
 FreshState::~FreshState()

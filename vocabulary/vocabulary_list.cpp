@@ -1,0 +1,57 @@
+#include "vocabulary/vocabulary_list.h"
+
+#include "platform/file_replacement.h"
+#include "platform/text_file.h"
+#include "vocabulary/vocabulary_file.h"
+
+namespace vocabulary {
+
+VocabularyList vocabularyList;
+
+namespace {
+
+void takeList(const std::vector<WordRecord>& records, const std::filesystem::path& path)
+{
+    vocabularyList = {};
+    for (const WordRecord& record : records)
+        vocabularyList.Loaded[++vocabularyList.WordCount] = record;
+    vocabularyList.Working = vocabularyList.Loaded;
+    vocabularyList.File = path;
+}
+
+} // namespace
+
+std::string LoadResult::message() const
+{
+    if (refused)
+        return refused->message();
+    return cutOff ? cutOff->message() : "";
+}
+
+LoadResult loadList(const std::filesystem::path& path)
+{
+    const VocabularyFile file = readVocabularyFile(path);
+    if (!file.refused)
+        takeList(file.records, path);
+    return {file.refused, file.cutOff};
+}
+
+std::optional<platform::Fault> saveList(const std::filesystem::path& path)
+{
+    VocabularyList::Words words = vocabularyList.Working;
+    std::string text;
+    for (int number = 1; number <= vocabularyList.WordCount; ++number) {
+        words[number] = withoutCommas(words[number]);
+        text += recordLine(words[number]);
+    }
+    if (text.size() >= platform::LongestFile)
+        return platform::Fault{path.filename().string(), 0, "the list is too long to be read again"};
+    if (const auto fault = platform::replaceFile(path, text))
+        return fault;
+    vocabularyList.Working = words;
+    vocabularyList.CurrentWord = 0;
+    vocabularyList.File = path;
+    return {};
+}
+
+} // namespace vocabulary
