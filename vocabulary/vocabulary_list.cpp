@@ -2,6 +2,7 @@
 
 #include "platform/file_replacement.h"
 #include "platform/text_file.h"
+#include "vocabulary/vocabulary_edits.h"
 #include "vocabulary/vocabulary_file.h"
 
 namespace vocabulary {
@@ -17,6 +18,7 @@ void takeList(const std::vector<WordRecord>& records, const std::filesystem::pat
         vocabularyList.Loaded[++vocabularyList.WordCount] = record;
     vocabularyList.Working = vocabularyList.Loaded;
     vocabularyList.File = path;
+    forgetPendingChanges();
 }
 
 } // namespace
@@ -51,6 +53,7 @@ std::optional<platform::Fault> saveList(const std::filesystem::path& path)
     vocabularyList.Working = words;
     vocabularyList.CurrentWord = 0;
     vocabularyList.File = path;
+    forgetPendingChanges();
     return {};
 }
 

@@ -57,11 +57,13 @@ struct LoadResult {
     std::string message() const;
 };
 
-/// Puts the list of a file in the place of the one in memory, in both tables, and sets `CurrentWord` to 0.
+/// Puts the list of a file in the place of the one in memory, in both tables, and sets `CurrentWord` to 0. No
+/// change is pending then.
 LoadResult loadList(const std::filesystem::path& path);
 
 /// Replaces a file with the working table, in which ">" then stands where commas were, and sets `CurrentWord`
-/// to 0. Where that fails, the file and the list are as they were, and the fault is returned.
+/// to 0. No change is pending then. Where that fails, the file and the list are as they were, and the fault
+/// is returned.
 std::optional<platform::Fault> saveList(const std::filesystem::path& path);
 
 } // namespace vocabulary

@@ -7,7 +7,9 @@
 #include "verbs/verb_edits.h"
 #include "verbs/verb_list.h"
 #include "verbs/verb_tables.h"
+#include "vocabulary/vocabulary_edits.h"
 #include "vocabulary/vocabulary_list.h"
+#include "vocabulary/vocabulary_tester.h"
 
 #include <fstream>
 #include <iterator>
@@ -42,6 +44,8 @@ FreshState::FreshState() : before_(fs::current_path()), folder_(freshFolder())
     verbs::forgetVerbEdits();
     verbdrills::conjugationDrill = {};
     vocabulary::vocabularyList = {};
+    vocabulary::vocabularyTester = {};
+    vocabulary::vocabularyEditor = {};
 }
 
 FreshState::~FreshState()
