@@ -44,13 +44,13 @@ bool readRecord(platform::FieldReader& reader, WordRecord& record)
     return true;
 }
 
-VocabularyFile refused(const std::filesystem::path& path, std::string reason)
+VocabularyFile tooLong(const std::filesystem::path& path, std::string reason)
 {
-    return {{}, platform::Fault{path.filename().string(), 0, std::move(reason)}, {}};
+    return {{}, {}, platform::Fault{path.filename().string(), 0, std::move(reason)}, {}};
 }
 
-// A file of which only the beginning would be read.
-bool isTooLong(const std::filesystem::path& path)
+// Of a file past this length only the beginning would be read.
+bool isPastLongestFile(const std::filesystem::path& path)
 {
     std::error_code error;
     const auto size = std::filesystem::file_size(path, error);
@@ -63,9 +63,9 @@ VocabularyFile readVocabularyFile(const std::filesystem::path& path)
 {
     platform::TextFile text = platform::readTextFile(path);
     if (text.fault)
-        return {{}, text.fault, {}};
-    if (isTooLong(path))
-        return refused(path, "the file is too long for a word list");
+        return {{}, text.fault, {}, {}};
+    if (isPastLongestFile(path))
+        return tooLong(path, "the file is too long for a word list");
     platform::FieldReader reader(std::move(text.text));
     VocabularyFile file;
     WordRecord record;
@@ -76,7 +76,7 @@ VocabularyFile readVocabularyFile(const std::filesystem::path& path)
             file.cutOff = {path.filename().string(), reader.line(),
                            "the last word is cut off and was left out"};
         if (file.records.size() > MostWords)
-            return refused(path, "the file holds more than 300 words");
+            return tooLong(path, "the file holds more than 300 words");
     }
     return file;
 }

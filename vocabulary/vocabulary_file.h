@@ -16,8 +16,11 @@ namespace vocabulary {
 struct VocabularyFile {
     std::vector<WordRecord> records;
 
-    /// Why the file cannot be read, or that it holds more than `MostWords` words. There are no records then.
-    std::optional<platform::Fault> refused;
+    /// Why the file cannot be read. There are no records then.
+    std::optional<platform::Fault> unreadable;
+
+    /// That the file holds more than `MostWords` words. There are no records then either.
+    std::optional<platform::Fault> tooLong;
 
     /// A last record that lacks a field or two. It is not among the records.
     std::optional<platform::Fault> cutOff;

@@ -23,19 +23,21 @@ void takeList(const std::vector<WordRecord>& records, const std::filesystem::pat
 
 } // namespace
 
-std::string LoadResult::message() const
+std::string LoadFaults::message() const
 {
-    if (refused)
-        return refused->message();
-    return cutOff ? cutOff->message() : "";
+    for (const auto& fault : {unreadable, tooLong, cutOff})
+        if (fault)
+            return fault->message();
+    return {};
 }
 
-LoadResult loadList(const std::filesystem::path& path)
+LoadFaults loadList(const std::filesystem::path& path)
 {
     const VocabularyFile file = readVocabularyFile(path);
-    if (!file.refused)
+    const LoadFaults faults{file.unreadable, file.tooLong, file.cutOff};
+    if (!faults.refused())
         takeList(file.records, path);
-    return {file.refused, file.cutOff};
+    return faults;
 }
 
 std::optional<platform::Fault> saveList(const std::filesystem::path& path)

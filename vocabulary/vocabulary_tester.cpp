@@ -14,6 +14,8 @@ VocabularyTester vocabularyTester;
 
 namespace {
 
+constexpr std::string_view AnswerWish = "?";
+
 const WordRecord& currentRecord()
 {
     return vocabularyList.Loaded[vocabularyList.CurrentWord];
@@ -131,6 +133,15 @@ void askCurrentWord(bool asked)
 
 } // namespace
 
+std::string openDefaultList()
+{
+    vocabularyTester = {};
+    LoadFaults faults = loadList(DefaultListName);
+    faults.unreadable.reset();
+    beginTest();
+    return faults.message();
+}
+
 void beginTest()
 {
     const std::string order = vocabularyTester.Order;
@@ -172,13 +183,17 @@ std::string hintText()
     return vocabularyTester.WordIsAsked == platform::FlagTrue ? currentRecord().hint : std::string();
 }
 
-bool isRightAnswer(const std::string& answer)
+Judgement judge(const std::string& answer)
 {
     vocabularyTester.LastAnswer = answer;
+    if (vocabularyTester.WordIsAsked != platform::FlagTrue)
+        return Judgement::NothingAsked;
+    if (answer == AnswerWish)
+        return Judgement::AnswerWanted;
     if (answer != expectedAnswer())
-        return false;
+        return Judgement::Wrong;
     raise(vocabularyTester.RightAnswers[vocabularyList.CurrentWord]);
-    return true;
+    return Judgement::Right;
 }
 
 void countMiss()

@@ -23,6 +23,8 @@ inline constexpr std::string_view Mixed = "Mixed";
 inline constexpr std::string_view Latin = "Latin";
 } // namespace prompt
 
+inline constexpr std::string_view DefaultListName = "vr-vcab.lst";
+
 /// The last word that is kept count of. A list may be longer: the word after this one ends the program.
 inline constexpr int LastCountedWord = 150;
 
@@ -59,6 +61,11 @@ struct VocabularyTester {
 
 extern VocabularyTester vocabularyTester;
 
+/// Resets the tester and begins to test the default list, "vr-vcab.lst" of the working folder. Returns what
+/// the learner is to be told. A default list that is missing or cannot be read is passed over silently, and
+/// the list in memory is tested.
+std::string openDefaultList();
+
 /// Begins to test the list in memory at its first word, or the first after it that can be asked: clears the
 /// counts, misses and omissions and keeps the order and the prompt language.
 void beginTest();
@@ -72,8 +79,11 @@ std::string questionText();
 std::string expectedAnswer();
 std::string hintText();
 
-/// Judges `LastAnswer`, letter by letter; a right answer counts for the word.
-bool isRightAnswer(const std::string& answer);
+/// What came of an answer. "?" asks for the right one, and is none itself.
+enum class Judgement { Right, Wrong, AnswerWanted, NothingAsked };
+
+/// Keeps an answer as `LastAnswer` and judges it letter by letter; a right one counts for the current word.
+Judgement judge(const std::string& answer);
 
 /// Counts a wrong answer for the current word.
 void countMiss();

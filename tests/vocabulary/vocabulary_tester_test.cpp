@@ -7,6 +7,7 @@
 namespace {
 
 using vocabulary::goToNextWord;
+using vocabulary::Judgement;
 using vocabulary::vocabularyList;
 using vocabulary::vocabularyTester;
 
@@ -149,7 +150,7 @@ TEST_F(VocabularyTest, EndsTheProgramWhenItsOneWordIsLearned)
     test(1);
     for (int i = 1; i <= 6; ++i) {
         EXPECT_FALSE(fake.exitStatus) << i;
-        EXPECT_TRUE(vocabulary::isRightAnswer("t1"));
+        EXPECT_EQ(vocabulary::judge("t1"), Judgement::Right);
         goToNextWord(Random);
     }
     EXPECT_EQ(fake.exitStatus, 0);
@@ -201,10 +202,12 @@ TEST_F(VocabularyTest, JudgesLetterByLetterAndCountsForTheWord)
     vocabularyList.Loaded[1] = {"Ro:ma", "Rome, Italy", "f."};
     for (const std::string wrong :
          {"rome, Italy", "Rome, Italy ", " Rome, Italy", "Rome> Italy", "Ro:ma", ""}) {
-        EXPECT_FALSE(vocabulary::isRightAnswer(wrong)) << wrong;
+        EXPECT_EQ(vocabulary::judge(wrong), Judgement::Wrong) << wrong;
         EXPECT_EQ(vocabularyTester.LastAnswer, wrong);
     }
-    EXPECT_TRUE(vocabulary::isRightAnswer("Rome, Italy"));
+    EXPECT_EQ(vocabulary::judge("?"), Judgement::AnswerWanted);
+    EXPECT_EQ(vocabularyTester.RightAnswers[1], 0);
+    EXPECT_EQ(vocabulary::judge("Rome, Italy"), Judgement::Right);
     EXPECT_EQ(vocabularyTester.RightAnswers[1], 1);
     EXPECT_EQ(vocabularyTester.Misses[1], 0);
     vocabulary::countMiss();
@@ -254,6 +257,23 @@ TEST_F(VocabularyTest, BeginsAnewWithoutCountsButInTheSameOrder)
     EXPECT_EQ(vocabularyTester.FifthQuestionCounter, 0);
     EXPECT_EQ(vocabularyTester.Order, Random);
     EXPECT_EQ(vocabulary::questionText(), "t1");
+}
+
+TEST_F(VocabularyTest, OpensWithTheDefaultListAndPassesOverAMissingOne)
+{
+    EXPECT_EQ(vocabulary::openDefaultList(), "");
+    EXPECT_FALSE(wordIsAsked());
+    EXPECT_EQ(vocabulary::judge(""), Judgement::NothingAsked);
+    tests::copySample("vr-vcab.lst");
+    vocabularyTester.Order = Random;
+    EXPECT_EQ(vocabulary::openDefaultList(), "");
+    EXPECT_EQ(vocabularyTester.Order, Sequential);
+    EXPECT_EQ(vocabulary::questionText(), "puella");
+    EXPECT_EQ(vocabulary::hintText(), "puellae, f.");
+    tests::writeFile("vr-vcab.lst", "rosa,rose,f.\nre:x");
+    EXPECT_EQ(vocabulary::openDefaultList(),
+              "vr-vcab.lst, line 2: the last word is cut off and was left out");
+    EXPECT_EQ(vocabulary::questionText(), "rosa");
 }
 
 } // namespace
