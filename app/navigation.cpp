@@ -29,6 +29,7 @@ Navigation::Navigation()
 {
     connectMainMenu();
     connectVerbs();
+    connectVocabulary();
 }
 
 void Navigation::start()
@@ -61,6 +62,21 @@ void Navigation::connectVerbs()
     connect(&verbs_, &VerbNavigation::left, this, &Navigation::showMainMenu);
     connect(&verbs_, &VerbNavigation::endRequested, this, &endProgramQuietly);
     connect(&verbs_, &VerbNavigation::helpRequested, this, &Navigation::showHelp);
+}
+
+void Navigation::connectVocabulary()
+{
+    connect(&mainMenu_, &MainMenu::vocabularyRequested, this, [this] {
+        const Hourglass hourglass;
+        giveWay();
+        vocabulary_.showTester();
+    });
+    connect(&mainMenu_, &MainMenu::vocabularyManagerRequested, this, [this] {
+        giveWay();
+        vocabulary_.showManager();
+    });
+    connect(&vocabulary_, &VocabularyNavigation::left, this, &Navigation::showMainMenu);
+    connect(&vocabulary_, &VocabularyNavigation::helpRequested, this, &Navigation::showHelp);
 }
 
 void Navigation::giveWay()

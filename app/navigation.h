@@ -2,6 +2,7 @@
 
 #include "app/feedback_windows.h"
 #include "app/verb_navigation.h"
+#include "app/vocabulary_navigation.h"
 #include "shell/windows/about.h"
 #include "shell/windows/help.h"
 #include "shell/windows/main_menu.h"
@@ -25,6 +26,7 @@ public:
 private:
     void connectMainMenu();
     void connectVerbs();
+    void connectVocabulary();
 
     void giveWay();
     void showMainMenu();
@@ -34,6 +36,7 @@ private:
     shell::MainMenu mainMenu_;
     FeedbackWindows feedback_;
     VerbNavigation verbs_{feedback_};
+    VocabularyNavigation vocabulary_{feedback_};
     std::unique_ptr<shell::About> about_;
     std::unique_ptr<shell::Help> help_;
 };
