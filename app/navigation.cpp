@@ -30,6 +30,7 @@ Navigation::Navigation()
     connectMainMenu();
     connectVerbs();
     connectQuiz();
+    connectVocabulary();
 }
 
 void Navigation::start()
@@ -72,6 +73,21 @@ void Navigation::connectQuiz()
     });
     connect(&quiz_, &QuizNavigation::left, this, &Navigation::showMainMenu);
     connect(&quiz_, &QuizNavigation::helpRequested, this, &Navigation::showHelp);
+}
+
+void Navigation::connectVocabulary()
+{
+    connect(&mainMenu_, &MainMenu::vocabularyRequested, this, [this] {
+        const Hourglass hourglass;
+        giveWay();
+        vocabulary_.showTester();
+    });
+    connect(&mainMenu_, &MainMenu::vocabularyManagerRequested, this, [this] {
+        giveWay();
+        vocabulary_.showManager();
+    });
+    connect(&vocabulary_, &VocabularyNavigation::left, this, &Navigation::showMainMenu);
+    connect(&vocabulary_, &VocabularyNavigation::helpRequested, this, &Navigation::showHelp);
 }
 
 void Navigation::giveWay()

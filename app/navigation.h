@@ -3,6 +3,7 @@
 #include "app/feedback_windows.h"
 #include "app/quiz_navigation.h"
 #include "app/verb_navigation.h"
+#include "app/vocabulary_navigation.h"
 #include "shell/windows/about.h"
 #include "shell/windows/help.h"
 #include "shell/windows/main_menu.h"
@@ -27,6 +28,7 @@ private:
     void connectMainMenu();
     void connectVerbs();
     void connectQuiz();
+    void connectVocabulary();
 
     void giveWay();
     void showMainMenu();
@@ -37,6 +39,7 @@ private:
     FeedbackWindows feedback_;
     VerbNavigation verbs_{feedback_};
     QuizNavigation quiz_{feedback_};
+    VocabularyNavigation vocabulary_{feedback_};
     std::unique_ptr<shell::About> about_;
     std::unique_ptr<shell::Help> help_;
 };

@@ -9,6 +9,9 @@
 #include "verbs/verb_edits.h"
 #include "verbs/verb_list.h"
 #include "verbs/verb_tables.h"
+#include "vocabulary/vocabulary_edits.h"
+#include "vocabulary/vocabulary_list.h"
+#include "vocabulary/vocabulary_tester.h"
 
 #include <fstream>
 #include <iterator>
@@ -44,6 +47,9 @@ FreshState::FreshState() : before_(fs::current_path()), folder_(freshFolder())
     verbdrills::conjugationDrill = {};
     verbdrills::verbQuiz = {};
     verbdrills::QuizIncludeSet = platform::FlagFalse;
+    vocabulary::vocabularyList = {};
+    vocabulary::vocabularyTester = {};
+    vocabulary::vocabularyEditor = {};
 }
 
 FreshState::~FreshState()
