@@ -334,4 +334,26 @@ TEST_F(VcabManagerWindow, ChangesTheListThatIsTestedAndHasItTestedAnew)
     EXPECT_EQ(tests::bytesOf("vr-vcab.lst"), "rosa,rose,f.\r\nre:x,king,m.\r\n");
 }
 
+TEST_F(VcabManagerWindow, BeginsANewListFromTheMainWindowUnlessTheLastHasUnsavedChanges)
+{
+    tests::writeFile("vr-vcab.lst", "rosa,rose,f.\r\n");
+    navigation.start();
+    QWidget& menu = *shownWindow("MainMenu");
+    click(menu, "VocabularyButton");
+    QWidget& tester = *shownWindow("Vcabtester");
+    press(tester, Qt::Key_Escape);
+    control<QAction>(menu, "FileVcabManager").trigger();
+    QWidget& manager = *shownWindow("VcabManager");
+    EXPECT_EQ(rows(words(manager)), QStringList());
+    click(manager, "VcabManExit");
+    control<QAction>(tester, "VcabTesterEdit").trigger();
+    EXPECT_EQ(rows(words(manager)), QStringList({"rosa"}));
+    add(manager, Rome);
+    click(manager, "VcabManExit");
+    click(*shownWindow("VcabWarning"), "VcabWarningDiscard");
+    press(tester, Qt::Key_Escape);
+    control<QAction>(menu, "FileVcabManager").trigger();
+    EXPECT_EQ(rows(words(manager)), QStringList({"rosa", "Ro:ma"}));
+}
+
 } // namespace
