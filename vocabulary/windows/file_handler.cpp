@@ -130,7 +130,7 @@ void FileHandler::connectControls()
     connect(files_, &ChoiceList::rowChosen, this, &FileHandler::takeName);
     connect(files_, &ChoiceList::rowActivated, this, &FileHandler::activateFile);
     connect(name_, &QLineEdit::textChanged, this,
-            [this](const QString& name) { action_->setEnabled(!name.trimmed().isEmpty()); });
+            [this](const QString& name) { action_->setEnabled(pathOf(name.trimmed()).has_filename()); });
     connect(name_, &QLineEdit::returnPressed, this, &FileHandler::loadOrSave);
     connect(action_, &QPushButton::clicked, this, &FileHandler::loadOrSave);
     connect(cancel_, &QPushButton::clicked, this, &FileHandler::left);
