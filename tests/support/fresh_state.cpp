@@ -1,5 +1,7 @@
 #include "tests/support/fresh_state.h"
 
+#include "nouns/noun_list.h"
+#include "nouns/noun_tables.h"
 #include "platform/random.h"
 #include "shell/drill.h"
 #include "shell/settings.h"
@@ -35,6 +37,8 @@ FreshState::FreshState() : before_(fs::current_path()), folder_(freshFolder())
     platform::seedWith(1);
     shell::leaveDrill();
     shell::settings = {};
+    nouns::nounList = {};
+    nouns::nounTables = {};
     verbs::verbTables = {};
     verbs::verbList = {};
     verbs::currentParadigm = {};
