@@ -29,6 +29,7 @@ Navigation::Navigation()
 {
     connectMainMenu();
     connectVerbs();
+    connectNouns();
 }
 
 void Navigation::start()
@@ -61,6 +62,19 @@ void Navigation::connectVerbs()
     connect(&verbs_, &VerbNavigation::left, this, &Navigation::showMainMenu);
     connect(&verbs_, &VerbNavigation::endRequested, this, &endProgramQuietly);
     connect(&verbs_, &VerbNavigation::helpRequested, this, &Navigation::showHelp);
+}
+
+void Navigation::connectNouns()
+{
+    connect(&mainMenu_, &MainMenu::declensionRequested, this, [this] {
+        const Hourglass hourglass;
+        shell::setVowelMarkForDrill();
+        shell::settings.ExerciseType = shell::exercise::Declination;
+        giveWay();
+        nouns_.showDeclinationChoose();
+    });
+    connect(&nouns_, &NounNavigation::left, this, &Navigation::showMainMenu);
+    connect(&nouns_, &NounNavigation::helpRequested, this, &Navigation::showHelp);
 }
 
 void Navigation::giveWay()

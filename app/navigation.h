@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/feedback_windows.h"
+#include "app/noun_navigation.h"
 #include "app/verb_navigation.h"
 #include "shell/windows/about.h"
 #include "shell/windows/help.h"
@@ -25,6 +26,7 @@ public:
 private:
     void connectMainMenu();
     void connectVerbs();
+    void connectNouns();
 
     void giveWay();
     void showMainMenu();
@@ -34,6 +36,7 @@ private:
     shell::MainMenu mainMenu_;
     FeedbackWindows feedback_;
     VerbNavigation verbs_{feedback_};
+    NounNavigation nouns_{feedback_};
     std::unique_ptr<shell::About> about_;
     std::unique_ptr<shell::Help> help_;
 };

@@ -1,5 +1,6 @@
 #include "tests/support/fresh_state.h"
 
+#include "nouns/declension_drill.h"
 #include "nouns/noun_list.h"
 #include "nouns/noun_tables.h"
 #include "platform/random.h"
@@ -39,6 +40,7 @@ FreshState::FreshState() : before_(fs::current_path()), folder_(freshFolder())
     shell::settings = {};
     nouns::nounList = {};
     nouns::nounTables = {};
+    nouns::declensionDrill = {};
     verbs::verbTables = {};
     verbs::verbList = {};
     verbs::currentParadigm = {};
