@@ -73,6 +73,12 @@ void Navigation::connectNouns()
         giveWay();
         nouns_.showDeclinationChoose();
     });
+    connect(&mainMenu_, &MainMenu::pronounsRequested, this, [this] {
+        const Hourglass hourglass;
+        shell::settings.ExerciseType = shell::exercise::Pronouns;
+        giveWay();
+        nouns_.showPronounChooser();
+    });
     connect(&nouns_, &NounNavigation::left, this, &Navigation::showMainMenu);
     connect(&nouns_, &NounNavigation::helpRequested, this, &Navigation::showHelp);
 }

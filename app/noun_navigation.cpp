@@ -2,6 +2,7 @@
 
 #include "app/hourglass.h"
 #include "nouns/declension_drill.h"
+#include "nouns/pronoun_drill.h"
 #include "shell/drill.h"
 #include "shell/settings.h"
 
@@ -9,6 +10,8 @@ namespace app {
 
 using nouns::Declination;
 using nouns::DeclinationChoose;
+using nouns::PronounChooser;
+using nouns::PronounSingular;
 
 NounNavigation::NounNavigation(FeedbackWindows& feedback) : feedback_(feedback) {}
 
@@ -39,9 +42,41 @@ Declination& NounNavigation::declination()
     return *declination_;
 }
 
+PronounChooser& NounNavigation::pronounChooser()
+{
+    if (pronounChooser_)
+        return *pronounChooser_;
+    pronounChooser_ = std::make_unique<PronounChooser>();
+    const PronounChooser* const window = pronounChooser_.get();
+    connect(window, &PronounChooser::chosen, this, &NounNavigation::takePronouns);
+    connect(window, &PronounChooser::helpRequested, this, &NounNavigation::helpRequested);
+    connect(window, &PronounChooser::cancelled, this, [this] {
+        pronounChooser_->hide();
+        Q_EMIT left();
+    });
+    return *pronounChooser_;
+}
+
+PronounSingular& NounNavigation::pronounSingular()
+{
+    if (pronounSingular_)
+        return *pronounSingular_;
+    pronounSingular_ = std::make_unique<PronounSingular>();
+    const PronounSingular* const window = pronounSingular_.get();
+    connect(window, &PronounSingular::answerJudged, this, [this](bool right) { feedback_.announce(right); });
+    connect(window, &PronounSingular::left, this, &NounNavigation::leavePronouns);
+    connect(window, &PronounSingular::helpRequested, this, &NounNavigation::helpRequested);
+    return *pronounSingular_;
+}
+
 void NounNavigation::showDeclinationChoose()
 {
     declinationChoose().open();
+}
+
+void NounNavigation::showPronounChooser()
+{
+    pronounChooser().open();
 }
 
 void NounNavigation::takeDeclension(int row)
@@ -61,6 +96,25 @@ void NounNavigation::leaveDeclination()
     feedback_.hide();
     declination_->hide();
     declinationChoose().open();
+}
+
+void NounNavigation::takePronouns(int row)
+{
+    const Hourglass hourglass;
+    if (!nouns::choosePronouns(row))
+        return;
+    shell::beginDrill(shell::exercise::Pronouns);
+    pronounChooser_->hide();
+    pronounSingular().open();
+}
+
+void NounNavigation::leavePronouns()
+{
+    const Hourglass hourglass;
+    shell::leaveDrill();
+    feedback_.hide();
+    pronounSingular_->hide();
+    pronounChooser().open();
 }
 
 } // namespace app

@@ -3,6 +3,8 @@
 #include "app/feedback_windows.h"
 #include "nouns/windows/declination.h"
 #include "nouns/windows/declination_choose.h"
+#include "nouns/windows/pronoun_chooser.h"
+#include "nouns/windows/pronoun_singular.h"
 
 #include <QObject>
 
@@ -18,6 +20,7 @@ public:
     explicit NounNavigation(FeedbackWindows& feedback);
 
     void showDeclinationChoose();
+    void showPronounChooser();
 
 Q_SIGNALS:
     /// The last of these windows was left for the main window.
@@ -27,13 +30,19 @@ Q_SIGNALS:
 private:
     nouns::DeclinationChoose& declinationChoose();
     nouns::Declination& declination();
+    nouns::PronounChooser& pronounChooser();
+    nouns::PronounSingular& pronounSingular();
 
     void takeDeclension(int row);
     void leaveDeclination();
+    void takePronouns(int row);
+    void leavePronouns();
 
     FeedbackWindows& feedback_;
     std::unique_ptr<nouns::DeclinationChoose> declinationChoose_;
     std::unique_ptr<nouns::Declination> declination_;
+    std::unique_ptr<nouns::PronounChooser> pronounChooser_;
+    std::unique_ptr<nouns::PronounSingular> pronounSingular_;
 };
 
 } // namespace app

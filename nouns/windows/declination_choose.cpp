@@ -11,8 +11,8 @@ namespace {
 using shell::Caption;
 using shell::LanguageTexts;
 
-// "Choississez", "déclinasion", "neutro" in French and the uneven blanks around hyphens are meant. Italian keeps
-// the texts that the window is designed with.
+// "Choississez", "déclinasion", "neutro" in French and the uneven blanks around hyphens are meant. Italian
+// keeps the texts that the window is designed with.
 // clang-format off
 constexpr std::array Captions = {
     //                            English                French                         Italian  German                        Spanish                   Latin

@@ -3,6 +3,7 @@
 #include "nouns/declension_drill.h"
 #include "nouns/noun_list.h"
 #include "nouns/noun_tables.h"
+#include "nouns/pronoun_drill.h"
 #include "platform/random.h"
 #include "shell/drill.h"
 #include "shell/settings.h"
@@ -41,6 +42,7 @@ FreshState::FreshState() : before_(fs::current_path()), folder_(freshFolder())
     nouns::nounList = {};
     nouns::nounTables = {};
     nouns::declensionDrill = {};
+    nouns::pronounDrill = {};
     verbs::verbTables = {};
     verbs::verbList = {};
     verbs::currentParadigm = {};
