@@ -79,6 +79,15 @@ void Navigation::connectNouns()
         giveWay();
         nouns_.showPronounChooser();
     });
+    connect(&mainMenu_, &MainMenu::nounQuizRequested, this, [this] {
+        giveWay();
+        nouns_.showNounQuiz();
+    });
+    connect(&mainMenu_, &MainMenu::nounManagerRequested, this, [this] {
+        giveWay();
+        nouns_.showNounManager();
+    });
+    connect(&nouns_, &NounNavigation::delayRequested, &mainMenu_, &MainMenu::delayRequested);
     connect(&nouns_, &NounNavigation::left, this, &Navigation::showMainMenu);
     connect(&nouns_, &NounNavigation::helpRequested, this, &Navigation::showHelp);
 }

@@ -10,6 +10,8 @@ namespace app {
 
 using nouns::Declination;
 using nouns::DeclinationChoose;
+using nouns::NounHandler;
+using nouns::NounQuiz;
 using nouns::PronounChooser;
 using nouns::PronounSingular;
 
@@ -69,6 +71,32 @@ PronounSingular& NounNavigation::pronounSingular()
     return *pronounSingular_;
 }
 
+NounQuiz& NounNavigation::nounQuiz()
+{
+    if (nounQuiz_)
+        return *nounQuiz_;
+    nounQuiz_ = std::make_unique<NounQuiz>();
+    const NounQuiz* const window = nounQuiz_.get();
+    connect(window, &NounQuiz::left, this, &NounNavigation::leaveNounQuiz);
+    connect(window, &NounQuiz::optionsRequested, this, &NounNavigation::delayRequested);
+    connect(window, &NounQuiz::helpRequested, this, &NounNavigation::helpRequested);
+    return *nounQuiz_;
+}
+
+NounHandler& NounNavigation::nounHandler()
+{
+    if (nounHandler_)
+        return *nounHandler_;
+    nounHandler_ = std::make_unique<NounHandler>();
+    const NounHandler* const window = nounHandler_.get();
+    connect(window, &NounHandler::helpRequested, this, &NounNavigation::helpRequested);
+    connect(window, &NounHandler::left, this, [this] {
+        nounHandler_->hide();
+        Q_EMIT left();
+    });
+    return *nounHandler_;
+}
+
 void NounNavigation::showDeclinationChoose()
 {
     declinationChoose().open();
@@ -77,6 +105,16 @@ void NounNavigation::showDeclinationChoose()
 void NounNavigation::showPronounChooser()
 {
     pronounChooser().open();
+}
+
+void NounNavigation::showNounQuiz()
+{
+    nounQuiz().open();
+}
+
+void NounNavigation::showNounManager()
+{
+    nounHandler().open();
 }
 
 void NounNavigation::takeDeclension(int row)
@@ -115,6 +153,13 @@ void NounNavigation::leavePronouns()
     feedback_.hide();
     pronounSingular_->hide();
     pronounChooser().open();
+}
+
+void NounNavigation::leaveNounQuiz()
+{
+    shell::leaveDrill();
+    nounQuiz_->hide();
+    Q_EMIT left();
 }
 
 } // namespace app

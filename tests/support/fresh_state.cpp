@@ -2,6 +2,7 @@
 
 #include "nouns/declension_drill.h"
 #include "nouns/noun_list.h"
+#include "nouns/noun_quiz.h"
 #include "nouns/noun_tables.h"
 #include "nouns/pronoun_drill.h"
 #include "platform/random.h"
@@ -42,6 +43,7 @@ FreshState::FreshState() : before_(fs::current_path()), folder_(freshFolder())
     nouns::nounList = {};
     nouns::nounTables = {};
     nouns::declensionDrill = {};
+    nouns::nounQuestion = {};
     nouns::pronounDrill = {};
     verbs::verbTables = {};
     verbs::verbList = {};
