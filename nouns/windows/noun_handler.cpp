@@ -13,6 +13,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScrollBar>
 
 #include <algorithm>
 
@@ -61,6 +62,8 @@ void NounHandler::makeControls()
     add_->setAutoDefault(true);
     close_->setObjectName(QStringLiteral("NHClose"));
     close_->setAutoDefault(true);
+    nouns_->setMinimumWidth(nouns_->fontMetrics().horizontalAdvance(QLatin1String(NewItem)) +
+                            2 * nouns_->verticalScrollBar()->sizeHint().width());
     for (const char* const name : Declensions)
         declensions_->addItem(QLatin1String(name));
 }

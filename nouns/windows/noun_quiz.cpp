@@ -25,6 +25,7 @@ namespace {
 
 constexpr QSize LargestBlock{88, 38};
 constexpr int DeclensionsOfRow = 3;
+constexpr int LinesOfAnswer = 2;
 
 // clang-format off
 constexpr std::array Captions = {
@@ -85,8 +86,11 @@ void NounQuiz::makeControls()
     shell::setType(*indices_, shell::NoteType);
     shell::setBoldType(*verdict_, shell::HeadingType);
     shell::setType(*answer_, shell::FormType);
+    answer_->setAlignment(Qt::AlignTop);
     for (QLabel* const label : {info_, answer_})
         label->setWordWrap(true);
+    verdict_->setMinimumHeight(verdict_->fontMetrics().lineSpacing());
+    answer_->setMinimumHeight(LinesOfAnswer * answer_->fontMetrics().lineSpacing());
     ok_ = makeButton(this, "NQOK");
     skip_ = makeButton(this, "NQSkip");
     options_ = makeButton(this, "NQOptions");
