@@ -30,6 +30,8 @@ Navigation::Navigation()
     connectMainMenu();
     connectVerbs();
     connectNouns();
+    connectQuiz();
+    connectVocabulary();
 }
 
 void Navigation::start()
@@ -90,6 +92,31 @@ void Navigation::connectNouns()
     connect(&nouns_, &NounNavigation::delayRequested, &mainMenu_, &MainMenu::delayRequested);
     connect(&nouns_, &NounNavigation::left, this, &Navigation::showMainMenu);
     connect(&nouns_, &NounNavigation::helpRequested, this, &Navigation::showHelp);
+}
+
+void Navigation::connectQuiz()
+{
+    connect(&mainMenu_, &MainMenu::quizRequested, this, [this] {
+        giveWay();
+        quiz_.showQuiz();
+    });
+    connect(&quiz_, &QuizNavigation::left, this, &Navigation::showMainMenu);
+    connect(&quiz_, &QuizNavigation::helpRequested, this, &Navigation::showHelp);
+}
+
+void Navigation::connectVocabulary()
+{
+    connect(&mainMenu_, &MainMenu::vocabularyRequested, this, [this] {
+        const Hourglass hourglass;
+        giveWay();
+        vocabulary_.showTester();
+    });
+    connect(&mainMenu_, &MainMenu::vocabularyManagerRequested, this, [this] {
+        giveWay();
+        vocabulary_.showManager();
+    });
+    connect(&vocabulary_, &VocabularyNavigation::left, this, &Navigation::showMainMenu);
+    connect(&vocabulary_, &VocabularyNavigation::helpRequested, this, &Navigation::showHelp);
 }
 
 void Navigation::giveWay()

@@ -2,7 +2,9 @@
 
 #include "app/feedback_windows.h"
 #include "app/noun_navigation.h"
+#include "app/quiz_navigation.h"
 #include "app/verb_navigation.h"
+#include "app/vocabulary_navigation.h"
 #include "shell/windows/about.h"
 #include "shell/windows/help.h"
 #include "shell/windows/main_menu.h"
@@ -27,6 +29,8 @@ private:
     void connectMainMenu();
     void connectVerbs();
     void connectNouns();
+    void connectQuiz();
+    void connectVocabulary();
 
     void giveWay();
     void showMainMenu();
@@ -37,6 +41,8 @@ private:
     FeedbackWindows feedback_;
     VerbNavigation verbs_{feedback_};
     NounNavigation nouns_{feedback_};
+    QuizNavigation quiz_{feedback_};
+    VocabularyNavigation vocabulary_{feedback_};
     std::unique_ptr<shell::About> about_;
     std::unique_ptr<shell::Help> help_;
 };

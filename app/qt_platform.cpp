@@ -1,5 +1,7 @@
 #include "app/qt_platform.h"
 
+#include "app/sound_player.h"
+
 #include <QApplication>
 #include <QEventLoop>
 #include <QMessageBox>
@@ -32,17 +34,20 @@ void QtPlatform::beep()
 
 void QtPlatform::openSound(const std::string& waveFile)
 {
-    sound_.open(waveFile);
+    if (SoundPlayer* const player = soundPlayer())
+        player->open(waveFile);
 }
 
 void QtPlatform::playSound(const std::string& waveFile)
 {
-    sound_.play(waveFile);
+    if (SoundPlayer* const player = loadedSoundPlayer())
+        player->play(waveFile);
 }
 
 bool QtPlatform::soundIsPlaying() const
 {
-    return sound_.isPlaying();
+    const SoundPlayer* const player = loadedSoundPlayer();
+    return player != nullptr && player->isPlaying();
 }
 
 bool QtPlatform::startProgram(const std::string& commandLine)

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "app/qt_sound.h"
 #include "platform/platform.h"
 
 namespace app {
@@ -20,7 +19,6 @@ public:
     bool ending() const override;
 
 private:
-    QtSound sound_;
     bool ending_ = false;
 };
 

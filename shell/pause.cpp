@@ -39,9 +39,10 @@ private:
     int session_;
 };
 
-std::chrono::milliseconds untilReached(double end, float now)
+// Never past midnight, where the clock starts again.
+std::chrono::milliseconds untilReached(double time, double now)
 {
-    const double left = std::min((end - double{now}) * 1000, SecondsOfDay * 1000);
+    const double left = (std::min(time, SecondsOfDay) - now) * 1000;
     return std::chrono::milliseconds(std::max(1L, std::lround(std::ceil(left))));
 }
 
@@ -51,17 +52,16 @@ void Pause()
 {
     const Wait wait;
     platform::Platform& platform = platform::current();
-    const float start = platform.secondsSinceMidnight();
+    const double start = double{platform.secondsSinceMidnight()};
     bool pastMidnight = false;
     while (!wait.isOff()) {
-        const float now = platform.secondsSinceMidnight();
-        const double end = double{start} + settings.DelaySeconds;
-        if (double{now} >= end)
-            return;
+        const double now = double{platform.secondsSinceMidnight()};
+        const double end = start + settings.DelaySeconds;
         pastMidnight = pastMidnight || now < start;
-        if (pastMidnight && end >= SecondsOfDay && now >= start)
+        const bool sameTimeAgain = pastMidnight && end >= SecondsOfDay && now >= start;
+        if (now >= end || sameTimeAgain)
             return;
-        platform.waitForEvents(untilReached(end, now));
+        platform.waitForEvents(untilReached(pastMidnight ? std::min(start, end) : end, now));
     }
 }
 

@@ -1,5 +1,7 @@
 #include "verbs/verb_edits.h"
 
+#include "shell/vowel_marks.h"
+
 #include <algorithm>
 #include <array>
 #include <string_view>
@@ -27,6 +29,15 @@ void store(const Edit& edit)
     count = std::max(count, static_cast<std::int16_t>(edit.number));
 }
 
+// A stem that was left as it stood while marks were not shown takes its marks from the list.
+void keepMarks(VerbRecord& edited, const VerbRecord& listed)
+{
+    for (std::string VerbRecord::*const stem :
+         {&VerbRecord::presentStem, &VerbRecord::perfectStem, &VerbRecord::supineStem})
+        if (edited.*stem == shell::StripOutColons(listed.*stem))
+            edited.*stem = listed.*stem;
+}
+
 } // namespace
 
 VerbEdit editVerb(int verbClass, int number, const VerbRecord& verb)
@@ -44,7 +55,10 @@ VerbEdit editVerb(int verbClass, int number, const VerbRecord& verb)
 
 void repeatVerbEdits()
 {
-    std::ranges::for_each(edits, store);
+    for (Edit edit : edits) {
+        keepMarks(edit.verb, verbAt(edit.verbClass, edit.number));
+        store(edit);
+    }
 }
 
 void forgetVerbEdits()

@@ -8,6 +8,7 @@
 #include "shell/settings.h"
 #include "shell/windows/answer_box.h"
 #include "shell/windows/captions.h"
+#include "shell/windows/controls.h"
 #include "shell/windows/text.h"
 #include "shell/windows/type.h"
 
@@ -53,19 +54,11 @@ constexpr std::array Captions = {
 };
 // clang-format on
 
-template <typename Control>
-Control* make(QWidget* parent, const char* name)
+QGroupBox* makeFrame(QWidget* parent, const char* name)
 {
-    auto* const control = new Control(parent);
-    control->setObjectName(QLatin1String(name));
-    return control;
-}
-
-QPushButton* makeButton(QWidget* parent, const char* name)
-{
-    auto* const button = make<QPushButton>(parent, name);
-    button->setAutoDefault(true);
-    return button;
+    auto* const frame = new QGroupBox(parent);
+    frame->setObjectName(QLatin1String(name));
+    return frame;
 }
 
 } // namespace
@@ -88,21 +81,22 @@ Declination::~Declination()
 
 void Declination::makeControls()
 {
-    heading_ = make<QLabel>(this, "HeadingLabel");
-    noun_ = make<QLabel>(this, "NounLabel");
-    score_ = make<QLabel>(this, "ScoreLabel");
+    heading_ = shell::makeLabel(this, "HeadingLabel");
+    noun_ = shell::makeLabel(this, "NounLabel");
+    score_ = shell::makeLabel(this, "ScoreLabel");
     shell::setType(*heading_, shell::FormType);
     shell::setBoldType(*noun_, shell::HeadingType);
     shell::setBoldType(*score_, shell::HeadingType);
     noun_->setWordWrap(true);
-    singular_ = make<QGroupBox>(this, "Frame1");
-    plural_ = make<QGroupBox>(this, "Frame2");
-    continue_ = makeButton(this, "Continue");
-    question_ = makeButton(this, "DeclQuestion");
-    quit_ = makeButton(this, "DeclQuitButton");
+    singular_ = makeFrame(this, "Frame1");
+    plural_ = makeFrame(this, "Frame2");
+    continue_ = shell::makeButton(this, "Continue");
+    question_ = shell::makeButton(this, "DeclQuestion");
+    quit_ = shell::makeButton(this, "DeclQuitButton");
     question_->setText(QStringLiteral("?"));
     question_->setAccessibleName(QStringLiteral("Show the answer"));
-    dummy_ = make<QWidget>(this, "DDummy");
+    dummy_ = new QWidget(this);
+    dummy_->setObjectName(QStringLiteral("DDummy"));
     dummy_->resize(1, 1);
 }
 
@@ -114,7 +108,7 @@ void Declination::makeBoxes()
         boxes_.at(static_cast<std::size_t>(i)) = box;
     }
     for (std::size_t i = 0; i < cases_.size(); ++i) {
-        cases_.at(i) = make<QLabel>(singular_, CaseLabels.at(i));
+        cases_.at(i) = shell::makeLabel(singular_, CaseLabels.at(i));
         cases_.at(i)->setText(QLatin1String(CaseNames.at(i)));
         cases_.at(i)->setBuddy(boxes_.at(i));
         cases_.at(i)->setMinimumHeight(boxes_.at(i)->sizeHint().height());
@@ -167,7 +161,7 @@ QBoxLayout* Declination::buttonRow()
 {
     auto* const row = new QHBoxLayout;
     row->setSpacing(shell::SmallSpace);
-    row->addWidget(make<QLabel>(this, "HelpLabel"));
+    row->addWidget(shell::makeLabel(this, "HelpLabel"));
     row->addStretch();
     row->addWidget(continue_);
     row->addWidget(question_);

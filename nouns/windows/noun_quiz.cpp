@@ -6,6 +6,7 @@
 #include "shell/feedback_texts.h"
 #include "shell/pause.h"
 #include "shell/windows/captions.h"
+#include "shell/windows/controls.h"
 #include "shell/windows/text.h"
 #include "shell/windows/type.h"
 
@@ -47,19 +48,11 @@ constexpr std::array<const char*, NamedDeclensionCount> Declensions = {
 // The declension that a paradigm belongs to, by the index of the paradigm.
 constexpr std::array DeclensionOf = {0, 1, 1, 1, 4, 4, 5, 2, 2};
 
-template <typename Control>
-Control* make(QWidget* parent, const QString& name)
+QGroupBox* makeFrame(QWidget* parent, const char* name)
 {
-    auto* const control = new Control(parent);
-    control->setObjectName(name);
-    return control;
-}
-
-QPushButton* makeButton(QWidget* parent, const char* name)
-{
-    auto* const button = make<QPushButton>(parent, QLatin1String(name));
-    button->setAutoDefault(true);
-    return button;
+    auto* const frame = new QGroupBox(parent);
+    frame->setObjectName(QLatin1String(name));
+    return frame;
 }
 
 } // namespace
@@ -76,11 +69,11 @@ NounQuiz::NounQuiz() : Window("NounQuiz")
 
 void NounQuiz::makeControls()
 {
-    form_ = make<QLabel>(this, QStringLiteral("NounQuizForm"));
-    info_ = make<QLabel>(this, QStringLiteral("NounQuizInfo"));
-    indices_ = make<QLabel>(this, QStringLiteral("NounQuizIndices"));
-    verdict_ = make<QLabel>(this, QStringLiteral("NounQuizVerdict"));
-    answer_ = make<QLabel>(this, QStringLiteral("NounRightAnswer"));
+    form_ = shell::makeLabel(this, "NounQuizForm");
+    info_ = shell::makeLabel(this, "NounQuizInfo");
+    indices_ = shell::makeLabel(this, "NounQuizIndices");
+    verdict_ = shell::makeLabel(this, "NounQuizVerdict");
+    answer_ = shell::makeLabel(this, "NounRightAnswer");
     shell::setBoldType(*form_, shell::TitleType);
     shell::setType(*info_, shell::FormType);
     shell::setType(*indices_, shell::NoteType);
@@ -91,26 +84,26 @@ void NounQuiz::makeControls()
         label->setWordWrap(true);
     verdict_->setMinimumHeight(verdict_->fontMetrics().lineSpacing());
     answer_->setMinimumHeight(LinesOfAnswer * answer_->fontMetrics().lineSpacing());
-    ok_ = makeButton(this, "NQOK");
-    skip_ = makeButton(this, "NQSkip");
-    options_ = makeButton(this, "NQOptions");
-    cancel_ = makeButton(this, "NQCancel");
+    ok_ = shell::makeButton(this, "NQOK");
+    skip_ = shell::makeButton(this, "NQSkip");
+    options_ = shell::makeButton(this, "NQOptions");
+    cancel_ = shell::makeButton(this, "NQCancel");
     skip_->setText(QStringLiteral("S&kip"));
     options_->setText(QStringLiteral("O&ptions..."));
     for (std::size_t i = 0; i < declensions_.size(); ++i) {
-        declensions_.at(i) = make<QLabel>(this, QStringLiteral("NounQuizDeclension%1").arg(i));
-        declensions_.at(i)->setText(QLatin1String(Declensions.at(i)));
+        declensions_.at(i) = new QLabel(QLatin1String(Declensions.at(i)));
+        declensions_.at(i)->setObjectName(QStringLiteral("NounQuizDeclension%1").arg(i));
     }
 }
 
 void NounQuiz::makeChecks()
 {
-    singular_ = make<QGroupBox>(this, QStringLiteral("QuizSingular"));
-    plural_ = make<QGroupBox>(this, QStringLiteral("QuizPlural"));
+    singular_ = makeFrame(this, "QuizSingular");
+    plural_ = makeFrame(this, "QuizPlural");
     for (std::size_t i = 0; i < checks_.size(); ++i) {
         QGroupBox* const frame = i < CasesOfNumber ? singular_ : plural_;
-        checks_.at(i) = make<QCheckBox>(frame, QLatin1String(CheckNames.at(i)));
-        checks_.at(i)->setText(QLatin1String(CaseNames.at(i % CasesOfNumber)));
+        checks_.at(i) = new QCheckBox(QLatin1String(CaseNames.at(i % CasesOfNumber)), frame);
+        checks_.at(i)->setObjectName(QLatin1String(CheckNames.at(i)));
     }
 }
 

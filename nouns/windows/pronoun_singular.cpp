@@ -6,6 +6,7 @@
 #include "shell/settings.h"
 #include "shell/windows/answer_box.h"
 #include "shell/windows/captions.h"
+#include "shell/windows/controls.h"
 #include "shell/windows/text.h"
 #include "shell/windows/type.h"
 
@@ -52,6 +53,10 @@ constexpr ColumnTexts SingularGenders = {"Masc. Sing.",   "Fem. Sing.",    "Neut
 constexpr ColumnTexts PluralGenders   = {"Masc. Plur.",   "Fem. Plur.",    "Neut. Plur."};
 // clang-format on
 
+constexpr std::array ColumnLabels = {"ColumnLabel1", "ColumnLabel2", "ColumnLabel3"};
+constexpr std::array CaseLabels = {"NominativeLabel", "GenitiveLabel", "DativeLabel", "AccusativeLabel",
+                                   "AblativeLabel"};
+
 constexpr int PersonalGroup = 0;
 
 const ColumnTexts& columnTexts()
@@ -60,21 +65,6 @@ const ColumnTexts& columnTexts()
     if (pronounDrill.Group == PersonalGroup)
         return singular ? SingularPersons : PluralPersons;
     return singular ? SingularGenders : PluralGenders;
-}
-
-QLabel* makeLabel(QWidget* parent, const QString& name)
-{
-    auto* const label = new QLabel(parent);
-    label->setObjectName(name);
-    return label;
-}
-
-QPushButton* makeButton(QWidget* parent, const char* name)
-{
-    auto* const button = new QPushButton(parent);
-    button->setObjectName(QLatin1String(name));
-    button->setAutoDefault(true);
-    return button;
 }
 
 } // namespace
@@ -96,15 +86,15 @@ PronounSingular::~PronounSingular()
 
 void PronounSingular::makeControls()
 {
-    heading_ = makeLabel(this, QStringLiteral("HeadingLabel"));
-    score_ = makeLabel(this, QStringLiteral("ScoreLabel"));
+    heading_ = shell::makeLabel(this, "HeadingLabel");
+    score_ = shell::makeLabel(this, "ScoreLabel");
     shell::setBoldType(*heading_, shell::HeadingType);
     shell::setBoldType(*score_, shell::HeadingType);
     heading_->setWordWrap(true);
     for (std::size_t i = 0; i < columns_.size(); ++i)
-        columns_.at(i) = makeLabel(this, QStringLiteral("ColumnLabel%1").arg(i + 1));
-    ok_ = makeButton(this, "PronounOK");
-    cancel_ = makeButton(this, "PronounCancel");
+        columns_.at(i) = shell::makeLabel(this, ColumnLabels.at(i));
+    ok_ = shell::makeButton(this, "PronounOK");
+    cancel_ = shell::makeButton(this, "PronounCancel");
 }
 
 void PronounSingular::makeBoxes()
@@ -115,7 +105,7 @@ void PronounSingular::makeBoxes()
         boxes_.at(static_cast<std::size_t>(cell - 1)) = box;
     }
     for (std::size_t i = 0; i < cases_.size(); ++i) {
-        cases_.at(i) = makeLabel(this, QLatin1String(CaseNames.at(i)) + QStringLiteral("Label"));
+        cases_.at(i) = shell::makeLabel(this, CaseLabels.at(i));
         cases_.at(i)->setText(QLatin1String(CaseNames.at(i)));
         cases_.at(i)->setBuddy(boxes_.at(i));
     }
@@ -152,7 +142,7 @@ QBoxLayout* PronounSingular::buttonRow()
 {
     auto* const row = new QHBoxLayout;
     row->setSpacing(shell::SmallSpace);
-    row->addWidget(makeLabel(this, QStringLiteral("HelpLabel")));
+    row->addWidget(shell::makeLabel(this, "HelpLabel"));
     row->addStretch();
     row->addWidget(ok_);
     row->addWidget(cancel_);

@@ -1,5 +1,6 @@
 #include "shell/windows/chooser.h"
 
+#include "shell/windows/big_frame.h"
 #include "shell/windows/captions.h"
 #include "shell/windows/choice_list.h"
 #include "shell/windows/text.h"
@@ -11,7 +12,26 @@
 #include <QPushButton>
 #include <QScreen>
 
+#include <algorithm>
+
 namespace shell {
+
+namespace {
+
+constexpr int RowSpace = 2;
+constexpr double RowType = 1.2;
+
+// Room for every row, up to most of the screen's height; a longer list scrolls.
+QSize roomForRows(const ChoiceList& list)
+{
+    int height = 2 * list.frameWidth() + 2 * RowSpace;
+    for (int row = 0; row < list.count(); ++row)
+        height += list.sizeHintForRow(row) + 2 * RowSpace;
+    const int width = list.sizeHintForColumn(0) + 2 * list.frameWidth() + 2 * RowSpace + WideSpace;
+    return {width, std::min(height, list.screen()->geometry().height() * 7 / 10)};
+}
+
+} // namespace
 
 Chooser::Chooser(const ChooserNames& names, std::span<const Caption> captions,
                  std::span<const LanguageTexts> rows)
@@ -32,9 +52,9 @@ void Chooser::makeControls(const ChooserNames& names)
     cancel_->setObjectName(fromUtf8(names.cancel));
     ok_->setAutoDefault(true);
     cancel_->setAutoDefault(true);
-    setType(*list_, 1.15);
-    list_->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
-    list_->setSpacing(2);
+    setType(*list_, RowType);
+    list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    list_->setSpacing(RowSpace);
 }
 
 void Chooser::layOut()
@@ -67,7 +87,7 @@ void Chooser::open()
     if (!isVisible())
         resize(frame_->sizeHint());
     showInMainWindowState();
-    placeFrame();
+    placeBigFrame(*this, *frame_);
     if (beginsAtOk())
         ok_->setFocus();
     else
@@ -85,8 +105,9 @@ void Chooser::fill()
     fillList(*list_, rows_);
     list_->setAccessibleName(windowTitle());
     ok_->setEnabled(beginsAtOk());
+    list_->setMinimumSize(roomForRows(*list_));
     setMinimumSize(frame_->minimumSizeHint());
-    placeFrame();
+    placeBigFrame(*this, *frame_);
     beginChoice();
 }
 
@@ -112,22 +133,7 @@ void Chooser::keyPressEvent(QKeyEvent* event)
 void Chooser::resizeEvent(QResizeEvent* event)
 {
     Window::resizeEvent(event);
-    placeFrame();
-}
-
-// On a maximised window the frame stands in the middle of the screen, a little to the left: the divisor of
-// the width is meant.
-void Chooser::placeFrame()
-{
-    if (!isMaximized()) {
-        frame_->setGeometry(rect());
-        return;
-    }
-    const QSize screenSize = screen()->geometry().size();
-    const QSize frameSize = frame_->sizeHint().boundedTo(size());
-    frame_->setGeometry(static_cast<int>(screenSize.width() / 2.0 - frameSize.width() / 1.9),
-                        static_cast<int>(screenSize.height() / 2.0 - frameSize.height() / 2.0),
-                        frameSize.width(), frameSize.height());
+    placeBigFrame(*this, *frame_);
 }
 
 } // namespace shell

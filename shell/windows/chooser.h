@@ -58,7 +58,6 @@ private:
     void connectControls();
     void fill();
     void choose();
-    void placeFrame();
 
     std::span<const Caption> captions_;
     std::span<const LanguageTexts> rows_;

@@ -23,6 +23,9 @@ namespace {
 
 constexpr QSize LargestBlock{72, 34};
 
+constexpr int ButtonCharacters = 18;
+constexpr int ButtonLines = 3;
+
 // The buttons as they stand on the window: two columns, read line by line.
 constexpr std::array Buttons = {"ConjugationButton", "DeclensionButton", "PronounButton",
                                 "QuizButton",        "VocabularyButton", "ExitButton"};
@@ -60,6 +63,8 @@ void MainMenu::makeControls()
         made->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
         made->setAutoDefault(true);
         setType(*made, FormType);
+        made->setMinimumSize(ButtonCharacters * made->fontMetrics().averageCharWidth(),
+                             ButtonLines * made->fontMetrics().lineSpacing());
     }
 }
 

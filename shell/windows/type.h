@@ -14,11 +14,14 @@ inline constexpr int WideSpace = 24;
 /// Sizes of type, as multiples of the desktop's own.
 inline constexpr double TitleType = 2.4;
 inline constexpr double HeadingType = 1.6;
-inline constexpr double FormType = 1.35;
+inline constexpr double FormType = 1.5;
 inline constexpr double NoteType = 0.95;
 
 /// Sets a widget's font to a multiple of the application's.
 void setType(QWidget& widget, double factor);
+
+/// Makes a widget at least so many characters of its own font wide.
+void setLeastWidth(QWidget& widget, int characters);
 
 /// Sets a widget's font likewise, and bold.
 void setBoldType(QWidget& widget, double factor);

@@ -16,8 +16,9 @@ float FakePlatform::secondsSinceMidnight() const
 void FakePlatform::waitForEvents(std::chrono::milliseconds atMost)
 {
     ++waits;
-    if (whileWaiting)
-        whileWaiting();
+    // A copy: what happens may be to set another.
+    if (const auto happening = whileWaiting)
+        happening();
     clock += static_cast<double>(atMost.count()) / 1000;
 }
 

@@ -9,9 +9,14 @@
 #include "shell/drill.h"
 #include "shell/settings.h"
 #include "verbdrills/conjugation_drill.h"
+#include "verbdrills/quiz_inclusion.h"
+#include "verbdrills/verb_quiz.h"
 #include "verbs/verb_edits.h"
 #include "verbs/verb_list.h"
 #include "verbs/verb_tables.h"
+#include "vocabulary/vocabulary_edits.h"
+#include "vocabulary/vocabulary_list.h"
+#include "vocabulary/vocabulary_tester.h"
 
 #include <fstream>
 #include <iterator>
@@ -50,6 +55,11 @@ FreshState::FreshState() : before_(fs::current_path()), folder_(freshFolder())
     verbs::currentParadigm = {};
     verbs::forgetVerbEdits();
     verbdrills::conjugationDrill = {};
+    verbdrills::verbQuiz = {};
+    verbdrills::QuizIncludeSet = platform::FlagFalse;
+    vocabulary::vocabularyList = {};
+    vocabulary::vocabularyTester = {};
+    vocabulary::vocabularyEditor = {};
 }
 
 FreshState::~FreshState()

@@ -5,6 +5,7 @@
 #include "shell/settings.h"
 #include "shell/windows/answer_box.h"
 #include "shell/windows/captions.h"
+#include "shell/windows/controls.h"
 #include "shell/windows/text.h"
 #include "shell/windows/type.h"
 #include "verbdrills/gloss.h"
@@ -20,11 +21,13 @@ namespace verbdrills {
 
 using shell::AnswerBox;
 using shell::Caption;
+using shell::makeButton;
+using shell::makeLabel;
 using verbs::currentParadigm;
 
 namespace {
 
-constexpr QSize LargestBlock{88, 34};
+constexpr QSize LargestBlock{96, 30};
 constexpr int PersonsOfNumber = 3;
 constexpr std::array PersonRows = {"FirstPerson", "SecondPerson", "ThirdPerson"};
 
@@ -42,21 +45,6 @@ constexpr std::array Captions = {
     Caption{"HelpLabel",     {"Help=F1",  "Assistance=F1",      {}, "Hilfe=F1", "Ayuda=F1", "Auxilium=F1"}},
 };
 // clang-format on
-
-QLabel* makeLabel(QWidget* parent, const char* name)
-{
-    auto* const label = new QLabel(parent);
-    label->setObjectName(QLatin1String(name));
-    return label;
-}
-
-QPushButton* makeButton(QWidget* parent, const char* name)
-{
-    auto* const button = new QPushButton(parent);
-    button->setObjectName(QLatin1String(name));
-    button->setAutoDefault(true);
-    return button;
-}
 
 } // namespace
 
@@ -129,7 +117,7 @@ QGridLayout* Conjugation::answerGrid()
 {
     auto* const grid = new QGridLayout;
     grid->setHorizontalSpacing(shell::LargeSpace);
-    grid->setVerticalSpacing(shell::HairSpace);
+    grid->setVerticalSpacing(shell::SmallSpace);
     grid->setColumnStretch(1, 1);
     grid->setColumnStretch(2, 1);
     grid->addWidget(makeLabel(this, "Singular"), 0, 1);
@@ -309,14 +297,11 @@ void Conjugation::moveOn()
     }
 }
 
-// A box that has the focus already is not told that it received it.
+// A box that has the focus already, or gets it while another window is active, is not told so by Qt.
 void Conjugation::focusQuestion()
 {
-    if (askedBox().hasFocus())
-        boxReceivedFocus(conjugationDrill.PersonIndex);
-    else
-        askedBox().setFocus();
-    showQuestion();
+    askedBox().setFocus();
+    boxReceivedFocus(conjugationDrill.PersonIndex);
 }
 
 void Conjugation::askAgain()

@@ -1,4 +1,4 @@
-#include "app/qt_sound.h"
+#include "app/sound/qt_sound_player.h"
 
 #include <QFileInfo>
 #include <QSoundEffect>
@@ -8,10 +8,10 @@
 
 namespace app {
 
-QtSound::QtSound() = default;
-QtSound::~QtSound() = default;
+QtSoundPlayer::QtSoundPlayer() = default;
+QtSoundPlayer::~QtSoundPlayer() = default;
 
-void QtSound::open(const std::string& waveFile)
+void QtSoundPlayer::open(const std::string& waveFile)
 {
     const QFileInfo file(QString::fromStdString(waveFile));
     if (effects_.contains(waveFile) || !file.isFile())
@@ -21,13 +21,13 @@ void QtSound::open(const std::string& waveFile)
     effects_.emplace(waveFile, std::move(effect));
 }
 
-void QtSound::play(const std::string& waveFile)
+void QtSoundPlayer::play(const std::string& waveFile)
 {
     if (const auto effect = effects_.find(waveFile); effect != effects_.end())
         effect->second->play();
 }
 
-bool QtSound::isPlaying() const
+bool QtSoundPlayer::isPlaying() const
 {
     return std::ranges::any_of(effects_, [](const auto& effect) { return effect.second->isPlaying(); });
 }

@@ -1,0 +1,116 @@
+// How long one run of the verb generators takes, beside a copy of the forms table that they fill. The main
+// procedure prints the ratio of the two and fails where it is above the limit.
+
+#include "platform/platform.h"
+#include "shell/settings.h"
+#include "verbs/generators.h"
+#include "verbs/paradigm.h"
+#include "verbs/person_labels.h"
+#include "verbs/verb_list_file.h"
+#include "verbs/verb_tables.h"
+
+#include <algorithm>
+#include <benchmark/benchmark.h>
+#include <chrono>
+#include <cstdlib>
+#include <filesystem>
+#include <iostream>
+#include <vector>
+
+namespace {
+
+constexpr double LargestRatio = 4;
+
+class StillPlatform : public platform::Platform {
+public:
+    float secondsSinceMidnight() const override { return 43200; }
+    void waitForEvents(std::chrono::milliseconds) override {}
+    void beep() override {}
+    void openSound(const std::string&) override {}
+    void playSound(const std::string&) override {}
+    bool soundIsPlaying() const override { return false; }
+    bool startProgram(const std::string&) override { return false; }
+    void showMessage(const std::string&) override {}
+    void endProgram(int) override {}
+    bool ending() const override { return false; }
+};
+
+void generate()
+{
+    verbs::setPersonLabels();
+    verbs::buildRegularConjugations();
+    verbs::buildIrregularVerbs();
+    verbs::buildThirdAndFourthConjugations();
+}
+
+using Forms = decltype(verbs::VerbTables::Forms);
+
+void copyCellByCell(const Forms& from, Forms& to)
+{
+    for (int column = 0; column < from.size(); ++column)
+        for (int row = 0; row < from[column].size(); ++row)
+            to[column][row] = from[column][row];
+}
+
+void Generators(benchmark::State& state)
+{
+    for (auto _ : state)
+        generate();
+}
+BENCHMARK(Generators);
+
+void CopyOfForms(benchmark::State& state)
+{
+    generate();
+    static Forms copy;
+    for (auto _ : state) {
+        copyCellByCell(verbs::verbTables.Forms, copy);
+        benchmark::DoNotOptimize(copy);
+    }
+}
+BENCHMARK(CopyOfForms);
+
+template <typename Work>
+double microsecondsOf(Work work)
+{
+    constexpr int runs = 200;
+    const auto begin = std::chrono::steady_clock::now();
+    for (int i = 0; i < runs; ++i)
+        work();
+    return std::chrono::duration<double, std::micro>(std::chrono::steady_clock::now() - begin).count() / runs;
+}
+
+// The two are timed in turn, so that both meet the same machine; the median of the ratios counts.
+double medianRatio()
+{
+    static Forms copy;
+    std::vector<double> ratios;
+    for (int i = 0; i < 51; ++i) {
+        const double generating = microsecondsOf(generate);
+        const double copying = microsecondsOf([] {
+            copyCellByCell(verbs::verbTables.Forms, copy);
+            benchmark::DoNotOptimize(copy);
+        });
+        ratios.push_back(generating / copying);
+    }
+    std::ranges::sort(ratios);
+    return ratios.at(ratios.size() / 2);
+}
+
+} // namespace
+
+int main(int argumentCount, char** arguments)
+{
+    StillPlatform still;
+    platform::use(still);
+    shell::settings.ShowVowelLength = platform::FlagTrue;
+    verbs::currentParadigm.ConjugationCode = verbs::FirstConjugation;
+    if (!verbs::readVerbList(std::filesystem::path(MORVANTI_DATA) / verbs::VerbListFileName))
+        return EXIT_FAILURE;
+
+    benchmark::Initialize(&argumentCount, arguments);
+    benchmark::RunSpecifiedBenchmarks();
+    const double ratio = medianRatio();
+    std::cout << "generators : copy of the forms = " << ratio << " (at most " << LargestRatio << ")\n";
+    return ratio <= LargestRatio ? EXIT_SUCCESS : EXIT_FAILURE;
+}

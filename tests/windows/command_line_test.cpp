@@ -1,0 +1,81 @@
+#include "app/command_line.h"
+#include "app/working_folder.h"
+#include "tests/support/fresh_state.h"
+
+#include <cstdlib>
+#include <vector>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+app::CommandLine read(const std::vector<std::string>& arguments)
+{
+    return app::readCommandLine(arguments);
+}
+
+TEST(CommandLine, TakesOneFolderAndKnowsItsOptions)
+{
+    EXPECT_FALSE(read({}).folder || read({}).fault || read({}).answer);
+    EXPECT_EQ(read({"lists"}).folder, "lists");
+    EXPECT_TRUE(read({"--help"}).answer.has_value());
+    EXPECT_EQ(read({"--version"}).answer->substr(0, 9), "morvanti ");
+    EXPECT_EQ(read({"-x"}).fault, "unknown option -x");
+    EXPECT_TRUE(read({"one", "two"}).fault.has_value());
+}
+
+class WorkingFolder : public tests::FreshState {
+protected:
+    WorkingFolder()
+    {
+        ::setenv("XDG_DATA_HOME", (fs::current_path() / "own").c_str(), 1);
+        fs::create_directory("samples");
+        fs::create_directory("work");
+        tests::writeFile("samples/verbs.cfg", "verbs");
+        tests::writeFile("samples/VELMOR2.WAV", "sound");
+        tests::writeFile("samples/make-sounds", "script");
+        samples_ = fs::absolute("samples");
+        fs::current_path("work");
+    }
+
+    fs::path samples_;
+};
+
+TEST_F(WorkingFolder, IsTheOneGiven)
+{
+    fs::create_directory("mine");
+    EXPECT_FALSE(app::enterWorkingFolder("mine", samples_));
+    EXPECT_EQ(fs::current_path().filename(), "mine");
+    EXPECT_EQ(app::enterWorkingFolder("nowhere", samples_), "nowhere: No such file or directory");
+}
+
+TEST_F(WorkingFolder, IsTheCurrentOneWhereItHasAVerbList)
+{
+    tests::writeFile("verbs.cfg", "");
+    EXPECT_FALSE(app::enterWorkingFolder({}, samples_));
+    EXPECT_EQ(fs::current_path().filename(), "work");
+}
+
+TEST_F(WorkingFolder, IsElseTheLearnersOwnFilledOnceWithoutReplacingAnything)
+{
+    fs::create_directories(app::ownFolder());
+    tests::writeFile((app::ownFolder() / "VELMOR2.WAV").string(), "my own");
+    EXPECT_FALSE(app::enterWorkingFolder({}, samples_));
+    EXPECT_EQ(fs::current_path(), fs::canonical(app::ownFolder()));
+    EXPECT_EQ(tests::bytesOf("verbs.cfg"), "verbs");
+    EXPECT_EQ(tests::bytesOf("VELMOR2.WAV"), "my own");
+    EXPECT_FALSE(fs::exists("make-sounds"));
+
+    fs::remove("VELMOR2.WAV");
+    fs::current_path("..");
+    EXPECT_FALSE(app::enterWorkingFolder({}, samples_));
+    EXPECT_FALSE(fs::exists("VELMOR2.WAV"));
+}
+
+TEST_F(WorkingFolder, IsNotToBeHadInTheWayOfAFile)
+{
+    tests::writeFile("../own", "a file");
+    EXPECT_TRUE(app::enterWorkingFolder({}, samples_).has_value());
+}
+
+} // namespace

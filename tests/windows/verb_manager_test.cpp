@@ -1,0 +1,113 @@
+#include "app/navigation.h"
+#include "tests/support/window_test.h"
+#include "verbs/verb_list.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+
+namespace {
+
+using tests::control;
+using verbs::verbList;
+
+class VerbManager : public tests::WindowTest {
+protected:
+    QWidget& open()
+    {
+        tests::copySample("verbs.cfg");
+        navigation_.start();
+        control<QAction>(*tests::shownWindow("MainMenu"), "FileVerbManager").trigger();
+        return *tests::shownWindow("VerbManager");
+    }
+
+    static void fill(QWidget& manager, const QString& name, const QString& text)
+    {
+        auto& field = control<QLineEdit>(manager, name);
+        field.setFocus();
+        field.selectAll();
+        tests::type(manager, text);
+    }
+
+    static QListWidget& classes(QWidget& manager) { return control<QListWidget>(manager, "VMConjList"); }
+    static QListWidget& verbs(QWidget& manager) { return control<QListWidget>(manager, "VMFormsList"); }
+
+    app::Navigation navigation_;
+};
+
+TEST_F(VerbManager, ListsTheVerbsOfEachClassWithItsEnding)
+{
+    QWidget& manager = open();
+    const QStringList first = {"amare", "monere", "regere", "capire", "audire"};
+    for (int row = 0; row < first.size(); ++row) {
+        tests::clickRow(classes(manager), row);
+        EXPECT_EQ(verbs(manager).item(0)->text(), first.at(row));
+        EXPECT_EQ(verbs(manager).count(), 16);
+        EXPECT_EQ(verbs(manager).item(15)->text(), "** Add New Item Here **");
+    }
+}
+
+TEST_F(VerbManager, FillsTheFieldsFromTheVerbAndPreviewsItsForms)
+{
+    QWidget& manager = open();
+    tests::clickRow(classes(manager), 1);
+    tests::clickRow(verbs(manager), 4);
+    EXPECT_EQ(control<QLineEdit>(manager, "VerbManagerLatinForms0").text(), "mov");
+    EXPECT_EQ(control<QLineEdit>(manager, "VerbManagerLatinForms1").text(), "mov");
+    EXPECT_EQ(control<QLineEdit>(manager, "VerbManagerLatinForms2").text(), "mot");
+    EXPECT_EQ(control<QLineEdit>(manager, "VerbManagerGermanForms3").text(), "moving");
+    EXPECT_EQ(control<QLabel>(manager, "LatInfinitive").text(), "movare");
+    EXPECT_EQ(control<QLabel>(manager, "LatPerfect").text(), "movi");
+    EXPECT_EQ(control<QLabel>(manager, "LatPastParticiple").text(), "motus");
+    fill(manager, "VerbManagerLatinForms0", "cant");
+    EXPECT_EQ(control<QLabel>(manager, "LatInfinitive").text(), "cantare");
+}
+
+TEST_F(VerbManager, AddsAVerbOnTheLastRowAndRefusesASixteenth)
+{
+    QWidget& manager = open();
+    verbList.Count[verbs::FirstConjugation] = 14;
+    tests::clickRow(classes(manager), 1);
+    tests::clickRow(classes(manager), 0);
+    tests::clickRow(verbs(manager), 14);
+    EXPECT_EQ(control<QLineEdit>(manager, "VerbManagerLatinForms0").text(), "");
+    tests::click(manager, "VerbManagerAdd");
+    EXPECT_EQ(fake.messages.size(), 1U);
+    fill(manager, "VerbManagerLatinForms0", "cant");
+    fill(manager, "VerbManagerGermanForms0", "sing");
+    tests::click(manager, "VerbManagerAdd");
+    EXPECT_EQ(verbList.Count[verbs::FirstConjugation], 15);
+    EXPECT_EQ(verbList.PresentStem[verbs::FirstConjugation][15], "cant");
+    EXPECT_EQ(verbList.BaseForm[verbs::FirstConjugation][14], "sing");
+    EXPECT_EQ(verbs(manager).item(14)->text(), "cantare");
+
+    tests::clickRow(verbs(manager), 15);
+    fill(manager, "VerbManagerLatinForms0", "salt");
+    tests::click(manager, "VerbManagerAdd");
+    EXPECT_EQ(fake.messages.size(), 2U);
+    EXPECT_EQ(control<QLineEdit>(manager, "VerbManagerLatinForms0").text(), "salt");
+}
+
+TEST_F(VerbManager, KeepsEditsAndMarksWhenVowelLengthIsSwitched)
+{
+    QWidget& manager = open();
+    tests::clickRow(verbs(manager), 3);
+    fill(manager, "VerbManagerGermanForms0", "summon");
+    tests::click(manager, "VerbManagerAdd");
+    manager.close();
+    QWidget* const menu = tests::shownWindow("MainMenu");
+    ASSERT_NE(menu, nullptr);
+    control<QAction>(*menu, "VowelLengthVal").trigger();
+    EXPECT_EQ(verbList.BaseForm[verbs::FirstConjugation][3], "summon");
+    EXPECT_EQ(verbList.SupineStem[verbs::FirstConjugation][4], "voca:t");
+}
+
+TEST_F(VerbManager, EndsTheProgramWithItsCancelButton)
+{
+    tests::click(open(), "VerbMangerCancel");
+    EXPECT_EQ(fake.exitStatus, 0);
+    EXPECT_FALSE(std::filesystem::exists("morvanti.ini"));
+}
+
+} // namespace
