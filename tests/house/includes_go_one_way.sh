@@ -25,11 +25,4 @@ for folder in platform shell verbs verbdrills nouns vocabulary; do
     fi
 done
 
-# A window never includes another folder's window class, but for the shared ones of the shell.
-if grep -rnE --include='*.h' --include='*.cpp' '^#include "(verbs|verbdrills|nouns|vocabulary)/windows/' \
-    shell platform verbs verbdrills nouns vocabulary 2>/dev/null |
-    awk -F'[:"]' '{ file = $1; sub(/\.(h|cpp)$/, "", file); included = $(NF - 1); sub(/(_captions)?\.h$/, "", included);
-                    if (file != included) print }' | grep .; then
-    wrong=1
-fi
 exit $wrong
