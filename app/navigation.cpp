@@ -29,6 +29,7 @@ Navigation::Navigation()
 {
     connectMainMenu();
     connectVerbs();
+    connectNouns();
     connectQuiz();
     connectVocabulary();
 }
@@ -63,6 +64,34 @@ void Navigation::connectVerbs()
     connect(&verbs_, &VerbNavigation::left, this, &Navigation::showMainMenu);
     connect(&verbs_, &VerbNavigation::endRequested, this, &endProgramQuietly);
     connect(&verbs_, &VerbNavigation::helpRequested, this, &Navigation::showHelp);
+}
+
+void Navigation::connectNouns()
+{
+    connect(&mainMenu_, &MainMenu::declensionRequested, this, [this] {
+        const Hourglass hourglass;
+        shell::setVowelMarkForDrill();
+        shell::settings.ExerciseType = shell::exercise::Declination;
+        giveWay();
+        nouns_.showDeclinationChoose();
+    });
+    connect(&mainMenu_, &MainMenu::pronounsRequested, this, [this] {
+        const Hourglass hourglass;
+        shell::settings.ExerciseType = shell::exercise::Pronouns;
+        giveWay();
+        nouns_.showPronounChooser();
+    });
+    connect(&mainMenu_, &MainMenu::nounQuizRequested, this, [this] {
+        giveWay();
+        nouns_.showNounQuiz();
+    });
+    connect(&mainMenu_, &MainMenu::nounManagerRequested, this, [this] {
+        giveWay();
+        nouns_.showNounManager();
+    });
+    connect(&nouns_, &NounNavigation::delayRequested, &mainMenu_, &MainMenu::delayRequested);
+    connect(&nouns_, &NounNavigation::left, this, &Navigation::showMainMenu);
+    connect(&nouns_, &NounNavigation::helpRequested, this, &Navigation::showHelp);
 }
 
 void Navigation::connectQuiz()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/feedback_windows.h"
+#include "app/noun_navigation.h"
 #include "app/quiz_navigation.h"
 #include "app/verb_navigation.h"
 #include "app/vocabulary_navigation.h"
@@ -27,6 +28,7 @@ public:
 private:
     void connectMainMenu();
     void connectVerbs();
+    void connectNouns();
     void connectQuiz();
     void connectVocabulary();
 
@@ -38,6 +40,7 @@ private:
     shell::MainMenu mainMenu_;
     FeedbackWindows feedback_;
     VerbNavigation verbs_{feedback_};
+    NounNavigation nouns_{feedback_};
     QuizNavigation quiz_{feedback_};
     VocabularyNavigation vocabulary_{feedback_};
     std::unique_ptr<shell::About> about_;

@@ -74,7 +74,8 @@ void Chooser::layOut()
 
 void Chooser::connectControls()
 {
-    connect(list_, &ChoiceList::rowChosen, this, [this](int row) { ok_->setEnabled(row >= 0); });
+    connect(list_, &ChoiceList::rowChosen, this,
+            [this](int row) { ok_->setEnabled(row >= 0 || beginsAtOk()); });
     connect(list_, &ChoiceList::rowActivated, this, &Chooser::choose);
     connect(ok_, &QPushButton::clicked, this, &Chooser::choose);
     connect(cancel_, &QPushButton::clicked, this, &Chooser::cancelled);
@@ -87,7 +88,10 @@ void Chooser::open()
         resize(frame_->sizeHint());
     showInMainWindowState();
     placeBigFrame(*this, *frame_);
-    list_->setFocus();
+    if (beginsAtOk())
+        ok_->setFocus();
+    else
+        list_->setFocus();
 }
 
 void Chooser::becameActive()
@@ -100,7 +104,7 @@ void Chooser::fill()
     applyCaptions(*this, captions_);
     fillList(*list_, rows_);
     list_->setAccessibleName(windowTitle());
-    ok_->setEnabled(false);
+    ok_->setEnabled(beginsAtOk());
     list_->setMinimumSize(roomForRows(*list_));
     setMinimumSize(frame_->minimumSizeHint());
     placeBigFrame(*this, *frame_);

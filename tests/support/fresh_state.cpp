@@ -1,5 +1,10 @@
 #include "tests/support/fresh_state.h"
 
+#include "nouns/declension_drill.h"
+#include "nouns/noun_list.h"
+#include "nouns/noun_quiz.h"
+#include "nouns/noun_tables.h"
+#include "nouns/pronoun_drill.h"
 #include "platform/random.h"
 #include "shell/drill.h"
 #include "shell/settings.h"
@@ -40,6 +45,11 @@ FreshState::FreshState() : before_(fs::current_path()), folder_(freshFolder())
     platform::seedWith(1);
     shell::leaveDrill();
     shell::settings = {};
+    nouns::nounList = {};
+    nouns::nounTables = {};
+    nouns::declensionDrill = {};
+    nouns::nounQuestion = {};
+    nouns::pronounDrill = {};
     verbs::verbTables = {};
     verbs::verbList = {};
     verbs::currentParadigm = {};

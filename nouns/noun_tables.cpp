@@ -1,0 +1,7 @@
+#include "nouns/noun_tables.h"
+
+namespace nouns {
+
+NounTables nounTables;
+
+} // namespace nouns
