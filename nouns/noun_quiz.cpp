@@ -92,7 +92,7 @@ const std::string& askedForm()
 
 const std::string& askedNoun()
 {
-    return nounTables.NounCaption[nounQuestion.QuizParadigmIndex + 1];
+    return nounName(nounQuestion.QuizParadigmIndex + 1);
 }
 
 std::string drawnIndexes()

@@ -212,7 +212,7 @@ void Declination::showNoun()
 {
     const int paradigm = declensionDrill.DrillParadigm;
     heading_->setText(shell::fromUtf8(nounTables.DeclensionHeading[paradigm]));
-    noun_->setText(shell::fromUtf8(nounTables.NounCaption[paradigm]));
+    noun_->setText(shell::fromUtf8(nounName(paradigm)));
     emptyBoxes();
     for (std::size_t i = 0; i < boxes_.size(); ++i) {
         const QGroupBox* const frame = i < CasesOfNumber ? singular_ : plural_;
