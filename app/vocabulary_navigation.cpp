@@ -86,7 +86,6 @@ VcabWarning& VocabularyNavigation::warning()
         warning_->hide();
         chooseFileToSave();
     });
-    connect(window, &VcabWarning::helpRequested, this, &VocabularyNavigation::helpRequested);
     return *warning_;
 }
 

@@ -45,6 +45,7 @@ TEST_F(VocabularyEdits, StopAtThreeHundredWords)
     EXPECT_FALSE(vocabulary::addWord(King));
     EXPECT_EQ(vocabularyList.WordCount, 300);
     vocabulary::deleteWord(300);
+    EXPECT_EQ(vocabularyList.Loaded[300], WordRecord{});
     EXPECT_TRUE(vocabulary::addWord(King));
     EXPECT_EQ(vocabularyList.Loaded[300], King);
 }

@@ -282,6 +282,51 @@ TEST_F(VcabManagerWindow, KeepsTheListWhereAnotherCannotBeLoaded)
     EXPECT_EQ(rows(words(manager)), QStringList({"rosa"}));
 }
 
+TEST_F(VcabManagerWindow, NeedsANameForAFile)
+{
+    QWidget& manager = open();
+    click(manager, "VcabManSave");
+    QWidget& files = *shownWindow("FileHandler");
+    for (const auto* const name : {"", "  ", "folder/"}) {
+        typeInto(files, "FHFileName", "x");
+        control<QLineEdit>(files, "FHFileName").clear();
+        type(files, name);
+        EXPECT_FALSE(control<QAbstractButton>(files, "LoadSaveFH").isEnabled()) << name;
+        press(files, Qt::Key_Return);
+        EXPECT_TRUE(files.isVisible()) << name;
+    }
+    EXPECT_TRUE(fake.messages.empty());
+    EXPECT_TRUE(std::filesystem::is_empty("."));
+}
+
+TEST_F(VcabManagerWindow, IsWalkedThroughWithTheTabKeyAsItStands)
+{
+    const auto expectOrder = [](QWidget& window, const QStringList& names) {
+        control<QWidget>(window, names.front()).setFocus();
+        for (const QString& name : names) {
+            EXPECT_EQ(tests::focusIn(window), name);
+            press(window, Qt::Key_Tab);
+        }
+        EXPECT_EQ(tests::focusIn(window), names.front());
+    };
+    QWidget& manager = open();
+    add(manager, Rose);
+    tests::clickRow(words(manager), 0);
+    expectOrder(manager, {"VcabManMainForm", "VcabManWord", "VcabManTrans", "VcabManHint", "VcabManAccept",
+                          "VcabManAdd", "VcabManDelete", "VcabManLoad", "VcabManSave", "VcabManExit"});
+    click(manager, "VcabManSave");
+    QWidget& files = *shownWindow("FileHandler");
+    control<QLineEdit>(files, "FHFileName").setText("mine");
+    expectOrder(files, {"FHDirBox", "FHFileBox", "FHFileName", "LoadSaveFH", "CancelFH"});
+    press(files, Qt::Key_Escape);
+    click(manager, "VcabManExit");
+    QWidget& warning = *shownWindow("VcabWarning");
+    expectOrder(warning, {"VcabWarningSave", "VcabWarningDiscard", "VcabWarningCancel"});
+    click(warning, "VcabWarningDiscard");
+    expectOrder(*shownWindow("Vcabtester"),
+                {"VcabAnswer", "VcabTestOmit", "VcabtesterOK", "VcabtesterCancel"});
+}
+
 TEST_F(VcabManagerWindow, FindsListsInOtherFolders)
 {
     std::filesystem::create_directory("year one");
@@ -332,6 +377,28 @@ TEST_F(VcabManagerWindow, ChangesTheListThatIsTestedAndHasItTestedAnew)
     EXPECT_EQ(control<QLabel>(tester, "VQuestion").text(), "re:x");
     EXPECT_EQ(vocabularyList.CurrentWord, 1);
     EXPECT_EQ(tests::bytesOf("vr-vcab.lst"), "rosa,rose,f.\r\nre:x,king,m.\r\n");
+}
+
+TEST_F(VcabManagerWindow, BeginsANewListFromTheMainWindowUnlessTheLastHasUnsavedChanges)
+{
+    tests::writeFile("vr-vcab.lst", "rosa,rose,f.\r\n");
+    navigation.start();
+    QWidget& menu = *shownWindow("MainMenu");
+    click(menu, "VocabularyButton");
+    QWidget& tester = *shownWindow("Vcabtester");
+    press(tester, Qt::Key_Escape);
+    control<QAction>(menu, "FileVcabManager").trigger();
+    QWidget& manager = *shownWindow("VcabManager");
+    EXPECT_EQ(rows(words(manager)), QStringList());
+    click(manager, "VcabManExit");
+    control<QAction>(tester, "VcabTesterEdit").trigger();
+    EXPECT_EQ(rows(words(manager)), QStringList({"rosa"}));
+    add(manager, Rome);
+    click(manager, "VcabManExit");
+    click(*shownWindow("VcabWarning"), "VcabWarningDiscard");
+    press(tester, Qt::Key_Escape);
+    control<QAction>(menu, "FileVcabManager").trigger();
+    EXPECT_EQ(rows(words(manager)), QStringList({"rosa", "Ro:ma"}));
 }
 
 } // namespace

@@ -153,6 +153,7 @@ TEST_F(VcabtesterWindow, JudgesNothingDuringAPause)
     });
     press(tester, Qt::Key_Return);
     EXPECT_EQ(shell::settings.AnsweredCount, 1);
+    EXPECT_EQ(vocabularyTester.RightAnswers[1], 1);
     EXPECT_EQ(question(tester), "Rome, Italy");
     EXPECT_EQ(fake.waits, 1);
 }

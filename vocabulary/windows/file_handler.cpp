@@ -25,6 +25,7 @@ using shell::LanguageTexts;
 namespace {
 
 constexpr QSize LargestBlock{84, 30};
+constexpr double ListType = 1.15;
 
 // clang-format off
 constexpr std::array Captions = {
@@ -75,6 +76,8 @@ void FileHandler::makeControls()
     folders_ = named<ChoiceList>("FHDirBox", this);
     files_ = named<ChoiceList>("FHFileBox", this);
     name_ = named<QLineEdit>("FHFileName", this);
+    for (ChoiceList* const list : {folders_, files_})
+        shell::setType(*list, ListType);
     action_ = named<QPushButton>("LoadSaveFH", this);
     cancel_ = named<QPushButton>("CancelFH", this);
     action_->setAutoDefault(true);
@@ -127,7 +130,7 @@ void FileHandler::connectControls()
     connect(files_, &ChoiceList::rowChosen, this, &FileHandler::takeName);
     connect(files_, &ChoiceList::rowActivated, this, &FileHandler::activateFile);
     connect(name_, &QLineEdit::textChanged, this,
-            [this](const QString& name) { action_->setEnabled(!name.trimmed().isEmpty()); });
+            [this](const QString& name) { action_->setEnabled(pathOf(name.trimmed()).has_filename()); });
     connect(name_, &QLineEdit::returnPressed, this, &FileHandler::loadOrSave);
     connect(action_, &QPushButton::clicked, this, &FileHandler::loadOrSave);
     connect(cancel_, &QPushButton::clicked, this, &FileHandler::left);
@@ -156,12 +159,13 @@ void FileHandler::open(std::string_view mode)
         name_->setFocus();
 }
 
-// The window stays in the folder that was used last; a new list has no folder of its own.
+// A new list has no folder of its own: the window stays in the one used last.
 void FileHandler::goToListFolder()
 {
-    if (!vocabularyList.File.empty())
-        folder_.setPath(
-            shell::fromUtf8(std::filesystem::absolute(vocabularyList.File).parent_path().string()));
+    std::error_code error;
+    const auto file = std::filesystem::absolute(vocabularyList.File, error);
+    if (!error && !vocabularyList.File.empty())
+        folder_.setPath(shell::fromUtf8(file.parent_path().string()));
     if (!folder_.exists())
         folder_ = QDir::current();
     folder_.makeAbsolute();

@@ -20,6 +20,7 @@ using shell::ChoiceList;
 namespace {
 
 constexpr QSize LargestBlock{56, 26};
+constexpr double ListType = 1.15;
 
 // clang-format off
 constexpr std::array Captions = {
@@ -43,6 +44,8 @@ VcabLoader::VcabLoader() : Window("VcabLoader")
 void VcabLoader::makeControls()
 {
     files_ = named<ChoiceList>("VcabFile", this);
+    shell::setType(*files_, ListType);
+    files_->setSpacing(2);
     open_ = named<QPushButton>("VcabLoaderOpen", this);
     cancel_ = named<QPushButton>("VcabLoaderCancel", this);
     open_->setAutoDefault(true);

@@ -28,6 +28,8 @@ using shell::ChoiceList;
 namespace {
 
 constexpr QSize LargestBlock{100, 32};
+constexpr double ListType = 1.15;
+constexpr int WordCharacters = 22;
 
 struct Field {
     const char* box;
@@ -68,6 +70,8 @@ VcabManager::VcabManager() : Window("VcabManager")
 void VcabManager::makeControls()
 {
     words_ = named<ChoiceList>("VcabManMainForm", this);
+    shell::setType(*words_, ListType);
+    words_->setMinimumWidth(WordCharacters * words_->fontMetrics().averageCharWidth());
     for (std::size_t i = 0; i < boxes_.size(); ++i) {
         boxes_.at(i) = named<QLineEdit>(Fields.at(i).box, this);
         boxes_.at(i)->setMaxLength(platform::LongestFile);

@@ -29,6 +29,7 @@ using shell::LanguageTexts;
 namespace {
 
 constexpr QSize LargestBlock{84, 24};
+constexpr int AnswerCharacters = 44;
 
 // The options of the prompt language say what is asked for: the other side of the word.
 // clang-format off
@@ -81,6 +82,7 @@ void Vcabtester::makeControls()
     cancel_ = named<QPushButton>("VcabtesterCancel", this);
     shell::setBoldType(*question_, shell::TitleType);
     shell::setType(*hint_, shell::FormType);
+    answer_->setMinimumWidth(AnswerCharacters * answer_->fontMetrics().averageCharWidth());
     question_->setAlignment(Qt::AlignLeft | Qt::AlignBottom);
     hint_->setAlignment(Qt::AlignLeft | Qt::AlignBottom);
     ok_->setAutoDefault(true);
