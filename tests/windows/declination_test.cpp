@@ -6,9 +6,11 @@
 #include "shell/windows/answer_box.h"
 #include "tests/support/window_test.h"
 
+#include <QAbstractButton>
 #include <QGroupBox>
 #include <QLabel>
 #include <QListWidget>
+#include <QWindow>
 
 #include <set>
 
@@ -303,6 +305,22 @@ TEST_F(DeclensionDrillWindow, NotesWhichWindowIsActive)
     tests::doubleClickRow(control<QListWidget>(window, "DeclinationList"), 0);
     QApplication::setActiveWindow(shownWindow("Declination"));
     EXPECT_EQ(settings.ActiveWindowName, "declination");
+}
+
+TEST_F(DeclensionDrillWindow, LetsTheHelpBeReadAndClosedBesideIt)
+{
+    QWidget& drill = openRow(0);
+    press(drill, Qt::Key_F1);
+    QWidget* const help = shownWindow("Help");
+    ASSERT_NE(help, nullptr);
+    QApplication::processEvents();
+    const auto& close = control<QAbstractButton>(*help, "Command1");
+    QTest::mouseClick(help->windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                      close.mapTo(help, close.rect().center()));
+    QApplication::processEvents();
+    EXPECT_FALSE(help->isVisible());
+    answerRight(drill);
+    EXPECT_EQ(declensionDrill.CurrentCaseIndex, 1);
 }
 
 TEST_F(DeclensionDrillWindow, SpeaksLatin)
