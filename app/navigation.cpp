@@ -29,6 +29,7 @@ Navigation::Navigation()
 {
     connectMainMenu();
     connectVerbs();
+    connectOptions();
 }
 
 void Navigation::start()
@@ -61,6 +62,13 @@ void Navigation::connectVerbs()
     connect(&verbs_, &VerbNavigation::left, this, &Navigation::showMainMenu);
     connect(&verbs_, &VerbNavigation::endRequested, this, &endProgramQuietly);
     connect(&verbs_, &VerbNavigation::helpRequested, this, &Navigation::showHelp);
+}
+
+void Navigation::connectOptions()
+{
+    connect(&mainMenu_, &MainMenu::delayRequested, &options_, &OptionsNavigation::showDelayInterval);
+    connect(&mainMenu_, &MainMenu::optionsRequested, &options_, &OptionsNavigation::showOptions);
+    connect(&options_, &OptionsNavigation::helpRequested, this, &Navigation::showHelp);
 }
 
 void Navigation::giveWay()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/feedback_windows.h"
+#include "app/options_navigation.h"
 #include "app/verb_navigation.h"
 #include "shell/windows/about.h"
 #include "shell/windows/help.h"
@@ -25,6 +26,7 @@ public:
 private:
     void connectMainMenu();
     void connectVerbs();
+    void connectOptions();
 
     void giveWay();
     void showMainMenu();
@@ -34,6 +36,7 @@ private:
     shell::MainMenu mainMenu_;
     FeedbackWindows feedback_;
     VerbNavigation verbs_{feedback_};
+    OptionsNavigation options_;
     std::unique_ptr<shell::About> about_;
     std::unique_ptr<shell::Help> help_;
 };

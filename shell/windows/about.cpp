@@ -61,9 +61,7 @@ About::About() : Window("About", "About")
 void About::open()
 {
     applyCaptions(*this, AboutCaptions);
-    show();
-    raise();
-    activateWindow();
+    showInFront();
 }
 
 void About::closeBoxPressed()

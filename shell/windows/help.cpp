@@ -50,9 +50,7 @@ void Help::showGuide()
     const platform::TextFile guide = platform::readTextFile(HelpFileName);
     text_->setPlainText(fromUtf8(guide.fault ? guide.fault->message() : guide.text));
     applyCaptions(*this, HelpCaptions);
-    show();
-    raise();
-    activateWindow();
+    showInFront();
 }
 
 void Help::closeBoxPressed()
