@@ -6,6 +6,7 @@
 
 #include <QBoxLayout>
 #include <QCoreApplication>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 
@@ -67,6 +68,14 @@ void About::open()
 void About::closeBoxPressed()
 {
     hide();
+}
+
+void About::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape)
+        hide();
+    else
+        Window::keyPressEvent(event);
 }
 
 } // namespace shell
