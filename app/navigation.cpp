@@ -43,6 +43,7 @@ Navigation::Navigation()
     connectNouns();
     connectQuiz();
     connectVocabulary();
+    connectOptions();
 }
 
 void Navigation::start()
@@ -128,6 +129,13 @@ void Navigation::connectVocabulary()
     });
     connect(&vocabulary_, &VocabularyNavigation::left, this, &Navigation::showMainMenu);
     connect(&vocabulary_, &VocabularyNavigation::helpRequested, this, &Navigation::showHelp);
+}
+
+void Navigation::connectOptions()
+{
+    connect(&mainMenu_, &MainMenu::delayRequested, &options_, &OptionsNavigation::showDelayInterval);
+    connect(&mainMenu_, &MainMenu::optionsRequested, &options_, &OptionsNavigation::showOptions);
+    connect(&options_, &OptionsNavigation::helpRequested, this, &Navigation::showHelp);
 }
 
 void Navigation::giveWay()

@@ -3,6 +3,7 @@
 #include "app/feedback_windows.h"
 #include "app/noun_navigation.h"
 #include "app/quiz_navigation.h"
+#include "app/options_navigation.h"
 #include "app/verb_navigation.h"
 #include "app/vocabulary_navigation.h"
 #include "shell/windows/about.h"
@@ -31,6 +32,7 @@ private:
     void connectNouns();
     void connectQuiz();
     void connectVocabulary();
+    void connectOptions();
 
     void giveWay();
     void showMainMenu();
@@ -43,6 +45,7 @@ private:
     NounNavigation nouns_{feedback_};
     QuizNavigation quiz_{feedback_};
     VocabularyNavigation vocabulary_{feedback_};
+    OptionsNavigation options_;
     std::unique_ptr<shell::About> about_;
     std::unique_ptr<shell::Help> help_;
 };

@@ -1,18 +1,12 @@
 #include "shell/pause.h"
 
-#include "platform/platform.h"
 #include "shell/drill.h"
 #include "shell/settings.h"
-
-#include <algorithm>
-#include <chrono>
-#include <cmath>
+#include "shell/wait.h"
 
 namespace shell {
 
 namespace {
-
-constexpr double SecondsOfDay = 86400;
 
 // The session of the pause that waits, and how many of that session wait (one within the other).
 struct Waiting {
@@ -32,37 +26,19 @@ public:
     Wait& operator=(const Wait&) = delete;
     ~Wait() { waiting = before_; }
 
-    bool isOff() const { return session_ != drillSession() || platform::current().ending(); }
+    bool isOff() const { return session_ != drillSession(); }
 
 private:
     Waiting before_;
     int session_;
 };
 
-// Never past midnight, where the clock starts again.
-std::chrono::milliseconds untilReached(double time, double now)
-{
-    const double left = (std::min(time, SecondsOfDay) - now) * 1000;
-    return std::chrono::milliseconds(std::max(1L, std::lround(std::ceil(left))));
-}
-
 } // namespace
 
 void Pause()
 {
     const Wait wait;
-    platform::Platform& platform = platform::current();
-    const double start = double{platform.secondsSinceMidnight()};
-    bool pastMidnight = false;
-    while (!wait.isOff()) {
-        const double now = double{platform.secondsSinceMidnight()};
-        const double end = start + settings.DelaySeconds;
-        pastMidnight = pastMidnight || now < start;
-        const bool sameTimeAgain = pastMidnight && end >= SecondsOfDay && now >= start;
-        if (now >= end || sameTimeAgain)
-            return;
-        platform.waitForEvents(untilReached(pastMidnight ? std::min(start, end) : end, now));
-    }
+    waitSeconds(settings.DelaySeconds, [&wait] { return wait.isOff(); });
 }
 
 bool pausing()

@@ -6,6 +6,7 @@
 
 #include <QBoxLayout>
 #include <QCoreApplication>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 
@@ -61,14 +62,20 @@ About::About() : Window("About", "About")
 void About::open()
 {
     applyCaptions(*this, AboutCaptions);
-    show();
-    raise();
-    activateWindow();
+    showInFront();
 }
 
 void About::closeBoxPressed()
 {
     hide();
+}
+
+void About::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape)
+        hide();
+    else
+        Window::keyPressEvent(event);
 }
 
 } // namespace shell

@@ -15,6 +15,7 @@ public:
 
 protected:
     void closeBoxPressed() override;
+    void keyPressEvent(QKeyEvent* event) override;
 };
 
 } // namespace shell

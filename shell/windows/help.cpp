@@ -2,11 +2,14 @@
 
 #include "platform/text_file.h"
 #include "shell/windows/captions.h"
+#include "shell/windows/guide_text.h"
 #include "shell/windows/text.h"
 #include "shell/windows/type.h"
 
 #include <QBoxLayout>
+#include <QKeyEvent>
 #include <QPushButton>
+#include <QScreen>
 #include <QTextBrowser>
 
 #include <array>
@@ -16,7 +19,7 @@ namespace shell {
 namespace {
 
 constexpr QSize LargestBlock{100, 50};
-constexpr QSize NormalSize{720, 560};
+constexpr QSize NormalSize{92, 36};
 
 // clang-format off
 constexpr std::array HelpCaptions = {
@@ -31,6 +34,7 @@ Help::Help() : Window("Help"), text_(new QTextBrowser)
 {
     text_->setObjectName(QStringLiteral("HelpText"));
     text_->setAccessibleName(QStringLiteral("Help"));
+    text_->document()->setDocumentMargin(WideSpace);
     auto* const close = new QPushButton;
     close->setObjectName(QStringLiteral("Command1"));
     close->setDefault(true);
@@ -39,7 +43,9 @@ Help::Help() : Window("Help"), text_(new QTextBrowser)
     layout->setSpacing(MediumSpace);
     layout->addWidget(text_);
     layout->addWidget(close, 0, Qt::AlignRight);
-    resize(NormalSize);
+    const QSize letter(fontMetrics().averageCharWidth(), fontMetrics().lineSpacing());
+    resize(QSize(NormalSize.width() * letter.width(), NormalSize.height() * letter.height())
+               .boundedTo(screen()->availableSize() * 9 / 10));
 
     connect(close, &QPushButton::clicked, this, &Help::hide);
     applyDesignedCaptions(*this, HelpCaptions);
@@ -48,16 +54,23 @@ Help::Help() : Window("Help"), text_(new QTextBrowser)
 void Help::showGuide()
 {
     const platform::TextFile guide = platform::readTextFile(HelpFileName);
-    text_->setPlainText(fromUtf8(guide.fault ? guide.fault->message() : guide.text));
+    showGuideText(*text_, fromUtf8(guide.fault ? guide.fault->message() : guide.text));
     applyCaptions(*this, HelpCaptions);
-    show();
-    raise();
-    activateWindow();
+    showInFront();
+    text_->setFocus();
 }
 
 void Help::closeBoxPressed()
 {
     hide();
+}
+
+void Help::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape)
+        hide();
+    else
+        Window::keyPressEvent(event);
 }
 
 } // namespace shell

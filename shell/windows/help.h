@@ -15,11 +15,13 @@ class Help : public Window {
 public:
     Help();
 
-    /// Reads the help file of the working folder and shows its text, or why it cannot be read.
+    /// Reads the help file of the working folder and shows its text from the beginning, or why it cannot be
+    /// read.
     void showGuide();
 
 protected:
     void closeBoxPressed() override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     QTextBrowser* text_;

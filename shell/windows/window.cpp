@@ -3,10 +3,13 @@
 #include "shell/settings.h"
 #include "shell/windows/text.h"
 
+#include <QApplication>
 #include <QBoxLayout>
 #include <QCloseEvent>
 #include <QFontMetrics>
+#include <QScreen>
 #include <QShortcut>
+#include <QWindow>
 
 namespace shell {
 
@@ -32,6 +35,19 @@ void Window::showInMainWindowState()
         showNormal();
     else
         show();
+    raise();
+    activateWindow();
+}
+
+void Window::showInFront()
+{
+    winId();
+    const QWidget* const below = isModal() ? QApplication::activeWindow() : QApplication::activeModalWidget();
+    if (below != this)
+        windowHandle()->setTransientParent(below == nullptr ? nullptr : below->windowHandle());
+    if (!isVisible())
+        move(screen()->geometry().center() - rect().center());
+    show();
     raise();
     activateWindow();
 }

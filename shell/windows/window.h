@@ -20,6 +20,10 @@ public:
     /// Shows the window, brings it to the front, and gives it the state that `MainWindowState` asks for.
     void showInMainWindowState();
 
+    /// Shows the window in the middle of the screen and brings it to the front. It stays above a window that
+    /// is modal, and can be used then; a modal window stays above the one that was active.
+    void showInFront();
+
 Q_SIGNALS:
     void helpRequested();
 

@@ -1,0 +1,40 @@
+#include "shell/wait.h"
+
+#include "platform/platform.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+
+namespace shell {
+
+namespace {
+
+constexpr double SecondsOfDay = 86400;
+
+// Never past midnight, where the clock starts again.
+std::chrono::milliseconds untilReached(double time, double now)
+{
+    const double left = (std::min(time, SecondsOfDay) - now) * 1000;
+    return std::chrono::milliseconds(std::max(1L, std::lround(std::ceil(left))));
+}
+
+} // namespace
+
+void waitSeconds(double seconds, const std::function<bool()>& isOff)
+{
+    platform::Platform& platform = platform::current();
+    const double start = double{platform.secondsSinceMidnight()};
+    const double end = start + seconds;
+    bool pastMidnight = false;
+    while (!platform.ending() && !isOff()) {
+        const double now = double{platform.secondsSinceMidnight()};
+        pastMidnight = pastMidnight || now < start;
+        const bool sameTimeAgain = pastMidnight && end >= SecondsOfDay && now >= start;
+        if (now >= end || sameTimeAgain)
+            return;
+        platform.waitForEvents(untilReached(pastMidnight ? std::min(start, end) : end, now));
+    }
+}
+
+} // namespace shell

@@ -1,0 +1,164 @@
+#include "shell/windows/delay_interval.h"
+
+#include "shell/delay.h"
+#include "shell/wait.h"
+#include "shell/windows/captions.h"
+#include "shell/windows/text.h"
+#include "shell/windows/type.h"
+
+#include <QBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QScrollBar>
+
+#include <array>
+
+namespace shell {
+
+namespace {
+
+constexpr int ScrollCharacters = 60;
+
+// clang-format off
+constexpr std::array Captions = {
+    //                        English              French Italian German                   Spanish Latin
+    Caption{"DelayInterval", {"Set Delay Factor",  {},    {},     "Verzögerungsintervall", {},     "Moram electronicam ordina!"}},
+    Caption{"DelayOK",       {"&OK",               {},    {},     "&OK",                   {},     "&Ita"}},
+    Caption{"DelayCancel",   {"&Cancel",           {},    {},     "&Abbruch",              {},     "&Reverte!"}},
+    Caption{"DelayTest",     {"&Test",             {},    {},     "&Probe",                {},     "&Probatio"}},
+};
+// clang-format on
+
+} // namespace
+
+DelayInterval::DelayInterval()
+    : Window("DelayInterval", "delay"), scroll_(new QScrollBar(Qt::Horizontal)), length_(new QLabel),
+      ok_(new QPushButton), cancel_(new QPushButton), test_(new QPushButton)
+{
+    setWindowModality(Qt::ApplicationModal);
+    makeControls();
+    layOut();
+    connectControls();
+    applyDesignedCaptions(*this, Captions);
+}
+
+void DelayInterval::makeControls()
+{
+    scroll_->setObjectName(QStringLiteral("DelayScroll"));
+    scroll_->setRange(0, LongestScroll);
+    scroll_->setSingleStep(ScrollStep);
+    scroll_->setPageStep(ScrollPage);
+    // A scroll bar's arrow keys go the other way by default: the right one must make the pause longer.
+    scroll_->setInvertedControls(false);
+    scroll_->setFocusPolicy(Qt::StrongFocus);
+    scroll_->setMinimumWidth(ScrollCharacters * fontMetrics().averageCharWidth());
+
+    length_->setObjectName(QStringLiteral("DelayLabel"));
+    length_->setAlignment(Qt::AlignCenter);
+    length_->setMargin(SmallSpace);
+    length_->setBuddy(scroll_);
+    setType(*length_, HeadingType);
+
+    ok_->setObjectName(QStringLiteral("DelayOK"));
+    cancel_->setObjectName(QStringLiteral("DelayCancel"));
+    test_->setObjectName(QStringLiteral("DelayTest"));
+    for (QPushButton* const button : {ok_, cancel_, test_})
+        button->setAutoDefault(true);
+}
+
+void DelayInterval::layOut()
+{
+    auto* const buttons = new QHBoxLayout;
+    buttons->setSpacing(SmallSpace);
+    buttons->addWidget(test_);
+    buttons->addStretch();
+    buttons->addWidget(ok_);
+    buttons->addWidget(cancel_);
+
+    auto* const rows = new QVBoxLayout(this);
+    rows->setContentsMargins(WideSpace, WideSpace, WideSpace, WideSpace);
+    rows->setSpacing(LargeSpace);
+    rows->addWidget(length_);
+    rows->addWidget(scroll_);
+    rows->addStretch();
+    rows->addLayout(buttons);
+}
+
+void DelayInterval::connectControls()
+{
+    connect(scroll_, &QScrollBar::valueChanged, this, &DelayInterval::showLength);
+    connect(ok_, &QPushButton::clicked, this, &DelayInterval::confirm);
+    connect(cancel_, &QPushButton::clicked, this, &DelayInterval::leave);
+    connect(test_, &QPushButton::clicked, this, &DelayInterval::tryLength);
+}
+
+void DelayInterval::open()
+{
+    applyDesignedCaptions(*this, Captions);
+    applyCaptions(*this, Captions);
+    scroll_->setAccessibleName(windowTitle());
+    scroll_->setValue(scrollAtFirst());
+    showLength(scroll_->value());
+    scroll_->setFocus();
+    adjustSize();
+    showInFront();
+}
+
+void DelayInterval::showLength(int scroll)
+{
+    length_->setText(fromUtf8(delayText(scroll)));
+}
+
+// The length is held against the desktop's accent colour for as long as it lasts.
+void DelayInterval::showTrial(bool runs)
+{
+    length_->setBackgroundRole(runs ? QPalette::Highlight : QPalette::NoRole);
+    length_->setForegroundRole(runs ? QPalette::HighlightedText : QPalette::NoRole);
+    length_->setAutoFillBackground(runs);
+}
+
+void DelayInterval::confirm()
+{
+    setDelay(scroll_->value());
+    leave();
+}
+
+void DelayInterval::leave()
+{
+    ++visit_;
+    trying_ = false;
+    showTrial(false);
+    hide();
+}
+
+void DelayInterval::tryLength()
+{
+    if (trying_)
+        return;
+    const int visit = visit_;
+    trying_ = true;
+    showTrial(true);
+    waitSeconds(secondsOfScroll(scroll_->value()), [&] { return visit != visit_; });
+    if (visit != visit_)
+        return;
+    trying_ = false;
+    showTrial(false);
+}
+
+void DelayInterval::closeBoxPressed()
+{
+    leave();
+}
+
+void DelayInterval::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape)
+        leave();
+    else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        confirm();
+    else
+        Window::keyPressEvent(event);
+}
+
+} // namespace shell

@@ -1,0 +1,237 @@
+#include "shell/windows/frm_options.h"
+
+#include "platform/platform.h"
+#include "platform/printed_number.h"
+#include "shell/settings.h"
+#include "shell/windows/captions.h"
+#include "shell/windows/main_menu_captions.h"
+#include "shell/windows/text.h"
+#include "shell/windows/type.h"
+
+#include <QBoxLayout>
+#include <QFormLayout>
+#include <QFrame>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QSlider>
+#include <QTabBar>
+
+#include <algorithm>
+#include <array>
+
+namespace shell {
+
+namespace {
+
+// The places of the frames, given as 210 and -20000 at 15 to a pixel.
+constexpr int LeftOfChosenFrame = 210 / 15;
+constexpr int LeftOfOtherFrames = -20000 / 15;
+
+// clang-format off
+constexpr std::array Captions = {
+    //                       English                   French                      Italian                   German                       Spanish                         Latin
+    Caption{"frmOptions",   {"Options",                "Options",                  "Opzioni",                "Optionen",                  "Opciones",                     "Optiones"}},
+    Caption{"cmdOK",        {"&OK",                    "&Oui",                     "&OK",                    "&OK",                       "&Si",                          "&Ita"}},
+    Caption{"cmdCancel",    {"&Cancel",                "&Annuler",                 "&Annulla",               "&Abbruch",                  "&Cancelar",                    "&Reverte!"}},
+    Caption{"cmdApply",     {"A&pply",                 "A&ppliquer",               "A&pplica",               "Über&nehmen",               "A&plicar",                     "A&dhibe!"}},
+    Caption{"GODelayLabel", {"Pause after an answer:", "Pause après une réponse :", "Pausa dopo una risposta:", "Pause nach einer Antwort:", "Pausa después de una respuesta:", "Mora post responsum:"}},
+};
+
+constexpr std::array Tabs = {
+    LanguageTexts{           "Pause",                  "Pause",                    "Pausa",                  "Pause",                     "Pausa",                        "Mora"},
+    LanguageTexts{           "Order",                  "Ordre",                    "Ordine",                 "Ordnung",                   "Orden",                        "Ordo"},
+};
+// clang-format on
+
+// A text of the main window, as a label bears it: without its access key and the dots after it.
+QString mainMenuText(std::string_view control)
+{
+    const auto menu = mainMenuCaptions();
+    const auto row = std::ranges::find(menu, control, &Caption::control);
+    QString text = fromUtf8(row->texts.designedOrCurrent());
+    text.remove(u'&');
+    return text.endsWith(QStringLiteral("...")) ? text.chopped(3) : text;
+}
+
+} // namespace
+
+FrmOptions::FrmOptions()
+    : Window("frmOptions"), tabs_(new QTabBar), space_(new QWidget), delay_(new QLabel),
+      slider_(new QSlider(Qt::Horizontal)), ok_(new QPushButton), cancel_(new QPushButton),
+      apply_(new QPushButton)
+{
+    setWindowModality(Qt::ApplicationModal);
+    makeControls();
+    layOut();
+    connectControls();
+    applyDesignedCaptions(*this, Captions);
+}
+
+void FrmOptions::makeControls()
+{
+    tabs_->setObjectName(QStringLiteral("tbsOptions"));
+    tabs_->setExpanding(false);
+    for (std::size_t tab = 0; tab < Tabs.size(); ++tab) {
+        tabs_->addTab(QString());
+        frames_.push_back(new QFrame(this));
+        frames_.back()->setObjectName(QStringLiteral("picOptions%1").arg(tab));
+        frames_.back()->setFrameStyle(QFrame::StyledPanel | QFrame::Plain);
+    }
+    fillDelayFrame(*frames_.front());
+    fillOrderFrame(*frames_.back());
+    ok_->setObjectName(QStringLiteral("cmdOK"));
+    cancel_->setObjectName(QStringLiteral("cmdCancel"));
+    apply_->setObjectName(QStringLiteral("cmdApply"));
+    for (QPushButton* const button : {ok_, cancel_, apply_})
+        button->setAutoDefault(true);
+}
+
+void FrmOptions::fillDelayFrame(QFrame& frame)
+{
+    auto* const page = new QWidget;
+    page->setObjectName(QStringLiteral("OptionsTab"));
+    slider_->setObjectName(QStringLiteral("GODelaySlider"));
+    slider_->setRange(ShortestDelay, LongestDelay);
+    auto* const label = new QLabel;
+    label->setObjectName(QStringLiteral("GODelayLabel"));
+    label->setBuddy(slider_);
+    setType(*delay_, HeadingType);
+
+    auto* const rows = new QVBoxLayout(page);
+    rows->setSpacing(MediumSpace);
+    rows->addWidget(label);
+    rows->addWidget(delay_);
+    rows->addWidget(slider_);
+    rows->addStretch();
+    auto* const whole = new QVBoxLayout(&frame);
+    whole->addWidget(page);
+}
+
+void FrmOptions::fillOrderFrame(QFrame& frame)
+{
+    auto* const rows = new QFormLayout(&frame);
+    rows->setContentsMargins(LargeSpace, LargeSpace, LargeSpace, LargeSpace);
+    rows->setSpacing(MediumSpace);
+    for (int row = 0; row < 2; ++row) {
+        orders_.push_back(new QLabel);
+        orders_.push_back(new QLabel);
+        rows->addRow(orders_.at(orders_.size() - 2), orders_.back());
+    }
+}
+
+void FrmOptions::layOut()
+{
+    auto* const buttons = new QHBoxLayout;
+    buttons->setSpacing(SmallSpace);
+    buttons->addStretch();
+    buttons->addWidget(ok_);
+    buttons->addWidget(cancel_);
+    buttons->addWidget(apply_);
+
+    auto* const rows = new QVBoxLayout(this);
+    rows->setContentsMargins(LeftOfChosenFrame, MediumSpace, LeftOfChosenFrame, LargeSpace);
+    rows->setSpacing(0);
+    rows->addWidget(tabs_);
+    rows->addWidget(space_, 1);
+    rows->addSpacing(LargeSpace);
+    rows->addLayout(buttons);
+
+    setTabOrder(tabs_, slider_);
+    setTabOrder(slider_, ok_);
+}
+
+void FrmOptions::connectControls()
+{
+    connect(tabs_, &QTabBar::currentChanged, this, &FrmOptions::placeFrames);
+    connect(slider_, &QSlider::valueChanged, this, &FrmOptions::showDelay);
+    connect(ok_, &QPushButton::clicked, this, &FrmOptions::confirm);
+    connect(cancel_, &QPushButton::clicked, this, &FrmOptions::hide);
+    connect(apply_, &QPushButton::clicked, this, &FrmOptions::apply);
+}
+
+void FrmOptions::open()
+{
+    showCaptions();
+    showSettings();
+    tabs_->setCurrentIndex(0);
+    tabs_->setFocus();
+    QSize largest;
+    for (const QFrame* const frame : frames_)
+        largest = largest.expandedTo(frame->sizeHint());
+    space_->setMinimumSize(largest);
+    adjustSize();
+    placeFrames();
+    showInFront();
+}
+
+void FrmOptions::showCaptions()
+{
+    applyDesignedCaptions(*this, Captions);
+    applyCaptions(*this, Captions);
+    for (std::size_t tab = 0; tab < Tabs.size(); ++tab)
+        tabs_->setTabText(static_cast<int>(tab), fromUtf8(Tabs.at(tab).designedOrCurrent()));
+    tabs_->setAccessibleName(windowTitle());
+}
+
+void FrmOptions::showSettings()
+{
+    slider_->setValue(settings.DelaySeconds);
+    showDelay(settings.DelaySeconds);
+    const bool random = settings.QuestionOrder == question_order::Random;
+    const bool accusativeSecond = settings.CaseOrder == case_order::NAGDAb;
+    const std::array texts = {
+        mainMenuText("OrderMenu"), mainMenuText(random ? "RandomOrder" : "SequentialOrder"),
+        mainMenuText("CaseOrderMenu"), mainMenuText(accusativeSecond ? "NADGABOrder" : "NGDAABOrder")};
+    for (std::size_t i = 0; i < texts.size(); ++i)
+        orders_.at(i)->setText(texts.at(i));
+}
+
+void FrmOptions::showDelay(int seconds)
+{
+    delay_->setText(fromUtf8(platform::printedNumber(seconds) + " s"));
+}
+
+void FrmOptions::placeFrames()
+{
+    for (std::size_t i = 0; i < frames_.size(); ++i) {
+        QFrame* const frame = frames_.at(i);
+        const bool chosen = static_cast<int>(i) == tabs_->currentIndex();
+        frame->setGeometry(space_->geometry());
+        frame->move(chosen ? LeftOfChosenFrame : LeftOfOtherFrames, space_->y());
+        frame->setEnabled(chosen);
+    }
+}
+
+void FrmOptions::apply()
+{
+    platform::current().showMessage("Place code here to set options w/o closing dialog!");
+}
+
+void FrmOptions::confirm()
+{
+    platform::current().showMessage("Place code here to set options and close dialog!");
+    hide();
+}
+
+void FrmOptions::closeBoxPressed()
+{
+    hide();
+}
+
+void FrmOptions::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape)
+        hide();
+    else
+        Window::keyPressEvent(event);
+}
+
+void FrmOptions::resizeEvent(QResizeEvent* event)
+{
+    Window::resizeEvent(event);
+    layout()->activate();
+    placeFrames();
+}
+
+} // namespace shell
