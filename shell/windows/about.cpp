@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
 
 #include <array>
 
@@ -46,6 +47,8 @@ About::About() : Window("About", "About")
     auto* const close = new QPushButton;
     close->setObjectName(QStringLiteral("Command1"));
     close->setDefault(true);
+    auto* const escape = new QShortcut(Qt::Key_Escape, this);
+    connect(escape, &QShortcut::activated, this, &QWidget::hide);
 
     auto* const layout = new QVBoxLayout(centredBlock(LargestBlock));
     layout->setSpacing(LargeSpace);

@@ -11,9 +11,9 @@ bool isEnter(int key)
     return key == Qt::Key_Return || key == Qt::Key_Enter;
 }
 
-bool isArrow(int key)
+bool beginsChoice(int key)
 {
-    return key == Qt::Key_Down || key == Qt::Key_Up;
+    return key == Qt::Key_Down || key == Qt::Key_Up || key == Qt::Key_Home;
 }
 
 } // namespace
@@ -35,7 +35,7 @@ void ChoiceList::keyPressEvent(QKeyEvent* event)
 {
     if (isEnter(event->key()))
         activateChosenRow();
-    else if (isArrow(event->key()) && chosenRow() < 0)
+    else if (beginsChoice(event->key()) && chosenRow() < 0)
         setCurrentRow(0, QItemSelectionModel::ClearAndSelect);
     else
         QListWidget::keyPressEvent(event);

@@ -10,6 +10,7 @@
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QScreen>
+#include <QShortcut>
 #include <QTextBrowser>
 
 #include <array>
@@ -38,6 +39,8 @@ Help::Help() : Window("Help"), text_(new QTextBrowser)
     auto* const close = new QPushButton;
     close->setObjectName(QStringLiteral("Command1"));
     close->setDefault(true);
+    auto* const escape = new QShortcut(Qt::Key_Escape, this);
+    connect(escape, &QShortcut::activated, this, &QWidget::hide);
 
     auto* const layout = new QVBoxLayout(centredBlock(LargestBlock));
     layout->setSpacing(MediumSpace);

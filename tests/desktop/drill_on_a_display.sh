@@ -39,9 +39,27 @@ start_in() {
 }
 active() { [ "$(xdotool getactivewindow getwindowname 2>/dev/null)" = "$1" ]; }
 wait_for_window() { wait_for "the window \"$1\"" active "$1"; }
+# go WINDOW KEY...: presses the keys until the window comes: a window that was just shown may still lack the keyboard.
+go() {
+    local window=$1 limit=$((SECONDS + 60)) soon
+    shift
+    until active "$window"; do
+        [ $SECONDS -lt $limit ] || fail "never came: the window \"$window\""
+        xdotool key "$@"
+        soon=$((SECONDS + 5))
+        until active "$window" || [ $SECONDS -ge $soon ]; do sleep 0.05; done
+    done
+}
 ended() { ! kill -0 "$running"; }
-wait_for_end() {
-    wait_for "the program's end" ended
+# end_with KEY: presses it until the program ends.
+end_with() {
+    local limit=$((SECONDS + 60)) soon
+    until ended; do
+        [ $SECONDS -lt $limit ] || fail "the program does not end with $1"
+        xdotool key "$1"
+        soon=$((SECONDS + 5))
+        until ended || [ $SECONDS -ge $soon ]; do sleep 0.05; done
+    done
     wait "$running" || fail "the program ended with status $?: $(cat "$work/errors")"
 }
 # pixels COLOUR: how many pixels of the screen have exactly this colour.
@@ -56,16 +74,14 @@ shows_no() { [ "$(pixels "$1")" -lt "$2" ]; }
 mkdir "$work/empty"
 start_in "$work/empty"
 wait_for_window Velmorane
-xdotool key alt+x
-wait_for_end
+end_with alt+x
 [ "$(wc -l <"$work/empty/morvanti.ini")" -eq 36 ] || fail "the settings file has not 36 lines"
 
 # Alt+F4 ends without saving, whether or not the window manager takes it first.
 rm "$work/empty/morvanti.ini"
 start_in "$work/empty"
 wait_for_window Velmorane
-xdotool key alt+F4
-wait_for_end
+end_with alt+F4
 [ ! -e "$work/empty/morvanti.ini" ] || fail "Alt+F4 saved the settings"
 
 # A folder with one verb of each class, so that the answers are known.
@@ -97,10 +113,8 @@ LIST
 } >"$work/full/morvanti.ini"
 start_in "$work/full"
 wait_for_window Velmorane
-xdotool key Return
-wait_for_window "Eine Konjugation Auswählen"
-xdotool key Down Return
-wait_for_window "1. Konjugation"
+go "Eine Konjugation Auswählen" Return
+go "1. Konjugation" Home Return
 
 grey='#808080'
 xdotool type amo
@@ -116,12 +130,9 @@ done
 wait_for "the feedback's end" shows_no '#308CC6' 10000
 xdotool type wrong
 xdotool key Return
-xdotool key Escape
-wait_for_window "Eine Konjugation Auswählen"
-xdotool key Escape
-wait_for_window Velmorane
-xdotool key alt+e
-wait_for_end
+go "Eine Konjugation Auswählen" Escape
+go Velmorane Escape
+end_with alt+e
 grep -q '^German' "$work/full/morvanti.ini" || fail "the language was not kept"
 grep -q '^ 1' "$work/full/morvanti.ini" || fail "the delay was not kept"
 [ ! -s "$work/errors" ] || fail "said on standard error: $(cat "$work/errors")"

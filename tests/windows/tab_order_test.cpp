@@ -1,0 +1,134 @@
+#include "nouns/windows/declination.h"
+#include "nouns/windows/declination_choose.h"
+#include "nouns/windows/noun_handler.h"
+#include "nouns/windows/noun_quiz.h"
+#include "nouns/windows/pronoun_chooser.h"
+#include "nouns/windows/pronoun_singular.h"
+#include "shell/settings.h"
+#include "shell/windows/about.h"
+#include "shell/windows/delay_interval.h"
+#include "shell/windows/frm_options.h"
+#include "shell/windows/help.h"
+#include "shell/windows/main_menu.h"
+#include "tests/support/window_test.h"
+#include "verbdrills/windows/conjugation.h"
+#include "verbdrills/windows/conjugation_choose.h"
+#include "verbdrills/windows/probatio.h"
+#include "verbdrills/windows/quiz_include.h"
+#include "verbdrills/windows/tense_mood_chooser.h"
+#include "verbs/windows/verb_manager.h"
+#include "vocabulary/windows/file_handler.h"
+#include "vocabulary/windows/vcab_loader.h"
+#include "vocabulary/windows/vcab_manager.h"
+#include "vocabulary/windows/vcab_warning.h"
+#include "vocabulary/windows/vcabtester.h"
+
+#include <QAbstractButton>
+#include <QLabel>
+#include <QMenuBar>
+
+#include <functional>
+#include <memory>
+
+namespace {
+
+using MakeWindow = std::function<std::unique_ptr<QWidget>()>;
+
+template <typename Window>
+std::unique_ptr<QWidget> make()
+{
+    return std::make_unique<Window>();
+}
+
+const std::vector<MakeWindow> AllWindows = {make<shell::MainMenu>,
+                                            make<shell::About>,
+                                            make<shell::Help>,
+                                            make<shell::DelayInterval>,
+                                            make<verbs::VerbManager>,
+                                            make<verbdrills::ConjugationChoose>,
+                                            make<verbdrills::Conjugation>,
+                                            make<verbdrills::TenseMoodChooser>,
+                                            make<verbdrills::Probatio>,
+                                            make<verbdrills::QuizInclude>,
+                                            make<nouns::DeclinationChoose>,
+                                            make<nouns::Declination>,
+                                            make<nouns::PronounChooser>,
+                                            make<nouns::PronounSingular>,
+                                            make<nouns::NounQuiz>,
+                                            make<nouns::NounHandler>,
+                                            make<vocabulary::Vcabtester>,
+                                            make<vocabulary::VcabManager>,
+                                            make<vocabulary::VcabLoader>,
+                                            make<vocabulary::FileHandler>,
+                                            make<vocabulary::VcabWarning>,
+                                            make<shell::FrmOptions>};
+
+bool takesTabs(const QWidget& widget)
+{
+    return widget.isVisible() && widget.isEnabled() && (widget.focusPolicy() & Qt::TabFocus) != 0 &&
+           !qobject_cast<const QMenuBar*>(&widget);
+}
+
+QRect placeOf(const QWidget& widget)
+{
+    return {widget.mapTo(widget.window(), QPoint(0, 0)), widget.size()};
+}
+
+// The eye goes on to the right, or down: never back up to the left.
+bool followsTheEye(const QRect& from, const QRect& to)
+{
+    constexpr int slack = 4;
+    return to.left() >= from.right() - slack || to.top() >= from.bottom() - slack;
+}
+
+bool hasName(const QWidget& widget)
+{
+    if (const auto* const button = qobject_cast<const QAbstractButton*>(&widget);
+        button && !button->text().isEmpty())
+        return true;
+    if (!widget.accessibleName().isEmpty())
+        return true;
+    for (const QLabel* const label : widget.window()->findChildren<QLabel*>())
+        if (label->buddy() == &widget)
+            return true;
+    return false;
+}
+
+using EveryWindow = tests::WindowTest;
+
+TEST_F(EveryWindow, IsTabbedThroughAsTheEyeGoes)
+{
+    for (const MakeWindow& makeWindow : AllWindows) {
+        const auto window = makeWindow();
+        window->show();
+        QApplication::processEvents();
+        QWidgetList order;
+        QWidget* next = window.get();
+        do {
+            next = next->nextInFocusChain();
+            if (takesTabs(*next))
+                order << next;
+        } while (next != window.get());
+        for (qsizetype i = 1; i < order.size(); ++i)
+            EXPECT_TRUE(followsTheEye(placeOf(*order.at(i - 1)), placeOf(*order.at(i))))
+                << window->objectName().toStdString() << ": " << order.at(i - 1)->objectName().toStdString()
+                << " to " << order.at(i)->objectName().toStdString();
+    }
+}
+
+TEST_F(EveryWindow, NamesEachControlForProgramsAndForTheEar)
+{
+    for (const MakeWindow& makeWindow : AllWindows) {
+        const auto window = makeWindow();
+        window->show();
+        for (const QWidget* const widget : window->findChildren<QWidget*>()) {
+            if (!takesTabs(*widget))
+                continue;
+            EXPECT_FALSE(widget->objectName().isEmpty()) << window->objectName().toStdString();
+            EXPECT_TRUE(hasName(*widget))
+                << window->objectName().toStdString() << ": " << widget->objectName().toStdString();
+        }
+    }
+}
+
+} // namespace
