@@ -38,6 +38,8 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    void fitScreenAtFirst();
+
     std::string_view activeName_;
 };
 
