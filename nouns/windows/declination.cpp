@@ -88,6 +88,7 @@ void Declination::makeControls()
     shell::setBoldType(*noun_, shell::HeadingType);
     shell::setBoldType(*score_, shell::HeadingType);
     noun_->setWordWrap(true);
+    noun_->setMinimumSize(1, noun_->fontMetrics().lineSpacing());
     singular_ = makeFrame(this, "Frame1");
     plural_ = makeFrame(this, "Frame2");
     continue_ = shell::makeButton(this, "Continue");
@@ -121,7 +122,6 @@ void Declination::layOut()
     rows->setContentsMargins(shell::WideSpace, shell::LargeSpace, shell::WideSpace, shell::LargeSpace);
     rows->setVerticalSpacing(shell::MediumSpace);
     rows->addLayout(headingRow(), 0, 0);
-    rows->setRowMinimumHeight(0, FrameTop - shell::LargeSpace - shell::MediumSpace);
     rows->addLayout(frameRow(), 1, 0);
     rows->setRowStretch(2, 1);
     rows->addLayout(buttonRow(), 3, 0);
@@ -136,6 +136,9 @@ QBoxLayout* Declination::headingRow()
     auto* const row = new QHBoxLayout;
     row->addLayout(names, 1);
     row->addWidget(score_, 0, Qt::AlignRight | Qt::AlignTop);
+    // Gives way on a small screen, where the buttons matter more than the frames' place.
+    row->addSpacerItem(new QSpacerItem(0, FrameTop - shell::LargeSpace - shell::MediumSpace,
+                                       QSizePolicy::Fixed, QSizePolicy::Maximum));
     return row;
 }
 

@@ -20,8 +20,9 @@ namespace nouns {
 
 /// The declension drill: ten boxes, one for each case, of which one is asked at a time.
 ///
-/// Its rows stand in the order of `CaseOrder`, 600 twips apart and 360 twips below the top of their frame;
-/// larger type moves them further down. The boxes keep their numbers in either order.
+/// Its rows stand in the order of `CaseOrder`, 600 twips apart and 360 twips below the top of their frame,
+/// the frames 1890 twips below that of the window; larger type moves the rows further down, and a small
+/// screen moves the frames up. The boxes keep their numbers in either order.
 class Declination : public shell::Window, public shell::Drill {
     Q_OBJECT
 

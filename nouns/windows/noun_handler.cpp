@@ -22,6 +22,7 @@ namespace nouns {
 namespace {
 
 constexpr QSize LargestBlock{110, 40};
+constexpr int CharactersOfField = 16;
 
 constexpr std::array<const char*, DeclensionCount> Declensions = {
     "First Declension", "Second Declension", "Third Declension", "Fourth Declension", "Fifth Declension"};
@@ -66,6 +67,9 @@ void NounHandler::makeControls()
                             2 * nouns_->verticalScrollBar()->sizeHint().width());
     for (const char* const name : Declensions)
         declensions_->addItem(QLatin1String(name));
+    declensions_->setMinimumWidth(declensions_->sizeHintForColumn(0) +
+                                  declensions_->verticalScrollBar()->sizeHint().width());
+    stem_->setMinimumWidth(CharactersOfField * stem_->fontMetrics().averageCharWidth());
 }
 
 void NounHandler::layOut()

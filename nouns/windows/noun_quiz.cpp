@@ -25,7 +25,6 @@ using shell::Caption;
 namespace {
 
 constexpr QSize LargestBlock{88, 38};
-constexpr int DeclensionsOfRow = 3;
 constexpr int LinesOfAnswer = 2;
 
 // clang-format off
@@ -80,10 +79,11 @@ void NounQuiz::makeControls()
     shell::setBoldType(*verdict_, shell::HeadingType);
     shell::setType(*answer_, shell::FormType);
     answer_->setAlignment(Qt::AlignTop);
-    for (QLabel* const label : {info_, answer_})
-        label->setWordWrap(true);
+    info_->setWordWrap(true);
+    info_->setMinimumSize(1, info_->fontMetrics().lineSpacing());
+    answer_->setWordWrap(true);
+    answer_->setMinimumSize(1, LinesOfAnswer * answer_->fontMetrics().lineSpacing());
     verdict_->setMinimumHeight(verdict_->fontMetrics().lineSpacing());
-    answer_->setMinimumHeight(LinesOfAnswer * answer_->fontMetrics().lineSpacing());
     ok_ = shell::makeButton(this, "NQOK");
     skip_ = shell::makeButton(this, "NQSkip");
     options_ = shell::makeButton(this, "NQOptions");
@@ -109,23 +109,22 @@ void NounQuiz::makeChecks()
 
 void NounQuiz::layOut()
 {
-    auto* const declensions = new QGridLayout;
-    for (int i = 0; i < NamedDeclensionCount; ++i)
-        declensions->addWidget(declensions_.at(static_cast<std::size_t>(i)), i / DeclensionsOfRow,
-                               i % DeclensionsOfRow);
     auto* const noun = new QHBoxLayout;
     noun->addWidget(info_, 1);
     noun->addWidget(indices_, 0, Qt::AlignRight | Qt::AlignTop);
 
+    auto* const judgement = new QHBoxLayout;
+    judgement->setSpacing(shell::LargeSpace);
+    judgement->addWidget(verdict_, 0, Qt::AlignTop);
+    judgement->addWidget(answer_, 1);
+
     auto* const rows = new QVBoxLayout(centredBlock(LargestBlock));
     rows->setContentsMargins(shell::WideSpace, shell::LargeSpace, shell::WideSpace, shell::LargeSpace);
     rows->setSpacing(shell::MediumSpace);
-    rows->addLayout(declensions);
     rows->addWidget(form_);
     rows->addLayout(noun);
     rows->addLayout(checkRow());
-    rows->addWidget(verdict_);
-    rows->addWidget(answer_);
+    rows->addLayout(judgement);
     rows->addStretch();
     rows->addLayout(buttonRow());
 }
@@ -142,6 +141,11 @@ QBoxLayout* NounQuiz::checkRow()
     row->setSpacing(shell::LargeSpace);
     row->addWidget(singular_, 1);
     row->addWidget(plural_, 1);
+    auto* const declensions = new QVBoxLayout;
+    declensions->addStretch();
+    for (QLabel* const label : declensions_)
+        declensions->addWidget(label);
+    row->addLayout(declensions);
     return row;
 }
 

@@ -91,6 +91,7 @@ void PronounSingular::makeControls()
     shell::setBoldType(*heading_, shell::HeadingType);
     shell::setBoldType(*score_, shell::HeadingType);
     heading_->setWordWrap(true);
+    heading_->setMinimumSize(1, heading_->fontMetrics().lineSpacing());
     for (std::size_t i = 0; i < columns_.size(); ++i)
         columns_.at(i) = shell::makeLabel(this, ColumnLabels.at(i));
     ok_ = shell::makeButton(this, "PronounOK");

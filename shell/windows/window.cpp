@@ -18,6 +18,9 @@ namespace {
 // So much more than a spacer's stretch that spacers grow only once the block has its greatest size.
 constexpr int BlockStretch = 1000;
 
+// What the frame and the title of a window leave it of the screen.
+constexpr double ShareOfScreen = 0.9;
+
 } // namespace
 
 Window::Window(std::string_view name, std::string_view activeName) : activeName_(activeName)
@@ -27,8 +30,16 @@ Window::Window(std::string_view name, std::string_view activeName) : activeName_
     connect(help, &QShortcut::activated, this, &Window::helpRequested);
 }
 
+// A window that were larger than the screen at first would hide its buttons.
+void Window::fitScreenAtFirst()
+{
+    if (!testAttribute(Qt::WA_Resized))
+        resize(sizeHint().boundedTo(screen()->availableSize() * ShareOfScreen));
+}
+
 void Window::showInMainWindowState()
 {
+    fitScreenAtFirst();
     if (settings.MainWindowState == window_state::Maximised)
         showMaximized();
     else if (settings.MainWindowState == window_state::Normal)

@@ -42,6 +42,8 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    void fitScreenAtFirst();
+
     std::string_view activeName_;
 };
 

@@ -165,7 +165,10 @@ TEST_F(DeclensionDrillWindow, PlacesItsRowsInTheCaseOrder)
              {"NGDAAb", {0, 1, 2, 3, 4}}, {"NAGDAb", {0, 3, 1, 2, 4}}}) {
         settings.CaseOrder = order;
         QWidget& drill = openRow(0);
+        drill.showNormal();
+        drill.adjustSize();
         QApplication::processEvents();
+        EXPECT_GE(control<QGroupBox>(drill, "Frame1").mapTo(&drill, QPoint()).y(), 126);
         const std::array labels = {"DeclNom", "DeclGen", "DeclDat", "DeclAcc", "DeclAbl"};
         for (int row = 0; row < CasesOfNumber; ++row) {
             const int inCase = cases.at(static_cast<std::size_t>(row));
