@@ -10,6 +10,8 @@
 #include "verbs/verb_list_file.h"
 
 #include <QApplication>
+
+#include <QApplication>
 #include <QWindow>
 
 namespace app {
@@ -38,6 +40,7 @@ void prepareWordListsAgain()
 
 Navigation::Navigation()
 {
+    qApp->installEventFilter(&heldKeys_);
     connectMainMenu();
     connectVerbs();
     connectNouns();

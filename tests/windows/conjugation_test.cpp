@@ -5,6 +5,7 @@
 #include "verbs/verb_list.h"
 #include "verbs/verb_tables.h"
 
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -204,6 +205,16 @@ TEST_F(ConjugationWindows, ScoreOnceHoweverOftenEnterIsPressed)
     EXPECT_EQ(box(drill, 0).text(), "amo");
     EXPECT_EQ(box(drill, 1).text(), "");
     EXPECT_EQ(shownWindow("Bravo"), nullptr);
+}
+
+TEST_F(ConjugationWindows, TakeAHeldEnterForOne)
+{
+    QWidget& drill = openDrill(0);
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
+    answer(drill, "amo");
+    for (int i = 0; i < 3; ++i)
+        QApplication::sendEvent(drill.focusWidget(), &held);
+    EXPECT_EQ(settings.AnsweredCount, 1);
 }
 
 TEST_F(ConjugationWindows, LeaveAtOnceInAPauseAndDoNotMoveOn)

@@ -1,4 +1,3 @@
-#include "nouns/windows/declination.h"
 #include "nouns/windows/declination_choose.h"
 #include "nouns/windows/noun_handler.h"
 #include "nouns/windows/noun_quiz.h"
@@ -77,8 +76,7 @@ QRect placeOf(const QWidget& widget)
 // The eye goes on to the right, or down: never back up to the left.
 bool followsTheEye(const QRect& from, const QRect& to)
 {
-    constexpr int slack = 4;
-    return to.left() >= from.right() - slack || to.top() >= from.bottom() - slack;
+    return to.left() >= from.center().x() || to.center().y() > from.center().y();
 }
 
 bool hasName(const QWidget& widget)
