@@ -1,6 +1,7 @@
 #include "app/load_step.h"
 
 #include "app/ending.h"
+#include "nouns/noun_list_file.h"
 #include "shell/settings_changes.h"
 #include "shell/settings_file.h"
 #include "shell/sound_control.h"
@@ -11,7 +12,8 @@ namespace app {
 
 void loadProgram(shell::MainMenu& mainMenu)
 {
-    verbs::readVerbList(verbs::VerbListFileName);
+    if (verbs::readVerbList(verbs::VerbListFileName))
+        nouns::readNounList(nouns::NounListFileName);
     if (!shell::readSettings(shell::SettingsFileName))
         shell::applyDefaultSettings();
     shell::mendSettings();

@@ -9,6 +9,9 @@
 #include "verbs/verb_edits.h"
 #include "verbs/verb_list_file.h"
 
+#include <QApplication>
+#include <QWindow>
+
 namespace app {
 
 using shell::MainMenu;
@@ -16,6 +19,14 @@ using shell::MainMenu;
 namespace {
 
 constexpr auto HelpCommand = "winhelp.exe morvanti.hlp";
+
+// Beside a modal window the help belongs to it: else it could be neither read on nor closed.
+void belongToModalWindow(QWidget& window)
+{
+    window.winId();
+    const QWidget* const modal = QApplication::activeModalWidget();
+    window.windowHandle()->setTransientParent(modal == nullptr ? nullptr : modal->windowHandle());
+}
 
 void prepareWordListsAgain()
 {
@@ -29,6 +40,9 @@ Navigation::Navigation()
 {
     connectMainMenu();
     connectVerbs();
+    connectNouns();
+    connectQuiz();
+    connectVocabulary();
     connectOptions();
 }
 
@@ -64,6 +78,59 @@ void Navigation::connectVerbs()
     connect(&verbs_, &VerbNavigation::helpRequested, this, &Navigation::showHelp);
 }
 
+void Navigation::connectNouns()
+{
+    connect(&mainMenu_, &MainMenu::declensionRequested, this, [this] {
+        const Hourglass hourglass;
+        shell::setVowelMarkForDrill();
+        shell::settings.ExerciseType = shell::exercise::Declination;
+        giveWay();
+        nouns_.showDeclinationChoose();
+    });
+    connect(&mainMenu_, &MainMenu::pronounsRequested, this, [this] {
+        const Hourglass hourglass;
+        shell::settings.ExerciseType = shell::exercise::Pronouns;
+        giveWay();
+        nouns_.showPronounChooser();
+    });
+    connect(&mainMenu_, &MainMenu::nounQuizRequested, this, [this] {
+        giveWay();
+        nouns_.showNounQuiz();
+    });
+    connect(&mainMenu_, &MainMenu::nounManagerRequested, this, [this] {
+        giveWay();
+        nouns_.showNounManager();
+    });
+    connect(&nouns_, &NounNavigation::delayRequested, &mainMenu_, &MainMenu::delayRequested);
+    connect(&nouns_, &NounNavigation::left, this, &Navigation::showMainMenu);
+    connect(&nouns_, &NounNavigation::helpRequested, this, &Navigation::showHelp);
+}
+
+void Navigation::connectQuiz()
+{
+    connect(&mainMenu_, &MainMenu::quizRequested, this, [this] {
+        giveWay();
+        quiz_.showQuiz();
+    });
+    connect(&quiz_, &QuizNavigation::left, this, &Navigation::showMainMenu);
+    connect(&quiz_, &QuizNavigation::helpRequested, this, &Navigation::showHelp);
+}
+
+void Navigation::connectVocabulary()
+{
+    connect(&mainMenu_, &MainMenu::vocabularyRequested, this, [this] {
+        const Hourglass hourglass;
+        giveWay();
+        vocabulary_.showTester();
+    });
+    connect(&mainMenu_, &MainMenu::vocabularyManagerRequested, this, [this] {
+        giveWay();
+        vocabulary_.showManager();
+    });
+    connect(&vocabulary_, &VocabularyNavigation::left, this, &Navigation::showMainMenu);
+    connect(&vocabulary_, &VocabularyNavigation::helpRequested, this, &Navigation::showHelp);
+}
+
 void Navigation::connectOptions()
 {
     connect(&mainMenu_, &MainMenu::delayRequested, &options_, &OptionsNavigation::showDelayInterval);
@@ -89,6 +156,7 @@ void Navigation::showHelp()
         help_ = std::make_unique<shell::Help>();
         connect(help_.get(), &shell::Help::helpRequested, this, &Navigation::showHelp);
     }
+    belongToModalWindow(*help_);
     help_->showGuide();
 }
 

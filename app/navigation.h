@@ -1,8 +1,11 @@
 #pragma once
 
 #include "app/feedback_windows.h"
+#include "app/noun_navigation.h"
+#include "app/quiz_navigation.h"
 #include "app/options_navigation.h"
 #include "app/verb_navigation.h"
+#include "app/vocabulary_navigation.h"
 #include "shell/windows/about.h"
 #include "shell/windows/help.h"
 #include "shell/windows/main_menu.h"
@@ -26,6 +29,9 @@ public:
 private:
     void connectMainMenu();
     void connectVerbs();
+    void connectNouns();
+    void connectQuiz();
+    void connectVocabulary();
     void connectOptions();
 
     void giveWay();
@@ -36,6 +42,9 @@ private:
     shell::MainMenu mainMenu_;
     FeedbackWindows feedback_;
     VerbNavigation verbs_{feedback_};
+    NounNavigation nouns_{feedback_};
+    QuizNavigation quiz_{feedback_};
+    VocabularyNavigation vocabulary_{feedback_};
     OptionsNavigation options_;
     std::unique_ptr<shell::About> about_;
     std::unique_ptr<shell::Help> help_;

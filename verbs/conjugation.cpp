@@ -2,9 +2,9 @@
 
 #include "platform/random.h"
 #include "shell/settings.h"
+#include "shell/vowel_marks.h"
 #include "verbs/verb_list.h"
 #include "verbs/verb_tables.h"
-#include "verbs/vowel_marks.h"
 
 namespace verbs {
 
@@ -32,7 +32,7 @@ void buildForm(std::string& form, std::string_view stem, std::string_view ending
     if (ending.empty())
         return;
     form += stem;
-    appendMarked(form, ending, mark);
+    shell::appendMarked(form, ending, mark);
 }
 
 } // namespace
@@ -61,7 +61,7 @@ void takeVerb(VerbClass verbClass, int number, std::string_view infinitiveEnding
 
     std::string& infinitive = verbTables.Infinitive[verbClass];
     infinitive = present;
-    appendMarked(infinitive, infinitiveEnding, shell::settings.VowelMark);
+    shell::appendMarked(infinitive, infinitiveEnding, shell::settings.VowelMark);
 
     const int place = number - 1;
     verbTables.BaseGloss[verbClass] = verbList.BaseForm[verbClass][place];
@@ -85,7 +85,7 @@ VerbStems stemsOf(VerbClass verbClass, int number)
 void setVowelMarkWhereShown()
 {
     if (shell::settings.ShowVowelLength == platform::FlagTrue)
-        shell::settings.VowelMark = LengthMark;
+        shell::settings.VowelMark = shell::LengthMark;
 }
 
 void resetTense()

@@ -1,9 +1,9 @@
 #include "shell/settings.h"
+#include "shell/vowel_marks.h"
 #include "verbs/generators.h"
 #include "verbs/irregular_forms.h"
 #include "verbs/shared_endings.h"
 #include "verbs/verb_tables.h"
-#include "verbs/vowel_marks.h"
 
 #include <optional>
 
@@ -57,7 +57,7 @@ void setGlossesInLanguage(VerbClass verbClass, const IrregularGlosses& glosses)
 std::string marked(std::string_view text)
 {
     std::string form;
-    appendMarked(form, text, shell::settings.VowelMark);
+    shell::appendMarked(form, text, shell::settings.VowelMark);
     return form;
 }
 

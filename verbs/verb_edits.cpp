@@ -1,6 +1,6 @@
 #include "verbs/verb_edits.h"
 
-#include "verbs/vowel_marks.h"
+#include "shell/vowel_marks.h"
 
 #include <algorithm>
 #include <array>
@@ -34,7 +34,7 @@ void keepMarks(VerbRecord& edited, const VerbRecord& listed)
 {
     for (std::string VerbRecord::*const stem :
          {&VerbRecord::presentStem, &VerbRecord::perfectStem, &VerbRecord::supineStem})
-        if (edited.*stem == StripOutColons(listed.*stem))
+        if (edited.*stem == shell::StripOutColons(listed.*stem))
             edited.*stem = listed.*stem;
 }
 

@@ -1,6 +1,6 @@
 #include "verbs/verb_list.h"
 
-#include "verbs/vowel_marks.h"
+#include "shell/vowel_marks.h"
 
 namespace verbs {
 
@@ -18,9 +18,9 @@ VerbRecord verbAt(int verbClass, int number)
 
 void storeVerb(int verbClass, int number, const VerbRecord& verb)
 {
-    verbList.PresentStem[verbClass][number] = stemAsShown(verb.presentStem);
-    verbList.PerfectStem[verbClass][number] = stemAsShown(verb.perfectStem);
-    verbList.SupineStem[verbClass][number] = stemAsShown(verb.supineStem);
+    verbList.PresentStem[verbClass][number] = shell::stemAsShown(verb.presentStem);
+    verbList.PerfectStem[verbClass][number] = shell::stemAsShown(verb.perfectStem);
+    verbList.SupineStem[verbClass][number] = shell::stemAsShown(verb.supineStem);
     const int place = number - 1;
     verbList.BaseForm[verbClass][place] = verb.translations[0];
     verbList.Past[verbClass][place] = verb.translations[1];

@@ -1,5 +1,6 @@
 #include "shell/windows/chooser.h"
 
+#include "shell/windows/big_frame.h"
 #include "shell/windows/captions.h"
 #include "shell/windows/choice_list.h"
 #include "shell/windows/text.h"
@@ -73,7 +74,8 @@ void Chooser::layOut()
 
 void Chooser::connectControls()
 {
-    connect(list_, &ChoiceList::rowChosen, this, [this](int row) { ok_->setEnabled(row >= 0); });
+    connect(list_, &ChoiceList::rowChosen, this,
+            [this](int row) { ok_->setEnabled(row >= 0 || beginsAtOk()); });
     connect(list_, &ChoiceList::rowActivated, this, &Chooser::choose);
     connect(ok_, &QPushButton::clicked, this, &Chooser::choose);
     connect(cancel_, &QPushButton::clicked, this, &Chooser::cancelled);
@@ -85,8 +87,11 @@ void Chooser::open()
     if (!isVisible())
         resize(frame_->sizeHint());
     showInMainWindowState();
-    placeFrame();
-    list_->setFocus();
+    placeBigFrame(*this, *frame_);
+    if (beginsAtOk())
+        ok_->setFocus();
+    else
+        list_->setFocus();
 }
 
 void Chooser::becameActive()
@@ -99,10 +104,10 @@ void Chooser::fill()
     applyCaptions(*this, captions_);
     fillList(*list_, rows_);
     list_->setAccessibleName(windowTitle());
-    ok_->setEnabled(false);
+    ok_->setEnabled(beginsAtOk());
     list_->setMinimumSize(roomForRows(*list_));
     setMinimumSize(frame_->minimumSizeHint());
-    placeFrame();
+    placeBigFrame(*this, *frame_);
     beginChoice();
 }
 
@@ -128,22 +133,7 @@ void Chooser::keyPressEvent(QKeyEvent* event)
 void Chooser::resizeEvent(QResizeEvent* event)
 {
     Window::resizeEvent(event);
-    placeFrame();
-}
-
-// On a maximised window the frame stands in the middle of the screen, a little to the left: the divisor of
-// the width is meant.
-void Chooser::placeFrame()
-{
-    if (!isMaximized()) {
-        frame_->setGeometry(rect());
-        return;
-    }
-    const QSize screenSize = screen()->geometry().size();
-    const QSize frameSize = frame_->sizeHint().boundedTo(size());
-    frame_->setGeometry(static_cast<int>(screenSize.width() / 2.0 - frameSize.width() / 1.9),
-                        static_cast<int>(screenSize.height() / 2.0 - frameSize.height() / 2.0),
-                        frameSize.width(), frameSize.height());
+    placeBigFrame(*this, *frame_);
 }
 
 } // namespace shell

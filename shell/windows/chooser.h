@@ -43,6 +43,10 @@ protected:
     /// Called each time the list was filled anew: when the window is shown and when it becomes active.
     virtual void beginChoice() {}
 
+    /// True where the OK button has the focus at first. It is available then before a row is chosen, and does
+    /// nothing.
+    virtual bool beginsAtOk() const { return false; }
+
     void becameActive() override;
     void closeBoxPressed() override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -54,7 +58,6 @@ private:
     void connectControls();
     void fill();
     void choose();
-    void placeFrame();
 
     std::span<const Caption> captions_;
     std::span<const LanguageTexts> rows_;

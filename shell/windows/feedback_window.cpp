@@ -1,5 +1,6 @@
 #include "shell/windows/feedback_window.h"
 
+#include "shell/feedback_texts.h"
 #include "shell/windows/captions.h"
 #include "shell/windows/text.h"
 #include "shell/windows/type.h"
@@ -12,12 +13,8 @@ namespace shell {
 
 namespace {
 
-// clang-format off
-//                                        English   French    Italian   German      Spanish    Latin
-constexpr Caption RightCaption{"RightCaption", {"Right!", "Bon!",   "Right!", "Richtig!", "¡Bien!",  "Verum"}};
-// French says "Wrong!": its own "Non!" is meant never to be shown.
-constexpr Caption WrongCaption{"WrongCaption", {"Wrong!", "Wrong!", "Wrong!", "Falsch!",  "¡Mal!",   "Falsum"}};
-// clang-format on
+constexpr Caption RightCaption{"RightCaption", RightTexts};
+constexpr Caption WrongCaption{"WrongCaption", WrongTexts};
 
 constexpr Qt::WindowFlags AboveAllWithoutFocus =
     Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::WindowDoesNotAcceptFocus;

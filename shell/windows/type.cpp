@@ -26,6 +26,11 @@ void setType(QWidget& widget, double factor)
     widget.setFont(scaledFont(factor));
 }
 
+void setLeastWidth(QWidget& widget, int characters)
+{
+    widget.setMinimumWidth(characters * widget.fontMetrics().averageCharWidth());
+}
+
 void setBoldType(QWidget& widget, double factor)
 {
     QFont font = scaledFont(factor);

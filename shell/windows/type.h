@@ -20,6 +20,9 @@ inline constexpr double NoteType = 0.95;
 /// Sets a widget's font to a multiple of the application's.
 void setType(QWidget& widget, double factor);
 
+/// Makes a widget at least so many characters of its own font wide.
+void setLeastWidth(QWidget& widget, int characters);
+
 /// Sets a widget's font likewise, and bold.
 void setBoldType(QWidget& widget, double factor);
 

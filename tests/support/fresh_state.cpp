@@ -1,12 +1,22 @@
 #include "tests/support/fresh_state.h"
 
+#include "nouns/declension_drill.h"
+#include "nouns/noun_list.h"
+#include "nouns/noun_quiz.h"
+#include "nouns/noun_tables.h"
+#include "nouns/pronoun_drill.h"
 #include "platform/random.h"
 #include "shell/drill.h"
 #include "shell/settings.h"
 #include "verbdrills/conjugation_drill.h"
+#include "verbdrills/quiz_inclusion.h"
+#include "verbdrills/verb_quiz.h"
 #include "verbs/verb_edits.h"
 #include "verbs/verb_list.h"
 #include "verbs/verb_tables.h"
+#include "vocabulary/vocabulary_edits.h"
+#include "vocabulary/vocabulary_list.h"
+#include "vocabulary/vocabulary_tester.h"
 
 #include <fstream>
 #include <iterator>
@@ -35,11 +45,21 @@ FreshState::FreshState() : before_(fs::current_path()), folder_(freshFolder())
     platform::seedWith(1);
     shell::leaveDrill();
     shell::settings = {};
+    nouns::nounList = {};
+    nouns::nounTables = {};
+    nouns::declensionDrill = {};
+    nouns::nounQuestion = {};
+    nouns::pronounDrill = {};
     verbs::verbTables = {};
     verbs::verbList = {};
     verbs::currentParadigm = {};
     verbs::forgetVerbEdits();
     verbdrills::conjugationDrill = {};
+    verbdrills::verbQuiz = {};
+    verbdrills::QuizIncludeSet = platform::FlagFalse;
+    vocabulary::vocabularyList = {};
+    vocabulary::vocabularyTester = {};
+    vocabulary::vocabularyEditor = {};
 }
 
 FreshState::~FreshState()

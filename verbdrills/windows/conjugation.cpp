@@ -5,6 +5,7 @@
 #include "shell/settings.h"
 #include "shell/windows/answer_box.h"
 #include "shell/windows/captions.h"
+#include "shell/windows/controls.h"
 #include "shell/windows/text.h"
 #include "shell/windows/type.h"
 #include "verbdrills/gloss.h"
@@ -20,6 +21,8 @@ namespace verbdrills {
 
 using shell::AnswerBox;
 using shell::Caption;
+using shell::makeButton;
+using shell::makeLabel;
 using verbs::currentParadigm;
 
 namespace {
@@ -42,21 +45,6 @@ constexpr std::array Captions = {
     Caption{"HelpLabel",     {"Help=F1",  "Assistance=F1",      {}, "Hilfe=F1", "Ayuda=F1", "Auxilium=F1"}},
 };
 // clang-format on
-
-QLabel* makeLabel(QWidget* parent, const char* name)
-{
-    auto* const label = new QLabel(parent);
-    label->setObjectName(QLatin1String(name));
-    return label;
-}
-
-QPushButton* makeButton(QWidget* parent, const char* name)
-{
-    auto* const button = new QPushButton(parent);
-    button->setObjectName(QLatin1String(name));
-    button->setAutoDefault(true);
-    return button;
-}
 
 } // namespace
 

@@ -17,7 +17,10 @@ namespace verbs {
 
 namespace {
 
-constexpr QSize LargestBlock{110, 40};
+constexpr QSize LargestBlock{130, 32};
+constexpr int ListCharacters = 26;
+constexpr int StemCharacters = 18;
+constexpr int PreviewCharacters = 14;
 
 struct ClassRow {
     VerbClass verbClass;
@@ -78,11 +81,15 @@ void VerbManager::makeControls()
         latin_.at(i)->setObjectName(QStringLiteral("VerbManagerLatinForms%1").arg(i));
         previews_.at(i) = new QLabel(this);
         previews_.at(i)->setObjectName(QLatin1String(StemFields.at(i).preview));
+        shell::setLeastWidth(*latin_.at(i), StemCharacters);
+        shell::setLeastWidth(*previews_.at(i), PreviewCharacters);
     }
     for (std::size_t i = 0; i < translations_.size(); ++i) {
         translations_.at(i) = new QLineEdit(this);
         translations_.at(i)->setObjectName(QStringLiteral("VerbManagerGermanForms%1").arg(i));
     }
+    for (QListWidget* const list : {classes_, verbs_})
+        shell::setLeastWidth(*list, ListCharacters);
     for (const ClassRow& row : Classes)
         classes_->addItem(QLatin1String(row.name));
 }
@@ -120,6 +127,7 @@ void VerbManager::layOut()
     right->addLayout(buttons);
 
     auto* const columns = new QHBoxLayout(centredBlock(LargestBlock));
+    columns->setContentsMargins(shell::LargeSpace, shell::LargeSpace, shell::LargeSpace, shell::LargeSpace);
     columns->setSpacing(shell::LargeSpace);
     columns->addWidget(classes_, 2);
     columns->addWidget(verbs_, 2);

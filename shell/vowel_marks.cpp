@@ -1,8 +1,8 @@
-#include "verbs/vowel_marks.h"
+#include "shell/vowel_marks.h"
 
 #include "shell/settings.h"
 
-namespace verbs {
+namespace shell {
 
 std::string StripOutColons(std::string stem)
 {
@@ -15,7 +15,7 @@ std::string StripOutColons(std::string stem)
 std::string stemAsShown(std::string_view stem)
 {
     std::string text(stem);
-    return shell::settings.ShowVowelLength == platform::FlagTrue ? text : StripOutColons(std::move(text));
+    return settings.ShowVowelLength == platform::FlagTrue ? text : StripOutColons(std::move(text));
 }
 
 void appendMarked(std::string& form, std::string_view text, std::string_view mark)
@@ -28,4 +28,4 @@ void appendMarked(std::string& form, std::string_view text, std::string_view mar
     }
 }
 
-} // namespace verbs
+} // namespace shell

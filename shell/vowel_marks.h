@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace verbs {
+namespace shell {
 
 /// The mark after a long vowel, as lists and tables write it.
 inline constexpr char LengthMark = ':';
@@ -18,4 +18,4 @@ std::string stemAsShown(std::string_view stem);
 /// Appends a text of the tables with `mark` in place of every ":".
 void appendMarked(std::string& form, std::string_view text, std::string_view mark);
 
-} // namespace verbs
+} // namespace shell

@@ -1,0 +1,121 @@
+#include "nouns/declension_drill.h"
+
+#include "nouns/case_order.h"
+#include "nouns/noun_paradigms.h"
+#include "nouns/noun_tables.h"
+#include "platform/random.h"
+#include "shell/settings.h"
+
+#include <algorithm>
+#include <array>
+
+namespace nouns {
+
+using shell::settings;
+
+DeclensionDrill declensionDrill;
+
+namespace {
+
+constexpr std::array<NounParadigm, ParadigmCount> ParadigmOfRow = {
+    FirstDeclension,        SecondDeclensionUs,     SecondDeclensionEr,
+    SecondDeclensionNeuter, ThirdDeclension,        ThirdDeclensionNeuter,
+    FourthDeclension,       FourthDeclensionNeuter, FifthDeclension};
+
+void ask(int box)
+{
+    declensionDrill.CurrentCaseIndex = static_cast<std::int16_t>(box);
+}
+
+bool boxIsLeft()
+{
+    const auto& done = declensionDrill.CaseDone;
+    return std::find(done.begin(), done.begin() + CaseCount, platform::FlagFalse) != done.begin() + CaseCount;
+}
+
+int drawBoxLeft()
+{
+    int box = platform::draw(CaseCount);
+    while (declensionDrill.CaseDone[box] == platform::FlagTrue)
+        box = platform::draw(CaseCount);
+    return box;
+}
+
+// Asks the next box of the round; false when all ten have been asked.
+bool askNextBox()
+{
+    if (settings.QuestionOrder != shell::question_order::Random) {
+        ask(nextInCaseOrder(declensionDrill.CurrentCaseIndex));
+        return declensionDrill.CurrentCaseIndex < CaseCount;
+    }
+    declensionDrill.CaseDone[declensionDrill.CurrentCaseIndex] = platform::FlagTrue;
+    if (!boxIsLeft())
+        return false;
+    ask(drawBoxLeft());
+    return true;
+}
+
+} // namespace
+
+void beginDeclensionChoice()
+{
+    if (settings.QuestionOrder == shell::question_order::Sequential)
+        ask(0);
+    else if (settings.QuestionOrder == shell::question_order::Random)
+        ask(platform::draw(CaseCount));
+    declensionDrill.Answers.fill({});
+}
+
+bool chooseDeclension(int row)
+{
+    if (row < 0 || row >= ParadigmCount)
+        return false;
+    declensionDrill.DrillParadigm =
+        static_cast<std::int16_t>(ParadigmOfRow.at(static_cast<std::size_t>(row)));
+    return true;
+}
+
+void drawDeclension()
+{
+    BuildNounParadigms();
+    declensionDrill.CaseDone.fill(platform::FlagFalse);
+    declensionDrill.Answers.fill({});
+}
+
+void setDeclensionQuestion()
+{
+    declensionDrill.ExpectedAnswer =
+        nounTables.NounForms[declensionDrill.DrillParadigm][declensionDrill.CurrentCaseIndex + 1];
+}
+
+void returnToQuestion()
+{
+    declensionDrill.AnswerGiven = platform::FlagFalse;
+}
+
+Judgement judgeDeclension(const std::string& answer)
+{
+    const bool judgedBefore = declensionDrill.AnswerGiven == platform::FlagTrue;
+    declensionDrill.AnswerGiven = platform::FlagTrue;
+    declensionDrill.Answers[declensionDrill.CurrentCaseIndex] = answer;
+    if (answer == declensionDrill.ExpectedAnswer)
+        return Judgement::Right;
+    return judgedBefore ? Judgement::NotAgain : Judgement::Wrong;
+}
+
+DeclensionAdvance advanceDeclension()
+{
+    if (askNextBox())
+        return DeclensionAdvance::NextCase;
+    drawDeclension();
+    ask(0);
+    return DeclensionAdvance::NextRound;
+}
+
+void leaveDeclension()
+{
+    declensionDrill.DrillParadigm = 0;
+    ask(0);
+}
+
+} // namespace nouns

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "nouns/noun_paradigm.h"
+#include "platform/flag.h"
+#include "platform/table.h"
+
+#include <cstdint>
+#include <string>
+
+namespace nouns {
+
+/// One flag for each case, 0 to 9: the number of the case minus one.
+using CaseSet = platform::Table<platform::Flag, CaseCount>;
+
+/// The question of the noun quiz. There is one, `nounQuestion`; assigning `{}` resets it. The forms that it
+/// asks about stand in `nounTables`.
+struct NounQuestion {
+    /// The paradigm asked, 0 to 7: its number minus one.
+    std::int16_t QuizParadigmIndex = 0;
+
+    /// The case that was drawn, 0 to 8.
+    std::int16_t QuizCaseIndex = 0;
+
+    /// The cases that the form can stand for, and those that the learner ticked.
+    CaseSet QuizRightCases;
+    CaseSet QuizTickedCases;
+};
+
+extern NounQuestion nounQuestion;
+
+/// The cases that are marked together with a case, by the index of the paradigm, 0 to 8. They are fixed
+/// groups of the grammar, not found by comparing forms. The fourth declension in -us alone goes by
+/// `ShowVowelLength`: with marks its nominative singular is never marked, not even where it was drawn.
+CaseSet casesOfOneForm(int paradigmIndex, int caseIndex);
+
+/// Draws the next question, generates the nouns, and unticks all cases. The neuter of the third declension
+/// and the ablative plural are meant never to be drawn.
+void drawNounQuestion();
+
+/// The form that is asked about, and the caption of its noun.
+const std::string& askedForm();
+const std::string& askedNoun();
+
+/// The indexes that were drawn, with ":" between them.
+std::string drawnIndexes();
+
+/// True when exactly the right cases are ticked.
+bool ticksAreRight();
+
+/// The right cases in words: "singular Genitive Dative Plural Nominative".
+std::string rightCasesInWords();
+
+} // namespace nouns

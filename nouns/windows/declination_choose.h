@@ -1,0 +1,19 @@
+#pragma once
+
+#include "shell/windows/chooser.h"
+
+namespace nouns {
+
+/// Chooses the paradigm of which a noun is declined.
+class DeclinationChoose : public shell::Chooser {
+    Q_OBJECT
+
+public:
+    DeclinationChoose();
+
+protected:
+    void beginChoice() override;
+    bool beginsAtOk() const override;
+};
+
+} // namespace nouns

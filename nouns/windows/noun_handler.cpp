@@ -1,0 +1,287 @@
+#include "nouns/windows/noun_handler.h"
+
+#include "platform/platform.h"
+#include "shell/settings.h"
+#include "shell/windows/text.h"
+#include "shell/windows/type.h"
+
+#include <QBoxLayout>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace nouns {
+
+namespace {
+
+constexpr QSize LargestBlock{110, 40};
+
+constexpr std::array<const char*, DeclensionCount> Declensions = {
+    "First Declension", "Second Declension", "Third Declension", "Fourth Declension", "Fifth Declension"};
+
+constexpr std::array<const char*, MeaningCount> MeaningLabels = {"&English", "&German", "&French",
+                                                                 "Spanis&h"};
+
+constexpr auto NewItem = "** Add New Item Here **";
+
+} // namespace
+
+NounHandler::NounHandler()
+    : Window("NounHandler", "nounmanager"), declensions_(new QListWidget), nouns_(new QListWidget),
+      paradigms_(new QComboBox), stem_(new QLineEdit), obliqueStem_(new QLineEdit), note_(new QLineEdit),
+      add_(new QPushButton(QStringLiteral("&Add"))), close_(new QPushButton(QStringLiteral("&Close")))
+{
+    setWindowTitle(QStringLiteral("Noun Manager"));
+    makeControls();
+    layOut();
+    connectControls();
+}
+
+void NounHandler::makeControls()
+{
+    declensions_->setObjectName(QStringLiteral("NHDeclList"));
+    declensions_->setAccessibleName(QStringLiteral("Declensions"));
+    nouns_->setObjectName(QStringLiteral("NHNounList"));
+    nouns_->setAccessibleName(QStringLiteral("Nouns"));
+    paradigms_->setObjectName(QStringLiteral("NHParadigm"));
+    stem_->setObjectName(QStringLiteral("NHStem"));
+    obliqueStem_->setObjectName(QStringLiteral("NHObliqueStem"));
+    note_->setObjectName(QStringLiteral("NHNote"));
+    for (std::size_t i = 0; i < meanings_.size(); ++i) {
+        meanings_.at(i) = new QLineEdit;
+        meanings_.at(i)->setObjectName(QStringLiteral("NHMeaning%1").arg(i));
+    }
+    add_->setObjectName(QStringLiteral("NHAdd"));
+    add_->setAutoDefault(true);
+    close_->setObjectName(QStringLiteral("NHClose"));
+    close_->setAutoDefault(true);
+    nouns_->setMinimumWidth(nouns_->fontMetrics().horizontalAdvance(QLatin1String(NewItem)) +
+                            2 * nouns_->verticalScrollBar()->sizeHint().width());
+    for (const char* const name : Declensions)
+        declensions_->addItem(QLatin1String(name));
+}
+
+void NounHandler::layOut()
+{
+    auto* const right = new QVBoxLayout;
+    right->addLayout(fieldRows());
+    right->addStretch();
+    right->addLayout(buttonRow());
+
+    auto* const columns = new QHBoxLayout(centredBlock(LargestBlock));
+    columns->setSpacing(shell::LargeSpace);
+    columns->addWidget(declensions_, 2);
+    columns->addWidget(nouns_, 2);
+    columns->addLayout(right, 4);
+}
+
+QBoxLayout* NounHandler::fieldRows()
+{
+    auto* const fields = new QGridLayout;
+    fields->setHorizontalSpacing(shell::MediumSpace);
+    fields->setVerticalSpacing(shell::SmallSpace);
+    int row = 0;
+    const auto addField = [&](const char* caption, QWidget* field) {
+        auto* const label = new QLabel(QLatin1String(caption));
+        label->setBuddy(field);
+        fields->addWidget(label, row, 0);
+        fields->addWidget(field, row++, 1);
+    };
+    addField("&Paradigm", paradigms_);
+    addField("&Stem", stem_);
+    addField("O&blique stem", obliqueStem_);
+    addField("Gender and geni&tive", note_);
+    for (std::size_t i = 0; i < meanings_.size(); ++i)
+        addField(MeaningLabels.at(i), meanings_.at(i));
+    auto* const rows = new QVBoxLayout;
+    rows->addLayout(fields);
+    return rows;
+}
+
+QBoxLayout* NounHandler::buttonRow()
+{
+    auto* const row = new QHBoxLayout;
+    row->addWidget(add_);
+    row->addStretch();
+    row->addWidget(close_);
+    return row;
+}
+
+void NounHandler::connectControls()
+{
+    connect(declensions_, &QListWidget::currentRowChanged, this, &NounHandler::listNouns);
+    connect(nouns_, &QListWidget::currentRowChanged, this, &NounHandler::showNoun);
+    connect(paradigms_, &QComboBox::currentIndexChanged, this, &NounHandler::chooseParadigm);
+    for (const QLineEdit* const field : {stem_, obliqueStem_, note_})
+        connect(field, &QLineEdit::textEdited, this, &NounHandler::keepDraft);
+    for (const QLineEdit* const field : meanings_)
+        connect(field, &QLineEdit::textEdited, this, &NounHandler::keepDraft);
+    connect(add_, &QPushButton::clicked, this, &NounHandler::add);
+    connect(close_, &QPushButton::clicked, this, &NounHandler::left);
+}
+
+void NounHandler::open()
+{
+    declensions_->setCurrentRow(0);
+    listNouns();
+    showInMainWindowState();
+    declensions_->setFocus();
+}
+
+void NounHandler::listNouns()
+{
+    nouns_->clear();
+    rows_.clear();
+    paradigms_->clear();
+    for (const ListedParadigm& paradigm : paradigmsOf(declensions_->currentRow())) {
+        if (paradigm.paradigm == FourthDeclension)
+            countFourthDeclension();
+        paradigms_->addItem(shell::fromUtf8(paradigm.name), static_cast<int>(paradigm.paradigm));
+        for (int number = 1; number <= listedNounCount(paradigm.paradigm); ++number) {
+            rows_.push_back({&paradigm, number});
+            nouns_->addItem(shell::fromUtf8(listedNominative(paradigm, number)));
+        }
+    }
+    nouns_->setCurrentRow(rows_.empty() ? -1 : 0);
+    if (rows_.empty())
+        showNoun(-1);
+}
+
+bool NounHandler::isNewRow(int row) const
+{
+    return row >= 0 && static_cast<std::size_t>(row) >= rows_.size();
+}
+
+int NounHandler::chosenParadigm() const
+{
+    return paradigms_->currentData().toInt();
+}
+
+void NounHandler::showNoun(int row)
+{
+    if (isNewRow(row)) {
+        showRecord(draft_);
+    } else if (row < 0) {
+        showRecord({});
+    } else {
+        const auto& [paradigm, number] = rows_.at(static_cast<std::size_t>(row));
+        paradigms_->setCurrentIndex(paradigms_->findData(static_cast<int>(paradigm->paradigm)));
+        showRecord(listedNoun(paradigm->paradigm, number));
+    }
+    allowTyping(isNewRow(row));
+}
+
+void NounHandler::showRecord(const NounRecord& noun)
+{
+    stem_->setText(shell::fromUtf8(noun.stem));
+    obliqueStem_->setText(shell::fromUtf8(noun.obliqueStem));
+    note_->setText(shell::fromUtf8(noun.note));
+    for (std::size_t i = 0; i < meanings_.size(); ++i)
+        meanings_.at(i)->setText(shell::fromUtf8(noun.meanings.at(i)));
+}
+
+void NounHandler::allowTyping(bool allowed)
+{
+    paradigms_->setEnabled(allowed);
+    for (QLineEdit* const field : {stem_, note_})
+        field->setReadOnly(!allowed);
+    for (QLineEdit* const field : meanings_)
+        field->setReadOnly(!allowed);
+    obliqueStem_->setReadOnly(!allowed);
+    obliqueStem_->setEnabled(chosenParadigm() == ThirdDeclension);
+}
+
+void NounHandler::chooseParadigm(int /*row*/)
+{
+    obliqueStem_->setEnabled(chosenParadigm() == ThirdDeclension);
+}
+
+void NounHandler::keepDraft()
+{
+    draft_ = typedNoun();
+}
+
+NounRecord NounHandler::typedNoun() const
+{
+    NounRecord noun{.note = note_->text().toStdString(),
+                    .stem = stem_->text().toStdString(),
+                    .obliqueStem = obliqueStem_->text().toStdString(),
+                    .meanings = {}};
+    for (std::size_t i = 0; i < meanings_.size(); ++i)
+        noun.meanings.at(i) = meanings_.at(i)->text().toStdString();
+    return noun;
+}
+
+void NounHandler::add()
+{
+    shell::settings.ActiveWindowName = "NHadd";
+    if (isNewRow(nouns_->currentRow()))
+        storeNewNoun();
+    else
+        addNewRow();
+}
+
+void NounHandler::addNewRow()
+{
+    if (hasFixedNouns(chosenParadigm())) {
+        platform::current().showMessage("The nouns of the fourth and fifth declensions are fixed.");
+        return;
+    }
+    const auto newRow = static_cast<int>(rows_.size());
+    if (nouns_->count() == newRow)
+        nouns_->addItem(QLatin1String(NewItem));
+    nouns_->setCurrentRow(newRow);
+    paradigms_->setCurrentIndex(paradigms_->count() - 1);
+    stem_->setFocus();
+}
+
+void NounHandler::storeNewNoun()
+{
+    const int paradigm = chosenParadigm();
+    switch (addNoun(paradigm, typedNoun())) {
+    case NounEdit::FixedNouns:
+        return;
+    case NounEdit::NoStem:
+        platform::current().showMessage("A noun needs a stem.");
+        return;
+    case NounEdit::ListFull:
+        platform::current().showMessage("This paradigm holds " + std::to_string(mostNounsOf(paradigm)) +
+                                        " nouns at the most.");
+        return;
+    case NounEdit::Stored:
+        break;
+    }
+    draft_ = {};
+    listNouns();
+    chooseLastOf(paradigm);
+}
+
+void NounHandler::chooseLastOf(int paradigm)
+{
+    const auto last = std::find_if(rows_.rbegin(), rows_.rend(),
+                                   [&](const ListRow& row) { return row.paradigm->paradigm == paradigm; });
+    nouns_->setCurrentRow(static_cast<int>(rows_.rend() - last) - 1);
+    nouns_->setFocus();
+}
+
+void NounHandler::closeBoxPressed()
+{
+    Q_EMIT left();
+}
+
+void NounHandler::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape)
+        Q_EMIT left();
+    else
+        Window::keyPressEvent(event);
+}
+
+} // namespace nouns

@@ -1,0 +1,79 @@
+#pragma once
+
+#include "nouns/noun_edits.h"
+#include "shell/windows/window.h"
+
+#include <array>
+#include <vector>
+
+class QBoxLayout;
+class QComboBox;
+class QLineEdit;
+class QListWidget;
+class QPushButton;
+
+namespace nouns {
+
+/// The noun manager: shows the noun lists by declension and lets the learner add nouns. They are kept in
+/// memory: the list file is never written.
+///
+/// `NHAdd` adds a last row for a new noun, whose fields can be filled in; pressed on that row it stores the
+/// noun. What was filled in waits there until it is stored.
+class NounHandler : public shell::Window {
+    Q_OBJECT
+
+public:
+    NounHandler();
+
+    /// Starts afresh with the first declension.
+    void open();
+
+Q_SIGNALS:
+    /// The window was closed.
+    void left();
+
+protected:
+    void closeBoxPressed() override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void makeControls();
+    void layOut();
+    QBoxLayout* fieldRows();
+    QBoxLayout* buttonRow();
+    void connectControls();
+
+    struct ListRow {
+        const ListedParadigm* paradigm;
+        int number;
+    };
+
+    void listNouns();
+    void chooseParadigm(int row);
+    void showNoun(int row);
+    void showRecord(const NounRecord& noun);
+    void allowTyping(bool allowed);
+    void keepDraft();
+    NounRecord typedNoun() const;
+    void add();
+    void addNewRow();
+    void storeNewNoun();
+    void chooseLastOf(int paradigm);
+    bool isNewRow(int row) const;
+    int chosenParadigm() const;
+
+    QListWidget* declensions_;
+    QListWidget* nouns_;
+    QComboBox* paradigms_;
+    QLineEdit* stem_;
+    QLineEdit* obliqueStem_;
+    QLineEdit* note_;
+    std::array<QLineEdit*, MeaningCount> meanings_{};
+    QPushButton* add_;
+    QPushButton* close_;
+
+    std::vector<ListRow> rows_;
+    NounRecord draft_;
+};
+
+} // namespace nouns

@@ -1,0 +1,234 @@
+#include "nouns/windows/noun_quiz.h"
+
+#include "nouns/noun_quiz.h"
+#include "nouns/windows/case_names.h"
+#include "shell/drill.h"
+#include "shell/feedback_texts.h"
+#include "shell/pause.h"
+#include "shell/windows/captions.h"
+#include "shell/windows/controls.h"
+#include "shell/windows/text.h"
+#include "shell/windows/type.h"
+
+#include <QBoxLayout>
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+
+namespace nouns {
+
+using shell::Caption;
+
+namespace {
+
+constexpr QSize LargestBlock{88, 38};
+constexpr int DeclensionsOfRow = 3;
+constexpr int LinesOfAnswer = 2;
+
+// clang-format off
+constexpr std::array Captions = {
+    //                       English      French        Italian      German      Spanish      Latin
+    Caption{"NQOK",         {"&OK",       "&OK",       "&OK",       "&OK",      "&Si",       "&Ita"}},
+    Caption{"NQCancel",     {"&Cancel",   "&Cancel",   "&Cancel",   "&Abbruch", "&Cancelar", "&Reverte!"}},
+    Caption{"QuizSingular", {"Singular",  "Singulier", "Singular",  "Einzahl",  "Singular",  "numerus singularis"}},
+    Caption{"QuizPlural",   {"Plural",    "Pluriel",   "Plural",    "Mehrzahl", "Plural",    "numerus pluralis"}},
+};
+
+constexpr std::array CheckNames = {
+    "NominativeSingCheck",   "GenitiveSingCheck",   "DativeSingCheck",   "AccusativeSingCheck",   "AblativeSingCheck",
+    "NominativePluralCheck", "GenitivePluralCheck", "DativePluralCheck", "AccusativePluralCheck", "AblativePluralCheck"};
+
+constexpr std::array<const char*, NamedDeclensionCount> Declensions = {
+    "First Declension", "Second Declension", "Third Declension", "Third i-stem Declension", "Fourth Declension", "Fifth Declension"};
+// clang-format on
+
+// The declension that a paradigm belongs to, by the index of the paradigm.
+constexpr std::array DeclensionOf = {0, 1, 1, 1, 4, 4, 5, 2, 2};
+
+QGroupBox* makeFrame(QWidget* parent, const char* name)
+{
+    auto* const frame = new QGroupBox(parent);
+    frame->setObjectName(QLatin1String(name));
+    return frame;
+}
+
+} // namespace
+
+NounQuiz::NounQuiz() : Window("NounQuiz")
+{
+    setWindowTitle(QStringLiteral("Noun Quiz"));
+    makeControls();
+    makeChecks();
+    layOut();
+    connectControls();
+    shell::applyDesignedCaptions(*this, Captions);
+}
+
+void NounQuiz::makeControls()
+{
+    form_ = shell::makeLabel(this, "NounQuizForm");
+    info_ = shell::makeLabel(this, "NounQuizInfo");
+    indices_ = shell::makeLabel(this, "NounQuizIndices");
+    verdict_ = shell::makeLabel(this, "NounQuizVerdict");
+    answer_ = shell::makeLabel(this, "NounRightAnswer");
+    shell::setBoldType(*form_, shell::TitleType);
+    shell::setType(*info_, shell::FormType);
+    shell::setType(*indices_, shell::NoteType);
+    shell::setBoldType(*verdict_, shell::HeadingType);
+    shell::setType(*answer_, shell::FormType);
+    answer_->setAlignment(Qt::AlignTop);
+    for (QLabel* const label : {info_, answer_})
+        label->setWordWrap(true);
+    verdict_->setMinimumHeight(verdict_->fontMetrics().lineSpacing());
+    answer_->setMinimumHeight(LinesOfAnswer * answer_->fontMetrics().lineSpacing());
+    ok_ = shell::makeButton(this, "NQOK");
+    skip_ = shell::makeButton(this, "NQSkip");
+    options_ = shell::makeButton(this, "NQOptions");
+    cancel_ = shell::makeButton(this, "NQCancel");
+    skip_->setText(QStringLiteral("S&kip"));
+    options_->setText(QStringLiteral("O&ptions..."));
+    for (std::size_t i = 0; i < declensions_.size(); ++i) {
+        declensions_.at(i) = new QLabel(QLatin1String(Declensions.at(i)));
+        declensions_.at(i)->setObjectName(QStringLiteral("NounQuizDeclension%1").arg(i));
+    }
+}
+
+void NounQuiz::makeChecks()
+{
+    singular_ = makeFrame(this, "QuizSingular");
+    plural_ = makeFrame(this, "QuizPlural");
+    for (std::size_t i = 0; i < checks_.size(); ++i) {
+        QGroupBox* const frame = i < CasesOfNumber ? singular_ : plural_;
+        checks_.at(i) = new QCheckBox(QLatin1String(CaseNames.at(i % CasesOfNumber)), frame);
+        checks_.at(i)->setObjectName(QLatin1String(CheckNames.at(i)));
+    }
+}
+
+void NounQuiz::layOut()
+{
+    auto* const declensions = new QGridLayout;
+    for (int i = 0; i < NamedDeclensionCount; ++i)
+        declensions->addWidget(declensions_.at(static_cast<std::size_t>(i)), i / DeclensionsOfRow,
+                               i % DeclensionsOfRow);
+    auto* const noun = new QHBoxLayout;
+    noun->addWidget(info_, 1);
+    noun->addWidget(indices_, 0, Qt::AlignRight | Qt::AlignTop);
+
+    auto* const rows = new QVBoxLayout(centredBlock(LargestBlock));
+    rows->setContentsMargins(shell::WideSpace, shell::LargeSpace, shell::WideSpace, shell::LargeSpace);
+    rows->setSpacing(shell::MediumSpace);
+    rows->addLayout(declensions);
+    rows->addWidget(form_);
+    rows->addLayout(noun);
+    rows->addLayout(checkRow());
+    rows->addWidget(verdict_);
+    rows->addWidget(answer_);
+    rows->addStretch();
+    rows->addLayout(buttonRow());
+}
+
+QBoxLayout* NounQuiz::checkRow()
+{
+    for (QGroupBox* const frame : {singular_, plural_}) {
+        auto* const column = new QVBoxLayout(frame);
+        column->setSpacing(shell::SmallSpace);
+        for (QCheckBox* const box : frame->findChildren<QCheckBox*>())
+            column->addWidget(box, 0, Qt::AlignLeft);
+    }
+    auto* const row = new QHBoxLayout;
+    row->setSpacing(shell::LargeSpace);
+    row->addWidget(singular_, 1);
+    row->addWidget(plural_, 1);
+    return row;
+}
+
+QBoxLayout* NounQuiz::buttonRow()
+{
+    auto* const row = new QHBoxLayout;
+    row->setSpacing(shell::SmallSpace);
+    row->addWidget(options_);
+    row->addStretch();
+    row->addWidget(ok_);
+    row->addWidget(skip_);
+    row->addWidget(cancel_);
+    return row;
+}
+
+void NounQuiz::connectControls()
+{
+    for (int i = 0; i < CaseCount; ++i)
+        connect(checks_.at(static_cast<std::size_t>(i)), &QCheckBox::toggled, this,
+                [this, i](bool ticked) { tick(i, ticked); });
+    connect(ok_, &QPushButton::clicked, this, &NounQuiz::check);
+    connect(skip_, &QPushButton::clicked, this, &NounQuiz::skip);
+    connect(options_, &QPushButton::clicked, this, &NounQuiz::optionsRequested);
+    connect(cancel_, &QPushButton::clicked, this, &NounQuiz::left);
+}
+
+void NounQuiz::open()
+{
+    shell::applyCaptions(*this, Captions);
+    ask();
+    showInMainWindowState();
+}
+
+void NounQuiz::ask()
+{
+    verdict_->clear();
+    answer_->clear();
+    for (QCheckBox* const box : checks_)
+        box->setChecked(false);
+    drawNounQuestion();
+    form_->setText(shell::fromUtf8(askedForm()));
+    info_->setText(shell::fromUtf8(askedNoun()));
+    indices_->setText(shell::fromUtf8(drawnIndexes()));
+    const int drawn = DeclensionOf.at(static_cast<std::size_t>(nounQuestion.QuizParadigmIndex));
+    for (int i = 0; i < NamedDeclensionCount; ++i) {
+        QLabel& label = *declensions_.at(static_cast<std::size_t>(i));
+        i == drawn ? shell::setBoldType(label, 1) : shell::setType(label, 1);
+    }
+    checks_.front()->setFocus();
+}
+
+void NounQuiz::tick(int caseIndex, bool ticked)
+{
+    nounQuestion.QuizTickedCases[caseIndex] = platform::flagOf(ticked);
+}
+
+void NounQuiz::check()
+{
+    if (shell::pausing() || !isVisible())
+        return;
+    const int session = shell::drillSession();
+    const shell::LanguageTexts& verdict = ticksAreRight() ? shell::RightTexts : shell::WrongTexts;
+    verdict_->setText(shell::fromUtf8(verdict.designedOrCurrent()));
+    answer_->setText(shell::fromUtf8(rightCasesInWords()));
+    shell::Pause();
+    if (session == shell::drillSession())
+        ask();
+}
+
+// A judged answer that is still shown gives way at once: leaving ends its pause.
+void NounQuiz::skip()
+{
+    shell::leaveDrill();
+    ask();
+}
+
+void NounQuiz::closeBoxPressed()
+{
+    Q_EMIT left();
+}
+
+void NounQuiz::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape)
+        Q_EMIT left();
+    else
+        Window::keyPressEvent(event);
+}
+
+} // namespace nouns

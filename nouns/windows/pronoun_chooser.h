@@ -1,0 +1,15 @@
+#pragma once
+
+#include "shell/windows/chooser.h"
+
+namespace nouns {
+
+/// Chooses the group of pronouns that is drilled.
+class PronounChooser : public shell::Chooser {
+    Q_OBJECT
+
+public:
+    PronounChooser();
+};
+
+} // namespace nouns

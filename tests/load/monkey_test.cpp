@@ -1,0 +1,179 @@
+// Random clicks, keys, window closings and menu choices over the whole program, pauses included. The events
+// come from a seeded generator, so that a failure can be played again:
+//     MORVANTI_MONKEY_EVENTS=1000000 MORVANTI_MONKEY_SEED=7 build/sanitize/monkey_test
+
+#include "app/navigation.h"
+#include "shell/settings.h"
+#include "tests/support/window_test.h"
+
+#include <QAction>
+#include <QElapsedTimer>
+#include <QMenu>
+
+#include <cstdlib>
+#include <random>
+
+namespace {
+
+int numberFrom(const char* variable, int otherwise)
+{
+    const char* const value = std::getenv(variable);
+    return value == nullptr ? otherwise : std::atoi(value);
+}
+
+class Monkey : public tests::WindowTest {
+protected:
+    Monkey() : events_(numberFrom("MORVANTI_MONKEY_EVENTS", 20000)), random_(seed())
+    {
+        for (const auto& sample : std::filesystem::directory_iterator(MORVANTI_DATA))
+            if (sample.is_regular_file())
+                std::filesystem::copy(sample, ".");
+    }
+
+    static unsigned seed() { return static_cast<unsigned>(numberFrom("MORVANTI_MONKEY_SEED", 1)); }
+
+    int below(int count) { return static_cast<int>(random_() % static_cast<unsigned>(count)); }
+
+    template <typename Value>
+    Value anyOf(const QList<Value>& values)
+    {
+        return values.at(below(static_cast<int>(values.size())));
+    }
+
+    // One run of the program, until it ends or the events are used up.
+    void run()
+    {
+        fake.exitStatus.reset();
+        fake.messages.clear();
+        shell::settings = {};
+        app::Navigation navigation;
+        // Half of the pauses are filled with further events.
+        fake.whileWaiting = [this] {
+            QApplication::processEvents();
+            for (int i = below(6); i > 0 && depth_ < 4; --i)
+                act();
+        };
+        navigation.start();
+        while (!fake.exitStatus && events_ > 0)
+            act();
+        fake.whileWaiting = nullptr;
+    }
+
+    void act()
+    {
+        if (events_-- <= 0 || fake.exitStatus)
+            return;
+        ++depth_;
+        if (QWidget* const window = anyWindow())
+            actOn(*window);
+        QApplication::processEvents();
+        --depth_;
+    }
+
+    QWidget* anyWindow()
+    {
+        QWidgetList shown;
+        for (QWidget* const window : QApplication::topLevelWidgets())
+            if (window->isVisible() && !window->objectName().isEmpty() && !qobject_cast<QMenu*>(window))
+                shown << window;
+        EXPECT_FALSE(shown.isEmpty()) << "no window is left";
+        if (shown.isEmpty())
+            events_ = 0;
+        if (QWidget* const modal = QApplication::activeModalWidget())
+            return modal;
+        return shown.isEmpty() ? nullptr : anyOf(shown);
+    }
+
+    void actOn(QWidget& window)
+    {
+        const int choice = below(100);
+        if (choice < 45)
+            clickSomewhere(window);
+        else if (choice < 90)
+            pressSomething(window);
+        else if (choice < 98)
+            chooseFromMenu(window);
+        else if (below(4) == 0)
+            window.close();
+    }
+
+    void clickSomewhere(QWidget& window)
+    {
+        QWidgetList targets;
+        // Folders are left alone, so that nothing is written outside the test's own.
+        for (QWidget* const widget : window.findChildren<QWidget*>())
+            if (widget->isVisible() && widget->isEnabled() && !isInFolderList(*widget))
+                targets << widget;
+        if (targets.isEmpty())
+            return;
+        QWidget* const target = anyOf(targets);
+        if (endsTheProgram(*target) && below(8) > 0)
+            return;
+        const QPoint place(below(std::max(1, target->width())), below(std::max(1, target->height())));
+        if (below(4) == 0)
+            QTest::mouseDClick(target, Qt::LeftButton, Qt::NoModifier, place);
+        else
+            QTest::mouseClick(target, Qt::LeftButton, Qt::NoModifier, place);
+    }
+
+    // Seldom chosen, so that a run becomes long.
+    static bool endsTheProgram(const QObject& control)
+    {
+        return QStringList{"ExitButton", "FileExit", "VerbMangerCancel"}.contains(control.objectName());
+    }
+
+    static bool isInFolderList(const QWidget& widget)
+    {
+        for (const QWidget* w = &widget; w != nullptr; w = w->parentWidget())
+            if (w->objectName() == QLatin1String("FHDirBox"))
+                return true;
+        return false;
+    }
+
+    void pressSomething(QWidget& window)
+    {
+        static const QList<Qt::Key> keys = {
+            Qt::Key_Return,   Qt::Key_Enter, Qt::Key_Escape, Qt::Key_Tab,     Qt::Key_Backtab, Qt::Key_Down,
+            Qt::Key_Up,       Qt::Key_Space, Qt::Key_F1,     Qt::Key_End,     Qt::Key_Home,    Qt::Key_Delete,
+            Qt::Key_Question, Qt::Key_Slash, Qt::Key_Left,   Qt::Key_PageDown};
+        QWidget* const target = window.focusWidget() == nullptr ? &window : window.focusWidget();
+        if (isInFolderList(*target) || (endsTheProgram(*target) && below(8) > 0))
+            return;
+        if (below(3) == 0)
+            QTest::sendKeyEvent(QTest::Click, target, Qt::Key_unknown, QString(QChar('a' + below(26))),
+                                Qt::NoModifier);
+        else
+            QTest::keyClick(target, anyOf(keys), below(20) == 0 ? Qt::AltModifier : Qt::NoModifier);
+    }
+
+    void chooseFromMenu(QWidget& window)
+    {
+        QList<QAction*> items;
+        for (QAction* const item : window.findChildren<QAction*>())
+            if (!endsTheProgram(*item) && item->isEnabled() && item->menu() == nullptr &&
+                !item->objectName().isEmpty())
+                items << item;
+        if (!items.isEmpty())
+            anyOf(items)->trigger();
+    }
+
+    int events_;
+    int depth_ = 0;
+    std::mt19937 random_;
+};
+
+TEST_F(Monkey, NeitherCrashesNorHangsTheProgram)
+{
+    QElapsedTimer timer;
+    timer.start();
+    int runs = 0;
+    const int events = events_;
+    while (events_ > 0) {
+        run();
+        ++runs;
+    }
+    RecordProperty("runs", runs);
+    std::printf("%d events in %d runs of the program, %lld ms\n", events, runs, timer.elapsed());
+}
+
+} // namespace

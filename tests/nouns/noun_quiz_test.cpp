@@ -1,0 +1,104 @@
+#include "nouns/noun_list_file.h"
+#include "nouns/noun_quiz.h"
+#include "nouns/noun_tables.h"
+#include "shell/settings.h"
+#include "tests/support/fresh_state.h"
+
+#include <map>
+#include <set>
+
+namespace {
+
+using namespace nouns;
+using NounQuizRules = tests::FreshState;
+
+using CasesByDraw = std::array<std::string, CaseCount>;
+
+// clang-format off
+// For each drawn case, the cases that are right: N G D A B for the singular, n g d a b for the plural.
+const std::array<CasesByDraw, ParadigmCount> Expected = {{
+    //  N        G       D       A       B         n        g    d     a        b
+    {"NB",     "GDn",  "GDn",  "A",    "NB",     "GDn",   "g", "db", "a",     "db"}, // puella
+    {"N",      "Gn",   "DB",   "A",    "DB",     "Gn",    "g", "db", "a",     "db"}, // hortus
+    {"N",      "Gn",   "DB",   "A",    "DB",     "Gn",    "g", "db", "a",     "db"}, // ager
+    {"NA",     "G",    "DB",   "NA",   "DB",     "na",    "g", "db", "na",    "db"}, // donum
+    {"NGna",   "NGna", "D",    "A",    "B",      "NGna",  "g", "db", "NGna",  "db"}, // fructus
+    {"NDAB",   "G",    "NDAB", "NDAB", "NDAB",   "na",    "g", "db", "na",    "db"}, // cornu
+    {"Nna",    "GD",   "GD",   "A",    "B",      "Nna",   "g", "db", "Nna",   "db"}, // dies
+    {"N",      "G",    "D",    "A",    "B",      "na",    "g", "db", "na",    "db"}, // rex
+    {"NA",     "G",    "D",    "NA",   "B",      "na",    "g", "db", "na",    "db"}, // nomen
+}};
+const CasesByDraw FructusWithMarks =
+    {"Gna",    "Gna",  "D",    "A",    "B",      "Gna",   "g", "db", "Gna",   "db"};
+// clang-format on
+
+std::string letters(const CaseSet& cases)
+{
+    std::string text;
+    for (int i = 0; i < CaseCount; ++i)
+        if (cases[i] == platform::FlagTrue)
+            text += std::string("NGDABngdab").at(static_cast<std::size_t>(i));
+    return text;
+}
+
+TEST_F(NounQuizRules, GroupTheCasesOfOneForm)
+{
+    constexpr int fructus = 4;
+    for (const platform::Flag marks : {platform::FlagFalse, platform::FlagTrue}) {
+        shell::settings.ShowVowelLength = marks;
+        for (int paradigm = 0; paradigm < ParadigmCount; ++paradigm) {
+            const CasesByDraw& row = paradigm == fructus && marks == platform::FlagTrue
+                                         ? FructusWithMarks
+                                         : Expected.at(static_cast<std::size_t>(paradigm));
+            for (int drawn = 0; drawn < CaseCount; ++drawn)
+                EXPECT_EQ(letters(casesOfOneForm(paradigm, drawn)), row.at(static_cast<std::size_t>(drawn)))
+                    << paradigm << ":" << drawn << " marks " << marks;
+        }
+    }
+}
+
+TEST_F(NounQuizRules, SayTheCasesInWords)
+{
+    const std::map<std::string, std::pair<int, int>> words = {
+        {"singular Genitive Dative Plural Nominative", {0, 1}},
+        {"singular Nominative Dative Accusative Ablative", {5, 3}},
+        {" Plural Dative Ablative", {2, 7}},
+        {"singular Nominative Genitive Plural Nominative Accusative", {4, 8}}};
+    for (const auto& [text, drawn] : words) {
+        nounQuestion.QuizRightCases = casesOfOneForm(drawn.first, drawn.second);
+        EXPECT_EQ(rightCasesInWords(), text);
+    }
+}
+
+TEST_F(NounQuizRules, DrawNeitherNeutersOfTheThirdNorAblativePlurals)
+{
+    tests::copySample("nouns.cfg");
+    readNounList("nouns.cfg");
+    std::set<std::string> drawn;
+    for (int draws = 0; draws < 3000; ++draws) {
+        drawNounQuestion();
+        drawn.insert(drawnIndexes());
+        EXPECT_EQ(nounQuestion.QuizRightCases,
+                  casesOfOneForm(nounQuestion.QuizParadigmIndex, nounQuestion.QuizCaseIndex));
+    }
+    EXPECT_EQ(drawn.size(), 72U);
+    EXPECT_EQ(*drawn.begin(), "0:0");
+    EXPECT_EQ(*drawn.rbegin(), "7:8");
+}
+
+TEST_F(NounQuizRules, ShowTheFormWithItsNoun)
+{
+    shell::settings.ShowVowelLength = platform::FlagTrue;
+    std::set<std::string> forms;
+    for (int draws = 0; draws < 300; ++draws) {
+        drawNounQuestion();
+        if (nounQuestion.QuizParadigmIndex + 1 == FourthDeclension) {
+            EXPECT_EQ(askedNoun(), "fru:ctus -us (m) = fruit");
+            forms.insert(askedForm());
+        }
+    }
+    EXPECT_EQ(forms, (std::set<std::string>{"fru:ctus", "fru:ctu:s", "fru:ctui:", "fru:ctum",
+                                            "fru:ctu:", "fru:ctuum", "fru:ctibus"}));
+}
+
+} // namespace

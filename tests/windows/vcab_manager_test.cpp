@@ -1,0 +1,404 @@
+#include "app/navigation.h"
+#include "tests/support/full_disk.h"
+#include "tests/support/window_test.h"
+#include "vocabulary/vocabulary_edits.h"
+#include "vocabulary/vocabulary_list.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+
+namespace {
+
+using tests::click;
+using tests::control;
+using tests::press;
+using tests::shownWindow;
+using tests::type;
+using vocabulary::vocabularyList;
+using vocabulary::WordRecord;
+
+class VcabManagerWindow : public tests::WindowTest {
+protected:
+    QWidget& open()
+    {
+        navigation.start();
+        control<QAction>(*shownWindow("MainMenu"), "FileVcabManager").trigger();
+        return *shownWindow("VcabManager");
+    }
+
+    static QListWidget& words(QWidget& manager) { return control<QListWidget>(manager, "VcabManMainForm"); }
+
+    static QStringList rows(const QListWidget& list)
+    {
+        QStringList texts;
+        for (int row = 0; row < list.count(); ++row)
+            texts.append(list.item(row)->text());
+        return texts;
+    }
+
+    static QString box(QWidget& manager, const QString& name)
+    {
+        return control<QLineEdit>(manager, name).text();
+    }
+
+    // Selects what a box holds and types over it.
+    static void typeInto(QWidget& window, const QString& name, const QString& text)
+    {
+        auto& line = control<QLineEdit>(window, name);
+        line.setFocus();
+        line.selectAll();
+        type(window, text);
+    }
+
+    static void fill(QWidget& manager, const WordRecord& record)
+    {
+        typeInto(manager, "VcabManWord", QString::fromStdString(record.word));
+        typeInto(manager, "VcabManTrans", QString::fromStdString(record.translation));
+        typeInto(manager, "VcabManHint", QString::fromStdString(record.hint));
+    }
+
+    static void add(QWidget& manager, const WordRecord& record)
+    {
+        fill(manager, record);
+        click(manager, "VcabManAdd");
+    }
+
+    static void saveAs(QWidget& manager, const QString& name)
+    {
+        click(manager, "VcabManSave");
+        QWidget& files = *shownWindow("FileHandler");
+        typeInto(files, "FHFileName", name);
+        click(files, "LoadSaveFH");
+    }
+
+    app::Navigation navigation;
+};
+
+const WordRecord Rose{"rosa", "rose", "f."};
+const WordRecord Rome{"Ro:ma", "Rome, Italy", "Romae, f."};
+
+TEST_F(VcabManagerWindow, LeadsAListThroughItsWholeLife)
+{
+    QWidget& manager = open();
+    EXPECT_EQ(tests::focusIn(manager), "VcabManWord");
+    add(manager, Rose);
+    EXPECT_EQ(tests::focusIn(manager), "VcabManWord");
+    add(manager, Rome);
+    add(manager, {"re:x", "king", "m."});
+    tests::clickRow(words(manager), 2);
+    EXPECT_EQ(box(manager, "VcabManTrans"), "king");
+    click(manager, "VcabManDelete");
+    tests::clickRow(words(manager), 0);
+    typeInto(manager, "VcabManTrans", "a rose");
+    click(manager, "VcabManAccept");
+    EXPECT_EQ(rows(words(manager)), QStringList({"rosa", "Ro:ma"}));
+
+    saveAs(manager, "mine");
+    EXPECT_EQ(tests::bytesOf("mine.lst"), "rosa,a rose,f.\r\nRo:ma,Rome> Italy,Romae> f.\r\n");
+    EXPECT_TRUE(manager.isVisible());
+    tests::clickRow(words(manager), 1);
+    EXPECT_EQ(box(manager, "VcabManTrans"), "Rome> Italy");
+    click(manager, "VcabManExit");
+    EXPECT_EQ(shownWindow("VcabWarning"), nullptr);
+
+    QWidget& tester = *shownWindow("Vcabtester");
+    control<QAction>(tester, "VcabTesterFileOpen").trigger();
+    QWidget& loader = *shownWindow("VcabLoader");
+    tests::doubleClickRow(control<QListWidget>(loader, "VcabFile"), 0);
+    type(tester, "a rose");
+    press(tester, Qt::Key_Return);
+    EXPECT_EQ(control<QLabel>(tester, "VQuestion").text(), "Ro:ma");
+
+    control<QAction>(tester, "VcabTesterEdit").trigger();
+    click(manager, "VcabManLoad");
+    QWidget& files = *shownWindow("FileHandler");
+    tests::clickRow(control<QListWidget>(files, "FHFileBox"), 0);
+    EXPECT_EQ(box(files, "FHFileName"), "mine.lst");
+    click(files, "LoadSaveFH");
+    tests::clickRow(words(manager), 1);
+    EXPECT_EQ(box(manager, "VcabManTrans"), "Rome, Italy");
+    EXPECT_TRUE(fake.messages.empty());
+}
+
+TEST_F(VcabManagerWindow, TakesOverWhatWasTypedBeforeAnotherWordIsChosen)
+{
+    QWidget& manager = open();
+    add(manager, Rose);
+    add(manager, Rome);
+    tests::clickRow(words(manager), 0);
+    typeInto(manager, "VcabManHint", "rosae, f.");
+    tests::clickRow(words(manager), 1);
+    EXPECT_EQ(box(manager, "VcabManWord"), "Ro:ma");
+    EXPECT_EQ(vocabularyList.Loaded[1], (WordRecord{"rosa", "rose", "rosae, f."}));
+    press(manager, Qt::Key_Up);
+    EXPECT_EQ(box(manager, "VcabManHint"), "rosae, f.");
+}
+
+TEST_F(VcabManagerWindow, TakesOverANewRecordBeforeAnythingElseComes)
+{
+    QWidget& manager = open();
+    add(manager, Rose);
+    fill(manager, Rome);
+    tests::clickRow(words(manager), 0);
+    EXPECT_EQ(rows(words(manager)), QStringList({"rosa", "Ro:ma"}));
+    EXPECT_EQ(box(manager, "VcabManWord"), "rosa");
+    click(manager, "VcabManDelete");
+    click(manager, "VcabManDelete");
+    EXPECT_EQ(vocabularyList.WordCount, 0);
+    fill(manager, Rome);
+    saveAs(manager, "rome.lst");
+    EXPECT_EQ(tests::bytesOf("rome.lst"), "Ro:ma,Rome> Italy,Romae> f.\r\n");
+    fill(manager, Rose);
+    press(manager, Qt::Key_Escape);
+    EXPECT_NE(shownWindow("VcabWarning"), nullptr);
+    EXPECT_EQ(vocabularyList.Loaded[2], Rose);
+}
+
+TEST_F(VcabManagerWindow, KeepsWhatWasTypedWhenTheRecordIsDeleted)
+{
+    QWidget& manager = open();
+    add(manager, Rose);
+    tests::clickRow(words(manager), 0);
+    typeInto(manager, "VcabManWord", "rosula");
+    click(manager, "VcabManDelete");
+    EXPECT_EQ(box(manager, "VcabManWord"), "rosula");
+    EXPECT_FALSE(control<QAbstractButton>(manager, "VcabManDelete").isEnabled());
+    click(manager, "VcabManAdd");
+    EXPECT_EQ(vocabularyList.Loaded[1], (WordRecord{"rosula", "rose", "f."}));
+}
+
+TEST_F(VcabManagerWindow, AddsOrAcceptsWithTheEnterKey)
+{
+    QWidget& manager = open();
+    press(manager, Qt::Key_Return);
+    EXPECT_EQ(vocabularyList.WordCount, 0);
+    fill(manager, Rose);
+    press(manager, Qt::Key_Return);
+    EXPECT_EQ(vocabularyList.Loaded[1], Rose);
+    tests::clickRow(words(manager), 0);
+    press(manager, Qt::Key_Return);
+    EXPECT_EQ(tests::focusIn(manager), "VcabManWord");
+    typeInto(manager, "VcabManTrans", "a rose");
+    press(manager, Qt::Key_Return);
+    EXPECT_EQ(vocabularyList.Loaded[1].translation, "a rose");
+    EXPECT_EQ(vocabularyList.WordCount, 1);
+}
+
+TEST_F(VcabManagerWindow, RefusesTheThreeHundredAndFirstWordAndKeepsItsText)
+{
+    QWidget& manager = open();
+    add(manager, Rose);
+    while (vocabularyList.WordCount < 300)
+        vocabulary::addWord(Rose);
+    fill(manager, Rome);
+    for (const auto* const way : {"VcabManAdd", "VcabManSave", "VcabManLoad", "VcabManExit"}) {
+        fake.messages.clear();
+        click(manager, way);
+        EXPECT_EQ(fake.messages.size(), 1U) << way;
+        EXPECT_EQ(box(manager, "VcabManTrans"), "Rome, Italy") << way;
+        EXPECT_TRUE(manager.isVisible()) << way;
+    }
+    tests::clickRow(words(manager), 0);
+    EXPECT_EQ(box(manager, "VcabManWord"), "Ro:ma");
+    EXPECT_EQ(vocabularyList.WordCount, 300);
+}
+
+TEST_F(VcabManagerWindow, WarnsBeforeChangesAreLeftUnsaved)
+{
+    QWidget& manager = open();
+    add(manager, Rose);
+    click(manager, "VcabManExit");
+    press(*shownWindow("VcabWarning"), Qt::Key_Escape);
+    EXPECT_EQ(shownWindow("VcabWarning"), nullptr);
+    EXPECT_TRUE(manager.isVisible());
+
+    click(manager, "VcabManExit");
+    click(*shownWindow("VcabWarning"), "VcabWarningSave");
+    EXPECT_EQ(shownWindow("VcabWarning"), nullptr);
+    EXPECT_EQ(control<QAbstractButton>(*shownWindow("FileHandler"), "LoadSaveFH").text(), "&Save");
+    press(*shownWindow("FileHandler"), Qt::Key_Escape);
+    EXPECT_TRUE(manager.isVisible());
+
+    click(manager, "VcabManLoad");
+    click(*shownWindow("VcabWarning"), "VcabWarningDiscard");
+    EXPECT_EQ(control<QAbstractButton>(*shownWindow("FileHandler"), "LoadSaveFH").text(), "&Load");
+    click(*shownWindow("FileHandler"), "CancelFH");
+    EXPECT_EQ(rows(words(manager)), QStringList({"rosa"}));
+
+    manager.close();
+    click(*shownWindow("VcabWarning"), "VcabWarningDiscard");
+    EXPECT_FALSE(manager.isVisible());
+    EXPECT_NE(shownWindow("Vcabtester"), nullptr);
+}
+
+TEST_F(VcabManagerWindow, ReturnsWithEverythingWhereASaveFails)
+{
+    tests::writeFile("old.lst", "old,bytes,here\r\n");
+    std::filesystem::create_directory("folder.lst");
+    QWidget& manager = open();
+    add(manager, Rome);
+    add(manager, Rose);
+    tests::clickRow(words(manager), 0);
+    const auto expectFailure = [&](const QString& name) {
+        fake.messages.clear();
+        saveAs(manager, name);
+        ASSERT_EQ(fake.messages.size(), 1U);
+        EXPECT_NE(fake.messages[0].find(name.section('/', -1).toStdString()), std::string::npos);
+        EXPECT_TRUE(manager.isVisible());
+        EXPECT_EQ(shownWindow("FileHandler"), nullptr);
+        EXPECT_EQ(rows(words(manager)), QStringList({"Ro:ma", "rosa"}));
+        EXPECT_EQ(box(manager, "VcabManTrans"), "Rome, Italy");
+        EXPECT_TRUE(vocabulary::changesArePending());
+    };
+    expectFailure("no/such/list.lst");
+    expectFailure("folder.lst");
+    {
+        const tests::FullDisk full;
+        expectFailure("old.lst");
+    }
+    EXPECT_EQ(tests::bytesOf("old.lst"), "old,bytes,here\r\n");
+    saveAs(manager, "old.lst");
+    EXPECT_EQ(tests::bytesOf("old.lst"), "Ro:ma,Rome> Italy,Romae> f.\r\nrosa,rose,f.\r\n");
+}
+
+TEST_F(VcabManagerWindow, KeepsTheListWhereAnotherCannotBeLoaded)
+{
+    tests::writeFile("cut.lst", "rosa,rose,f.\r\nre:x,king");
+    QWidget& manager = open();
+    add(manager, Rome);
+    saveAs(manager, "mine");
+    click(manager, "VcabManLoad");
+    QWidget& files = *shownWindow("FileHandler");
+    typeInto(files, "FHFileName", "missing");
+    press(files, Qt::Key_Return);
+    EXPECT_EQ(fake.messages, std::vector<std::string>{"missing.lst: No such file or directory"});
+    EXPECT_EQ(vocabularyList.Loaded[1], Rome);
+    EXPECT_TRUE(files.isVisible());
+    tests::doubleClickRow(control<QListWidget>(files, "FHFileBox"), 0);
+    EXPECT_EQ(fake.messages.back(), "cut.lst, line 2: the last word is cut off and was left out");
+    EXPECT_EQ(rows(words(manager)), QStringList({"rosa"}));
+}
+
+TEST_F(VcabManagerWindow, NeedsANameForAFile)
+{
+    QWidget& manager = open();
+    click(manager, "VcabManSave");
+    QWidget& files = *shownWindow("FileHandler");
+    for (const auto* const name : {"", "  ", "folder/"}) {
+        typeInto(files, "FHFileName", "x");
+        control<QLineEdit>(files, "FHFileName").clear();
+        type(files, name);
+        EXPECT_FALSE(control<QAbstractButton>(files, "LoadSaveFH").isEnabled()) << name;
+        press(files, Qt::Key_Return);
+        EXPECT_TRUE(files.isVisible()) << name;
+    }
+    EXPECT_TRUE(fake.messages.empty());
+    EXPECT_TRUE(std::filesystem::is_empty("."));
+}
+
+TEST_F(VcabManagerWindow, IsWalkedThroughWithTheTabKeyAsItStands)
+{
+    const auto expectOrder = [](QWidget& window, const QStringList& names) {
+        control<QWidget>(window, names.front()).setFocus();
+        for (const QString& name : names) {
+            EXPECT_EQ(tests::focusIn(window), name);
+            press(window, Qt::Key_Tab);
+        }
+        EXPECT_EQ(tests::focusIn(window), names.front());
+    };
+    QWidget& manager = open();
+    add(manager, Rose);
+    tests::clickRow(words(manager), 0);
+    expectOrder(manager, {"VcabManMainForm", "VcabManWord", "VcabManTrans", "VcabManHint", "VcabManAccept",
+                          "VcabManAdd", "VcabManDelete", "VcabManLoad", "VcabManSave", "VcabManExit"});
+    click(manager, "VcabManSave");
+    QWidget& files = *shownWindow("FileHandler");
+    control<QLineEdit>(files, "FHFileName").setText("mine");
+    expectOrder(files, {"FHDirBox", "FHFileBox", "FHFileName", "LoadSaveFH", "CancelFH"});
+    press(files, Qt::Key_Escape);
+    click(manager, "VcabManExit");
+    QWidget& warning = *shownWindow("VcabWarning");
+    expectOrder(warning, {"VcabWarningSave", "VcabWarningDiscard", "VcabWarningCancel"});
+    click(warning, "VcabWarningDiscard");
+    expectOrder(*shownWindow("Vcabtester"),
+                {"VcabAnswer", "VcabTestOmit", "VcabtesterOK", "VcabtesterCancel"});
+}
+
+TEST_F(VcabManagerWindow, FindsListsInOtherFolders)
+{
+    std::filesystem::create_directory("year one");
+    for (const auto* const name : {"b.TXT", "a.lst", "c.voc", "d.doc"})
+        tests::writeFile("year one/" + std::string(name), "rosa,rose,f.\r\n");
+    QWidget& manager = open();
+    click(manager, "VcabManLoad");
+    QWidget& files = *shownWindow("FileHandler");
+    auto& folders = control<QListWidget>(files, "FHDirBox");
+    EXPECT_EQ(rows(folders), QStringList({"..", "year one"}));
+    tests::doubleClickRow(folders, 1);
+    EXPECT_EQ(rows(control<QListWidget>(files, "FHFileBox")), QStringList({"a.lst", "b.TXT", "c.voc"}));
+    tests::doubleClickRow(folders, 0);
+    EXPECT_EQ(rows(folders), QStringList({"..", "year one"}));
+    folders.setFocus();
+    press(files, Qt::Key_Down);
+    press(files, Qt::Key_Down);
+    press(files, Qt::Key_Return);
+    tests::doubleClickRow(control<QListWidget>(files, "FHFileBox"), 0);
+    EXPECT_EQ(rows(words(manager)), QStringList({"rosa"}));
+
+    add(manager, Rome);
+    click(manager, "VcabManSave");
+    EXPECT_EQ(box(files, "FHFileName"), "a.lst");
+    tests::doubleClickRow(control<QListWidget>(files, "FHFileBox"), 2);
+    EXPECT_EQ(tests::bytesOf("year one/c.voc"), "rosa,rose,f.\r\n");
+    click(files, "LoadSaveFH");
+    EXPECT_EQ(tests::bytesOf("year one/c.voc"), "rosa,rose,f.\r\nRo:ma,Rome> Italy,Romae> f.\r\n");
+}
+
+TEST_F(VcabManagerWindow, ChangesTheListThatIsTestedAndHasItTestedAnew)
+{
+    tests::writeFile("vr-vcab.lst", "rosa,rose,f.\r\nre:x,king,m.\r\n");
+    navigation.start();
+    click(*shownWindow("MainMenu"), "VocabularyButton");
+    QWidget& tester = *shownWindow("Vcabtester");
+    type(tester, "rose");
+    press(tester, Qt::Key_Return);
+    control<QAction>(tester, "VcabTesterEdit").trigger();
+    QWidget& manager = *shownWindow("VcabManager");
+    click(manager, "VcabManExit");
+    EXPECT_EQ(control<QLabel>(tester, "VQuestion").text(), "re:x");
+    control<QAction>(tester, "VcabTesterEdit").trigger();
+    tests::clickRow(words(manager), 0);
+    click(manager, "VcabManDelete");
+    click(manager, "VcabManExit");
+    click(*shownWindow("VcabWarning"), "VcabWarningDiscard");
+    EXPECT_EQ(control<QLabel>(tester, "VQuestion").text(), "re:x");
+    EXPECT_EQ(vocabularyList.CurrentWord, 1);
+    EXPECT_EQ(tests::bytesOf("vr-vcab.lst"), "rosa,rose,f.\r\nre:x,king,m.\r\n");
+}
+
+TEST_F(VcabManagerWindow, BeginsANewListFromTheMainWindowUnlessTheLastHasUnsavedChanges)
+{
+    tests::writeFile("vr-vcab.lst", "rosa,rose,f.\r\n");
+    navigation.start();
+    QWidget& menu = *shownWindow("MainMenu");
+    click(menu, "VocabularyButton");
+    QWidget& tester = *shownWindow("Vcabtester");
+    press(tester, Qt::Key_Escape);
+    control<QAction>(menu, "FileVcabManager").trigger();
+    QWidget& manager = *shownWindow("VcabManager");
+    EXPECT_EQ(rows(words(manager)), QStringList());
+    click(manager, "VcabManExit");
+    control<QAction>(tester, "VcabTesterEdit").trigger();
+    EXPECT_EQ(rows(words(manager)), QStringList({"rosa"}));
+    add(manager, Rome);
+    click(manager, "VcabManExit");
+    click(*shownWindow("VcabWarning"), "VcabWarningDiscard");
+    press(tester, Qt::Key_Escape);
+    control<QAction>(menu, "FileVcabManager").trigger();
+    EXPECT_EQ(rows(words(manager)), QStringList({"rosa", "Ro:ma"}));
+}
+
+} // namespace

@@ -1,0 +1,53 @@
+#include "verbdrills/verb_quiz.h"
+
+#include "shell/settings.h"
+#include "verbs/paradigm.h"
+#include "verbs/verb_tables.h"
+
+namespace verbdrills {
+
+VerbQuiz verbQuiz;
+
+namespace {
+
+constexpr int PersonsOfNumber = 3;
+
+} // namespace
+
+void identifyForm()
+{
+    const int formInBlock = (verbQuiz.QuizRow - 1) % verbs::PersonCount + 1;
+    const bool plural = formInBlock > PersonsOfNumber;
+    verbQuiz.QuizNumber = plural ? quiz_number::Plural : quiz_number::Sing;
+    verbQuiz.QuizPerson = static_cast<std::int16_t>(plural ? formInBlock - PersonsOfNumber : formInBlock);
+    verbQuiz.QuizAnswerConjugation = verbQuiz.QuizConjugation;
+    verbQuiz.QuizAnswerTense = static_cast<std::int16_t>((verbQuiz.QuizRow - 1) / verbs::PersonCount);
+}
+
+Identification rightIdentification()
+{
+    return {.classRow = verbQuiz.QuizAnswerConjugation - 1,
+            .tenseRow = verbQuiz.QuizAnswerTense,
+            .person = verbQuiz.QuizPerson,
+            .number = verbQuiz.QuizNumber == quiz_number::Plural ? quiz_number::Plural : quiz_number::Sing};
+}
+
+bool isRightIdentification(const Identification& identification)
+{
+    shell::settings.ExerciseType = shell::exercise::Quiz;
+    const bool right = identification == rightIdentification();
+    verbQuiz.formIsAsked = !right;
+    return right;
+}
+
+std::string formAsked()
+{
+    return verbs::verbTables.Forms[verbQuiz.QuizConjugation][verbQuiz.QuizRow];
+}
+
+std::string titleOfFormAsked()
+{
+    return verbs::verbTables.ClassTitles[verbQuiz.QuizConjugation];
+}
+
+} // namespace verbdrills

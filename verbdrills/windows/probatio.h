@@ -1,0 +1,94 @@
+#pragma once
+
+#include "shell/drill.h"
+#include "shell/windows/window.h"
+#include "verbdrills/verb_quiz.h"
+
+class QBoxLayout;
+class QButtonGroup;
+class QGridLayout;
+class QLabel;
+class QPushButton;
+
+namespace verbdrills {
+
+class QuizList;
+
+/// The verb quiz: shows a form, whose class, tense, person and number the learner names.
+class Probatio : public shell::Window, public shell::Drill {
+    Q_OBJECT
+
+public:
+    Probatio();
+    ~Probatio() override;
+
+    /// Prepares the window for a new quiz, asks the first form and shows the window. Where no form can be
+    /// asked it only emits `nothingToAsk`.
+    void open();
+
+    /// Shows the window again with the form that is asked. Where none is, asks one as `open` does.
+    void resume();
+
+    /// Shows the window again likewise, but without a form where none can be asked.
+    void comeBack();
+
+    void showScore(const std::string& text) override;
+    void greyAnsweredBox() override;
+    void moveOn() override;
+    void focusQuestion() override;
+    void askAgain() override;
+
+Q_SIGNALS:
+    /// An answer was checked.
+    void answerJudged(bool right);
+
+    /// No form can be asked of the classes and tenses that are included.
+    void nothingToAsk();
+
+    void optionsRequested();
+
+    /// The quiz was left.
+    void left();
+
+protected:
+    void closeBoxPressed() override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void makeControls();
+    void layOut();
+    QBoxLayout* questionRows();
+    QBoxLayout* answerColumns();
+    QGridLayout* buttonsOfPersonAndNumber();
+    QGridLayout* answersInWords();
+    QBoxLayout* buttonRow();
+    void connectControls();
+    void checkOnEnter(QWidget* control);
+
+    void appear();
+    bool askAnotherForm();
+    void showForm();
+    void resetAnswer();
+    Identification chosenAnswer() const;
+    void showChosenAnswer();
+    void check();
+    void skip();
+    void showRightAnswer();
+
+    QLabel* item_;
+    QLabel* baseForm_;
+    QuizList* classes_;
+    QuizList* tenses_;
+    QButtonGroup* persons_;
+    QButtonGroup* numbers_;
+    QLabel* yourAnswer_;
+    QLabel* correctHeading_;
+    QLabel* correct_;
+    QPushButton* ok_;
+    QPushButton* question_;
+    QPushButton* skip_;
+    QPushButton* options_;
+    QPushButton* cancel_;
+};
+
+} // namespace verbdrills

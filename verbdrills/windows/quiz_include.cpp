@@ -1,0 +1,230 @@
+#include "verbdrills/windows/quiz_include.h"
+
+#include "shell/windows/big_frame.h"
+#include "shell/windows/captions.h"
+#include "shell/windows/controls.h"
+#include "shell/windows/type.h"
+#include "verbdrills/quiz_texts.h"
+
+#include <QBoxLayout>
+#include <QCheckBox>
+#include <QFrame>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+
+namespace verbdrills {
+
+using shell::Caption;
+using shell::englishToo;
+using shell::makeButton;
+
+namespace {
+
+constexpr int ClassColumns = 4;
+constexpr int TenseRows = 7;
+
+// The German "Öbung" is meant, and so are the English "Future Perfect" and "Present" and the "Futuro de
+// subjuntivo" among the Spanish tenses.
+// clang-format off
+constexpr std::array Captions = {
+    //                                English, French, Italian      German                                            Spanish                              Latin
+    Caption{"QuizInclude", QuizTitle},
+    Caption{"ConjFrame",   englishToo("Conjugations to Include:",   "Konjugationen, die in der Öbung gelten sollen:", "Conjugaciones que incluir:",        "Conjugationes comprehendae in Probatione")},
+    Caption{"TenseFrame",  englishToo("Tenses to Include in Quiz:", "Zeitformen, die in der Öbung gelten sollen:",    "Tiempos que incluir en la Prueba:", "Tempora comprehendae in Probatione")},
+    Caption{"InclQuiz",    englishToo("&OK",                        "&OK",                                            "&Si",                               "&Ita")},
+    Caption{"InclInclude", englishToo("&Include All",               "&Alle",                                          "&Incluir todos",                    "&Omnia")},
+    Caption{"InclClear",   englishToo("C&lear All",                 "Aus&räumen",                                     "&Borrar todos",                     "Pur&ga!")},
+    Caption{"InclCancel",  englishToo("&Cancel",                    "Ab&bruch",                                       "&Cancelar",                         "&Reverte!")},
+    Caption{"InclConj0",   englishToo("First",                      "Erste",                                          "Primera",                           "Prima")},
+    Caption{"InclConj1",   englishToo("Second",                     "Zweite",                                         "Segunda",                           "Secunda")},
+    Caption{"InclConj2",   englishToo("Third",                      "Dritte",                                         "Tercera",                           "Tertia")},
+    Caption{"InclConj3",   englishToo("Fourth",                     "Vierte",                                         "Cuarta",                            "Quarta")},
+    Caption{"InclConj4",   englishToo("Third -io",                  "Dritte -io",                                     "Tercera -io",                       "Tertia -io")},
+    Caption{"InclConj5",   englishToo("Esse",                       "Esse",                                           "Esse",                              "Esse")},
+    Caption{"InclConj6",   englishToo("Velle",                      "Velle",                                          "Velle",                             "Velle")},
+    Caption{"InclConj7",   englishToo("Ferre",                      "Ferre",                                          "Ferre",                             "Ferre")},
+    Caption{"InclTense0",  englishToo("Present",                    "Präsens",                                        "Presente",                          "Praesens")},
+    Caption{"InclTense1",  englishToo("Imperfect",                  "Imperfekt",                                      "Imperfecto",                        "Imperfectum")},
+    Caption{"InclTense2",  englishToo("Future",                     "Futur",                                          "Futuro",                            "Futurum")},
+    Caption{"InclTense3",  englishToo("Perfect",                    "Perfekt",                                        "Perfecto",                          "Perfectum")},
+    Caption{"InclTense4",  englishToo("Pluperfect",                 "Plusquamperfekt",                                "Pluscuamperfecto",                  "Plusquam perfectum")},
+    Caption{"InclTense5",  englishToo("Future Perfect",             "Futur Perfekt",                                  "Future Perfect",                    "Futurum perfectum")},
+    Caption{"InclTense6",  englishToo("Subjunctive Pres.",          "Präsens Konj.",                                  "Pres. subjuntivo",                  "Praesens Subj.")},
+    Caption{"InclTense7",  englishToo("Subjunctive Impf.",          "Imperfekt Konj.",                                "Imperf. subjuntivo",                "Imperfectum Subj.")},
+    Caption{"InclTense8",  englishToo("Subjunctive Perf.",          "Perfekt Konj.",                                  "Perf. subjuntivo",                  "Perfectum Subj.")},
+    Caption{"InclTense9",  englishToo("Subjunctive Pluperf.",       "Plusquamperf. Konj.",                            "Pluscuamperf. subjuntivo",          "Plusquam perf. Subj.")},
+    Caption{"InclTense10", englishToo("Imperative",                 "Imperativ",                                      "Imperativo",                        "Imperativus Modus")},
+    Caption{"InclTense11", englishToo("Passive Present",            "Passiv Präsens",                                 "Present pasivo",                    "Passivum Praesens")},
+    Caption{"InclTense12", englishToo("Passive Imperfect",          "Passiv Imperfekt",                               "Imperfecto pasivo",                 "Passivum Imperfectum")},
+    Caption{"InclTense13", englishToo("Passive Future",             "Passiv Futur",                                   "Futuro pasivo",                     "Passivum Futurum")},
+    Caption{"InclTense14", englishToo("Passive Perfect",            "Passiv Perfekt",                                 "Perfecto pasivo",                   "Passivum Perfectum")},
+    Caption{"InclTense15", englishToo("Passive Pluperfect",         "Passiv Plusquamperf.",                           "Pluscuamperf. pasivo",              "Passivum Plusquam perf.")},
+    Caption{"InclTense16", englishToo("Passive Future Perf.",       "Passiv Futur Perf.",                             "Futuro de subjuntivo pasivo",       "Passivum Futurum Perf.")},
+    Caption{"InclTense17", englishToo("Passive Pres. Subj.",        "Passiv Präs. Konj.",                             "Presente de subj. pasivo",          "Passivum Praes. Subj.")},
+    Caption{"InclTense18", englishToo("Passive Imperf. Subj.",      "Passiv Imperf. Konj.",                           "Imperfecto de subj. pasivo",        "Passivum Imperf. Subj.")},
+    Caption{"InclTense19", englishToo("Passive Perf. Subj.",        "Passiv Perf. Konj.",                             "Perfecto de subj. pasivo",          "Passivum Perf. Subj.")},
+    Caption{"InclTense20", englishToo("Passive Pluperf. Subj.",     "Passiv Plusq. Konj.",                            "Pluscuamperfecto de subj. pasivo",  "Passivum Plusq. Subj.")},
+
+    Caption{"InclNote",    englishToo("None of this can be asked. Choose more:", "Davon lässt sich nichts fragen. Bitte mehr auswählen:", "De esto no se puede preguntar nada. Elija más:", "Nihil horum rogari potest. Elige plura:")},
+};
+// clang-format on
+
+QCheckBox* makeBox(QWidget* parent, const char* name, std::size_t index)
+{
+    auto* const box = new QCheckBox(parent);
+    box->setObjectName(QLatin1String(name) + QString::number(index));
+    return box;
+}
+
+bool isEnter(int key)
+{
+    return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
+} // namespace
+
+QuizInclude::QuizInclude()
+    : Window("QuizInclude", "quizinclude"), frame_(new QFrame(this)), classFrame_(new QGroupBox(frame_)),
+      tenseFrame_(new QGroupBox(frame_)), note_(shell::makeLabel(frame_, "InclNote"))
+{
+    makeControls();
+    layOut();
+    connectControls();
+    shell::applyDesignedCaptions(*this, Captions);
+}
+
+void QuizInclude::makeControls()
+{
+    frame_->setObjectName(QStringLiteral("CIBigFrame"));
+    classFrame_->setObjectName(QStringLiteral("ConjFrame"));
+    tenseFrame_->setObjectName(QStringLiteral("TenseFrame"));
+    for (std::size_t i = 0; i < classes_.size(); ++i)
+        classes_.at(i) = makeBox(classFrame_, "InclConj", i);
+    for (std::size_t i = 0; i < tenses_.size(); ++i)
+        tenses_.at(i) = makeBox(tenseFrame_, "InclTense", i);
+    ok_ = makeButton(frame_, "InclQuiz");
+    all_ = makeButton(frame_, "InclInclude");
+    none_ = makeButton(frame_, "InclClear");
+    cancel_ = makeButton(frame_, "InclCancel");
+}
+
+void QuizInclude::layOut()
+{
+    auto* const classes = new QGridLayout(classFrame_);
+    classes->setHorizontalSpacing(shell::LargeSpace);
+    classes->setVerticalSpacing(shell::HairSpace);
+    for (int i = 0; i < static_cast<int>(classes_.size()); ++i)
+        classes->addWidget(classes_.at(static_cast<std::size_t>(i)), i / ClassColumns, i % ClassColumns);
+    auto* const tenses = new QGridLayout(tenseFrame_);
+    tenses->setHorizontalSpacing(shell::WideSpace);
+    tenses->setVerticalSpacing(shell::HairSpace);
+    for (int i = 0; i < static_cast<int>(tenses_.size()); ++i)
+        tenses->addWidget(tenses_.at(static_cast<std::size_t>(i)), i % TenseRows, i / TenseRows);
+
+    auto* const buttons = new QHBoxLayout;
+    buttons->setSpacing(shell::SmallSpace);
+    buttons->addWidget(all_);
+    buttons->addWidget(none_);
+    buttons->addStretch();
+    buttons->addWidget(ok_);
+    buttons->addWidget(cancel_);
+
+    auto* const rows = new QVBoxLayout(frame_);
+    rows->setContentsMargins(shell::LargeSpace, shell::LargeSpace, shell::LargeSpace, shell::LargeSpace);
+    rows->setSpacing(shell::MediumSpace);
+    rows->addWidget(note_);
+    rows->addWidget(classFrame_);
+    rows->addWidget(tenseFrame_, 1);
+    rows->addLayout(buttons);
+}
+
+void QuizInclude::connectControls()
+{
+    for (const QCheckBox* const box : classes_)
+        connect(box, &QCheckBox::clicked, this, &QuizInclude::storeAtOnce);
+    connect(ok_, &QPushButton::clicked, this, &QuizInclude::take);
+    connect(all_, &QPushButton::clicked, this, [this] { showTicks(everyTick()); });
+    connect(none_, &QPushButton::clicked, this, [this] { showTicks(noTick()); });
+    connect(cancel_, &QPushButton::clicked, this, &QuizInclude::cancelled);
+}
+
+void QuizInclude::open()
+{
+    note_->hide();
+    appear();
+}
+
+void QuizInclude::openAsNothingCanBeAsked()
+{
+    note_->show();
+    appear();
+}
+
+void QuizInclude::appear()
+{
+    shell::applyCaptions(*this, Captions);
+    showTicks(ticksOfQuiz());
+    setMinimumSize(frame_->minimumSizeHint());
+    if (!isVisible())
+        resize(frame_->sizeHint());
+    showInMainWindowState();
+    shell::placeBigFrame(*this, *frame_);
+    classes_.front()->setFocus();
+}
+
+QuizTicks QuizInclude::ticks() const
+{
+    QuizTicks ticks;
+    for (int i = 0; i < ticks.classes.size(); ++i)
+        ticks.classes[i] = classes_.at(static_cast<std::size_t>(i))->isChecked();
+    for (int t = 0; t < ticks.tenses.size(); ++t)
+        ticks.tenses[t] = tenses_.at(static_cast<std::size_t>(t))->isChecked();
+    return ticks;
+}
+
+void QuizInclude::showTicks(const QuizTicks& ticks)
+{
+    for (int i = 0; i < ticks.classes.size(); ++i)
+        classes_.at(static_cast<std::size_t>(i))->setChecked(ticks.classes[i]);
+    for (int t = 0; t < ticks.tenses.size(); ++t)
+        tenses_.at(static_cast<std::size_t>(t))->setChecked(ticks.tenses[t]);
+}
+
+// A class stores all boxes as soon as it is clicked, a tense does not: this is meant.
+void QuizInclude::storeAtOnce()
+{
+    storeTicks(ticks());
+    showTicks(ticksOfQuiz());
+}
+
+void QuizInclude::take()
+{
+    takeTicks(ticks());
+    Q_EMIT chosen();
+}
+
+void QuizInclude::closeBoxPressed()
+{
+    Q_EMIT cancelled();
+}
+
+void QuizInclude::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape)
+        Q_EMIT cancelled();
+    else if (isEnter(event->key()))
+        take();
+    else
+        Window::keyPressEvent(event);
+}
+
+void QuizInclude::resizeEvent(QResizeEvent* event)
+{
+    Window::resizeEvent(event);
+    shell::placeBigFrame(*this, *frame_);
+}
+
+} // namespace verbdrills

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "shell/windows/window.h"
+#include "verbdrills/quiz_inclusion.h"
+
+#include <array>
+
+class QCheckBox;
+class QFrame;
+class QGroupBox;
+class QLabel;
+class QPushButton;
+
+namespace verbdrills {
+
+/// Chooses the classes and the tenses that the verb quiz asks.
+class QuizInclude : public shell::Window {
+    Q_OBJECT
+
+public:
+    QuizInclude();
+
+    /// Shows the window with the boxes ticked that are included.
+    void open();
+
+    /// Shows it likewise, with a note that of these no form can be asked.
+    void openAsNothingCanBeAsked();
+
+Q_SIGNALS:
+    /// The ticked boxes were taken.
+    void chosen();
+    void cancelled();
+
+protected:
+    void closeBoxPressed() override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void makeControls();
+    void layOut();
+    void connectControls();
+    void appear();
+    QuizTicks ticks() const;
+    void showTicks(const QuizTicks& ticks);
+    void storeAtOnce();
+    void take();
+
+    std::array<QCheckBox*, verbs::LastClass> classes_{};
+    std::array<QCheckBox*, verbs::BlockCount> tenses_{};
+    QFrame* frame_;
+    QGroupBox* classFrame_;
+    QGroupBox* tenseFrame_;
+    QLabel* note_;
+    QPushButton* ok_;
+    QPushButton* all_;
+    QPushButton* none_;
+    QPushButton* cancel_;
+};
+
+} // namespace verbdrills

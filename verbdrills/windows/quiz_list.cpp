@@ -1,0 +1,42 @@
+#include "verbdrills/windows/quiz_list.h"
+
+#include "shell/windows/captions.h"
+#include "shell/windows/type.h"
+
+#include <QItemSelectionModel>
+
+namespace verbdrills {
+
+namespace {
+
+constexpr int FewestRows = 5;
+constexpr int RowSpace = 1;
+constexpr double RowType = 1.1;
+
+} // namespace
+
+QuizList::QuizList(const char* name, const QString& accessibleName, QWidget* parent) : ChoiceList(parent)
+{
+    setObjectName(QLatin1String(name));
+    setAccessibleName(accessibleName);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setSpacing(RowSpace);
+    shell::setType(*this, RowType);
+}
+
+void QuizList::fill(std::span<const shell::LanguageTexts> rows)
+{
+    shell::fillList(*this, rows);
+    const int frame = 2 * (frameWidth() + RowSpace);
+    const int row = sizeHintForRow(0) + 2 * RowSpace;
+    setMinimumSize(sizeHintForColumn(0) + frame + shell::WideSpace, FewestRows * row + frame);
+    setMaximumHeight(count() * row + frame);
+}
+
+void QuizList::reset()
+{
+    selectionModel()->clear();
+    scrollToTop();
+}
+
+} // namespace verbdrills

@@ -1,0 +1,222 @@
+#include "vocabulary/vocabulary_tester.h"
+
+#include "platform/platform.h"
+#include "platform/random.h"
+#include "vocabulary/vocabulary_list.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <limits>
+
+namespace vocabulary {
+
+VocabularyTester vocabularyTester;
+
+namespace {
+
+constexpr std::string_view AnswerWish = "?";
+
+const WordRecord& currentRecord()
+{
+    return vocabularyList.Loaded[vocabularyList.CurrentWord];
+}
+
+void raise(std::int16_t& count)
+{
+    if (count < std::numeric_limits<std::int16_t>::max())
+        ++count;
+}
+
+bool canBeAsked(int number)
+{
+    return vocabularyTester.Omitted[number] != platform::FlagTrue &&
+           !vocabularyList.Loaded[number].word.empty();
+}
+
+bool someWordCanBeAsked()
+{
+    for (int number = 1; number <= vocabularyList.WordCount; ++number)
+        if (canBeAsked(number))
+            return true;
+    return false;
+}
+
+// One after the other, from past the last to the first; false where none can be asked.
+bool findNextWord()
+{
+    for (int i = 0; i < vocabularyList.WordCount; ++i) {
+        ++vocabularyList.CurrentWord;
+        if (vocabularyList.CurrentWord > vocabularyList.WordCount)
+            vocabularyList.CurrentWord = 1;
+        if (canBeAsked(vocabularyList.CurrentWord))
+            return true;
+    }
+    return false;
+}
+
+// Every round of the count looks at the current word, not at the one that is counted: this is meant. One
+// learned word is enough, and so is a list without words.
+bool everythingIsLearned()
+{
+    int learned = 0;
+    for (int number = 1; number <= vocabularyList.WordCount; ++number)
+        if (vocabularyTester.RightAnswers[vocabularyList.CurrentWord] > RightAnswersToLearn)
+            ++learned;
+    return learned == vocabularyList.WordCount;
+}
+
+enum class Draw { Found, NoneLeft, AllLearned };
+
+// The previous word is the one drawn last, be it one that is passed over. A list of one word has no other.
+Draw drawWord()
+{
+    const std::int16_t asked = vocabularyList.CurrentWord;
+    const bool canEnd = someWordCanBeAsked();
+    const bool hasAnother = vocabularyList.WordCount > 1;
+    int previous = 0;
+    do {
+        platform::seedFromClock();
+        previous = vocabularyList.CurrentWord;
+        vocabularyList.CurrentWord = static_cast<std::int16_t>(platform::draw(vocabularyList.WordCount) + 1);
+        if (everythingIsLearned())
+            return Draw::AllLearned;
+    } while (canEnd && ((hasAnother && vocabularyList.CurrentWord == previous) ||
+                        !canBeAsked(vocabularyList.CurrentWord)));
+    if (canEnd)
+        return Draw::Found;
+    vocabularyList.CurrentWord = asked;
+    return Draw::NoneLeft;
+}
+
+void findMostMissedWord()
+{
+    int most = 0;
+    vocabularyTester.MostMissedWord = 0;
+    for (int number = 1; number <= vocabularyList.WordCount; ++number) {
+        if (vocabularyTester.Misses[number] <= most)
+            continue;
+        most = vocabularyTester.Misses[number];
+        vocabularyTester.MostMissedWord = static_cast<std::int16_t>(number);
+    }
+}
+
+// A missed word comes back even where it is left out: this is meant.
+void bringMissedWordBack()
+{
+    if (vocabularyTester.FifthQuestionCounter != QuestionsToMissedWord)
+        return;
+    findMostMissedWord();
+    if (vocabularyTester.MostMissedWord == 0)
+        return;
+    vocabularyList.CurrentWord = vocabularyTester.MostMissedWord;
+    vocabularyTester.FifthQuestionCounter = 0;
+}
+
+bool findRandomWord()
+{
+    if (vocabularyTester.FifthQuestionCounter < QuestionsToMissedWord)
+        ++vocabularyTester.FifthQuestionCounter;
+    const Draw drawn = drawWord();
+    if (drawn == Draw::AllLearned)
+        platform::current().endProgram(EXIT_SUCCESS);
+    if (drawn == Draw::Found)
+        bringMissedWordBack();
+    return drawn == Draw::Found;
+}
+
+void askCurrentWord(bool asked)
+{
+    vocabularyTester.WordIsAsked = platform::flagOf(asked);
+    if (asked)
+        chooseSide();
+}
+
+} // namespace
+
+std::string openDefaultList()
+{
+    vocabularyTester = {};
+    LoadFaults faults = loadList(DefaultListName);
+    faults.unreadable.reset();
+    beginTest();
+    return faults.message();
+}
+
+void beginTest()
+{
+    const std::string order = vocabularyTester.Order;
+    const std::string promptLanguage = vocabularyTester.PromptLanguage;
+    vocabularyTester = {};
+    vocabularyTester.Order = order;
+    vocabularyTester.PromptLanguage = promptLanguage;
+    vocabularyList.CurrentWord = 1;
+    askCurrentWord(vocabularyList.WordCount > 0 && (canBeAsked(1) || findNextWord()));
+}
+
+void chooseSide()
+{
+    const bool bothSides = !currentRecord().translation.empty();
+    const bool mixed = vocabularyTester.PromptLanguage == prompt::Mixed;
+    const bool translation =
+        mixed ? platform::draw(2) == 1 : vocabularyTester.PromptLanguage == prompt::Latin;
+    vocabularyTester.AsksWithTranslation = platform::flagOf(bothSides && translation);
+}
+
+std::string questionText()
+{
+    if (vocabularyTester.WordIsAsked != platform::FlagTrue)
+        return {};
+    const bool translation = vocabularyTester.AsksWithTranslation == platform::FlagTrue;
+    return translation ? currentRecord().translation : currentRecord().word;
+}
+
+std::string expectedAnswer()
+{
+    if (vocabularyTester.WordIsAsked != platform::FlagTrue)
+        return {};
+    const bool translation = vocabularyTester.AsksWithTranslation == platform::FlagTrue;
+    return translation ? currentRecord().word : currentRecord().translation;
+}
+
+std::string hintText()
+{
+    return vocabularyTester.WordIsAsked == platform::FlagTrue ? currentRecord().hint : std::string();
+}
+
+Judgement judge(const std::string& answer)
+{
+    vocabularyTester.LastAnswer = answer;
+    if (vocabularyTester.WordIsAsked != platform::FlagTrue)
+        return Judgement::NothingAsked;
+    if (answer == AnswerWish)
+        return Judgement::AnswerWanted;
+    if (answer != expectedAnswer())
+        return Judgement::Wrong;
+    raise(vocabularyTester.RightAnswers[vocabularyList.CurrentWord]);
+    return Judgement::Right;
+}
+
+void countMiss()
+{
+    raise(vocabularyTester.Misses[vocabularyList.CurrentWord]);
+}
+
+void omitCurrentWord(bool omitted)
+{
+    vocabularyTester.Omitted[vocabularyList.CurrentWord] = platform::flagOf(omitted);
+    const bool idle = vocabularyTester.WordIsAsked != platform::FlagTrue;
+    if (idle && vocabularyList.WordCount > 0 && canBeAsked(vocabularyList.CurrentWord))
+        askCurrentWord(true);
+}
+
+bool currentWordIsOmitted()
+{
+    return vocabularyTester.Omitted[vocabularyList.CurrentWord] == platform::FlagTrue;
+}
+
+void goToNextWord(std::string_view order)
+{
+    askCurrentWord(order == order::Random ? findRandomWord() : findNextWord());
+}
+
+} // namespace vocabulary

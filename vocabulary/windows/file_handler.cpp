@@ -1,0 +1,255 @@
+#include "vocabulary/windows/file_handler.h"
+
+#include "platform/platform.h"
+#include "shell/windows/captions.h"
+#include "shell/windows/choice_list.h"
+#include "shell/windows/text.h"
+#include "shell/windows/type.h"
+#include "vocabulary/vocabulary_edits.h"
+#include "vocabulary/windows/list_files.h"
+#include "vocabulary/windows/named.h"
+#include "vocabulary/windows/word_label.h"
+
+#include <QBoxLayout>
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPushButton>
+
+namespace vocabulary {
+
+using shell::Caption;
+using shell::ChoiceList;
+using shell::LanguageTexts;
+
+namespace {
+
+constexpr QSize LargestBlock{84, 30};
+constexpr double ListType = 1.15;
+
+// clang-format off
+constexpr std::array Captions = {
+    //                       English       French              Italian  German       Spanish               Latin
+    Caption{"FHDirLabel",   {"&Folders",   "&Dossiers",        {},     "&Ordner",    "&Carpetas",           "&Capsae"}},
+    Caption{"FHFileLabel",  {"F&iles",     "&Fichiers",        {},     "&Dateien",   "&Archivos",           "&Fasciculi"}},
+    Caption{"FHNameLabel",  {"File &name", "&Nom du fichier",  {},     "Datei&name", "&Nombre del archivo", "&Nomen fasciculi"}},
+    Caption{"CancelFH",     {"&Cancel",    "&Annuler",         {},     "&Abbrechen", "Canc&elar",           "&Reverte!"}},
+};
+
+constexpr LanguageTexts LoadTitle{"Load a Word List",   "Charger une liste de mots",    {}, "Wortliste laden",     "Cargar una lista de palabras",  "Indicem verborum aperi!"};
+constexpr LanguageTexts SaveTitle{"Save the Word List", "Enregistrer la liste de mots", {}, "Wortliste speichern", "Guardar la lista de palabras",  "Indicem verborum serva!"};
+// clang-format on
+
+constexpr auto LoadAction = "&Load";
+constexpr auto SaveAction = "&Save";
+constexpr auto ListEnding = ".lst";
+
+bool isLoading()
+{
+    return vocabularyEditor.FileMode == file_mode::Load;
+}
+
+std::filesystem::path pathOf(const QString& text)
+{
+    return text.toStdString();
+}
+
+void tell(const std::string& message)
+{
+    if (!message.empty())
+        platform::current().showMessage(message);
+}
+
+} // namespace
+
+FileHandler::FileHandler() : Window("FileHandler")
+{
+    makeControls();
+    layOut();
+    connectControls();
+    shell::applyDesignedCaptions(*this, Captions);
+}
+
+void FileHandler::makeControls()
+{
+    folderName_ = named<WordLabel>("FHFolder", this);
+    folders_ = named<ChoiceList>("FHDirBox", this);
+    files_ = named<ChoiceList>("FHFileBox", this);
+    name_ = named<QLineEdit>("FHFileName", this);
+    for (ChoiceList* const list : {folders_, files_})
+        shell::setType(*list, ListType);
+    action_ = named<QPushButton>("LoadSaveFH", this);
+    cancel_ = named<QPushButton>("CancelFH", this);
+    action_->setAutoDefault(true);
+    cancel_->setAutoDefault(true);
+}
+
+void FileHandler::layOut()
+{
+    auto* const rows = new QVBoxLayout(centredBlock(LargestBlock));
+    rows->setContentsMargins(shell::LargeSpace, shell::LargeSpace, shell::LargeSpace, shell::LargeSpace);
+    rows->setSpacing(shell::MediumSpace);
+    rows->addWidget(folderName_);
+    rows->addLayout(lists(), 1);
+    rows->addLayout(nameRow());
+}
+
+QGridLayout* FileHandler::lists()
+{
+    auto* const foldersLabel = named<QLabel>("FHDirLabel", this);
+    auto* const filesLabel = named<QLabel>("FHFileLabel", this);
+    foldersLabel->setBuddy(folders_);
+    filesLabel->setBuddy(files_);
+    auto* const grid = new QGridLayout;
+    grid->setHorizontalSpacing(shell::LargeSpace);
+    grid->setVerticalSpacing(shell::HairSpace);
+    grid->addWidget(foldersLabel, 0, 0);
+    grid->addWidget(filesLabel, 0, 1);
+    grid->addWidget(folders_, 1, 0);
+    grid->addWidget(files_, 1, 1);
+    return grid;
+}
+
+QBoxLayout* FileHandler::nameRow()
+{
+    auto* const nameLabel = named<QLabel>("FHNameLabel", this);
+    nameLabel->setBuddy(name_);
+    auto* const row = new QHBoxLayout;
+    row->setSpacing(shell::SmallSpace);
+    row->addWidget(nameLabel);
+    row->addWidget(name_, 1);
+    row->addSpacing(shell::SmallSpace);
+    row->addWidget(action_);
+    row->addWidget(cancel_);
+    return row;
+}
+
+void FileHandler::connectControls()
+{
+    connect(folders_, &ChoiceList::rowActivated, this, &FileHandler::enterFolder);
+    connect(files_, &ChoiceList::rowChosen, this, &FileHandler::takeName);
+    connect(files_, &ChoiceList::rowActivated, this, &FileHandler::activateFile);
+    connect(name_, &QLineEdit::textChanged, this,
+            [this](const QString& name) { action_->setEnabled(pathOf(name.trimmed()).has_filename()); });
+    connect(name_, &QLineEdit::returnPressed, this, &FileHandler::loadOrSave);
+    connect(action_, &QPushButton::clicked, this, &FileHandler::loadOrSave);
+    connect(cancel_, &QPushButton::clicked, this, &FileHandler::left);
+}
+
+void FileHandler::setCaptions()
+{
+    shell::applyCaptions(*this, Captions);
+    const LanguageTexts& title = isLoading() ? LoadTitle : SaveTitle;
+    setWindowTitle(shell::fromUtf8(title.designedOrCurrent()));
+    action_->setText(QLatin1String(isLoading() ? LoadAction : SaveAction));
+}
+
+void FileHandler::open(std::string_view mode)
+{
+    vocabularyEditor.FileMode = mode;
+    setCaptions();
+    goToListFolder();
+    showFolder();
+    name_->setText(isLoading() ? QString() : shell::fromUtf8(vocabularyList.File.filename().string()));
+    action_->setEnabled(!name_->text().isEmpty());
+    showInMainWindowState();
+    if (isLoading())
+        files_->setFocus();
+    else
+        name_->setFocus();
+}
+
+// A new list has no folder of its own: the window stays in the one used last.
+void FileHandler::goToListFolder()
+{
+    std::error_code error;
+    const auto file = std::filesystem::absolute(vocabularyList.File, error);
+    if (!error && !vocabularyList.File.empty())
+        folder_.setPath(shell::fromUtf8(file.parent_path().string()));
+    if (!folder_.exists())
+        folder_ = QDir::current();
+    folder_.makeAbsolute();
+}
+
+void FileHandler::showFolder()
+{
+    folderName_->setText(QDir::toNativeSeparators(folder_.absolutePath()));
+    folders_->clear();
+    if (!folder_.isRoot())
+        folders_->addItem(QStringLiteral(".."));
+    folders_->addItems(folder_.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase));
+    files_->clear();
+    files_->addItems(listFilesIn(folder_));
+}
+
+void FileHandler::enterFolder(int row)
+{
+    folder_.setPath(QDir::cleanPath(folder_.absoluteFilePath(folders_->item(row)->text())));
+    showFolder();
+}
+
+void FileHandler::takeName(int row)
+{
+    if (row >= 0)
+        name_->setText(files_->item(row)->text());
+}
+
+// A file is not written over by a double click.
+void FileHandler::activateFile(int row)
+{
+    takeName(row);
+    if (isLoading())
+        loadOrSave();
+    else
+        name_->setFocus();
+}
+
+std::filesystem::path FileHandler::path() const
+{
+    std::filesystem::path name = pathOf(name_->text().trimmed());
+    if (!name.has_extension())
+        name += ListEnding;
+    return pathOf(folder_.absolutePath()) / name;
+}
+
+void FileHandler::loadOrSave()
+{
+    if (!isVisible() || !action_->isEnabled())
+        return;
+    if (isLoading())
+        load();
+    else
+        save();
+}
+
+// The message comes last, so that it stands above the window that is shown then.
+void FileHandler::load()
+{
+    const LoadFaults faults = loadList(path());
+    if (!faults.refused())
+        Q_EMIT loaded();
+    tell(faults.message());
+}
+
+void FileHandler::save()
+{
+    const auto fault = saveList(path());
+    Q_EMIT left();
+    if (fault)
+        tell("The list was not saved. " + fault->message());
+}
+
+void FileHandler::closeBoxPressed()
+{
+    Q_EMIT left();
+}
+
+void FileHandler::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape)
+        Q_EMIT left();
+    else
+        Window::keyPressEvent(event);
+}
+
+} // namespace vocabulary

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "shell/windows/window.h"
+
+#include <QDir>
+
+#include <filesystem>
+#include <string_view>
+
+class QBoxLayout;
+class QGridLayout;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+
+namespace shell {
+class ChoiceList;
+}
+
+namespace vocabulary {
+
+/// Chooses the file that the editor's list is read from or written to: a folder, and a name in it.
+class FileHandler : public shell::Window {
+    Q_OBJECT
+
+public:
+    FileHandler();
+
+    /// Shows the window for one of the values of `FileMode`, in the folder of the list in memory.
+    void open(std::string_view mode);
+
+Q_SIGNALS:
+    /// Another list was loaded.
+    void loaded();
+
+    /// The list was saved, or could not be, or the window was left.
+    void left();
+
+protected:
+    void closeBoxPressed() override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void makeControls();
+    void layOut();
+    QGridLayout* lists();
+    QBoxLayout* nameRow();
+    void connectControls();
+    void setCaptions();
+
+    void goToListFolder();
+    void showFolder();
+    void enterFolder(int row);
+    void takeName(int row);
+    void activateFile(int row);
+    void loadOrSave();
+    void load();
+    void save();
+    std::filesystem::path path() const;
+
+    QDir folder_;
+    QLabel* folderName_;
+    shell::ChoiceList* folders_;
+    shell::ChoiceList* files_;
+    QLineEdit* name_;
+    QPushButton* action_;
+    QPushButton* cancel_;
+};
+
+} // namespace vocabulary

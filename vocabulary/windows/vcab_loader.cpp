@@ -1,0 +1,114 @@
+#include "vocabulary/windows/vcab_loader.h"
+
+#include "platform/platform.h"
+#include "shell/windows/captions.h"
+#include "shell/windows/choice_list.h"
+#include "shell/windows/type.h"
+#include "vocabulary/vocabulary_list.h"
+#include "vocabulary/windows/list_files.h"
+#include "vocabulary/windows/named.h"
+
+#include <QBoxLayout>
+#include <QKeyEvent>
+#include <QPushButton>
+
+namespace vocabulary {
+
+using shell::Caption;
+using shell::ChoiceList;
+
+namespace {
+
+constexpr QSize LargestBlock{56, 26};
+constexpr double ListType = 1.15;
+
+// clang-format off
+constexpr std::array Captions = {
+    //                          English             French                     Italian  German              Spanish                     Latin
+    Caption{"VcabLoader",       {"Open a Word List", "Ouvrir une liste de mots", {},     "Wortliste öffnen", "Abrir una lista de palabras", "Indicem verborum aperi!"}},
+    Caption{"VcabLoaderOpen",   {"&Open",            "&Ouvrir",                  {},     "Ö&ffnen",          "&Abrir",                      "&Aperi!"}},
+    Caption{"VcabLoaderCancel", {"&Cancel",          "&Annuler",                 {},     "&Abbrechen",       "&Cancelar",                   "&Reverte!"}},
+};
+// clang-format on
+
+} // namespace
+
+VcabLoader::VcabLoader() : Window("VcabLoader")
+{
+    makeControls();
+    layOut();
+    connectControls();
+    shell::applyDesignedCaptions(*this, Captions);
+}
+
+void VcabLoader::makeControls()
+{
+    files_ = named<ChoiceList>("VcabFile", this);
+    shell::setType(*files_, ListType);
+    files_->setSpacing(2);
+    open_ = named<QPushButton>("VcabLoaderOpen", this);
+    cancel_ = named<QPushButton>("VcabLoaderCancel", this);
+    open_->setAutoDefault(true);
+    cancel_->setAutoDefault(true);
+}
+
+void VcabLoader::layOut()
+{
+    auto* const buttons = new QHBoxLayout;
+    buttons->setSpacing(shell::SmallSpace);
+    buttons->addStretch();
+    buttons->addWidget(open_);
+    buttons->addWidget(cancel_);
+
+    auto* const rows = new QVBoxLayout(centredBlock(LargestBlock));
+    rows->setContentsMargins(shell::LargeSpace, shell::LargeSpace, shell::LargeSpace, shell::LargeSpace);
+    rows->setSpacing(shell::MediumSpace);
+    rows->addWidget(files_);
+    rows->addLayout(buttons);
+}
+
+void VcabLoader::connectControls()
+{
+    connect(files_, &ChoiceList::rowChosen, this, [this](int row) { open_->setEnabled(row >= 0); });
+    connect(files_, &ChoiceList::rowActivated, this, &VcabLoader::loadChosen);
+    connect(open_, &QPushButton::clicked, this, &VcabLoader::loadChosen);
+    connect(cancel_, &QPushButton::clicked, this, &VcabLoader::left);
+}
+
+void VcabLoader::open()
+{
+    shell::applyCaptions(*this, Captions);
+    files_->setAccessibleName(windowTitle());
+    files_->clear();
+    files_->addItems(listFilesIn(QDir::current()));
+    open_->setEnabled(false);
+    showInMainWindowState();
+    files_->setFocus();
+}
+
+// The message comes last, so that it stands above the window that is shown then.
+void VcabLoader::loadChosen()
+{
+    if (!isVisible() || files_->chosenRow() < 0)
+        return;
+    const LoadFaults faults = loadList(files_->item(files_->chosenRow())->text().toStdString());
+    if (!faults.refused())
+        Q_EMIT left();
+    if (const std::string message = faults.message(); !message.empty())
+        platform::current().showMessage(message);
+}
+
+void VcabLoader::closeBoxPressed()
+{
+    Q_EMIT left();
+}
+
+void VcabLoader::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape)
+        Q_EMIT left();
+    else
+        Window::keyPressEvent(event);
+}
+
+} // namespace vocabulary

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "shell/windows/window.h"
+
+class QBoxLayout;
+class QPushButton;
+
+namespace shell {
+class ChoiceList;
+}
+
+namespace vocabulary {
+
+/// Chooses the list to be tested among those of the working folder.
+class VcabLoader : public shell::Window {
+    Q_OBJECT
+
+public:
+    VcabLoader();
+
+    /// Shows the lists that there are now; none is chosen.
+    void open();
+
+Q_SIGNALS:
+    /// A list was loaded, or the window was left without one.
+    void left();
+
+protected:
+    void closeBoxPressed() override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void makeControls();
+    void layOut();
+    void connectControls();
+    void loadChosen();
+
+    shell::ChoiceList* files_;
+    QPushButton* open_;
+    QPushButton* cancel_;
+};
+
+} // namespace vocabulary

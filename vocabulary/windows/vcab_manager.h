@@ -1,0 +1,81 @@
+#pragma once
+
+#include "shell/windows/window.h"
+#include "vocabulary/vocabulary_list.h"
+
+#include <array>
+
+class QBoxLayout;
+class QGridLayout;
+class QLineEdit;
+class QPushButton;
+
+namespace shell {
+class ChoiceList;
+}
+
+namespace vocabulary {
+
+/// The vocabulary editor: the words of the list, and three boxes for the record that is chosen.
+///
+/// What was typed and not yet accepted is taken over before another record, another list or another window
+/// comes: into the record that is chosen, or as a new one where none is.
+class VcabManager : public shell::Window {
+    Q_OBJECT
+
+public:
+    VcabManager();
+
+    /// Shows the list in memory; no record is chosen.
+    void open();
+
+    /// Comes back from another window with the same record.
+    void comeBack();
+
+Q_SIGNALS:
+    void loadRequested();
+    void saveRequested();
+    void exitRequested();
+
+protected:
+    void closeBoxPressed() override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void makeControls();
+    void layOut();
+    QGridLayout* fields();
+    QBoxLayout* recordButtons();
+    QBoxLayout* listButtons();
+    void connectControls();
+
+    void accept();
+    void add();
+    void deleteChosen();
+    void enterRecord();
+    void leaveFor(void (VcabManager::*request)());
+
+    void moveTo(int number);
+    bool takeBoxes();
+    bool addBoxes();
+    void listWords();
+    void markChosen(int number);
+    void showRecord(int number);
+    bool boxesAreEdited() const;
+    bool boxesAreEmpty() const;
+    WordRecord recordInBoxes() const;
+
+    /// The record in the boxes, 1 to `WordCount`; 0 for a new one.
+    int shown_ = 0;
+
+    shell::ChoiceList* words_;
+    std::array<QLineEdit*, 3> boxes_{};
+    QPushButton* accept_;
+    QPushButton* add_;
+    QPushButton* delete_;
+    QPushButton* load_;
+    QPushButton* save_;
+    QPushButton* exit_;
+};
+
+} // namespace vocabulary

@@ -1,0 +1,101 @@
+#include "vocabulary/windows/vcab_warning.h"
+
+#include "shell/windows/captions.h"
+#include "shell/windows/type.h"
+#include "vocabulary/windows/named.h"
+
+#include <QBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+
+namespace vocabulary {
+
+using shell::Caption;
+
+namespace {
+
+// clang-format off
+constexpr std::array Captions = {
+    Caption{"VcabWarning",        {"Unsaved Changes", "Modifications non enregistrées", {}, "Nicht gespeicherte Änderungen", "Cambios sin guardar", "Mutationes non servatae"}},
+    Caption{"VcabWarningText",    {"The word list has changes that are not saved.",
+                                   "La liste de mots contient des modifications non enregistrées.", {},
+                                   "Die Wortliste enthält Änderungen, die nicht gespeichert sind.",
+                                   "La lista de palabras tiene cambios que no se han guardado.",
+                                   "Index verborum mutatus est neque servatus."}},
+    Caption{"VcabWarningSave",    {"&Save",    "&Enregistrer",     {}, "&Speichern",    "&Guardar", "&Serva"}},
+    Caption{"VcabWarningDiscard", {"&Don't save", "&Ne pas enregistrer", {}, "&Nicht speichern", "&No guardar", "&Noli servare"}},
+    Caption{"VcabWarningCancel",  {"&Cancel",     "&Annuler",            {}, "&Abbrechen",       "&Cancelar",   "&Reverte!"}},
+};
+// clang-format on
+
+} // namespace
+
+VcabWarning::VcabWarning() : Window("VcabWarning")
+{
+    makeControls();
+    layOut();
+    connectControls();
+    shell::applyDesignedCaptions(*this, Captions);
+}
+
+void VcabWarning::makeControls()
+{
+    setWindowFlags(Qt::Dialog);
+    setWindowModality(Qt::ApplicationModal);
+    text_ = named<QLabel>("VcabWarningText", this);
+    text_->setWordWrap(true);
+    save_ = named<QPushButton>("VcabWarningSave", this);
+    discard_ = named<QPushButton>("VcabWarningDiscard", this);
+    cancel_ = named<QPushButton>("VcabWarningCancel", this);
+    for (QPushButton* const button : {save_, discard_, cancel_})
+        button->setAutoDefault(true);
+}
+
+void VcabWarning::layOut()
+{
+    auto* const buttons = new QHBoxLayout;
+    buttons->setSpacing(shell::SmallSpace);
+    buttons->addStretch();
+    buttons->addWidget(save_);
+    buttons->addWidget(discard_);
+    buttons->addWidget(cancel_);
+
+    auto* const rows = new QVBoxLayout(this);
+    rows->setContentsMargins(shell::WideSpace, shell::WideSpace, shell::WideSpace, shell::LargeSpace);
+    rows->setSpacing(shell::WideSpace);
+    rows->addWidget(text_);
+    rows->addLayout(buttons);
+}
+
+void VcabWarning::connectControls()
+{
+    connect(save_, &QPushButton::clicked, this, &VcabWarning::saveRequested);
+    connect(discard_, &QPushButton::clicked, this, &VcabWarning::discardRequested);
+    connect(cancel_, &QPushButton::clicked, this, &VcabWarning::cancelled);
+}
+
+void VcabWarning::open()
+{
+    shell::applyCaptions(*this, Captions);
+    adjustSize();
+    show();
+    raise();
+    activateWindow();
+    save_->setFocus();
+}
+
+void VcabWarning::closeBoxPressed()
+{
+    Q_EMIT cancelled();
+}
+
+void VcabWarning::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape)
+        Q_EMIT cancelled();
+    else
+        Window::keyPressEvent(event);
+}
+
+} // namespace vocabulary

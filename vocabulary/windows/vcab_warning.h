@@ -1,0 +1,39 @@
+#pragma once
+
+#include "shell/windows/window.h"
+
+class QLabel;
+class QPushButton;
+
+namespace vocabulary {
+
+/// Warns of changes to the list that are not saved, and holds the other windows until it is answered.
+class VcabWarning : public shell::Window {
+    Q_OBJECT
+
+public:
+    VcabWarning();
+
+    void open();
+
+Q_SIGNALS:
+    void saveRequested();
+    void discardRequested();
+    void cancelled();
+
+protected:
+    void closeBoxPressed() override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void makeControls();
+    void layOut();
+    void connectControls();
+
+    QLabel* text_;
+    QPushButton* save_;
+    QPushButton* discard_;
+    QPushButton* cancel_;
+};
+
+} // namespace vocabulary

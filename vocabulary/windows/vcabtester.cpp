@@ -1,0 +1,297 @@
+#include "vocabulary/windows/vcabtester.h"
+
+#include "platform/platform.h"
+#include "shell/language_texts.h"
+#include "shell/pause.h"
+#include "shell/settings.h"
+#include "shell/windows/captions.h"
+#include "shell/windows/text.h"
+#include "shell/windows/type.h"
+#include "vocabulary/vocabulary_list.h"
+#include "vocabulary/vocabulary_tester.h"
+#include "vocabulary/windows/named.h"
+#include "vocabulary/windows/vcabtester_menus.h"
+#include "vocabulary/windows/word_box.h"
+#include "vocabulary/windows/word_label.h"
+
+#include <QAction>
+#include <QBoxLayout>
+#include <QCheckBox>
+#include <QKeyEvent>
+#include <QMenuBar>
+#include <QPushButton>
+
+namespace vocabulary {
+
+using shell::Caption;
+using shell::LanguageTexts;
+
+namespace {
+
+constexpr QSize LargestBlock{84, 24};
+constexpr int AnswerCharacters = 44;
+
+// The options of the prompt language say what is asked for: the other side of the word.
+// clang-format off
+constexpr std::array Captions = {
+    //                                           English                   French                         Italian  German                        Spanish                      Latin
+    Caption{"VcabTesterFile",                   {"&List",                 "&Liste",                       {},     "&Liste",                     "&Lista",                    "In&dex"}},
+    Caption{"VcabTesterFileOpen",               {"&Open Another List...", "&Ouvrir une autre liste...",   {},     "&Andere Liste öffnen...",    "&Abrir otra lista...",      "&Alium indicem aperi..."}},
+    Caption{"VcabTesterEdit",                   {"&Edit the List...",     "&Modifier la liste...",        {},     "Liste &bearbeiten...",       "&Editar la lista...",       "Indicem &corrige..."}},
+    Caption{"VcabtesterOptionsOrder",           {"O&rder",                "O&rdre",                       {},     "&Reihenfolge",               "O&rden",                    "O&rdo"}},
+    Caption{"VcabtesterOptionsOrderSequential", {"&Sequential",           "À la &suite",                  {},     "&Der Reihe nach",            "En &secuencia",             "Ex &ordine"}},
+    Caption{"VcabtesterOptionsOrderRandom",     {"&Random",               "Au &hasard",                   {},     "&Zufällig",                  "Al &azar",                  "&Fortuito"}},
+    Caption{"VcabtesterOptionsPrompt",          {"&Question",             "&Question",                    {},     "&Frage",                     "&Pregunta",                 "&Quaestio"}},
+    Caption{"VcabtesterOptionsPromptEnglish",   {"Ask for the &Meaning",  "Demander le &sens",            {},     "Nach der &Bedeutung fragen", "Preguntar el &significado", "&Significationem quaere"}},
+    Caption{"VcabtesterOptionsPromptLatin",     {"Ask for the &Word",     "Demander le &mot",             {},     "Nach dem &Wort fragen",      "Preguntar la &palabra",     "&Verbum quaere"}},
+    Caption{"VcabtesterOptionsPromptMixed",     {"Mi&xed",                "&L'un ou l'autre",             {},     "&Gemischt",                  "&Mezclado",                 "&Mixtim"}},
+    Caption{"AnswerLabel",                      {"Your a&nswer",          "Votre ré&ponse",               {},     "Ihre A&ntwort",              "Su r&espuesta",             "Respo&nsum"}},
+    Caption{"VcabTestOmit",                     {"Leave &this word out",  "Ne plus demander ce &mot",     {},     "Dieses Wort &auslassen",     "&Omitir esta palabra",      "&Hoc verbum omitte"}},
+    Caption{"VcabtesterOK",                     {"&OK",                   "&OK",                          {},     "&OK",                        "&Aceptar",                  "&Ita"}},
+    Caption{"VcabtesterCancel",                 {"Q&uit",                 "Q&uitter",                     {},     "&Beenden",                   "&Salir",                    "R&everte!"}},
+};
+
+constexpr LanguageTexts Title{"Vocabulary",                 "Vocabulaire",                     {}, "Wortschatz",                       "Vocabulario",                           "Verba nostra"};
+constexpr LanguageTexts NoWord{"There is no word to ask.",  "Il n'y a aucun mot à demander.",  {}, "Es gibt kein Wort zum Abfragen.",  "No hay ninguna palabra que preguntar.", "Nullum verbum restat."};
+// clang-format on
+
+} // namespace
+
+Vcabtester::Vcabtester() : Window("Vcabtester"), menuBar_(new QMenuBar(this))
+{
+    makeControls();
+    layOut();
+    connectControls();
+    shell::applyDesignedCaptions(*this, Captions);
+    shell::registerDrill(shell::exercise::Vcabtester, *this);
+}
+
+Vcabtester::~Vcabtester()
+{
+    shell::unregisterDrill(shell::exercise::Vcabtester);
+}
+
+void Vcabtester::makeControls()
+{
+    makeVcabtesterMenus(*menuBar_);
+    question_ = named<WordLabel>("VQuestion", this);
+    hint_ = named<WordLabel>("VHint", this);
+    answer_ = named<WordBox>("VcabAnswer", this);
+    omit_ = named<QCheckBox>("VcabTestOmit", this);
+    ok_ = named<QPushButton>("VcabtesterOK", this);
+    cancel_ = named<QPushButton>("VcabtesterCancel", this);
+    shell::setBoldType(*question_, shell::TitleType);
+    shell::setType(*hint_, shell::FormType);
+    answer_->setMinimumWidth(AnswerCharacters * answer_->fontMetrics().averageCharWidth());
+    question_->setAlignment(Qt::AlignLeft | Qt::AlignBottom);
+    hint_->setAlignment(Qt::AlignLeft | Qt::AlignBottom);
+    ok_->setAutoDefault(true);
+    cancel_->setAutoDefault(true);
+}
+
+void Vcabtester::layOut()
+{
+    auto* const rows = new QVBoxLayout(centredBlock(LargestBlock));
+    rows->setContentsMargins(shell::WideSpace, shell::LargeSpace, shell::WideSpace, shell::LargeSpace);
+    rows->setSpacing(shell::MediumSpace);
+    rows->addStretch(1);
+    rows->addLayout(questionRow());
+    rows->addSpacing(shell::LargeSpace);
+    auto* const answerLabel = named<QLabel>("AnswerLabel", this);
+    answerLabel->setBuddy(answer_);
+    rows->addWidget(answerLabel);
+    rows->addWidget(answer_);
+    rows->addWidget(omit_, 0, Qt::AlignLeft);
+    rows->addStretch(2);
+    rows->addLayout(buttonRow());
+    layout()->setMenuBar(menuBar_);
+}
+
+QBoxLayout* Vcabtester::questionRow()
+{
+    auto* const row = new QHBoxLayout;
+    row->setSpacing(shell::WideSpace);
+    row->addWidget(question_, 3);
+    row->addWidget(hint_, 2);
+    return row;
+}
+
+QBoxLayout* Vcabtester::buttonRow()
+{
+    auto* const row = new QHBoxLayout;
+    row->setSpacing(shell::SmallSpace);
+    row->addStretch();
+    row->addWidget(ok_);
+    row->addWidget(cancel_);
+    return row;
+}
+
+void Vcabtester::connectControls()
+{
+    connect(answer_, &WordBox::returnPressed, this, &Vcabtester::check);
+    connect(ok_, &QPushButton::clicked, this, &Vcabtester::check);
+    connect(cancel_, &QPushButton::clicked, this, &Vcabtester::left);
+    connect(question_, &WordLabel::doubleClicked, this, &Vcabtester::reveal);
+    connect(omit_, &QCheckBox::clicked, this, &Vcabtester::omit);
+    connect(findChild<QAction*>(QStringLiteral("VcabTesterFileOpen")), &QAction::triggered, this,
+            &Vcabtester::listRequested);
+    connect(findChild<QAction*>(QStringLiteral("VcabTesterEdit")), &QAction::triggered, this,
+            &Vcabtester::editorRequested);
+    connectOrder("VcabtesterOptionsOrderSequential", order::Sequential);
+    connectOrder("VcabtesterOptionsOrderRandom", order::Random);
+    connectPrompt("VcabtesterOptionsPromptEnglish", prompt::English);
+    connectPrompt("VcabtesterOptionsPromptMixed", prompt::Mixed);
+    connectPrompt("VcabtesterOptionsPromptLatin", prompt::Latin);
+}
+
+void Vcabtester::connectOrder(const char* item, std::string_view order)
+{
+    connect(findChild<QAction*>(QLatin1String(item)), &QAction::triggered, this,
+            [order] { vocabularyTester.Order = order; });
+}
+
+void Vcabtester::connectPrompt(const char* item, std::string_view promptLanguage)
+{
+    connect(findChild<QAction*>(QLatin1String(item)), &QAction::triggered, this,
+            [this, promptLanguage] { choosePrompt(promptLanguage); });
+}
+
+void Vcabtester::setCaptions()
+{
+    shell::applyCaptions(*this, Captions);
+    QString title = shell::fromUtf8(Title.designedOrCurrent());
+    if (!vocabularyList.File.empty())
+        title += QStringLiteral(" - ") + shell::fromUtf8(vocabularyList.File.filename().string());
+    setWindowTitle(title);
+}
+
+void Vcabtester::open()
+{
+    shell::beginDrill(shell::exercise::Vcabtester);
+    const std::string message = openDefaultList();
+    findChild<QAction*>(QStringLiteral("VcabtesterOptionsOrderSequential"))->setChecked(true);
+    findChild<QAction*>(QStringLiteral("VcabtesterOptionsPromptEnglish"))->setChecked(true);
+    comeBack();
+    if (!message.empty())
+        platform::current().showMessage(message);
+}
+
+void Vcabtester::comeBack()
+{
+    shell::settings.ExerciseType = shell::exercise::Vcabtester;
+    if (vocabularyList.CurrentWord == 0)
+        beginTest();
+    setCaptions();
+    showTheWord();
+    showInMainWindowState();
+    focusQuestion();
+}
+
+void Vcabtester::showTheWord()
+{
+    const bool asked = vocabularyTester.WordIsAsked == platform::FlagTrue;
+    question_->setText(shell::fromUtf8(asked ? questionText() : NoWord.designedOrCurrent()));
+    hint_->setText(shell::fromUtf8(hintText()));
+    answer_->setAccessibleDescription(question_->text() + QStringLiteral(", ") + hint_->text());
+    omit_->setChecked(currentWordIsOmitted());
+    omit_->setEnabled(vocabularyList.WordCount > 0);
+    answer_->clear();
+    answer_->lookIdle();
+    question_->repaint();
+    hint_->repaint();
+}
+
+void Vcabtester::check()
+{
+    if (shell::pausing() || !isVisible())
+        return;
+    switch (judge(answer_->text().toStdString())) {
+    case Judgement::AnswerWanted:
+        reveal();
+        return;
+    case Judgement::NothingAsked:
+        moveOn();
+        return;
+    case Judgement::Right:
+        answer_->setReadOnly(true);
+        Q_EMIT answerJudged(true);
+        return;
+    case Judgement::Wrong:
+        answer_->setReadOnly(true);
+        Q_EMIT answerJudged(false);
+        return;
+    }
+}
+
+void Vcabtester::reveal()
+{
+    if (shell::pausing() || !isVisible() || vocabularyTester.WordIsAsked != platform::FlagTrue)
+        return;
+    const int session = shell::drillSession();
+    answer_->setReadOnly(true);
+    answer_->clear();
+    answer_->lookRevealed();
+    answer_->setText(shell::fromUtf8(expectedAnswer()));
+    answer_->repaint();
+    shell::Pause();
+    if (session != shell::drillSession())
+        return;
+    answer_->lookBlack();
+    answer_->clear();
+    focusQuestion();
+}
+
+// The question that is being judged or shown stands; the next is asked the new way.
+void Vcabtester::choosePrompt(std::string_view promptLanguage)
+{
+    vocabularyTester.PromptLanguage = promptLanguage;
+    if (shell::pausing() || vocabularyTester.WordIsAsked != platform::FlagTrue)
+        return;
+    chooseSide();
+    showTheWord();
+    focusQuestion();
+}
+
+void Vcabtester::omit(bool omitted)
+{
+    const bool wasAsked = vocabularyTester.WordIsAsked == platform::FlagTrue;
+    omitCurrentWord(omitted);
+    if (!wasAsked)
+        showTheWord();
+    if (!shell::pausing())
+        focusQuestion();
+}
+
+void Vcabtester::moveOn()
+{
+    goToNextWord(vocabularyTester.Order);
+    showTheWord();
+}
+
+void Vcabtester::focusQuestion()
+{
+    answer_->setReadOnly(false);
+    answer_->setFocus();
+}
+
+void Vcabtester::askAgain()
+{
+    countMiss();
+    answer_->clear();
+    focusQuestion();
+}
+
+void Vcabtester::closeBoxPressed()
+{
+    Q_EMIT left();
+}
+
+void Vcabtester::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape)
+        Q_EMIT left();
+    else
+        Window::keyPressEvent(event);
+}
+
+} // namespace vocabulary

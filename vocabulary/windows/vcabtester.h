@@ -1,0 +1,74 @@
+#pragma once
+
+#include "shell/drill.h"
+#include "shell/windows/window.h"
+
+#include <string_view>
+
+class QBoxLayout;
+class QCheckBox;
+class QMenuBar;
+class QPushButton;
+
+namespace vocabulary {
+
+class WordBox;
+class WordLabel;
+
+/// The vocabulary tester: shows a word of the list and its hint, and judges the meaning that is typed.
+class Vcabtester : public shell::Window, public shell::Drill {
+    Q_OBJECT
+
+public:
+    Vcabtester();
+    ~Vcabtester() override;
+
+    /// Starts afresh with the default list.
+    void open();
+
+    /// Comes back from another window: the question stands again, or the list is tested from its beginning
+    /// where it has changed.
+    void comeBack();
+
+    void showScore(const std::string& /*text*/) override {}
+    void greyAnsweredBox() override {}
+    void moveOn() override;
+    void focusQuestion() override;
+    void askAgain() override;
+
+Q_SIGNALS:
+    void answerJudged(bool right);
+    void listRequested();
+    void editorRequested();
+    void left();
+
+protected:
+    void closeBoxPressed() override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void makeControls();
+    void layOut();
+    QBoxLayout* questionRow();
+    QBoxLayout* buttonRow();
+    void connectControls();
+    void connectOrder(const char* item, std::string_view order);
+    void connectPrompt(const char* item, std::string_view promptLanguage);
+    void setCaptions();
+
+    void check();
+    void reveal();
+    void choosePrompt(std::string_view promptLanguage);
+    void omit(bool omitted);
+    void showTheWord();
+
+    QMenuBar* menuBar_;
+    WordLabel* question_;
+    WordLabel* hint_;
+    WordBox* answer_;
+    QCheckBox* omit_;
+    QPushButton* ok_;
+    QPushButton* cancel_;
+};
+
+} // namespace vocabulary

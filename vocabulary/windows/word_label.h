@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QLabel>
+
+#include <algorithm>
+
+namespace vocabulary {
+
+/// A label for a text of a list, shown letter by letter as it stands, in as many lines as it takes. It asks
+/// for room for its longest word and for all its lines, within reason.
+class WordLabel : public QLabel {
+    Q_OBJECT
+
+public:
+    explicit WordLabel(QWidget* parent) : QLabel(parent)
+    {
+        setTextFormat(Qt::PlainText);
+        setWordWrap(true);
+    }
+
+    QSize minimumSizeHint() const override
+    {
+        constexpr int longestWord = 24;
+        constexpr int mostLines = 5;
+        const int room =
+            std::min(QLabel::minimumSizeHint().width(), longestWord * fontMetrics().averageCharWidth());
+        const int height = heightForWidth(std::max(room, width()));
+        return {room, std::min(height, mostLines * fontMetrics().lineSpacing())};
+    }
+
+Q_SIGNALS:
+    void doubleClicked();
+
+protected:
+    /// Its lines depend on its width, and the window has to make room for them.
+    void resizeEvent(QResizeEvent* event) override
+    {
+        QLabel::resizeEvent(event);
+        updateGeometry();
+    }
+
+    void mouseDoubleClickEvent(QMouseEvent* /*event*/) override { Q_EMIT doubleClicked(); }
+};
+
+} // namespace vocabulary
