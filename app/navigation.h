@@ -2,8 +2,8 @@
 
 #include "app/feedback_windows.h"
 #include "app/noun_navigation.h"
-#include "app/quiz_navigation.h"
 #include "app/options_navigation.h"
+#include "app/quiz_navigation.h"
 #include "app/verb_navigation.h"
 #include "app/vocabulary_navigation.h"
 #include "shell/windows/about.h"
