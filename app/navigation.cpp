@@ -11,9 +11,6 @@
 
 #include <QApplication>
 
-#include <QApplication>
-#include <QWindow>
-
 namespace app {
 
 using shell::MainMenu;
@@ -21,14 +18,6 @@ using shell::MainMenu;
 namespace {
 
 constexpr auto HelpCommand = "winhelp.exe morvanti.hlp";
-
-// Beside a modal window the help belongs to it: else it could be neither read on nor closed.
-void belongToModalWindow(QWidget& window)
-{
-    window.winId();
-    const QWidget* const modal = QApplication::activeModalWidget();
-    window.windowHandle()->setTransientParent(modal == nullptr ? nullptr : modal->windowHandle());
-}
 
 void prepareWordListsAgain()
 {
@@ -159,7 +148,6 @@ void Navigation::showHelp()
         help_ = std::make_unique<shell::Help>();
         connect(help_.get(), &shell::Help::helpRequested, this, &Navigation::showHelp);
     }
-    belongToModalWindow(*help_);
     help_->showGuide();
 }
 

@@ -38,7 +38,7 @@ private:
 void Pause()
 {
     const Wait wait;
-    waitSeconds(settings.DelaySeconds, [&wait] { return wait.isOff(); });
+    waitSeconds([] { return settings.DelaySeconds; }, [&wait] { return wait.isOff(); });
 }
 
 bool pausing()

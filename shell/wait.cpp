@@ -21,14 +21,14 @@ std::chrono::milliseconds untilReached(double time, double now)
 
 } // namespace
 
-void waitSeconds(double seconds, const std::function<bool()>& isOff)
+void waitSeconds(const std::function<double()>& seconds, const std::function<bool()>& isOff)
 {
     platform::Platform& platform = platform::current();
     const double start = double{platform.secondsSinceMidnight()};
-    const double end = start + seconds;
     bool pastMidnight = false;
     while (!platform.ending() && !isOff()) {
         const double now = double{platform.secondsSinceMidnight()};
+        const double end = start + seconds();
         pastMidnight = pastMidnight || now < start;
         const bool sameTimeAgain = pastMidnight && end >= SecondsOfDay && now >= start;
         if (now >= end || sameTimeAgain)

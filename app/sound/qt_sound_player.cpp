@@ -1,5 +1,6 @@
 #include "app/sound/qt_sound_player.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QSoundEffect>
 #include <QUrl>
@@ -8,7 +9,12 @@
 
 namespace app {
 
-QtSoundPlayer::QtSoundPlayer() = default;
+// Sounds must go while the sound system still stands: the plugin itself goes only after it.
+QtSoundPlayer::QtSoundPlayer()
+{
+    connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, [this] { effects_.clear(); });
+}
+
 QtSoundPlayer::~QtSoundPlayer() = default;
 
 void QtSoundPlayer::open(const std::string& waveFile)

@@ -139,7 +139,8 @@ void DelayInterval::tryLength()
     const int visit = visit_;
     trying_ = true;
     showTrial(true);
-    waitSeconds(secondsOfScroll(scroll_->value()), [&] { return visit != visit_; });
+    const double seconds = secondsOfScroll(scroll_->value());
+    waitSeconds([seconds] { return seconds; }, [this, visit] { return visit != visit_; });
     if (visit != visit_)
         return;
     trying_ = false;

@@ -35,6 +35,17 @@ TEST_F(Pause, EndsOnlyWhenTheTimeOfDayComesRoundWhereItMeetsMidnight)
     EXPECT_NEAR(lengthFrom(86397), 2, 0.02);
 }
 
+TEST_F(Pause, GoesByTheDelayThatIsSetWhileItLasts)
+{
+    fake.whileWaiting = [&] {
+        shell::settings.DelaySeconds = 0;
+        fake.clock -= 99;
+    };
+    shell::settings.DelaySeconds = 100;
+    shell::Pause();
+    EXPECT_EQ(fake.waits, 1);
+}
+
 TEST_F(Pause, EndsAtOnceWhenTheDrillIsLeft)
 {
     fake.whileWaiting = [&] {

@@ -203,6 +203,7 @@ void Probatio::checkOnEnter(QWidget* control)
 {
     for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
         auto* const enter = new QShortcut(key, control);
+        enter->setAutoRepeat(false);
         enter->setContext(Qt::WidgetShortcut);
         connect(enter, &QShortcut::activated, this, &Probatio::check);
     }

@@ -132,6 +132,9 @@ void VerbManager::layOut()
     columns->addWidget(classes_, 2);
     columns->addWidget(verbs_, 2);
     columns->addLayout(right, 5);
+
+    setTabOrder(classes_, verbs_);
+    setTabOrder(verbs_, latin_.front());
 }
 
 void VerbManager::connectControls()
