@@ -4,8 +4,8 @@
 
 namespace app {
 
-/// Lets Enter and Escape count once however long they are held: a key that is still down when a pause ends must
-/// not answer the next question.
+/// Lets Enter and Escape count once however long they are held: a key that is still down when a pause ends
+/// must not answer the next question.
 class HeldKeys : public QObject {
     Q_OBJECT
 

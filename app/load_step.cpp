@@ -17,7 +17,7 @@ void loadProgram(shell::MainMenu& mainMenu)
     if (!shell::readSettings(shell::SettingsFileName))
         shell::applyDefaultSettings();
     shell::mendSettings();
-    shell::setVowelMarkAtStart();
+    shell::setVowelMarkAsShown();
     mainMenu.showSettings();
     mainMenu.showInMainWindowState();
     shell::soundIfOn(ProgramSound);

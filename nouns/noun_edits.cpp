@@ -65,6 +65,8 @@ NounEdit addNoun(int paradigm, const NounRecord& noun)
         return NounEdit::NoStem;
     if (count >= mostNounsOf(paradigm))
         return NounEdit::ListFull;
+    if (paradigm == ThirdDeclension && noun.obliqueStem.empty())
+        return NounEdit::NoStem;
     storeNoun(paradigm, count + 1, noun);
     ++count;
     return NounEdit::Stored;

@@ -37,6 +37,7 @@ void switchSound(bool on)
 void switchVowelLength(bool shown)
 {
     settings.ShowVowelLength = platform::flagOf(shown);
+    setVowelMarkAsShown();
 }
 
 void switchSaving(bool saved)
@@ -49,7 +50,7 @@ void setVowelMarkForDrill()
     settings.VowelMark = settings.ShowVowelLength == MarkingFlagOfDrills ? ":" : "";
 }
 
-void setVowelMarkAtStart()
+void setVowelMarkAsShown()
 {
     if (settings.ShowVowelLength == platform::FlagTrue)
         settings.VowelMark = ":";

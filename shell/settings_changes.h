@@ -12,7 +12,7 @@ void chooseQuestionOrder(std::string_view questionOrder);
 /// Sets `SoundOn` and raises `SettingsChangeCount` by one.
 void switchSound(bool on);
 
-/// Sets `ShowVowelLength`; the word lists have to be prepared again afterwards.
+/// Sets `ShowVowelLength`, and `VowelMark` with it; the word lists have to be prepared again afterwards.
 void switchVowelLength(bool shown);
 
 /// Sets `SaveSettingsOnExit`.
@@ -23,7 +23,8 @@ void switchSaving(bool saved);
 /// meant.
 void setVowelMarkForDrill();
 
-/// Sets `VowelMark` at start: ":" where `ShowVowelLength` is true, "" where it is false.
-void setVowelMarkAtStart();
+/// Sets `VowelMark` at start, and when the option is switched: ":" where `ShowVowelLength` is true, "" where
+/// it is false.
+void setVowelMarkAsShown();
 
 } // namespace shell

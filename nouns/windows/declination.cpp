@@ -202,6 +202,7 @@ void Declination::connectControls()
 
 void Declination::open()
 {
+    shell::applyDesignedCaptions(*this, Captions);
     shell::applyCaptions(*this, Captions);
     placeRows();
     drawDeclension();

@@ -123,6 +123,7 @@ void NounHandler::connectControls()
     connect(declensions_, &QListWidget::currentRowChanged, this, &NounHandler::listNouns);
     connect(nouns_, &QListWidget::currentRowChanged, this, &NounHandler::showNoun);
     connect(paradigms_, &QComboBox::currentIndexChanged, this, &NounHandler::chooseParadigm);
+    connect(paradigms_, &QComboBox::activated, this, &NounHandler::keepDraft);
     for (const QLineEdit* const field : {stem_, obliqueStem_, note_})
         connect(field, &QLineEdit::textEdited, this, &NounHandler::keepDraft);
     for (const QLineEdit* const field : meanings_)
@@ -171,7 +172,7 @@ int NounHandler::chosenParadigm() const
 void NounHandler::showNoun(int row)
 {
     if (isNewRow(row)) {
-        showRecord(draft_);
+        showDraft();
     } else if (row < 0) {
         showRecord({});
     } else {
@@ -209,7 +210,15 @@ void NounHandler::chooseParadigm(int /*row*/)
 
 void NounHandler::keepDraft()
 {
-    draft_ = typedNoun();
+    drafts_.at(static_cast<std::size_t>(declensions_->currentRow())) = {typedNoun(), chosenParadigm()};
+}
+
+void NounHandler::showDraft()
+{
+    const Draft draft = drafts_.at(static_cast<std::size_t>(declensions_->currentRow()));
+    const int chosen = paradigms_->findData(draft.paradigm);
+    paradigms_->setCurrentIndex(chosen < 0 ? paradigms_->count() - 1 : chosen);
+    showRecord(draft.noun);
 }
 
 NounRecord NounHandler::typedNoun() const
@@ -242,7 +251,6 @@ void NounHandler::addNewRow()
     if (nouns_->count() == newRow)
         nouns_->addItem(QLatin1String(NewItem));
     nouns_->setCurrentRow(newRow);
-    paradigms_->setCurrentIndex(paradigms_->count() - 1);
     stem_->setFocus();
 }
 
@@ -262,7 +270,7 @@ void NounHandler::storeNewNoun()
     case NounEdit::Stored:
         break;
     }
-    draft_ = {};
+    drafts_.at(static_cast<std::size_t>(declensions_->currentRow())) = {};
     listNouns();
     chooseLastOf(paradigm);
 }

@@ -54,6 +54,7 @@ private:
     void showRecord(const NounRecord& noun);
     void allowTyping(bool allowed);
     void keepDraft();
+    void showDraft();
     NounRecord typedNoun() const;
     void add();
     void addNewRow();
@@ -73,7 +74,12 @@ private:
     QPushButton* close_;
 
     std::vector<ListRow> rows_;
-    NounRecord draft_;
+    // What was typed on each declension's new row, and the paradigm chosen for it; 0 where none was.
+    struct Draft {
+        NounRecord noun;
+        int paradigm = 0;
+    };
+    std::array<Draft, 5> drafts_;
 };
 
 } // namespace nouns

@@ -175,6 +175,7 @@ void PronounSingular::connectControls()
 
 void PronounSingular::open()
 {
+    shell::applyDesignedCaptions(*this, Captions);
     shell::applyCaptions(*this, Captions);
     placeRows();
     beginPronouns();

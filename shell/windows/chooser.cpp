@@ -101,6 +101,7 @@ void Chooser::becameActive()
 
 void Chooser::fill()
 {
+    applyDesignedCaptions(*this, captions_);
     applyCaptions(*this, captions_);
     fillList(*list_, rows_);
     list_->setAccessibleName(windowTitle());

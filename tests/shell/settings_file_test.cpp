@@ -141,7 +141,7 @@ TEST_F(SettingsFile, MarksVowelsAtStartForTheTwoTruthValuesOnly)
              {-1, "", ":"}, {0, ":", ""}, {1, "", ""}, {1, ":", ":"}}) {
         settings.ShowVowelLength = static_cast<platform::Flag>(shown);
         settings.VowelMark = before;
-        shell::setVowelMarkAtStart();
+        shell::setVowelMarkAsShown();
         EXPECT_EQ(settings.VowelMark, after) << shown;
     }
 }

@@ -2,7 +2,6 @@
 #include "nouns/windows/noun_handler.h"
 #include "nouns/windows/noun_quiz.h"
 #include "nouns/windows/pronoun_chooser.h"
-#include "nouns/windows/pronoun_singular.h"
 #include "shell/settings.h"
 #include "shell/windows/about.h"
 #include "shell/windows/delay_interval.h"
@@ -36,7 +35,10 @@ using MakeWindow = std::function<std::unique_ptr<QWidget>()>;
 template <typename Window>
 std::unique_ptr<QWidget> make()
 {
-    return std::make_unique<Window>();
+    auto window = std::make_unique<Window>();
+    if constexpr (requires { window->open(); })
+        window->open();
+    return window;
 }
 
 const std::vector<MakeWindow> AllWindows = {make<shell::MainMenu>,
@@ -51,7 +53,7 @@ const std::vector<MakeWindow> AllWindows = {make<shell::MainMenu>,
                                             make<verbdrills::QuizInclude>,
                                             make<nouns::DeclinationChoose>,
                                             make<nouns::PronounChooser>,
-                                            make<nouns::PronounSingular>,
+
                                             make<nouns::NounQuiz>,
                                             make<nouns::NounHandler>,
                                             make<vocabulary::Vcabtester>,

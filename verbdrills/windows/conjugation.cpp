@@ -165,6 +165,7 @@ void Conjugation::connectControls()
 
 void Conjugation::open()
 {
+    shell::applyDesignedCaptions(*this, Captions);
     shell::applyCaptions(*this, Captions);
     emptyBoxes();
     score_->clear();

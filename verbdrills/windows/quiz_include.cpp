@@ -131,6 +131,10 @@ void QuizInclude::layOut()
     buttons->addStretch();
     buttons->addWidget(ok_);
     buttons->addWidget(cancel_);
+    setTabOrder(tenses_.back(), all_);
+    setTabOrder(all_, none_);
+    setTabOrder(none_, ok_);
+    setTabOrder(ok_, cancel_);
 
     auto* const rows = new QVBoxLayout(frame_);
     rows->setContentsMargins(shell::LargeSpace, shell::LargeSpace, shell::LargeSpace, shell::LargeSpace);

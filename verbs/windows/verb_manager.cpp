@@ -13,6 +13,8 @@
 #include <QListWidget>
 #include <QPushButton>
 
+#include <algorithm>
+
 namespace verbs {
 
 namespace {
@@ -133,8 +135,16 @@ void VerbManager::layOut()
     columns->addWidget(verbs_, 2);
     columns->addLayout(right, 5);
 
-    setTabOrder(classes_, verbs_);
-    setTabOrder(verbs_, latin_.front());
+    QWidget* before = classes_;
+    const auto tabTo = [&](QWidget* next) {
+        setTabOrder(before, next);
+        before = next;
+    };
+    tabTo(verbs_);
+    std::ranges::for_each(latin_, tabTo);
+    std::ranges::for_each(translations_, tabTo);
+    tabTo(add_);
+    tabTo(cancel_);
 }
 
 void VerbManager::connectControls()
