@@ -18,8 +18,6 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include <algorithm>
-
 namespace nouns {
 
 using shell::Caption;
@@ -160,14 +158,6 @@ QBoxLayout* NounQuiz::buttonRow()
     row->addWidget(ok_);
     row->addWidget(skip_);
     row->addWidget(cancel_);
-    QWidget* before = checks_.front();
-    const auto tabTo = [&](QWidget* next) {
-        setTabOrder(before, next);
-        before = next;
-    };
-    std::for_each(checks_.begin() + 1, checks_.end(), tabTo);
-    for (QPushButton* const button : {options_, ok_, skip_, cancel_})
-        tabTo(button);
     return row;
 }
 
@@ -184,7 +174,6 @@ void NounQuiz::connectControls()
 
 void NounQuiz::open()
 {
-    shell::applyDesignedCaptions(*this, Captions);
     shell::applyCaptions(*this, Captions);
     ask();
     showInMainWindowState();

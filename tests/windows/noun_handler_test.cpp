@@ -166,6 +166,7 @@ TEST_F(NounManager, RefusesWhatDoesNotFit)
     chooseDeclension(2);
     click(*manager, "NHAdd");
     chooseParadigm(0);
+    fill("NHStem", "pax");
     click(*manager, "NHAdd");
     EXPECT_EQ(nounList.NounCount[ThirdDeclension], 10);
     chooseDeclension(4);

@@ -1,6 +1,5 @@
 #include "nouns/windows/declination_choose.h"
 #include "nouns/windows/noun_handler.h"
-#include "nouns/windows/noun_quiz.h"
 #include "nouns/windows/pronoun_chooser.h"
 #include "shell/settings.h"
 #include "shell/windows/about.h"
@@ -54,7 +53,6 @@ const std::vector<MakeWindow> AllWindows = {make<shell::MainMenu>,
                                             make<nouns::DeclinationChoose>,
                                             make<nouns::PronounChooser>,
 
-                                            make<nouns::NounQuiz>,
                                             make<nouns::NounHandler>,
                                             make<vocabulary::Vcabtester>,
                                             make<vocabulary::VcabManager>,

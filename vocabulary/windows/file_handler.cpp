@@ -79,7 +79,7 @@ void FileHandler::makeControls()
     for (ChoiceList* const list : {folders_, files_})
         shell::setType(*list, ListType);
     action_ = named<QPushButton>("LoadSaveFH", this);
-    action_->setText(QStringLiteral("&Load"));
+    action_->setText(QLatin1String(LoadAction));
     cancel_ = named<QPushButton>("CancelFH", this);
     action_->setAutoDefault(true);
     cancel_->setAutoDefault(true);
