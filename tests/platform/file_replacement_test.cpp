@@ -1,8 +1,16 @@
 #include "platform/file_replacement.h"
 #include "tests/support/fresh_state.h"
 
+#include <array>
 #include <csignal>
+#include <functional>
+#include <linux/filter.h>
+#include <linux/seccomp.h>
+#include <sys/prctl.h>
 #include <sys/resource.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace {
 
@@ -27,6 +35,55 @@ public:
 private:
     rlimit before_{};
 };
+
+const std::string OldBytes = "the old words\n";
+const std::string NewBytes(100, 'x');
+
+// The system kills the process that writes past so many bytes.
+void killAtByte(rlim_t bytes)
+{
+    std::signal(SIGXFSZ, SIG_DFL);
+    const rlimit limit = {bytes, bytes};
+    ::setrlimit(RLIMIT_FSIZE, &limit);
+}
+
+// The system kills the process that makes this call.
+void killAtCall(long call)
+{
+    std::array<sock_filter, 4> filter = {{
+        BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)),
+        BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, static_cast<unsigned>(call), 0, 1),
+        BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_KILL_PROCESS),
+        BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW),
+    }};
+    const sock_fprog program = {filter.size(), filter.data()};
+    ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0);
+    ::prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &program);
+}
+
+// Replaces "a.lst" in a process of its own; true when that was killed.
+bool killedWhileReplacing(const std::function<void()>& setTrap)
+{
+    const pid_t child = ::fork();
+    if (child == 0) {
+        const rlimit noCore = {0, 0};
+        ::setrlimit(RLIMIT_CORE, &noCore);
+        setTrap();
+        platform::replaceFile("a.lst", NewBytes);
+        ::_exit(EXIT_SUCCESS);
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    return WIFSIGNALED(status);
+}
+
+void expectReplaceable()
+{
+    const std::string later = "the words of a later day\n";
+    EXPECT_FALSE(platform::replaceFile("a.lst", later));
+    EXPECT_EQ(tests::bytesOf("a.lst"), later);
+    EXPECT_FALSE(fs::exists("a.lst.new"));
+}
 
 TEST_F(FileReplacement, WritesExactlyTheBytes)
 {
@@ -73,6 +130,29 @@ TEST_F(FileReplacement, PassesOverWhatACrashLeftBehind)
     fs::permissions("a.lst.new", fs::perms::owner_read);
     EXPECT_FALSE(platform::replaceFile("a.lst", "whole"));
     EXPECT_EQ(tests::bytesOf("a.lst"), "whole");
+}
+
+TEST_F(FileReplacement, LeavesTheOldFileWholeWhenKilledAtAnyByte)
+{
+    for (const rlim_t written : {0U, 1U, 50U, 99U}) {
+        tests::writeFile("a.lst", OldBytes);
+        ASSERT_TRUE(killedWhileReplacing([&] { killAtByte(written); })) << written;
+        EXPECT_EQ(tests::bytesOf("a.lst"), OldBytes) << written;
+        EXPECT_EQ(tests::bytesOf("a.lst.new"), NewBytes.substr(0, written));
+        expectReplaceable();
+    }
+}
+
+TEST_F(FileReplacement, LeavesTheOldOrTheNewFileWholeWhenKilledAtAnyStep)
+{
+    const std::array steps = {std::pair{SYS_openat, OldBytes}, std::pair{SYS_write, OldBytes},
+                              std::pair{SYS_fsync, OldBytes}, std::pair{SYS_close, NewBytes}};
+    for (const auto& [step, left] : steps) {
+        tests::writeFile("a.lst", OldBytes);
+        ASSERT_TRUE(killedWhileReplacing([&, call = step] { killAtCall(call); })) << step;
+        EXPECT_EQ(tests::bytesOf("a.lst"), left) << step;
+        expectReplaceable();
+    }
 }
 
 } // namespace
