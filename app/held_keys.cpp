@@ -1,6 +1,6 @@
 #include "app/held_keys.h"
 
-#include <QKeyEvent>
+#include "shell/windows/enter_key.h"
 
 namespace app {
 
@@ -8,10 +8,8 @@ bool HeldKeys::eventFilter(QObject* /*receiver*/, QEvent* event)
 {
     if (event->type() != QEvent::KeyPress)
         return false;
-    const auto* const key = static_cast<QKeyEvent*>(event);
-    const bool counts =
-        key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter || key->key() == Qt::Key_Escape;
-    return counts && key->isAutoRepeat();
+    const auto& key = *static_cast<QKeyEvent*>(event);
+    return key.isAutoRepeat() && (shell::isEnter(key) || key.key() == Qt::Key_Escape);
 }
 
 } // namespace app

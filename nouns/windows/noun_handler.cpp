@@ -8,7 +8,6 @@
 #include <QBoxLayout>
 #include <QComboBox>
 #include <QGridLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -43,6 +42,7 @@ NounHandler::NounHandler()
     makeControls();
     layOut();
     connectControls();
+    closeOnEscape();
 }
 
 void NounHandler::makeControls()
@@ -286,14 +286,6 @@ void NounHandler::chooseLastOf(int paradigm)
 void NounHandler::closeBoxPressed()
 {
     Q_EMIT left();
-}
-
-void NounHandler::keyPressEvent(QKeyEvent* event)
-{
-    if (event->key() == Qt::Key_Escape)
-        Q_EMIT left();
-    else
-        Window::keyPressEvent(event);
 }
 
 } // namespace nouns

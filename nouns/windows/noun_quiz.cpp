@@ -14,7 +14,6 @@
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QGroupBox>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 
@@ -63,6 +62,7 @@ NounQuiz::NounQuiz() : Window("NounQuiz")
     makeChecks();
     layOut();
     connectControls();
+    closeOnEscape();
     shell::applyDesignedCaptions(*this, Captions);
 }
 
@@ -225,14 +225,6 @@ void NounQuiz::skip()
 void NounQuiz::closeBoxPressed()
 {
     Q_EMIT left();
-}
-
-void NounQuiz::keyPressEvent(QKeyEvent* event)
-{
-    if (event->key() == Qt::Key_Escape)
-        Q_EMIT left();
-    else
-        Window::keyPressEvent(event);
 }
 
 } // namespace nouns

@@ -6,10 +6,8 @@
 
 #include <QBoxLayout>
 #include <QCoreApplication>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
-#include <QShortcut>
 
 #include <array>
 
@@ -47,8 +45,7 @@ About::About() : Window("About", "About")
     auto* const close = new QPushButton;
     close->setObjectName(QStringLiteral("Command1"));
     close->setDefault(true);
-    auto* const escape = new QShortcut(Qt::Key_Escape, this);
-    connect(escape, &QShortcut::activated, this, &QWidget::hide);
+    closeOnEscape();
 
     auto* const layout = new QVBoxLayout(centredBlock(LargestBlock));
     layout->setSpacing(LargeSpace);
@@ -71,14 +68,6 @@ void About::open()
 void About::closeBoxPressed()
 {
     hide();
-}
-
-void About::keyPressEvent(QKeyEvent* event)
-{
-    if (event->key() == Qt::Key_Escape)
-        hide();
-    else
-        Window::keyPressEvent(event);
 }
 
 } // namespace shell

@@ -15,7 +15,6 @@ public:
 
 protected:
     void closeBoxPressed() override;
-    void keyPressEvent(QKeyEvent* event) override;
 };
 
 } // namespace shell

@@ -1,15 +1,10 @@
 #include "shell/windows/choice_list.h"
 
-#include <QKeyEvent>
+#include "shell/windows/enter_key.h"
 
 namespace shell {
 
 namespace {
-
-bool isEnter(int key)
-{
-    return key == Qt::Key_Return || key == Qt::Key_Enter;
-}
 
 bool beginsChoice(int key)
 {
@@ -33,7 +28,7 @@ int ChoiceList::chosenRow() const
 // The first arrow key chooses the first row, where Qt would go past it.
 void ChoiceList::keyPressEvent(QKeyEvent* event)
 {
-    if (isEnter(event->key()))
+    if (isEnter(*event))
         activateChosenRow();
     else if (beginsChoice(event->key()) && chosenRow() < 0)
         setCurrentRow(0, QItemSelectionModel::ClearAndSelect);

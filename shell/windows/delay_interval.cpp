@@ -3,11 +3,11 @@
 #include "shell/delay.h"
 #include "shell/wait.h"
 #include "shell/windows/captions.h"
+#include "shell/windows/enter_key.h"
 #include "shell/windows/text.h"
 #include "shell/windows/type.h"
 
 #include <QBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollBar>
@@ -40,6 +40,7 @@ DelayInterval::DelayInterval()
     makeControls();
     layOut();
     connectControls();
+    closeOnEscape();
     applyDesignedCaptions(*this, Captions);
 }
 
@@ -154,9 +155,7 @@ void DelayInterval::closeBoxPressed()
 
 void DelayInterval::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Escape)
-        leave();
-    else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+    if (isEnter(*event))
         confirm();
     else
         Window::keyPressEvent(event);

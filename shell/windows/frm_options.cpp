@@ -11,7 +11,6 @@
 #include <QBoxLayout>
 #include <QFormLayout>
 #include <QFrame>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QSlider>
@@ -65,6 +64,7 @@ FrmOptions::FrmOptions()
     makeControls();
     layOut();
     connectControls();
+    closeOnEscape();
     applyDesignedCaptions(*this, Captions);
 }
 
@@ -217,14 +217,6 @@ void FrmOptions::confirm()
 void FrmOptions::closeBoxPressed()
 {
     hide();
-}
-
-void FrmOptions::keyPressEvent(QKeyEvent* event)
-{
-    if (event->key() == Qt::Key_Escape)
-        hide();
-    else
-        Window::keyPressEvent(event);
 }
 
 void FrmOptions::resizeEvent(QResizeEvent* event)

@@ -24,7 +24,6 @@ public:
 
 protected:
     void closeBoxPressed() override;
-    void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:

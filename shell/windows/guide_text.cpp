@@ -78,6 +78,11 @@ void showGuideText(QTextBrowser& browser, const QString& text)
     } else {
         browser.setPlainText(text);
     }
+    showBeginning(browser);
+}
+
+void showBeginning(QTextBrowser& browser)
+{
     browser.moveCursor(QTextCursor::Start);
     // A place for the history to come back to: no heading has this anchor.
     browser.setSource(QUrl(QStringLiteral("#-")));

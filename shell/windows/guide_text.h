@@ -10,4 +10,7 @@ namespace shell {
 /// text is shown as it is.
 void showGuideText(QTextBrowser& browser, const QString& text);
 
+/// Goes to the beginning of the guide that is shown, and forgets which way the reader went.
+void showBeginning(QTextBrowser& browser);
+
 } // namespace shell

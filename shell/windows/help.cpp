@@ -7,10 +7,8 @@
 #include "shell/windows/type.h"
 
 #include <QBoxLayout>
-#include <QKeyEvent>
 #include <QPushButton>
 #include <QScreen>
-#include <QShortcut>
 #include <QTextBrowser>
 
 #include <array>
@@ -39,8 +37,7 @@ Help::Help() : Window("Help"), text_(new QTextBrowser)
     auto* const close = new QPushButton;
     close->setObjectName(QStringLiteral("Command1"));
     close->setDefault(true);
-    auto* const escape = new QShortcut(Qt::Key_Escape, this);
-    connect(escape, &QShortcut::activated, this, &QWidget::hide);
+    closeOnEscape();
 
     auto* const layout = new QVBoxLayout(centredBlock(LargestBlock));
     layout->setSpacing(MediumSpace);
@@ -57,7 +54,12 @@ Help::Help() : Window("Help"), text_(new QTextBrowser)
 void Help::showGuide()
 {
     const platform::TextFile guide = platform::readTextFile(HelpFileName);
-    showGuideText(*text_, fromUtf8(guide.fault ? guide.fault->message() : guide.text));
+    const QString text = fromUtf8(guide.fault ? guide.fault->message() : guide.text);
+    if (text == shownText_)
+        showBeginning(*text_);
+    else
+        showGuideText(*text_, text);
+    shownText_ = text;
     applyCaptions(*this, HelpCaptions);
     showInFront();
     text_->setFocus();
@@ -66,14 +68,6 @@ void Help::showGuide()
 void Help::closeBoxPressed()
 {
     hide();
-}
-
-void Help::keyPressEvent(QKeyEvent* event)
-{
-    if (event->key() == Qt::Key_Escape)
-        hide();
-    else
-        Window::keyPressEvent(event);
 }
 
 } // namespace shell

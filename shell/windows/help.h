@@ -16,15 +16,15 @@ public:
     Help();
 
     /// Reads the help file of the working folder and shows its text from the beginning, or why it cannot be
-    /// read.
+    /// read. A text that is shown already is not laid out again.
     void showGuide();
 
 protected:
     void closeBoxPressed() override;
-    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     QTextBrowser* text_;
+    QString shownText_;
 };
 
 } // namespace shell

@@ -30,6 +30,13 @@ Window::Window(std::string_view name, std::string_view activeName) : activeName_
     connect(help, &QShortcut::activated, this, &Window::helpRequested);
 }
 
+void Window::closeOnEscape()
+{
+    auto* const escape = new QShortcut(Qt::Key_Escape, this);
+    escape->setAutoRepeat(false);
+    connect(escape, &QShortcut::activated, this, [this] { closeBoxPressed(); });
+}
+
 // A window that were larger than the screen at first would hide its buttons.
 void Window::fitScreenAtFirst()
 {

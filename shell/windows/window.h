@@ -8,7 +8,8 @@
 namespace shell {
 
 /// What all windows of the program share: the object name, `ActiveWindowName` on activation, F1, the close
-/// box, the state that `MainWindowState` asks for, and a block that keeps a large window's content together.
+/// box and Escape, the state that `MainWindowState` asks for, and a block that keeps a large window's content
+/// together.
 class Window : public QWidget {
     Q_OBJECT
 
@@ -31,6 +32,9 @@ protected:
     /// A widget for the window's content. It fills the window up to so many characters and lines of the
     /// window's font; a larger window keeps it in its middle.
     QWidget* centredBlock(QSize charactersAndLines);
+
+    /// Makes Escape do what the close box does, wherever the focus is.
+    void closeOnEscape();
 
     /// Called after the window became the active one.
     virtual void becameActive() {}

@@ -59,6 +59,8 @@ void type(QWidget& window, const QString& text)
 
 void press(QWidget& window, Qt::Key key)
 {
+    if (window.isVisible())
+        QApplication::setActiveWindow(&window);
     QTest::keyClick(&focused(window), key);
     QApplication::processEvents();
 }

@@ -41,6 +41,7 @@ void doubleClickRow(QListWidget& list, int row);
 
 /// Types into the widget that has the focus in a window, key by key.
 void type(QWidget& window, const QString& text);
+/// Presses a key in the window, which becomes the active one.
 void press(QWidget& window, Qt::Key key);
 
 /// The object name of the widget that has the focus in a window.

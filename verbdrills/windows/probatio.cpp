@@ -14,7 +14,6 @@
 #include <QBoxLayout>
 #include <QButtonGroup>
 #include <QGridLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
@@ -61,6 +60,7 @@ Probatio::Probatio() : Window("Probatio", "quiz")
     makeControls();
     layOut();
     connectControls();
+    closeOnEscape();
     shell::applyDesignedCaptions(*this, probatioCaptions());
     shell::registerDrill(shell::exercise::Quiz, *this);
 }
@@ -308,14 +308,6 @@ void Probatio::showRightAnswer()
 void Probatio::closeBoxPressed()
 {
     Q_EMIT left();
-}
-
-void Probatio::keyPressEvent(QKeyEvent* event)
-{
-    if (event->key() == Qt::Key_Escape)
-        Q_EMIT left();
-    else
-        Window::keyPressEvent(event);
 }
 
 // The quiz shows no score, and has no box that turns grey.

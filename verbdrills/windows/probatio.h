@@ -52,7 +52,6 @@ Q_SIGNALS:
 
 protected:
     void closeBoxPressed() override;
-    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void makeControls();

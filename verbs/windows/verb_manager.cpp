@@ -68,6 +68,7 @@ VerbManager::VerbManager()
     makeControls();
     layOut();
     connectControls();
+    closeOnEscape();
 }
 
 void VerbManager::makeControls()

@@ -12,7 +12,6 @@
 
 #include <QBoxLayout>
 #include <QGridLayout>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
 
@@ -67,6 +66,7 @@ FileHandler::FileHandler() : Window("FileHandler")
     makeControls();
     layOut();
     connectControls();
+    closeOnEscape();
     shell::applyDesignedCaptions(*this, Captions);
 }
 
@@ -243,14 +243,6 @@ void FileHandler::save()
 void FileHandler::closeBoxPressed()
 {
     Q_EMIT left();
-}
-
-void FileHandler::keyPressEvent(QKeyEvent* event)
-{
-    if (event->key() == Qt::Key_Escape)
-        Q_EMIT left();
-    else
-        Window::keyPressEvent(event);
 }
 
 } // namespace vocabulary

@@ -9,7 +9,6 @@
 #include "vocabulary/windows/named.h"
 
 #include <QBoxLayout>
-#include <QKeyEvent>
 #include <QPushButton>
 
 namespace vocabulary {
@@ -38,6 +37,7 @@ VcabLoader::VcabLoader() : Window("VcabLoader")
     makeControls();
     layOut();
     connectControls();
+    closeOnEscape();
     shell::applyDesignedCaptions(*this, Captions);
 }
 
@@ -101,14 +101,6 @@ void VcabLoader::loadChosen()
 void VcabLoader::closeBoxPressed()
 {
     Q_EMIT left();
-}
-
-void VcabLoader::keyPressEvent(QKeyEvent* event)
-{
-    if (event->key() == Qt::Key_Escape)
-        Q_EMIT left();
-    else
-        Window::keyPressEvent(event);
 }
 
 } // namespace vocabulary

@@ -11,7 +11,6 @@
 
 #include <QBoxLayout>
 #include <QGridLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -64,6 +63,7 @@ VcabManager::VcabManager() : Window("VcabManager")
     makeControls();
     layOut();
     connectControls();
+    closeOnEscape();
     shell::applyDesignedCaptions(*this, Captions);
 }
 
@@ -300,14 +300,6 @@ void VcabManager::leaveFor(void (VcabManager::*request)())
 void VcabManager::closeBoxPressed()
 {
     leaveFor(&VcabManager::exitRequested);
-}
-
-void VcabManager::keyPressEvent(QKeyEvent* event)
-{
-    if (event->key() == Qt::Key_Escape)
-        leaveFor(&VcabManager::exitRequested);
-    else
-        Window::keyPressEvent(event);
 }
 
 } // namespace vocabulary

@@ -5,7 +5,6 @@
 #include "vocabulary/windows/named.h"
 
 #include <QBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 
@@ -36,6 +35,7 @@ VcabWarning::VcabWarning() : Window("VcabWarning")
     makeControls();
     layOut();
     connectControls();
+    closeOnEscape();
     shell::applyDesignedCaptions(*this, Captions);
 }
 
@@ -88,14 +88,6 @@ void VcabWarning::open()
 void VcabWarning::closeBoxPressed()
 {
     Q_EMIT cancelled();
-}
-
-void VcabWarning::keyPressEvent(QKeyEvent* event)
-{
-    if (event->key() == Qt::Key_Escape)
-        Q_EMIT cancelled();
-    else
-        Window::keyPressEvent(event);
 }
 
 } // namespace vocabulary

@@ -17,7 +17,6 @@
 #include <QAction>
 #include <QBoxLayout>
 #include <QCheckBox>
-#include <QKeyEvent>
 #include <QMenuBar>
 #include <QPushButton>
 
@@ -62,6 +61,7 @@ Vcabtester::Vcabtester() : Window("Vcabtester"), menuBar_(new QMenuBar(this))
     makeControls();
     layOut();
     connectControls();
+    closeOnEscape();
     shell::applyDesignedCaptions(*this, Captions);
     shell::registerDrill(shell::exercise::Vcabtester, *this);
 }
@@ -284,14 +284,6 @@ void Vcabtester::askAgain()
 void Vcabtester::closeBoxPressed()
 {
     Q_EMIT left();
-}
-
-void Vcabtester::keyPressEvent(QKeyEvent* event)
-{
-    if (event->key() == Qt::Key_Escape)
-        Q_EMIT left();
-    else
-        Window::keyPressEvent(event);
 }
 
 } // namespace vocabulary
