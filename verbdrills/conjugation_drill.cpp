@@ -112,7 +112,7 @@ Advance goToNextTense()
 
 } // namespace
 
-void setQuestion()
+void setConjugationQuestion()
 {
     const int verbClass = currentParadigm.ConjugationCode;
     conjugationDrill.CorrectForm = verbTables.Forms[verbClass][conjugationDrill.FormRow + 1];

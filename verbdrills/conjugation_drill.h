@@ -46,7 +46,7 @@ struct ConjugationDrill {
 extern ConjugationDrill conjugationDrill;
 
 /// Sets the question: `CorrectForm`, and the titles of the current paradigm with the verb that is drilled.
-void setQuestion();
+void setConjugationQuestion();
 
 /// Builds `DrillHeading`.
 void buildDrillHeading();

@@ -4,7 +4,6 @@
 #include "nouns/declension_drill.h"
 #include "nouns/noun_tables.h"
 #include "nouns/windows/case_names.h"
-#include "shell/pause.h"
 #include "shell/settings.h"
 #include "shell/windows/answer_box.h"
 #include "shell/windows/captions.h"
@@ -15,15 +14,12 @@
 #include <QBoxLayout>
 #include <QGridLayout>
 #include <QGroupBox>
-#include <QKeyEvent>
 #include <QLabel>
-#include <QPushButton>
 
 #include <algorithm>
 
 namespace nouns {
 
-using shell::AnswerBox;
 using shell::Caption;
 
 namespace {
@@ -63,39 +59,25 @@ QGroupBox* makeFrame(QWidget* parent, const char* name)
 
 } // namespace
 
-Declination::Declination() : Window("Declination", "declination")
+Declination::Declination() : BoxDrill("Declination", "declination", shell::exercise::Declination)
 {
     setWindowModality(Qt::ApplicationModal);
     makeControls();
     makeBoxes();
     layOut();
-    connectControls();
     shell::applyDesignedCaptions(*this, Captions);
-    shell::registerDrill(shell::exercise::Declination, *this);
-}
-
-Declination::~Declination()
-{
-    shell::unregisterDrill(shell::exercise::Declination);
 }
 
 void Declination::makeControls()
 {
     heading_ = shell::makeLabel(this, "HeadingLabel");
     noun_ = shell::makeLabel(this, "NounLabel");
-    score_ = shell::makeLabel(this, "ScoreLabel");
     shell::setType(*heading_, shell::FormType);
     shell::setBoldType(*noun_, shell::HeadingType);
-    shell::setBoldType(*score_, shell::HeadingType);
     noun_->setWordWrap(true);
     noun_->setMinimumSize(1, noun_->fontMetrics().lineSpacing());
     singular_ = makeFrame(this, "Frame1");
     plural_ = makeFrame(this, "Frame2");
-    continue_ = shell::makeButton(this, "Continue");
-    question_ = shell::makeButton(this, "DeclQuestion");
-    quit_ = shell::makeButton(this, "DeclQuitButton");
-    question_->setText(QStringLiteral("?"));
-    question_->setAccessibleName(QStringLiteral("Show the answer"));
     dummy_ = new QWidget(this);
     dummy_->setObjectName(QStringLiteral("DDummy"));
     dummy_->resize(1, 1);
@@ -103,16 +85,13 @@ void Declination::makeControls()
 
 void Declination::makeBoxes()
 {
-    for (int i = 0; i < CaseCount; ++i) {
-        auto* const box = new AnswerBox(i < CasesOfNumber ? singular_ : plural_);
-        box->setObjectName(QStringLiteral("DeclText%1").arg(i));
-        boxes_.at(static_cast<std::size_t>(i)) = box;
-    }
+    for (int i = 0; i < CaseCount; ++i)
+        addBox(i < CasesOfNumber ? singular_ : plural_, QStringLiteral("DeclText%1").arg(i));
     for (std::size_t i = 0; i < cases_.size(); ++i) {
         cases_.at(i) = shell::makeLabel(singular_, CaseLabels.at(i));
         cases_.at(i)->setText(QLatin1String(CaseNames.at(i)));
-        cases_.at(i)->setBuddy(boxes_.at(i));
-        cases_.at(i)->setMinimumHeight(boxes_.at(i)->sizeHint().height());
+        cases_.at(i)->setBuddy(boxes().at(i));
+        cases_.at(i)->setMinimumHeight(boxes().at(i)->sizeHint().height());
     }
 }
 
@@ -124,7 +103,9 @@ void Declination::layOut()
     rows->addLayout(headingRow(), 0, 0);
     rows->addLayout(frameRow(), 1, 0);
     rows->setRowStretch(2, 1);
-    rows->addLayout(buttonRow(), 3, 0);
+    rows->addLayout(helpAndButtons({makeCheckButton("Continue"), makeHintButton("DeclQuestion"),
+                                    makeQuitButton("DeclQuitButton")}),
+                    3, 0);
 }
 
 QBoxLayout* Declination::headingRow()
@@ -135,7 +116,7 @@ QBoxLayout* Declination::headingRow()
     names->addWidget(noun_, 1, Qt::AlignTop);
     auto* const row = new QHBoxLayout;
     row->addLayout(names, 1);
-    row->addWidget(score_, 0, Qt::AlignRight | Qt::AlignTop);
+    row->addWidget(scoreLabel(), 0, Qt::AlignRight | Qt::AlignTop);
     // Gives way on a small screen, where the buttons matter more than the frames' place.
     row->addSpacerItem(new QSpacerItem(0, FrameTop - shell::LargeSpace - shell::MediumSpace,
                                        QSizePolicy::Fixed, QSizePolicy::Maximum));
@@ -160,44 +141,18 @@ QBoxLayout* Declination::frameRow()
     return row;
 }
 
-QBoxLayout* Declination::buttonRow()
-{
-    auto* const row = new QHBoxLayout;
-    row->setSpacing(shell::SmallSpace);
-    row->addWidget(shell::makeLabel(this, "HelpLabel"));
-    row->addStretch();
-    row->addWidget(continue_);
-    row->addWidget(question_);
-    row->addWidget(quit_);
-    return row;
-}
-
 void Declination::placeRows()
 {
     int row = 0;
     for (const int inCase : casesInOrder()) {
-        const auto singular = static_cast<std::size_t>(inCase);
-        singularRows_->addWidget(cases_.at(singular), row, LabelColumn, Qt::AlignTop);
-        singularRows_->addWidget(boxes_.at(singular), row, BoxColumn, Qt::AlignTop);
-        pluralRows_->addWidget(boxes_.at(singular + CasesOfNumber), row, BoxColumn, Qt::AlignTop);
+        singularRows_->addWidget(cases_.at(static_cast<std::size_t>(inCase)), row, LabelColumn, Qt::AlignTop);
+        singularRows_->addWidget(&box(inCase), row, BoxColumn, Qt::AlignTop);
+        pluralRows_->addWidget(&box(inCase + CasesOfNumber), row, BoxColumn, Qt::AlignTop);
         ++row;
     }
     const int belowTitle = std::max(shell::HairSpace, FirstRowTop - singular_->contentsMargins().top());
     for (QGridLayout* const rows : {singularRows_, pluralRows_})
         rows->setContentsMargins(shell::MediumSpace, belowTitle, shell::MediumSpace, shell::SmallSpace);
-}
-
-void Declination::connectControls()
-{
-    for (int i = 0; i < CaseCount; ++i) {
-        const AnswerBox* const box = boxes_.at(static_cast<std::size_t>(i));
-        connect(box, &AnswerBox::focusReceived, this, [this, i] { boxReceivedFocus(i); });
-        connect(box, &AnswerBox::hintRequested, this, &Declination::hint);
-        connect(box, &AnswerBox::returnPressed, this, &Declination::check);
-    }
-    connect(continue_, &QPushButton::clicked, this, &Declination::check);
-    connect(question_, &QPushButton::clicked, this, &Declination::hint);
-    connect(quit_, &QPushButton::clicked, this, &Declination::quit);
 }
 
 void Declination::open()
@@ -207,7 +162,7 @@ void Declination::open()
     placeRows();
     drawDeclension();
     showNoun();
-    score_->clear();
+    scoreLabel()->clear();
     showInMainWindowState();
     focusQuestion();
 }
@@ -218,63 +173,44 @@ void Declination::showNoun()
     heading_->setText(shell::fromUtf8(nounTables.DeclensionHeading[paradigm]));
     noun_->setText(shell::fromUtf8(nounName(paradigm)));
     emptyBoxes();
-    for (std::size_t i = 0; i < boxes_.size(); ++i) {
+    for (std::size_t i = 0; i < boxes().size(); ++i) {
         const QGroupBox* const frame = i < CasesOfNumber ? singular_ : plural_;
-        boxes_.at(i)->setAccessibleName(cases_.at(i % CasesOfNumber)->text() + QLatin1Char(' ') +
-                                        frame->title());
+        boxes().at(i)->setAccessibleName(cases_.at(i % CasesOfNumber)->text() + QLatin1Char(' ') +
+                                         frame->title());
     }
 }
 
-AnswerBox& Declination::askedBox()
+int Declination::askedBoxNumber() const
 {
-    return *boxes_.at(static_cast<std::size_t>(declensionDrill.CurrentCaseIndex));
+    return declensionDrill.CurrentCaseIndex;
 }
 
-void Declination::showQuestion()
+void Declination::setQuestion()
 {
     setDeclensionQuestion();
-    for (std::size_t i = 0; i < boxes_.size(); ++i) {
-        const bool asked = boxes_.at(i) == &askedBox();
-        if (!asked && !answered_.at(i))
-            boxes_.at(i)->lookIdle();
-        boxes_.at(i)->setAsked(asked && !shell::pausing());
-    }
 }
 
-// Only the box that is asked may hold the focus.
-void Declination::boxReceivedFocus(int box)
+void Declination::boxEntered(int /*number*/)
 {
     returnToQuestion();
-    if (box != declensionDrill.CurrentCaseIndex)
-        QMetaObject::invokeMethod(this, &Declination::focusQuestion, Qt::QueuedConnection);
 }
 
-void Declination::check()
+std::optional<bool> Declination::judge(const std::string& typed)
 {
-    if (shell::pausing() || !isVisible())
-        return;
-    const Judgement judgement = judgeDeclension(askedBox().text().toStdString());
+    const Judgement judgement = judgeDeclension(typed);
     if (judgement == Judgement::NotAgain)
-        return;
-    holdBoxes();
-    Q_EMIT answerJudged(judgement == Judgement::Right);
+        return std::nullopt;
+    return judgement == Judgement::Right;
 }
 
-void Declination::hint()
+const std::string& Declination::answer() const
 {
-    if (shell::pausing() || !isVisible())
-        return;
-    const int session = shell::drillSession();
-    holdBoxes();
-    askedBox().lookRevealed();
-    askedBox().setText(shell::fromUtf8(declensionDrill.ExpectedAnswer));
-    askedBox().repaint();
+    return declensionDrill.ExpectedAnswer;
+}
+
+void Declination::answerShown()
+{
     dummy_->setFocus();
-    shell::Pause();
-    if (session != shell::drillSession())
-        return;
-    askedBox().lookBlack();
-    askAgain();
 }
 
 void Declination::quit()
@@ -284,63 +220,10 @@ void Declination::quit()
     Q_EMIT left();
 }
 
-void Declination::closeBoxPressed()
-{
-    quit();
-}
-
-void Declination::keyPressEvent(QKeyEvent* event)
-{
-    if (event->key() == Qt::Key_Escape)
-        quit();
-    else
-        Window::keyPressEvent(event);
-}
-
-void Declination::showScore(const std::string& text)
-{
-    score_->setText(shell::fromUtf8(text));
-}
-
-void Declination::greyAnsweredBox()
-{
-    askedBox().lookAnswered();
-    answered_.at(static_cast<std::size_t>(declensionDrill.CurrentCaseIndex)) = true;
-}
-
 void Declination::moveOn()
 {
     if (advanceDeclension() == DeclensionAdvance::NextRound)
         showNoun();
-}
-
-void Declination::focusQuestion()
-{
-    returnToQuestion();
-    showQuestion();
-    askedBox().setFocus();
-}
-
-void Declination::askAgain()
-{
-    askedBox().clear();
-    focusQuestion();
-}
-
-void Declination::emptyBoxes()
-{
-    answered_.fill(false);
-    for (AnswerBox* const box : boxes_) {
-        box->clear();
-        box->lookIdle();
-    }
-}
-
-// What is typed while an answer is judged or shown belongs to no box.
-void Declination::holdBoxes()
-{
-    for (AnswerBox* const box : boxes_)
-        box->setReadOnly(true);
 }
 
 } // namespace nouns

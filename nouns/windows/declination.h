@@ -1,54 +1,39 @@
 #pragma once
 
 #include "nouns/noun_paradigm.h"
-#include "shell/drill.h"
-#include "shell/windows/window.h"
+#include "shell/windows/box_drill.h"
 
 #include <array>
 
-class QBoxLayout;
 class QGridLayout;
 class QGroupBox;
-class QLabel;
-class QPushButton;
-
-namespace shell {
-class AnswerBox;
-}
 
 namespace nouns {
 
-/// The declension drill: ten boxes, one for each case, of which one is asked at a time.
+/// The declension drill: ten boxes, one for each case.
 ///
 /// Its rows stand in the order of `CaseOrder`, 600 twips apart and 360 twips below the top of their frame,
 /// the frames 1890 twips below that of the window; larger type moves the rows further down, and a small
 /// screen moves the frames up. The boxes keep their numbers in either order.
-class Declination : public shell::Window, public shell::Drill {
+class Declination : public shell::BoxDrill {
     Q_OBJECT
 
 public:
     Declination();
-    ~Declination() override;
 
     /// Draws a noun of the paradigm that was chosen and shows the window.
     void open();
 
-    void showScore(const std::string& text) override;
-    void greyAnsweredBox() override;
     void moveOn() override;
-    void focusQuestion() override;
-    void askAgain() override;
-
-Q_SIGNALS:
-    /// An answer was checked.
-    void answerJudged(bool right);
-
-    /// The drill was left.
-    void left();
 
 protected:
-    void closeBoxPressed() override;
-    void keyPressEvent(QKeyEvent* event) override;
+    int askedBoxNumber() const override;
+    void setQuestion() override;
+    const std::string& answer() const override;
+    std::optional<bool> judge(const std::string& typed) override;
+    void boxEntered(int number) override;
+    void answerShown() override;
+    void quit() override;
 
 private:
     void makeControls();
@@ -56,34 +41,17 @@ private:
     void layOut();
     QBoxLayout* headingRow();
     QBoxLayout* frameRow();
-    QBoxLayout* buttonRow();
     void placeRows();
-    void connectControls();
-
     void showNoun();
-    void showQuestion();
-    void boxReceivedFocus(int box);
-    void check();
-    void hint();
-    void quit();
-    void emptyBoxes();
-    void holdBoxes();
-    shell::AnswerBox& askedBox();
 
-    std::array<shell::AnswerBox*, CaseCount> boxes_{};
     std::array<QLabel*, CasesOfNumber> cases_{};
-    std::array<bool, CaseCount> answered_{};
     QGroupBox* singular_ = nullptr;
     QGroupBox* plural_ = nullptr;
     QGridLayout* singularRows_ = nullptr;
     QGridLayout* pluralRows_ = nullptr;
     QLabel* heading_ = nullptr;
     QLabel* noun_ = nullptr;
-    QLabel* score_ = nullptr;
     QWidget* dummy_ = nullptr;
-    QPushButton* continue_ = nullptr;
-    QPushButton* question_ = nullptr;
-    QPushButton* quit_ = nullptr;
 };
 
 } // namespace nouns

@@ -2,7 +2,6 @@
 
 #include "nouns/case_order.h"
 #include "nouns/windows/case_names.h"
-#include "shell/pause.h"
 #include "shell/settings.h"
 #include "shell/windows/answer_box.h"
 #include "shell/windows/captions.h"
@@ -12,13 +11,10 @@
 
 #include <QBoxLayout>
 #include <QGridLayout>
-#include <QKeyEvent>
 #include <QLabel>
-#include <QPushButton>
 
 namespace nouns {
 
-using shell::AnswerBox;
 using shell::Caption;
 using shell::LanguageTexts;
 
@@ -69,46 +65,32 @@ const ColumnTexts& columnTexts()
 
 } // namespace
 
-PronounSingular::PronounSingular() : Window("PronounSingular", "pronoun")
+PronounSingular::PronounSingular() : BoxDrill("PronounSingular", "pronoun", shell::exercise::Pronouns)
 {
     makeControls();
     makeBoxes();
     layOut();
-    connectControls();
     shell::applyDesignedCaptions(*this, Captions);
-    shell::registerDrill(shell::exercise::Pronouns, *this);
-}
-
-PronounSingular::~PronounSingular()
-{
-    shell::unregisterDrill(shell::exercise::Pronouns);
 }
 
 void PronounSingular::makeControls()
 {
     heading_ = shell::makeLabel(this, "HeadingLabel");
-    score_ = shell::makeLabel(this, "ScoreLabel");
     shell::setBoldType(*heading_, shell::HeadingType);
-    shell::setBoldType(*score_, shell::HeadingType);
     heading_->setWordWrap(true);
     heading_->setMinimumSize(1, heading_->fontMetrics().lineSpacing());
     for (std::size_t i = 0; i < columns_.size(); ++i)
         columns_.at(i) = shell::makeLabel(this, ColumnLabels.at(i));
-    ok_ = shell::makeButton(this, "PronounOK");
-    cancel_ = shell::makeButton(this, "PronounCancel");
 }
 
 void PronounSingular::makeBoxes()
 {
-    for (int cell = 1; cell <= CellCount; ++cell) {
-        auto* const box = new AnswerBox(this);
-        box->setObjectName(QStringLiteral("Pronoun%1").arg(cell));
-        boxes_.at(static_cast<std::size_t>(cell - 1)) = box;
-    }
+    for (int cell = 1; cell <= CellCount; ++cell)
+        addBox(this, QStringLiteral("Pronoun%1").arg(cell));
     for (std::size_t i = 0; i < cases_.size(); ++i) {
         cases_.at(i) = shell::makeLabel(this, CaseLabels.at(i));
         cases_.at(i)->setText(QLatin1String(CaseNames.at(i)));
-        cases_.at(i)->setBuddy(boxes_.at(i));
+        cases_.at(i)->setBuddy(boxes().at(i));
     }
 }
 
@@ -128,25 +110,14 @@ void PronounSingular::layOut()
     }
     rows->addLayout(rows_);
     rows->addStretch();
-    rows->addLayout(buttonRow());
+    rows->addLayout(helpAndButtons({makeCheckButton("PronounOK"), makeQuitButton("PronounCancel")}));
 }
 
 QBoxLayout* PronounSingular::headingRow()
 {
     auto* const row = new QHBoxLayout;
     row->addWidget(heading_, 1);
-    row->addWidget(score_, 0, Qt::AlignRight | Qt::AlignTop);
-    return row;
-}
-
-QBoxLayout* PronounSingular::buttonRow()
-{
-    auto* const row = new QHBoxLayout;
-    row->setSpacing(shell::SmallSpace);
-    row->addWidget(shell::makeLabel(this, "HelpLabel"));
-    row->addStretch();
-    row->addWidget(ok_);
-    row->addWidget(cancel_);
+    row->addWidget(scoreLabel(), 0, Qt::AlignRight | Qt::AlignTop);
     return row;
 }
 
@@ -156,21 +127,9 @@ void PronounSingular::placeRows()
     for (const int inCase : casesInOrder()) {
         rows_->addWidget(cases_.at(static_cast<std::size_t>(inCase)), row, 0);
         for (int column = 0; column < ColumnsOfGroup; ++column)
-            rows_->addWidget(&boxOf(column * CasesOfNumber + inCase + 1), row, column + 1);
+            rows_->addWidget(&box(column * CasesOfNumber + inCase), row, column + 1);
         ++row;
     }
-}
-
-void PronounSingular::connectControls()
-{
-    for (int cell = 1; cell <= CellCount; ++cell) {
-        const AnswerBox* const box = &boxOf(cell);
-        connect(box, &AnswerBox::focusReceived, this, [this, cell] { boxReceivedFocus(cell); });
-        connect(box, &AnswerBox::hintRequested, this, &PronounSingular::hint);
-        connect(box, &AnswerBox::returnPressed, this, &PronounSingular::check);
-    }
-    connect(ok_, &QPushButton::clicked, this, &PronounSingular::check);
-    connect(cancel_, &QPushButton::clicked, this, &PronounSingular::quit);
 }
 
 void PronounSingular::open()
@@ -182,7 +141,7 @@ void PronounSingular::open()
     heading_->setText(
         shell::fromUtf8(Headings.at(static_cast<std::size_t>(pronounDrill.Group)).designedOrCurrent()));
     showNumber();
-    score_->clear();
+    scoreLabel()->clear();
     showInMainWindowState();
     focusQuestion();
 }
@@ -191,65 +150,32 @@ void PronounSingular::showNumber()
 {
     for (std::size_t i = 0; i < columns_.size(); ++i)
         columns_.at(i)->setText(QLatin1String(columnTexts().at(i)));
-    for (std::size_t i = 0; i < boxes_.size(); ++i) {
-        boxes_.at(i)->setEnabled(!pronounFormAt(static_cast<int>(i) + 1).empty());
-        boxes_.at(i)->setAccessibleName(cases_.at(i % CasesOfNumber)->text() + QLatin1Char(' ') +
-                                        columns_.at(i / CasesOfNumber)->text());
+    for (std::size_t i = 0; i < boxes().size(); ++i) {
+        boxes().at(i)->setEnabled(!pronounFormAt(static_cast<int>(i) + 1).empty());
+        boxes().at(i)->setAccessibleName(cases_.at(i % CasesOfNumber)->text() + QLatin1Char(' ') +
+                                         columns_.at(i / CasesOfNumber)->text());
     }
     emptyBoxes();
 }
 
-AnswerBox& PronounSingular::boxOf(int cell)
+int PronounSingular::askedBoxNumber() const
 {
-    return *boxes_.at(static_cast<std::size_t>(cell - 1));
+    return pronounDrill.CurrentCell - 1;
 }
 
-AnswerBox& PronounSingular::askedBox()
-{
-    return boxOf(pronounDrill.CurrentCell);
-}
-
-void PronounSingular::showQuestion()
+void PronounSingular::setQuestion()
 {
     setPronounQuestion();
-    for (std::size_t i = 0; i < boxes_.size(); ++i) {
-        const bool asked = boxes_.at(i) == &askedBox();
-        if (!asked && !answered_.at(i))
-            boxes_.at(i)->lookIdle();
-        boxes_.at(i)->setAsked(asked && !shell::pausing());
-    }
 }
 
-// Only the box that is asked may hold the focus.
-void PronounSingular::boxReceivedFocus(int cell)
+std::optional<bool> PronounSingular::judge(const std::string& typed)
 {
-    if (cell != pronounDrill.CurrentCell)
-        QMetaObject::invokeMethod(this, &PronounSingular::focusQuestion, Qt::QueuedConnection);
+    return isRightPronoun(typed);
 }
 
-void PronounSingular::check()
+const std::string& PronounSingular::answer() const
 {
-    if (shell::pausing() || !isVisible())
-        return;
-    const bool right = isRightPronoun(askedBox().text().toStdString());
-    holdBoxes();
-    Q_EMIT answerJudged(right);
-}
-
-void PronounSingular::hint()
-{
-    if (shell::pausing() || !isVisible())
-        return;
-    const int session = shell::drillSession();
-    holdBoxes();
-    askedBox().lookRevealed();
-    askedBox().setText(shell::fromUtf8(pronounDrill.ExpectedAnswer));
-    askedBox().repaint();
-    shell::Pause();
-    if (session != shell::drillSession())
-        return;
-    askedBox().lookBlack();
-    askAgain();
+    return pronounDrill.ExpectedAnswer;
 }
 
 void PronounSingular::quit()
@@ -258,62 +184,10 @@ void PronounSingular::quit()
     Q_EMIT left();
 }
 
-void PronounSingular::closeBoxPressed()
-{
-    quit();
-}
-
-void PronounSingular::keyPressEvent(QKeyEvent* event)
-{
-    if (event->key() == Qt::Key_Escape)
-        quit();
-    else
-        Window::keyPressEvent(event);
-}
-
-void PronounSingular::showScore(const std::string& text)
-{
-    score_->setText(shell::fromUtf8(text));
-}
-
-void PronounSingular::greyAnsweredBox()
-{
-    askedBox().lookAnswered();
-    answered_.at(static_cast<std::size_t>(pronounDrill.CurrentCell - 1)) = true;
-}
-
 void PronounSingular::moveOn()
 {
     if (advancePronouns() == PronounAdvance::NextNumber)
         showNumber();
-}
-
-void PronounSingular::focusQuestion()
-{
-    showQuestion();
-    askedBox().setFocus();
-}
-
-void PronounSingular::askAgain()
-{
-    askedBox().clear();
-    focusQuestion();
-}
-
-void PronounSingular::emptyBoxes()
-{
-    answered_.fill(false);
-    for (AnswerBox* const box : boxes_) {
-        box->clear();
-        box->lookIdle();
-    }
-}
-
-// What is typed while an answer is judged or shown belongs to no box.
-void PronounSingular::holdBoxes()
-{
-    for (AnswerBox* const box : boxes_)
-        box->setReadOnly(true);
 }
 
 } // namespace nouns

@@ -25,12 +25,14 @@ AnswerBox::AnswerBox(QWidget* parent) : QLineEdit(parent)
 
 void AnswerBox::lookIdle()
 {
+    looksAnswered_ = false;
     setPalette(QApplication::palette(this));
 }
 
 void AnswerBox::lookAnswered()
 {
     setColours(Grey, LightGrey);
+    looksAnswered_ = true;
 }
 
 void AnswerBox::lookGrey()
@@ -76,6 +78,7 @@ void AnswerBox::keyPressEvent(QKeyEvent* event)
 
 void AnswerBox::setColours(const QColor& background, const QColor& text)
 {
+    looksAnswered_ = false;
     QPalette colours = QApplication::palette(this);
     for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
         colours.setColor(group, QPalette::Base, background);

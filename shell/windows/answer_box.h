@@ -18,6 +18,7 @@ public:
 
     /// Grey: answered right in this round.
     void lookAnswered();
+    bool looksAnswered() const { return looksAnswered_; }
 
     /// Grey ground alone, with which a round in random order begins.
     void lookGrey();
@@ -43,6 +44,8 @@ protected:
 
 private:
     void setColours(const QColor& background, const QColor& text);
+
+    bool looksAnswered_ = false;
 };
 
 } // namespace shell

@@ -1,6 +1,5 @@
 #include "shell/windows/chooser.h"
 
-#include "shell/windows/big_frame.h"
 #include "shell/windows/captions.h"
 #include "shell/windows/choice_list.h"
 #include "shell/windows/text.h"
@@ -8,7 +7,6 @@
 
 #include <QBoxLayout>
 #include <QFrame>
-#include <QKeyEvent>
 #include <QPushButton>
 #include <QScreen>
 
@@ -35,18 +33,18 @@ QSize roomForRows(const ChoiceList& list)
 
 Chooser::Chooser(const ChooserNames& names, std::span<const Caption> captions,
                  std::span<const LanguageTexts> rows)
-    : Window(names.window, names.active), captions_(captions), rows_(rows), frame_(new QFrame(this)),
+    : FramedWindow(names.window, names.active, names.frame), captions_(captions), rows_(rows),
       list_(new ChoiceList), ok_(new QPushButton), cancel_(new QPushButton)
 {
     makeControls(names);
     layOut();
     connectControls();
+    closeOnEscape();
     applyDesignedCaptions(*this, captions_);
 }
 
 void Chooser::makeControls(const ChooserNames& names)
 {
-    frame_->setObjectName(fromUtf8(names.frame));
     list_->setObjectName(fromUtf8(names.list));
     ok_->setObjectName(fromUtf8(names.ok));
     cancel_->setObjectName(fromUtf8(names.cancel));
@@ -65,7 +63,7 @@ void Chooser::layOut()
     buttons->addWidget(ok_);
     buttons->addWidget(cancel_);
 
-    auto* const rows = new QVBoxLayout(frame_);
+    auto* const rows = new QVBoxLayout(frame());
     rows->setContentsMargins(LargeSpace, LargeSpace, LargeSpace, LargeSpace);
     rows->setSpacing(MediumSpace);
     rows->addWidget(list_);
@@ -84,10 +82,7 @@ void Chooser::connectControls()
 void Chooser::open()
 {
     fill();
-    if (!isVisible())
-        resize(frame_->sizeHint());
-    showInMainWindowState();
-    placeBigFrame(*this, *frame_);
+    showFrame();
     if (beginsAtOk())
         ok_->setFocus();
     else
@@ -107,8 +102,7 @@ void Chooser::fill()
     list_->setAccessibleName(windowTitle());
     ok_->setEnabled(beginsAtOk());
     list_->setMinimumSize(roomForRows(*list_));
-    setMinimumSize(frame_->minimumSizeHint());
-    placeBigFrame(*this, *frame_);
+    fitFrame();
     beginChoice();
 }
 
@@ -121,20 +115,6 @@ void Chooser::choose()
 void Chooser::closeBoxPressed()
 {
     Q_EMIT cancelled();
-}
-
-void Chooser::keyPressEvent(QKeyEvent* event)
-{
-    if (event->key() == Qt::Key_Escape)
-        Q_EMIT cancelled();
-    else
-        Window::keyPressEvent(event);
-}
-
-void Chooser::resizeEvent(QResizeEvent* event)
-{
-    Window::resizeEvent(event);
-    placeBigFrame(*this, *frame_);
 }
 
 } // namespace shell

@@ -1,12 +1,11 @@
 #pragma once
 
 #include "shell/language_texts.h"
-#include "shell/windows/window.h"
+#include "shell/windows/framed_window.h"
 
 #include <span>
 #include <string_view>
 
-class QFrame;
 class QPushButton;
 
 namespace shell {
@@ -25,7 +24,7 @@ struct ChooserNames {
 
 /// A small window in which one row of a list is chosen. The OK button is available once a row is chosen; a
 /// double click or Enter activates a row as well.
-class Chooser : public Window {
+class Chooser : public FramedWindow {
     Q_OBJECT
 
 public:
@@ -49,8 +48,6 @@ protected:
 
     void becameActive() override;
     void closeBoxPressed() override;
-    void keyPressEvent(QKeyEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void makeControls(const ChooserNames& names);
@@ -61,7 +58,6 @@ private:
 
     std::span<const Caption> captions_;
     std::span<const LanguageTexts> rows_;
-    QFrame* frame_;
     ChoiceList* list_;
     QPushButton* ok_;
     QPushButton* cancel_;

@@ -1,4 +1,6 @@
-#include "shell/windows/big_frame.h"
+#include "shell/windows/framed_window.h"
+
+#include "shell/windows/text.h"
 
 #include <QFrame>
 #include <QScreen>
@@ -7,20 +9,46 @@
 
 namespace shell {
 
-// The divisor of the width is meant. A frame nearly as large as the window is kept inside it.
-void placeBigFrame(const QWidget& window, QFrame& frame)
+FramedWindow::FramedWindow(std::string_view name, std::string_view activeName, std::string_view frame)
+    : Window(name, activeName), frame_(new QFrame(this))
 {
-    if (!window.isMaximized()) {
-        frame.setGeometry(window.rect());
+    frame_->setObjectName(fromUtf8(frame));
+}
+
+void FramedWindow::showFrame()
+{
+    if (!isVisible())
+        resize(frame_->sizeHint());
+    showInMainWindowState();
+    placeFrame();
+}
+
+void FramedWindow::fitFrame()
+{
+    setMinimumSize(frame_->minimumSizeHint());
+    placeFrame();
+}
+
+void FramedWindow::resizeEvent(QResizeEvent* event)
+{
+    Window::resizeEvent(event);
+    placeFrame();
+}
+
+// The divisor of the width is meant. A frame nearly as large as the window is kept inside it.
+void FramedWindow::placeFrame()
+{
+    if (!isMaximized()) {
+        frame_->setGeometry(rect());
         return;
     }
-    const QSize screenSize = window.screen()->geometry().size();
-    const QSize frameSize = frame.sizeHint().boundedTo(window.size());
+    const QSize screenSize = screen()->geometry().size();
+    const QSize frameSize = frame_->sizeHint().boundedTo(size());
     const auto left = static_cast<int>(screenSize.width() / 2.0 - frameSize.width() / 1.9);
     const auto top = static_cast<int>(screenSize.height() / 2.0 - frameSize.height() / 2.0);
-    frame.setGeometry(std::clamp(left, 0, window.width() - frameSize.width()),
-                      std::clamp(top, 0, window.height() - frameSize.height()), frameSize.width(),
-                      frameSize.height());
+    frame_->setGeometry(std::clamp(left, 0, width() - frameSize.width()),
+                        std::clamp(top, 0, height() - frameSize.height()), frameSize.width(),
+                        frameSize.height());
 }
 
 } // namespace shell

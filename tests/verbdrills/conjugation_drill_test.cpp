@@ -57,7 +57,7 @@ protected:
         do {
             const int person = conjugationDrill.PersonIndex;
             EXPECT_EQ(conjugationDrill.FormRow, 6 * (currentParadigm.TenseMoodCode - 1) + person);
-            verbdrills::setQuestion();
+            verbdrills::setConjugationQuestion();
             EXPECT_TRUE(verbdrills::isRightAnswer(conjugationDrill.CorrectForm));
             persons.push_back(person);
             last = verbdrills::advanceAfterRightAnswer();
@@ -185,7 +185,7 @@ TEST_F(ConjugationDrill, JudgesLetterByLetter)
         beginParadigm(0);
         conjugationDrill.FormRow = static_cast<std::int16_t>(formRow);
         conjugationDrill.FeedbackPending = 0;
-        verbdrills::setQuestion();
+        verbdrills::setConjugationQuestion();
         for (const std::string& answer : wrong)
             EXPECT_FALSE(verbdrills::isRightAnswer(answer)) << answer;
         EXPECT_EQ(conjugationDrill.FeedbackPending, 1);
@@ -196,7 +196,7 @@ TEST_F(ConjugationDrill, JudgesLetterByLetter)
 TEST_F(ConjugationDrill, NamesTheParadigmAndTheVerb)
 {
     beginParadigm(0);
-    verbdrills::setQuestion();
+    verbdrills::setConjugationQuestion();
     verbdrills::buildDrillHeading();
     EXPECT_EQ(conjugationDrill.DrillHeading, "First Conjugation: Present Indicative");
     EXPECT_EQ(currentParadigm.VerbLabel, "amare");

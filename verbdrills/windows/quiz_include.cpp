@@ -1,8 +1,8 @@
 #include "verbdrills/windows/quiz_include.h"
 
-#include "shell/windows/big_frame.h"
 #include "shell/windows/captions.h"
 #include "shell/windows/controls.h"
+#include "shell/windows/enter_key.h"
 #include "shell/windows/type.h"
 #include "verbdrills/quiz_texts.h"
 
@@ -11,7 +11,6 @@
 #include <QFrame>
 #include <QGridLayout>
 #include <QGroupBox>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 
@@ -79,36 +78,31 @@ QCheckBox* makeBox(QWidget* parent, const char* name, std::size_t index)
     return box;
 }
 
-bool isEnter(int key)
-{
-    return key == Qt::Key_Return || key == Qt::Key_Enter;
-}
-
 } // namespace
 
 QuizInclude::QuizInclude()
-    : Window("QuizInclude", "quizinclude"), frame_(new QFrame(this)), classFrame_(new QGroupBox(frame_)),
-      tenseFrame_(new QGroupBox(frame_)), note_(shell::makeLabel(frame_, "InclNote"))
+    : FramedWindow("QuizInclude", "quizinclude", "CIBigFrame"), classFrame_(new QGroupBox(frame())),
+      tenseFrame_(new QGroupBox(frame())), note_(shell::makeLabel(frame(), "InclNote"))
 {
     makeControls();
     layOut();
     connectControls();
+    closeOnEscape();
     shell::applyDesignedCaptions(*this, Captions);
 }
 
 void QuizInclude::makeControls()
 {
-    frame_->setObjectName(QStringLiteral("CIBigFrame"));
     classFrame_->setObjectName(QStringLiteral("ConjFrame"));
     tenseFrame_->setObjectName(QStringLiteral("TenseFrame"));
     for (std::size_t i = 0; i < classes_.size(); ++i)
         classes_.at(i) = makeBox(classFrame_, "InclConj", i);
     for (std::size_t i = 0; i < tenses_.size(); ++i)
         tenses_.at(i) = makeBox(tenseFrame_, "InclTense", i);
-    ok_ = makeButton(frame_, "InclQuiz");
-    all_ = makeButton(frame_, "InclInclude");
-    none_ = makeButton(frame_, "InclClear");
-    cancel_ = makeButton(frame_, "InclCancel");
+    ok_ = makeButton(frame(), "InclQuiz");
+    all_ = makeButton(frame(), "InclInclude");
+    none_ = makeButton(frame(), "InclClear");
+    cancel_ = makeButton(frame(), "InclCancel");
 }
 
 void QuizInclude::layOut()
@@ -136,7 +130,7 @@ void QuizInclude::layOut()
     setTabOrder(none_, ok_);
     setTabOrder(ok_, cancel_);
 
-    auto* const rows = new QVBoxLayout(frame_);
+    auto* const rows = new QVBoxLayout(frame());
     rows->setContentsMargins(shell::LargeSpace, shell::LargeSpace, shell::LargeSpace, shell::LargeSpace);
     rows->setSpacing(shell::MediumSpace);
     rows->addWidget(note_);
@@ -171,11 +165,8 @@ void QuizInclude::appear()
 {
     shell::applyCaptions(*this, Captions);
     showTicks(ticksOfQuiz());
-    setMinimumSize(frame_->minimumSizeHint());
-    if (!isVisible())
-        resize(frame_->sizeHint());
-    showInMainWindowState();
-    shell::placeBigFrame(*this, *frame_);
+    fitFrame();
+    showFrame();
     classes_.front()->setFocus();
 }
 
@@ -217,18 +208,10 @@ void QuizInclude::closeBoxPressed()
 
 void QuizInclude::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Escape)
-        Q_EMIT cancelled();
-    else if (isEnter(event->key()))
+    if (shell::isEnter(*event))
         take();
     else
-        Window::keyPressEvent(event);
-}
-
-void QuizInclude::resizeEvent(QResizeEvent* event)
-{
-    Window::resizeEvent(event);
-    shell::placeBigFrame(*this, *frame_);
+        FramedWindow::keyPressEvent(event);
 }
 
 } // namespace verbdrills

@@ -1,12 +1,11 @@
 #pragma once
 
-#include "shell/windows/window.h"
+#include "shell/windows/framed_window.h"
 #include "verbdrills/quiz_inclusion.h"
 
 #include <array>
 
 class QCheckBox;
-class QFrame;
 class QGroupBox;
 class QLabel;
 class QPushButton;
@@ -14,7 +13,7 @@ class QPushButton;
 namespace verbdrills {
 
 /// Chooses the classes and the tenses that the verb quiz asks.
-class QuizInclude : public shell::Window {
+class QuizInclude : public shell::FramedWindow {
     Q_OBJECT
 
 public:
@@ -34,7 +33,6 @@ Q_SIGNALS:
 protected:
     void closeBoxPressed() override;
     void keyPressEvent(QKeyEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void makeControls();
@@ -48,7 +46,6 @@ private:
 
     std::array<QCheckBox*, verbs::LastClass> classes_{};
     std::array<QCheckBox*, verbs::BlockCount> tenses_{};
-    QFrame* frame_;
     QGroupBox* classFrame_;
     QGroupBox* tenseFrame_;
     QLabel* note_;

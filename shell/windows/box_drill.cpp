@@ -1,0 +1,185 @@
+#include "shell/windows/box_drill.h"
+
+#include "shell/pause.h"
+#include "shell/windows/answer_box.h"
+#include "shell/windows/controls.h"
+#include "shell/windows/text.h"
+#include "shell/windows/type.h"
+
+#include <QBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+
+namespace shell {
+
+BoxDrill::BoxDrill(std::string_view name, std::string_view activeName, std::string_view exerciseType)
+    : Window(name, activeName), exerciseType_(exerciseType), score_(makeLabel(this, "ScoreLabel"))
+{
+    setBoldType(*score_, HeadingType);
+    closeOnEscape();
+    registerDrill(exerciseType_, *this);
+}
+
+BoxDrill::~BoxDrill()
+{
+    unregisterDrill(exerciseType_);
+}
+
+AnswerBox* BoxDrill::addBox(QWidget* parent, const QString& name)
+{
+    auto* const box = new AnswerBox(parent);
+    box->setObjectName(name);
+    const auto number = static_cast<int>(boxes_.size());
+    connect(box, &AnswerBox::focusReceived, this, [this, number] { boxReceivedFocus(number); });
+    connect(box, &AnswerBox::hintRequested, this, &BoxDrill::hint);
+    connect(box, &AnswerBox::returnPressed, this, &BoxDrill::check);
+    boxes_.push_back(box);
+    return box;
+}
+
+QPushButton* BoxDrill::makeCheckButton(const char* name)
+{
+    QPushButton* const button = makeButton(this, name);
+    connect(button, &QPushButton::clicked, this, &BoxDrill::check);
+    return button;
+}
+
+QPushButton* BoxDrill::makeHintButton(const char* name)
+{
+    QPushButton* const button = makeButton(this, name);
+    button->setText(QStringLiteral("?"));
+    button->setAccessibleName(QStringLiteral("Show the answer"));
+    connect(button, &QPushButton::clicked, this, &BoxDrill::hint);
+    return button;
+}
+
+QPushButton* BoxDrill::makeQuitButton(const char* name)
+{
+    QPushButton* const button = makeButton(this, name);
+    connect(button, &QPushButton::clicked, this, [this] { quit(); });
+    return button;
+}
+
+QBoxLayout* BoxDrill::helpAndButtons(std::initializer_list<QPushButton*> buttons)
+{
+    auto* const row = new QHBoxLayout;
+    row->setSpacing(SmallSpace);
+    row->addWidget(makeLabel(this, "HelpLabel"));
+    row->addStretch();
+    for (QPushButton* const button : buttons)
+        row->addWidget(button);
+    return row;
+}
+
+AnswerBox& BoxDrill::box(int number) const
+{
+    return *boxes_.at(static_cast<std::size_t>(number));
+}
+
+AnswerBox& BoxDrill::askedBox() const
+{
+    return box(askedBoxNumber());
+}
+
+void BoxDrill::showQuestion()
+{
+    setQuestion();
+    for (AnswerBox* const box : boxes_) {
+        const bool asked = box == &askedBox();
+        if (!asked && !box->looksAnswered())
+            box->lookIdle();
+        box->setAsked(asked && !pausing());
+    }
+}
+
+// Only the box that is asked may hold the focus.
+void BoxDrill::boxReceivedFocus(int number)
+{
+    boxEntered(number);
+    showQuestion();
+    if (number != askedBoxNumber())
+        QMetaObject::invokeMethod(this, &BoxDrill::focusQuestion, Qt::QueuedConnection);
+}
+
+// A box that has the focus already, or gets it while another window is active, is not told so by Qt.
+void BoxDrill::focusQuestion()
+{
+    askedBox().setFocus();
+    boxReceivedFocus(askedBoxNumber());
+}
+
+bool BoxDrill::canAnswer() const
+{
+    return isVisible() && !pausing();
+}
+
+void BoxDrill::check()
+{
+    if (!canAnswer())
+        return;
+    const std::optional<bool> right = judge(askedBox().text().toStdString());
+    if (!right)
+        return;
+    holdBoxes();
+    Q_EMIT answerJudged(*right);
+}
+
+void BoxDrill::hint()
+{
+    if (!canAnswer())
+        return;
+    const int session = drillSession();
+    holdBoxes();
+    askedBox().lookRevealed();
+    askedBox().setText(fromUtf8(answer()));
+    askedBox().repaint();
+    answerShown();
+    Pause();
+    if (session != drillSession())
+        return;
+    answerHidden();
+    askAgain();
+}
+
+void BoxDrill::answerHidden()
+{
+    askedBox().lookBlack();
+}
+
+void BoxDrill::askAgain()
+{
+    askedBox().clear();
+    focusQuestion();
+}
+
+void BoxDrill::showScore(const std::string& text)
+{
+    score_->setText(fromUtf8(text));
+}
+
+void BoxDrill::greyAnsweredBox()
+{
+    askedBox().lookAnswered();
+}
+
+void BoxDrill::emptyBoxes()
+{
+    for (AnswerBox* const box : boxes_) {
+        box->clear();
+        box->lookIdle();
+    }
+}
+
+// What is typed while an answer is judged or shown belongs to no box.
+void BoxDrill::holdBoxes()
+{
+    for (AnswerBox* const box : boxes_)
+        box->setReadOnly(true);
+}
+
+void BoxDrill::closeBoxPressed()
+{
+    quit();
+}
+
+} // namespace shell

@@ -1,0 +1,98 @@
+#pragma once
+
+#include "shell/drill.h"
+#include "shell/windows/window.h"
+
+#include <initializer_list>
+#include <optional>
+#include <string>
+#include <vector>
+
+class QBoxLayout;
+class QLabel;
+class QPushButton;
+
+namespace shell {
+
+class AnswerBox;
+
+/// The window of a drill whose forms are typed into boxes, numbered from 0, of which one is asked at a time.
+/// Only that one can hold the focus. While an answer is judged or shown nothing can be typed, and nothing is
+/// checked or shown a second time.
+class BoxDrill : public Window, public Drill {
+    Q_OBJECT
+
+public:
+    /// Registers the drill under `exerciseType` as long as the window lives.
+    BoxDrill(std::string_view name, std::string_view activeName, std::string_view exerciseType);
+    ~BoxDrill() override;
+
+    void showScore(const std::string& text) override;
+    void greyAnsweredBox() override;
+    void focusQuestion() override;
+    void askAgain() override;
+
+Q_SIGNALS:
+    /// An answer was checked.
+    void answerJudged(bool right);
+
+    /// The drill was left, or has come to its end.
+    void left();
+
+protected:
+    /// The box that is asked, as the drill's rules have it.
+    virtual int askedBoxNumber() const = 0;
+
+    /// Sets the question by the drill's rules.
+    virtual void setQuestion() = 0;
+
+    /// The form that the box asked must receive.
+    virtual const std::string& answer() const = 0;
+
+    /// Whether this answer is right; nothing where it does not count.
+    virtual std::optional<bool> judge(const std::string& typed) = 0;
+
+    /// Called before the question is set because a box has received the focus.
+    virtual void boxEntered(int /*number*/) {}
+
+    /// Called when the answer stands in the box, and when it is about to go again.
+    virtual void answerShown() {}
+    virtual void answerHidden();
+
+    /// Leaves the drill.
+    virtual void quit() = 0;
+
+    AnswerBox* addBox(QWidget* parent, const QString& name);
+    AnswerBox& box(int number) const;
+    AnswerBox& askedBox() const;
+    const std::vector<AnswerBox*>& boxes() const { return boxes_; }
+    void emptyBoxes();
+
+    QLabel* scoreLabel() const { return score_; }
+
+    /// The button that checks, the one that shows the answer, and the one that leaves.
+    QPushButton* makeCheckButton(const char* name);
+    QPushButton* makeHintButton(const char* name);
+    QPushButton* makeQuitButton(const char* name);
+
+    /// The lowest row of the window: the help label, and the buttons.
+    QBoxLayout* helpAndButtons(std::initializer_list<QPushButton*> buttons);
+
+    /// Sets the question, and gives its look to every box that is not asked.
+    void showQuestion();
+
+    void closeBoxPressed() override;
+
+private:
+    bool canAnswer() const;
+    void check();
+    void hint();
+    void boxReceivedFocus(int number);
+    void holdBoxes();
+
+    std::string_view exerciseType_;
+    std::vector<AnswerBox*> boxes_;
+    QLabel* score_;
+};
+
+} // namespace shell
