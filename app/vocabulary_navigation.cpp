@@ -80,6 +80,7 @@ VcabWarning& VocabularyNavigation::warning()
         return *warning_;
     warning_ = std::make_unique<VcabWarning>();
     const VcabWarning* const window = warning_.get();
+    connect(window, &VcabWarning::helpRequested, this, &VocabularyNavigation::helpRequested);
     connect(window, &VcabWarning::cancelled, warning_.get(), &VcabWarning::hide);
     connect(window, &VcabWarning::discardRequested, this, &VocabularyNavigation::goOnWithoutSaving);
     connect(window, &VcabWarning::saveRequested, this, [this] {

@@ -93,14 +93,13 @@ void findMostMissedWord()
     int most = 0;
     vocabularyTester.MostMissedWord = 0;
     for (int number = 1; number <= vocabularyList.WordCount; ++number) {
-        if (vocabularyTester.Misses[number] <= most)
+        if (!canBeAsked(number) || vocabularyTester.Misses[number] <= most)
             continue;
         most = vocabularyTester.Misses[number];
         vocabularyTester.MostMissedWord = static_cast<std::int16_t>(number);
     }
 }
 
-// A missed word comes back even where it is left out: this is meant.
 void bringMissedWordBack()
 {
     if (vocabularyTester.FifthQuestionCounter != QuestionsToMissedWord)
@@ -114,14 +113,15 @@ void bringMissedWordBack()
 
 bool findRandomWord()
 {
-    if (vocabularyTester.FifthQuestionCounter < QuestionsToMissedWord)
-        ++vocabularyTester.FifthQuestionCounter;
     const Draw drawn = drawWord();
     if (drawn == Draw::AllLearned)
         platform::current().endProgram(EXIT_SUCCESS);
-    if (drawn == Draw::Found)
-        bringMissedWordBack();
-    return drawn == Draw::Found;
+    if (drawn != Draw::Found)
+        return false;
+    if (vocabularyTester.FifthQuestionCounter < QuestionsToMissedWord)
+        ++vocabularyTester.FifthQuestionCounter;
+    bringMissedWordBack();
+    return true;
 }
 
 void askCurrentWord(bool asked)

@@ -172,6 +172,19 @@ TEST_F(VocabularyTest, BringsTheMostMissedWordBackAtEveryFifthDraw)
     EXPECT_EQ(vocabularyTester.MostMissedWord, 30);
 }
 
+TEST_F(VocabularyTest, BringsNoOmittedWordBackAndCountsOnlyQuestions)
+{
+    test(50);
+    vocabularyTester.Misses[20] = 2;
+    vocabularyTester.Misses[30] = 3;
+    omit({30});
+    nextWords(Random, 5);
+    EXPECT_EQ(vocabularyTester.MostMissedWord, 20);
+    vocabularyTester.Omitted.fill(platform::FlagTrue);
+    nextWords(Random, 3);
+    EXPECT_EQ(vocabularyTester.FifthQuestionCounter, 0);
+}
+
 TEST_F(VocabularyTest, KeepsTheFifthQuestionUntilAWordWasMissed)
 {
     test(50);

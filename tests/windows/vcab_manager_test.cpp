@@ -211,6 +211,8 @@ TEST_F(VcabManagerWindow, WarnsBeforeChangesAreLeftUnsaved)
     QWidget& manager = open();
     add(manager, Rose);
     click(manager, "VcabManExit");
+    press(*shownWindow("VcabWarning"), Qt::Key_F1);
+    press(*shownWindow("Help"), Qt::Key_Escape);
     press(*shownWindow("VcabWarning"), Qt::Key_Escape);
     EXPECT_EQ(shownWindow("VcabWarning"), nullptr);
     EXPECT_TRUE(manager.isVisible());

@@ -160,17 +160,19 @@ TEST_F(VcabtesterWindow, JudgesNothingDuringAPause)
 
 TEST_F(VcabtesterWindow, IsLeftAtOnceDuringAPause)
 {
-    for (const bool right : {true, false}) {
+    for (const char* const answer : {"rose", "tulip", "?"}) {
         QWidget& tester = open();
-        type(tester, right ? "rose" : "?");
+        type(tester, answer);
         duringPause([&] {
             press(tester, Qt::Key_Escape);
             EXPECT_EQ(tests::shownWindow("Bravo"), nullptr);
+            EXPECT_EQ(tests::shownWindow("Wrong"), nullptr);
             EXPECT_NE(tests::shownWindow("MainMenu"), nullptr);
         });
         press(tester, Qt::Key_Return);
         EXPECT_FALSE(tester.isVisible());
         EXPECT_EQ(vocabularyList.CurrentWord, 1);
+        EXPECT_EQ(vocabularyTester.Misses[1], 0);
     }
 }
 

@@ -265,7 +265,8 @@ void Vcabtester::omit(bool omitted)
 void Vcabtester::moveOn()
 {
     goToNextWord(vocabularyTester.Order);
-    showTheWord();
+    if (!platform::current().ending())
+        showTheWord();
 }
 
 void Vcabtester::focusQuestion()
