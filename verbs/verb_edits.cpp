@@ -1,5 +1,6 @@
 #include "verbs/verb_edits.h"
 
+#include "shell/settings.h"
 #include "shell/vowel_marks.h"
 
 #include <algorithm>
@@ -9,12 +10,16 @@
 
 namespace verbs {
 
+using shell::settings;
+
 namespace {
 
 struct Edit {
     int verbClass;
     int number;
     VerbRecord verb;
+    bool added;
+    bool marksShown;
 };
 
 std::vector<Edit> edits;
@@ -26,7 +31,14 @@ void store(const Edit& edit)
 {
     storeVerb(edit.verbClass, edit.number, edit.verb);
     std::int16_t& count = verbList.Count[edit.verbClass];
-    count = std::max(count, static_cast<std::int16_t>(edit.number));
+    if (edit.added)
+        count = std::max(count, static_cast<std::int16_t>(edit.number));
+}
+
+auto editOf(int verbClass, int number)
+{
+    return std::ranges::find_if(
+        edits, [=](const Edit& edit) { return edit.verbClass == verbClass && edit.number == number; });
 }
 
 // A stem that was left as it stood while marks were not shown takes its marks from the list.
@@ -46,9 +58,12 @@ VerbEdit editVerb(int verbClass, int number, const VerbRecord& verb)
         return VerbEdit::NoPresentStem;
     if (number > MostVerbs)
         return VerbEdit::ListFull;
-    std::erase_if(edits,
-                  [&](const Edit& edit) { return edit.verbClass == verbClass && edit.number == number; });
-    edits.push_back({verbClass, number, verb});
+    bool added = number > verbList.Count[verbClass];
+    if (const auto before = editOf(verbClass, number); before != edits.end()) {
+        added = added || before->added;
+        edits.erase(before);
+    }
+    edits.push_back({verbClass, number, verb, added, settings.ShowVowelLength == platform::FlagTrue});
     store(edits.back());
     return VerbEdit::Stored;
 }
@@ -56,7 +71,8 @@ VerbEdit editVerb(int verbClass, int number, const VerbRecord& verb)
 void repeatVerbEdits()
 {
     for (Edit edit : edits) {
-        keepMarks(edit.verb, verbAt(edit.verbClass, edit.number));
+        if (!edit.marksShown)
+            keepMarks(edit.verb, verbAt(edit.verbClass, edit.number));
         store(edit);
     }
 }

@@ -219,4 +219,31 @@ TEST_F(VerbListFile, IsFollowedByTheEditsOfTheLearner)
     EXPECT_EQ(verbs::verbAt(2, 15), leads);
 }
 
+TEST_F(VerbListFile, GivesItsMarksBackOnlyToStemsEditedWithoutThem)
+{
+    const Fields list = {"h", "1", "a:m", "ama:t", "ama:v", "", "", "", ""};
+    read(joined(list, list.size(), "\n"));
+    for (const auto& [shown, perfect] : {std::pair<platform::Flag, std::string>{platform::FlagFalse, "ama:v"},
+                                         {platform::FlagTrue, "amav"}}) {
+        settings.ShowVowelLength = shown;
+        verbs::editVerb(1, 1, {"am", "amav", "amat", {"like", "", "", ""}});
+        settings.ShowVowelLength = platform::FlagTrue;
+        EXPECT_FALSE(verbs::readVerbListAgain("verbs.cfg"));
+        verbs::repeatVerbEdits();
+        EXPECT_EQ(verbs::verbAt(1, 1).perfectStem, perfect);
+        EXPECT_EQ(verbs::verbAt(1, 1).translations.front(), "like");
+    }
+}
+
+TEST_F(VerbListFile, LeavesItsCountsToEditsOfVerbsThatItHas)
+{
+    const Fields list = listOf({1, 1, 1, 3, 2});
+    read(joined(list, list.size(), "\n"));
+    verbs::editVerb(verbs::FourthConjugation, 3, {"x", "", "", {}});
+    EXPECT_TRUE(verbs::readVerbListAgain("verbs.cfg"));
+    const auto counts = countsByClass();
+    verbs::repeatVerbEdits();
+    EXPECT_EQ(countsByClass(), counts);
+}
+
 } // namespace
