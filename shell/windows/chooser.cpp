@@ -89,11 +89,6 @@ void Chooser::open()
         list_->setFocus();
 }
 
-void Chooser::becameActive()
-{
-    fill();
-}
-
 void Chooser::fill()
 {
     applyDesignedCaptions(*this, captions_);

@@ -39,21 +39,22 @@ Q_SIGNALS:
     void cancelled();
 
 protected:
-    /// Called each time the list was filled anew: when the window is shown and when it becomes active.
+    /// Called each time the list was filled anew.
     virtual void beginChoice() {}
 
     /// True where the OK button has the focus at first. It is available then before a row is chosen, and does
     /// nothing.
     virtual bool beginsAtOk() const { return false; }
 
-    void becameActive() override;
+    /// Fills the list anew, with no row chosen.
+    void fill();
+
     void closeBoxPressed() override;
 
 private:
     void makeControls(const ChooserNames& names);
     void layOut();
     void connectControls();
-    void fill();
     void choose();
 
     std::span<const Caption> captions_;

@@ -52,4 +52,9 @@ void ConjugationChoose::beginChoice()
     beginConjugationChoice();
 }
 
+void ConjugationChoose::becameActive()
+{
+    fill();
+}
+
 } // namespace verbdrills

@@ -13,6 +13,9 @@ public:
 
 protected:
     void beginChoice() override;
+
+    /// The choice begins anew each time the window becomes active.
+    void becameActive() override;
 };
 
 } // namespace verbdrills
