@@ -9,7 +9,8 @@ namespace verbs {
 /// First and second conjugation. Goes back to the present indicative unless a single tense is drilled.
 void buildRegularConjugations();
 
-/// Third conjugation, its -io verbs, and fourth conjugation, drawn in this order.
+/// Third conjugation, its -io verbs, and fourth conjugation, drawn in this order. Stores no tense count of
+/// the -io verbs, and the German translation "gräbe" with the fourth verb of the fourth conjugation.
 void buildThirdAndFourthConjugations();
 
 /// esse (blocks 1 to 11), velle (blocks 1 to 11, the last one empty) and ferre, which are not drawn. Uses

@@ -48,7 +48,9 @@ void buildThirdAndFourthConjugations()
     shortenImperative(verbList.PresentStem[ThirdConjugation][number]);
     verbTables.TenseCount[ThirdConjugation] = BlockCount;
 
+    // Not the count of the -io verbs: this is meant.
     buildClass(ThirdIoConjugation, "ere", ThirdIoConjugationEndings);
+    verbTables.TenseCount[FourthConjugation] = BlockCount;
 
     correctGermanList();
     buildClass(FourthConjugation, "i:re", FourthConjugationEndings);

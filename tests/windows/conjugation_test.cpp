@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScreen>
 
 #include <set>
 #include <tuple>
@@ -342,12 +343,110 @@ TEST_F(ConjugationWindows, SpeakTheLanguageOfTheInterface)
     }
 }
 
-TEST_F(ConjugationWindows, KeepTheDesignedTextsInItalian)
+TEST_F(ConjugationWindows, GoBackToTheDesignedTextsInItalian)
 {
+    settings.CurrentLanguage = "German";
+    openDrill(0).close();
+    shownWindow("ConjugationChoose")->close();
     settings.CurrentLanguage = "Italian";
-    QWidget& chooser = openChooser();
+    QWidget& drill = openTense(5);
+    EXPECT_EQ(label(drill, "Plural"), "Plural");
+    drill.close();
+    const auto& tenses = control<QListWidget>(*shownWindow("TenseMoodChooser"), "TenseMood");
+    EXPECT_EQ(tenses.item(5)->text(), "Future Perfect Indicative");
+    shownWindow("TenseMoodChooser")->close();
+    QWidget& chooser = *shownWindow("ConjugationChoose");
     EXPECT_EQ(chooser.windowTitle(), "Choose a Conjugation");
     EXPECT_EQ(control<QListWidget>(chooser, "ConjugationList").count(), 9);
+}
+
+TEST_F(ConjugationWindows, ForgetTheirChoiceOrKeepItOnActivation)
+{
+    QWidget& chooser = openChooser();
+    tests::clickRow(control<QListWidget>(chooser, "ConjugationList"), 8);
+    tests::press(chooser, Qt::Key_F1);
+    press(*shownWindow("Help"), Qt::Key_Escape);
+    QApplication::setActiveWindow(&chooser);
+    EXPECT_FALSE(control<QPushButton>(chooser, "cchok").isEnabled());
+    EXPECT_EQ(settings.ActiveWindowName, "conjchoose");
+
+    tests::doubleClickRow(control<QListWidget>(chooser, "ConjugationList"), 8);
+    QWidget& tenses = *shownWindow("TenseMoodChooser");
+    tests::clickRow(control<QListWidget>(tenses, "TenseMood"), 3);
+    tests::press(tenses, Qt::Key_F1);
+    press(*shownWindow("Help"), Qt::Key_Escape);
+    QApplication::setActiveWindow(&tenses);
+    EXPECT_TRUE(control<QPushButton>(tenses, "TenseMoodOK").isEnabled());
+    EXPECT_EQ(settings.ActiveWindowName, "tensemood");
+}
+
+TEST_F(ConjugationWindows, BeginAfreshAfterARoundThatWasLeftOrATenseThatEnded)
+{
+    settings.QuestionOrder = "Random";
+    answerRightly(openDrill(0), 4);
+    shownWindow("Conjugation")->close();
+    shownWindow("ConjugationChoose")->close();
+    answerRightly(openDrill(0), 6);
+    EXPECT_EQ(label(*shownWindow("Conjugation"), "TenseLabel"), "Imperfect Indicative");
+    shownWindow("Conjugation")->close();
+    shownWindow("ConjugationChoose")->close();
+
+    settings.QuestionOrder = "Sequential";
+    answerRightly(openTense(3), 30);
+    shownWindow("TenseMoodChooser")->close();
+    shownWindow("ConjugationChoose")->close();
+    QWidget& drill = openDrill(0);
+    EXPECT_EQ(label(drill, "TenseLabel"), "Present Indicative");
+    EXPECT_EQ(label(drill, "ScoreLabel"), "");
+    EXPECT_EQ(tests::focusIn(drill), "ConjText0");
+    for (int person = 0; person < 6; ++person)
+        EXPECT_EQ(box(drill, person).text(), "");
+}
+
+// The title of esse's class is meant to name velle.
+TEST_F(ConjugationWindows, TitleEsseAsTheTablesHaveIt)
+{
+    QWidget& drill = openDrill(5);
+    EXPECT_EQ(drill.windowTitle(), "");
+    EXPECT_EQ(label(drill, "TitleLabel"), "Velle");
+    EXPECT_EQ(label(drill, "VerbLabel"), "Esse");
+}
+
+TEST_F(ConjugationWindows, KeepTheFrameOfAMaximisedChooserALittleToTheLeft)
+{
+    settings.MainWindowState = 2;
+    QWidget& chooser = openChooser();
+    const auto& frame = control<QFrame>(chooser, "CCBigFrame");
+    const QSize screen = chooser.screen()->geometry().size();
+    EXPECT_EQ(frame.x(), static_cast<int>(screen.width() / 2.0 - frame.width() / 1.9));
+    EXPECT_EQ(frame.y(), static_cast<int>(screen.height() / 2.0 - frame.height() / 2.0));
+}
+
+TEST_F(ConjugationWindows, SeeTheirJudgementInTheLanguageOfTheInterface)
+{
+    constexpr const char* languages[][3] = {
+        {"English", "Right!", "Wrong!"},   {"Italian", "Right!", "Wrong!"}, {"French", "Bon!", "Wrong!"},
+        {"German", "Richtig!", "Falsch!"}, {"Spanish", "¡Bien!", "¡Mal!"},  {"Latin", "Verum", "Falsum"}};
+    for (const auto& [language, right, wrong] : languages) {
+        settings.CurrentLanguage = language;
+        QWidget& drill = openDrill(0);
+        for (const auto& [typed, window, caption] :
+             {std::tuple{"x", "Wrong", wrong}, std::tuple{"amo", "Bravo", right}}) {
+            QString shown;
+            fake.whileWaiting = [&] {
+                QApplication::processEvents();
+                shown = shownWindow(window)->findChild<QLabel*>()->text();
+                const QRect place = shownWindow(window)->geometry();
+                const QSize screen = drill.screen()->geometry().size();
+                EXPECT_EQ(place.x(), screen.width() - place.width() - place.width() / 10);
+                EXPECT_EQ(place.y(), static_cast<int>(screen.height() / 1.5));
+            };
+            answer(drill, typed);
+            EXPECT_EQ(shown, caption) << language;
+        }
+        drill.close();
+        shownWindow("ConjugationChoose")->close();
+    }
 }
 
 } // namespace

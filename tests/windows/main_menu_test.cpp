@@ -8,7 +8,7 @@
 #include <QMenu>
 #include <QPushButton>
 
-#include <map>
+#include <array>
 
 namespace {
 
@@ -122,17 +122,53 @@ TEST_F(MainMenu, ChangesTheSettings)
     EXPECT_EQ(settings.SoundOn, FlagFalse);
 }
 
-TEST_F(MainMenu, SetsTheMarkBeforeTheVerbsForTheValueOneOnly)
+// By control: the window, the exercise, and the mark where `ShowVowelLength` is -1, 0 and 1.
+TEST_F(MainMenu, OpensEachExerciseByButtonAndItemWithHelpAtHand)
 {
-    for (const auto& [shown, mark] : std::map<int, std::string>{{-1, ""}, {0, ""}, {1, ":"}}) {
-        QWidget& menu = start();
-        settings.ShowVowelLength = static_cast<platform::Flag>(shown);
-        settings.VowelMark = "x";
-        tests::click(menu, "ConjugationButton");
-        EXPECT_EQ(settings.VowelMark, mark) << shown;
-        EXPECT_EQ(settings.ExerciseType, "Conjugation");
-        EXPECT_FALSE(menu.isVisible());
-    }
+    struct Opener {
+        const char* control;
+        const char* window;
+        const char* exercise;
+        std::array<const char*, 3> marks;
+    };
+    constexpr std::array<const char*, 3> setForDrill = {"", "", ":"};
+    constexpr std::array<const char*, 3> leftAlone = {"x", "x", "x"};
+    constexpr Opener openers[] = {
+        {"ConjugationButton", "ConjugationChoose", "Conjugation", setForDrill},
+        {"FileConj", "ConjugationChoose", "Conjugation", setForDrill},
+        {"DeclensionButton", "DeclinationChoose", "Declination", setForDrill},
+        {"FileDecl", "DeclinationChoose", "Declination", setForDrill},
+        {"PronounButton", "PronounChooser", "Pronouns", leftAlone},
+        {"FilePron", "PronounChooser", "Pronouns", leftAlone},
+        {"VocabularyButton", "Vcabtester", "Vcabtester", leftAlone},
+        {"MainVocabulary", "Vcabtester", "Vcabtester", leftAlone},
+        {"FileNounQuiz", "NounQuiz", "", {":", "x", "x"}},
+        {"FileNounManager", "NounHandler", "", leftAlone},
+        {"FileVerbManager", "VerbManager", "", leftAlone},
+        {"FileVcabManager", "VcabManager", "", leftAlone},
+        {"SetDelay", "DelayInterval", "", leftAlone},
+        {"OptionsOptions", "frmOptions", "", leftAlone},
+        {"MainABout", "About", "", leftAlone},
+    };
+    for (const Opener& opener : openers)
+        for (int shown = -1; shown <= 1; ++shown) {
+            SCOPED_TRACE(opener.control);
+            QWidget& menu = start();
+            settings.ShowVowelLength = static_cast<platform::Flag>(shown);
+            settings.VowelMark = "x";
+            if (auto* const action = menu.findChild<QAction*>(opener.control))
+                action->trigger();
+            else
+                tests::click(menu, opener.control);
+            QWidget* const window = tests::shownWindow(opener.window);
+            ASSERT_NE(window, nullptr);
+            EXPECT_EQ(settings.VowelMark, opener.marks.at(static_cast<std::size_t>(shown + 1)));
+            if (*opener.exercise != '\0') {
+                EXPECT_EQ(settings.ExerciseType, opener.exercise);
+            }
+            tests::press(*window, Qt::Key_F1);
+            EXPECT_NE(tests::shownWindow("Help"), nullptr);
+        }
 }
 
 TEST_F(MainMenu, OpensTheGuideWhereNoViewerCanBeStarted)

@@ -61,8 +61,7 @@ void Conjugation::makeControls()
     for (int i = 0; i < BoxCount; ++i) {
         const auto index = static_cast<std::size_t>(i);
         addBox(this, QStringLiteral("ConjText%1").arg(i));
-        glosses_.at(index) = new QLabel(this);
-        glosses_.at(index)->setObjectName(QStringLiteral("Ctransl%1").arg(i));
+        glosses_.at(index) = makeLabel(this, qPrintable(QStringLiteral("Ctransl%1").arg(i)));
         glosses_.at(index)->setWordWrap(true);
         shell::setType(*glosses_.at(index), shell::NoteType);
     }

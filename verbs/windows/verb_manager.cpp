@@ -1,6 +1,7 @@
 #include "verbs/windows/verb_manager.h"
 
 #include "platform/platform.h"
+#include "shell/windows/controls.h"
 #include "shell/windows/text.h"
 #include "shell/windows/type.h"
 #include "verbs/verb_edits.h"
@@ -82,8 +83,7 @@ void VerbManager::makeControls()
     for (std::size_t i = 0; i < latin_.size(); ++i) {
         latin_.at(i) = new QLineEdit(this);
         latin_.at(i)->setObjectName(QStringLiteral("VerbManagerLatinForms%1").arg(i));
-        previews_.at(i) = new QLabel(this);
-        previews_.at(i)->setObjectName(QLatin1String(StemFields.at(i).preview));
+        previews_.at(i) = shell::makeLabel(this, StemFields.at(i).preview);
         shell::setLeastWidth(*latin_.at(i), StemCharacters);
         shell::setLeastWidth(*previews_.at(i), PreviewCharacters);
     }
