@@ -126,7 +126,7 @@ void buildDrillHeading()
                                     verbTables.TenseTitles[currentParadigm.TenseMoodCode];
 }
 
-bool isRightAnswer(const std::string& answer)
+bool judgeConjugation(const std::string& answer)
 {
     conjugationDrill.AnswerSlots[conjugationDrill.PersonIndex] = answer;
     conjugationDrill.FeedbackPending = 1;

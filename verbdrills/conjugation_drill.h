@@ -51,8 +51,8 @@ void setConjugationQuestion();
 /// Builds `DrillHeading`.
 void buildDrillHeading();
 
-/// Checks an answer against `CorrectForm`, letter by letter; sets `FeedbackPending`.
-bool isRightAnswer(const std::string& answer);
+/// Whether an answer is `CorrectForm`, letter by letter; notes the answer and sets `FeedbackPending`.
+bool judgeConjugation(const std::string& answer);
 
 /// Where the drill goes after a right answer.
 enum class Advance {

@@ -32,7 +32,7 @@ Identification rightIdentification()
             .number = verbQuiz.QuizNumber == quiz_number::Plural ? quiz_number::Plural : quiz_number::Sing};
 }
 
-bool isRightIdentification(const Identification& identification)
+bool judgeIdentification(const Identification& identification)
 {
     shell::settings.ExerciseType = shell::exercise::Quiz;
     const bool right = identification == rightIdentification();

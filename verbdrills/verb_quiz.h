@@ -68,9 +68,9 @@ void identifyForm();
 /// What the form shown is, in the rows of the lists.
 Identification rightIdentification();
 
-/// Checks what the learner says of the form; sets `ExerciseType` to "Quiz". A form identified rightly is no
-/// longer asked.
-bool isRightIdentification(const Identification& identification);
+/// Whether what the learner says of the form is right; sets `ExerciseType` to "Quiz". A form identified
+/// rightly is no longer asked.
+bool judgeIdentification(const Identification& identification);
 
 /// The form shown, and the title of its class as it stands: empty for a class that was not drilled yet.
 std::string formAsked();

@@ -50,13 +50,6 @@ constexpr std::array Captions = {
 };
 // clang-format on
 
-QGroupBox* makeFrame(QWidget* parent, const char* name)
-{
-    auto* const frame = new QGroupBox(parent);
-    frame->setObjectName(QLatin1String(name));
-    return frame;
-}
-
 } // namespace
 
 Declination::Declination() : BoxDrill("Declination", "declination", shell::exercise::Declination)
@@ -76,8 +69,8 @@ void Declination::makeControls()
     shell::setBoldType(*noun_, shell::HeadingType);
     noun_->setWordWrap(true);
     noun_->setMinimumSize(1, noun_->fontMetrics().lineSpacing());
-    singular_ = makeFrame(this, "Frame1");
-    plural_ = makeFrame(this, "Frame2");
+    singular_ = shell::makeControl<QGroupBox>(this, "Frame1");
+    plural_ = shell::makeControl<QGroupBox>(this, "Frame2");
     dummy_ = new QWidget(this);
     dummy_->setObjectName(QStringLiteral("DDummy"));
     dummy_->resize(1, 1);

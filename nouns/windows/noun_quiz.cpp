@@ -46,13 +46,6 @@ constexpr std::array<const char*, NamedDeclensionCount> Declensions = {
 // The declension that a paradigm belongs to, by the index of the paradigm.
 constexpr std::array DeclensionOf = {0, 1, 1, 1, 4, 4, 5, 2, 2};
 
-QGroupBox* makeFrame(QWidget* parent, const char* name)
-{
-    auto* const frame = new QGroupBox(parent);
-    frame->setObjectName(QLatin1String(name));
-    return frame;
-}
-
 } // namespace
 
 NounQuiz::NounQuiz() : Window("NounQuiz")
@@ -60,6 +53,7 @@ NounQuiz::NounQuiz() : Window("NounQuiz")
     setWindowTitle(QStringLiteral("Noun Quiz"));
     makeControls();
     makeChecks();
+    makeButtons();
     layOut();
     connectControls();
     closeOnEscape();
@@ -84,12 +78,6 @@ void NounQuiz::makeControls()
     answer_->setWordWrap(true);
     answer_->setMinimumSize(1, LinesOfAnswer * answer_->fontMetrics().lineSpacing());
     verdict_->setMinimumHeight(verdict_->fontMetrics().lineSpacing());
-    ok_ = shell::makeButton(this, "NQOK");
-    skip_ = shell::makeButton(this, "NQSkip");
-    options_ = shell::makeButton(this, "NQOptions");
-    cancel_ = shell::makeButton(this, "NQCancel");
-    skip_->setText(QStringLiteral("S&kip"));
-    options_->setText(QStringLiteral("O&ptions..."));
     for (std::size_t i = 0; i < declensions_.size(); ++i) {
         declensions_.at(i) = new QLabel(QLatin1String(Declensions.at(i)));
         declensions_.at(i)->setObjectName(QStringLiteral("NounQuizDeclension%1").arg(i));
@@ -98,13 +86,23 @@ void NounQuiz::makeControls()
 
 void NounQuiz::makeChecks()
 {
-    singular_ = makeFrame(this, "QuizSingular");
-    plural_ = makeFrame(this, "QuizPlural");
+    singular_ = shell::makeControl<QGroupBox>(this, "QuizSingular");
+    plural_ = shell::makeControl<QGroupBox>(this, "QuizPlural");
     for (std::size_t i = 0; i < checks_.size(); ++i) {
         QGroupBox* const frame = i < CasesOfNumber ? singular_ : plural_;
         checks_.at(i) = new QCheckBox(QLatin1String(CaseNames.at(i % CasesOfNumber)), frame);
         checks_.at(i)->setObjectName(QLatin1String(CheckNames.at(i)));
     }
+}
+
+void NounQuiz::makeButtons()
+{
+    options_ = shell::makeButton(this, "NQOptions");
+    ok_ = shell::makeButton(this, "NQOK");
+    skip_ = shell::makeButton(this, "NQSkip");
+    cancel_ = shell::makeButton(this, "NQCancel");
+    skip_->setText(QStringLiteral("S&kip"));
+    options_->setText(QStringLiteral("O&ptions..."));
 }
 
 void NounQuiz::layOut()

@@ -39,6 +39,7 @@ protected:
 private:
     void makeControls();
     void makeChecks();
+    void makeButtons();
     void layOut();
     QBoxLayout* checkRow();
     QBoxLayout* buttonRow();

@@ -7,16 +7,14 @@ namespace shell {
 
 QLabel* makeLabel(QWidget* parent, const char* name)
 {
-    auto* const label = new QLabel(parent);
-    label->setObjectName(QLatin1String(name));
+    auto* const label = makeControl<QLabel>(parent, name);
     label->setTextFormat(Qt::PlainText);
     return label;
 }
 
 QPushButton* makeButton(QWidget* parent, const char* name)
 {
-    auto* const button = new QPushButton(parent);
-    button->setObjectName(QLatin1String(name));
+    auto* const button = makeControl<QPushButton>(parent, name);
     button->setAutoDefault(true);
     return button;
 }

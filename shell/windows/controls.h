@@ -1,10 +1,21 @@
 #pragma once
 
+#include <QLatin1String>
+
 class QLabel;
 class QPushButton;
 class QWidget;
 
 namespace shell {
+
+/// A control with this object name.
+template <typename Control>
+Control* makeControl(QWidget* parent, const char* name)
+{
+    auto* const control = new Control(parent);
+    control->setObjectName(QLatin1String(name));
+    return control;
+}
 
 /// A label with this object name. Its text is shown as it stands.
 QLabel* makeLabel(QWidget* parent, const char* name);

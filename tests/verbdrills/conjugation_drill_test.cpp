@@ -58,7 +58,7 @@ protected:
             const int person = conjugationDrill.PersonIndex;
             EXPECT_EQ(conjugationDrill.FormRow, 6 * (currentParadigm.TenseMoodCode - 1) + person);
             verbdrills::setConjugationQuestion();
-            EXPECT_TRUE(verbdrills::isRightAnswer(conjugationDrill.CorrectForm));
+            EXPECT_TRUE(verbdrills::judgeConjugation(conjugationDrill.CorrectForm));
             persons.push_back(person);
             last = verbdrills::advanceAfterRightAnswer();
         } while (last == Advance::NextPerson && persons.size() < 10);
@@ -187,9 +187,9 @@ TEST_F(ConjugationDrill, JudgesLetterByLetter)
         conjugationDrill.FeedbackPending = 0;
         verbdrills::setConjugationQuestion();
         for (const std::string& answer : wrong)
-            EXPECT_FALSE(verbdrills::isRightAnswer(answer)) << answer;
+            EXPECT_FALSE(verbdrills::judgeConjugation(answer)) << answer;
         EXPECT_EQ(conjugationDrill.FeedbackPending, 1);
-        EXPECT_TRUE(verbdrills::isRightAnswer(right)) << right;
+        EXPECT_TRUE(verbdrills::judgeConjugation(right)) << right;
     }
 }
 

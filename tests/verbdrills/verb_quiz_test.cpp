@@ -39,7 +39,7 @@ TEST_F(VerbQuizRules, EveryFormOfEveryClassIsIdentified)
             for (const Ending& ending : Paradigm) {
                 const Identification expected = {classRow, tenseRow, ending.person, ending.number};
                 EXPECT_EQ(identificationOf(classRow + 1, row), expected) << classRow << " " << row;
-                EXPECT_TRUE(verbdrills::isRightIdentification(expected));
+                EXPECT_TRUE(verbdrills::judgeIdentification(expected));
                 ++row;
             }
     }
@@ -59,7 +59,7 @@ TEST_F(VerbQuizRules, EachPartOfAnIdentificationCounts)
     for (const Identification& wrong :
          {Identification{4, 1, 1, Plural}, Identification{3, 2, 1, Plural}, Identification{3, 1, 2, Plural},
           Identification{3, 1, 1, Sing}, Identification{-1, 1, 1, Plural}, Identification{3, -1, 1, Plural}})
-        EXPECT_FALSE(verbdrills::isRightIdentification(wrong));
+        EXPECT_FALSE(verbdrills::judgeIdentification(wrong));
 }
 
 TEST_F(VerbQuizRules, CheckingNamesTheExerciseAndKeepsAWrongAnswersForm)
@@ -67,10 +67,10 @@ TEST_F(VerbQuizRules, CheckingNamesTheExerciseAndKeepsAWrongAnswersForm)
     const Identification right = identificationOf(verbs::Esse, 1);
     verbQuiz.formIsAsked = true;
     shell::settings.ExerciseType = shell::exercise::Conjugation;
-    EXPECT_FALSE(verbdrills::isRightIdentification({}));
+    EXPECT_FALSE(verbdrills::judgeIdentification({}));
     EXPECT_EQ(shell::settings.ExerciseType, "Quiz");
     EXPECT_TRUE(verbQuiz.formIsAsked);
-    EXPECT_TRUE(verbdrills::isRightIdentification(right));
+    EXPECT_TRUE(verbdrills::judgeIdentification(right));
     EXPECT_FALSE(verbQuiz.formIsAsked);
 }
 

@@ -1,6 +1,9 @@
+#include "nouns/windows/declination.h"
 #include "nouns/windows/declination_choose.h"
 #include "nouns/windows/noun_handler.h"
+#include "nouns/windows/noun_quiz.h"
 #include "nouns/windows/pronoun_chooser.h"
+#include "nouns/windows/pronoun_singular.h"
 #include "shell/settings.h"
 #include "shell/windows/about.h"
 #include "shell/windows/delay_interval.h"
@@ -52,7 +55,9 @@ const std::vector<MakeWindow> AllWindows = {make<shell::MainMenu>,
                                             make<verbdrills::QuizInclude>,
                                             make<nouns::DeclinationChoose>,
                                             make<nouns::PronounChooser>,
-
+                                            make<nouns::Declination>,
+                                            make<nouns::PronounSingular>,
+                                            make<nouns::NounQuiz>,
                                             make<nouns::NounHandler>,
                                             make<vocabulary::Vcabtester>,
                                             make<vocabulary::VcabManager>,

@@ -167,7 +167,7 @@ void Conjugation::showGloss(int number)
 
 std::optional<bool> Conjugation::judge(const std::string& typed)
 {
-    return isRightAnswer(typed);
+    return judgeConjugation(typed);
 }
 
 const std::string& Conjugation::answer() const

@@ -8,18 +8,15 @@
 #include "shell/windows/type.h"
 #include "verbdrills/quiz_draw.h"
 #include "verbdrills/quiz_texts.h"
+#include "verbdrills/windows/person_and_number.h"
 #include "verbdrills/windows/probatio_captions.h"
 #include "verbdrills/windows/quiz_list.h"
 
 #include <QBoxLayout>
-#include <QButtonGroup>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QShortcut>
-
-#include <array>
 
 namespace verbdrills {
 
@@ -32,26 +29,6 @@ constexpr QSize LargestBlock{120, 43};
 
 // So much more than a spacer's stretch that a list grows first.
 constexpr int FillsColumn = 1000;
-
-// Numbers of the option buttons: the persons 1 to 3 in their group, singular and plural in theirs.
-constexpr int FirstPerson = 1;
-constexpr int Singular = 0;
-constexpr int Plural = 1;
-constexpr std::array PersonButtons = {"QuizFirst", "QuizSecond", "QuizThird"};
-constexpr std::array NumberButtons = {"QuizSing", "QuizPlural"};
-
-template <std::size_t Count>
-QButtonGroup* makeOptions(QWidget* parent, const std::array<const char*, Count>& names, int firstNumber)
-{
-    auto* const group = new QButtonGroup(parent);
-    int number = firstNumber;
-    for (const char* const name : names) {
-        auto* const option = new QRadioButton(parent);
-        option->setObjectName(QLatin1String(name));
-        group->addButton(option, number++);
-    }
-    return group;
-}
 
 } // namespace
 
@@ -78,8 +55,7 @@ void Probatio::makeControls()
     shell::setType(*baseForm_, shell::FormType);
     classes_ = new QuizList("QuizConjList", QStringLiteral("Conjugations"), this);
     tenses_ = new QuizList("QuizTenseList", QStringLiteral("Tenses"), this);
-    persons_ = makeOptions(this, PersonButtons, FirstPerson);
-    numbers_ = makeOptions(this, NumberButtons, Singular);
+    personAndNumber_ = new PersonAndNumber(this);
     yourAnswer_ = makeLabel(this, "QuizYourAnswer");
     correctHeading_ = makeLabel(this, "QuizHeading");
     correct_ = makeLabel(this, "QuizCorrect");
@@ -125,7 +101,7 @@ QBoxLayout* Probatio::answerColumns()
     auto* const left = new QVBoxLayout;
     left->setSpacing(shell::MediumSpace);
     left->addWidget(classes_, FillsColumn);
-    left->addLayout(buttonsOfPersonAndNumber());
+    left->addWidget(personAndNumber_);
     left->addStretch(1);
     auto* const right = new QVBoxLayout;
     right->addWidget(tenses_, FillsColumn);
@@ -135,21 +111,6 @@ QBoxLayout* Probatio::answerColumns()
     columns->addLayout(left, 1);
     columns->addLayout(right, 1);
     return columns;
-}
-
-QGridLayout* Probatio::buttonsOfPersonAndNumber()
-{
-    auto* const grid = new QGridLayout;
-    grid->setHorizontalSpacing(shell::LargeSpace);
-    grid->setVerticalSpacing(shell::HairSpace);
-    grid->setColumnStretch(1, 1);
-    int row = 0;
-    for (QAbstractButton* const person : persons_->buttons())
-        grid->addWidget(person, row++, 0);
-    row = 0;
-    for (QAbstractButton* const number : numbers_->buttons())
-        grid->addWidget(number, row++, 1);
-    return grid;
 }
 
 QGridLayout* Probatio::answersInWords()
@@ -187,11 +148,8 @@ void Probatio::connectControls()
         connect(list, &QuizList::rowChosen, this, &Probatio::showChosenAnswer);
         checkOnEnter(list);
     }
-    for (const QButtonGroup* const group : {persons_, numbers_}) {
-        connect(group, &QButtonGroup::idClicked, this, &Probatio::showChosenAnswer);
-        for (QAbstractButton* const option : group->buttons())
-            checkOnEnter(option);
-    }
+    connect(personAndNumber_, &PersonAndNumber::chosen, this, &Probatio::showChosenAnswer);
+    checkOnEnter(personAndNumber_);
     connect(ok_, &QPushButton::clicked, this, &Probatio::check);
     connect(question_, &QPushButton::clicked, this, &Probatio::showRightAnswer);
     connect(skip_, &QPushButton::clicked, this, &Probatio::skip);
@@ -204,7 +162,7 @@ void Probatio::checkOnEnter(QWidget* control)
     for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
         auto* const enter = new QShortcut(key, control);
         enter->setAutoRepeat(false);
-        enter->setContext(Qt::WidgetShortcut);
+        enter->setContext(Qt::WidgetWithChildrenShortcut);
         connect(enter, &QShortcut::activated, this, &Probatio::check);
     }
 }
@@ -262,8 +220,7 @@ void Probatio::resetAnswer()
 {
     classes_->reset();
     tenses_->reset();
-    persons_->button(FirstPerson)->setChecked(true);
-    numbers_->button(Singular)->setChecked(true);
+    personAndNumber_->reset();
     yourAnswer_->clear();
     correctHeading_->clear();
     correct_->clear();
@@ -273,8 +230,8 @@ Identification Probatio::chosenAnswer() const
 {
     return {.classRow = classes_->chosenRow(),
             .tenseRow = tenses_->chosenRow(),
-            .person = persons_->checkedId(),
-            .number = numbers_->checkedId() == Plural ? quiz_number::Plural : quiz_number::Sing};
+            .person = personAndNumber_->person(),
+            .number = personAndNumber_->number()};
 }
 
 void Probatio::showChosenAnswer()
@@ -287,7 +244,7 @@ void Probatio::check()
     if (shell::pausing() || !isVisible() || !verbQuiz.formIsAsked)
         return;
     showChosenAnswer();
-    Q_EMIT answerJudged(isRightIdentification(chosenAnswer()));
+    Q_EMIT answerJudged(judgeIdentification(chosenAnswer()));
 }
 
 void Probatio::skip()

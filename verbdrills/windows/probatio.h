@@ -5,13 +5,13 @@
 #include "verbdrills/verb_quiz.h"
 
 class QBoxLayout;
-class QButtonGroup;
 class QGridLayout;
 class QLabel;
 class QPushButton;
 
 namespace verbdrills {
 
+class PersonAndNumber;
 class QuizList;
 
 /// The verb quiz: shows a form, whose class, tense, person and number the learner names.
@@ -58,7 +58,6 @@ private:
     void layOut();
     QBoxLayout* questionRows();
     QBoxLayout* answerColumns();
-    QGridLayout* buttonsOfPersonAndNumber();
     QGridLayout* answersInWords();
     QBoxLayout* buttonRow();
     void connectControls();
@@ -78,8 +77,7 @@ private:
     QLabel* baseForm_;
     QuizList* classes_;
     QuizList* tenses_;
-    QButtonGroup* persons_;
-    QButtonGroup* numbers_;
+    PersonAndNumber* personAndNumber_;
     QLabel* yourAnswer_;
     QLabel* correctHeading_;
     QLabel* correct_;

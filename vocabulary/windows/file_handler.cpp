@@ -3,11 +3,11 @@
 #include "platform/platform.h"
 #include "shell/windows/captions.h"
 #include "shell/windows/choice_list.h"
+#include "shell/windows/controls.h"
 #include "shell/windows/text.h"
 #include "shell/windows/type.h"
 #include "vocabulary/vocabulary_edits.h"
 #include "vocabulary/windows/list_files.h"
-#include "vocabulary/windows/named.h"
 #include "vocabulary/windows/word_label.h"
 
 #include <QBoxLayout>
@@ -72,17 +72,15 @@ FileHandler::FileHandler() : Window("FileHandler")
 
 void FileHandler::makeControls()
 {
-    folderName_ = named<WordLabel>("FHFolder", this);
-    folders_ = named<ChoiceList>("FHDirBox", this);
-    files_ = named<ChoiceList>("FHFileBox", this);
-    name_ = named<QLineEdit>("FHFileName", this);
+    folderName_ = shell::makeControl<WordLabel>(this, "FHFolder");
+    folders_ = shell::makeControl<ChoiceList>(this, "FHDirBox");
+    files_ = shell::makeControl<ChoiceList>(this, "FHFileBox");
+    name_ = shell::makeControl<QLineEdit>(this, "FHFileName");
     for (ChoiceList* const list : {folders_, files_})
         shell::setType(*list, ListType);
-    action_ = named<QPushButton>("LoadSaveFH", this);
+    action_ = shell::makeButton(this, "LoadSaveFH");
     action_->setText(QLatin1String(LoadAction));
-    cancel_ = named<QPushButton>("CancelFH", this);
-    action_->setAutoDefault(true);
-    cancel_->setAutoDefault(true);
+    cancel_ = shell::makeButton(this, "CancelFH");
 }
 
 void FileHandler::layOut()
@@ -97,8 +95,8 @@ void FileHandler::layOut()
 
 QGridLayout* FileHandler::lists()
 {
-    auto* const foldersLabel = named<QLabel>("FHDirLabel", this);
-    auto* const filesLabel = named<QLabel>("FHFileLabel", this);
+    auto* const foldersLabel = shell::makeLabel(this, "FHDirLabel");
+    auto* const filesLabel = shell::makeLabel(this, "FHFileLabel");
     foldersLabel->setBuddy(folders_);
     filesLabel->setBuddy(files_);
     auto* const grid = new QGridLayout;
@@ -113,7 +111,7 @@ QGridLayout* FileHandler::lists()
 
 QBoxLayout* FileHandler::nameRow()
 {
-    auto* const nameLabel = named<QLabel>("FHNameLabel", this);
+    auto* const nameLabel = shell::makeLabel(this, "FHNameLabel");
     nameLabel->setBuddy(name_);
     auto* const row = new QHBoxLayout;
     row->setSpacing(shell::SmallSpace);

@@ -3,10 +3,10 @@
 #include "platform/platform.h"
 #include "shell/windows/captions.h"
 #include "shell/windows/choice_list.h"
+#include "shell/windows/controls.h"
 #include "shell/windows/type.h"
 #include "vocabulary/vocabulary_list.h"
 #include "vocabulary/windows/list_files.h"
-#include "vocabulary/windows/named.h"
 
 #include <QBoxLayout>
 #include <QPushButton>
@@ -43,13 +43,11 @@ VcabLoader::VcabLoader() : Window("VcabLoader")
 
 void VcabLoader::makeControls()
 {
-    files_ = named<ChoiceList>("VcabFile", this);
+    files_ = shell::makeControl<ChoiceList>(this, "VcabFile");
     shell::setType(*files_, ListType);
     files_->setSpacing(2);
-    open_ = named<QPushButton>("VcabLoaderOpen", this);
-    cancel_ = named<QPushButton>("VcabLoaderCancel", this);
-    open_->setAutoDefault(true);
-    cancel_->setAutoDefault(true);
+    open_ = shell::makeButton(this, "VcabLoaderOpen");
+    cancel_ = shell::makeButton(this, "VcabLoaderCancel");
 }
 
 void VcabLoader::layOut()

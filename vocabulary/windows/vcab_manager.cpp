@@ -4,10 +4,10 @@
 #include "platform/text_file.h"
 #include "shell/windows/captions.h"
 #include "shell/windows/choice_list.h"
+#include "shell/windows/controls.h"
 #include "shell/windows/text.h"
 #include "shell/windows/type.h"
 #include "vocabulary/vocabulary_edits.h"
-#include "vocabulary/windows/named.h"
 
 #include <QBoxLayout>
 #include <QGridLayout>
@@ -69,22 +69,20 @@ VcabManager::VcabManager() : Window("VcabManager")
 
 void VcabManager::makeControls()
 {
-    words_ = named<ChoiceList>("VcabManMainForm", this);
+    words_ = shell::makeControl<ChoiceList>(this, "VcabManMainForm");
     shell::setType(*words_, ListType);
     words_->setMinimumWidth(WordCharacters * words_->fontMetrics().averageCharWidth());
     for (std::size_t i = 0; i < boxes_.size(); ++i) {
-        boxes_.at(i) = named<QLineEdit>(Fields.at(i).box, this);
+        boxes_.at(i) = shell::makeControl<QLineEdit>(this, Fields.at(i).box);
         boxes_.at(i)->setMaxLength(platform::LongestFile);
         shell::setType(*boxes_.at(i), shell::FormType);
     }
-    accept_ = named<QPushButton>("VcabManAccept", this);
-    add_ = named<QPushButton>("VcabManAdd", this);
-    delete_ = named<QPushButton>("VcabManDelete", this);
-    load_ = named<QPushButton>("VcabManLoad", this);
-    save_ = named<QPushButton>("VcabManSave", this);
-    exit_ = named<QPushButton>("VcabManExit", this);
-    for (QPushButton* const button : {accept_, add_, delete_, load_, save_, exit_})
-        button->setAutoDefault(true);
+    accept_ = shell::makeButton(this, "VcabManAccept");
+    add_ = shell::makeButton(this, "VcabManAdd");
+    delete_ = shell::makeButton(this, "VcabManDelete");
+    load_ = shell::makeButton(this, "VcabManLoad");
+    save_ = shell::makeButton(this, "VcabManSave");
+    exit_ = shell::makeButton(this, "VcabManExit");
 }
 
 void VcabManager::layOut()
@@ -110,7 +108,7 @@ QGridLayout* VcabManager::fields()
     grid->setVerticalSpacing(shell::SmallSpace);
     grid->setColumnStretch(1, 1);
     for (std::size_t i = 0; i < boxes_.size(); ++i) {
-        auto* const label = named<QLabel>(Fields.at(i).label, this);
+        auto* const label = shell::makeLabel(this, Fields.at(i).label);
         label->setBuddy(boxes_.at(i));
         grid->addWidget(label, static_cast<int>(i), 0);
         grid->addWidget(boxes_.at(i), static_cast<int>(i), 1);

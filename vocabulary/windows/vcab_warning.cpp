@@ -1,8 +1,8 @@
 #include "vocabulary/windows/vcab_warning.h"
 
 #include "shell/windows/captions.h"
+#include "shell/windows/controls.h"
 #include "shell/windows/type.h"
-#include "vocabulary/windows/named.h"
 
 #include <QBoxLayout>
 #include <QLabel>
@@ -43,13 +43,11 @@ void VcabWarning::makeControls()
 {
     setWindowFlags(Qt::Dialog);
     setWindowModality(Qt::ApplicationModal);
-    text_ = named<QLabel>("VcabWarningText", this);
+    text_ = shell::makeLabel(this, "VcabWarningText");
     text_->setWordWrap(true);
-    save_ = named<QPushButton>("VcabWarningSave", this);
-    discard_ = named<QPushButton>("VcabWarningDiscard", this);
-    cancel_ = named<QPushButton>("VcabWarningCancel", this);
-    for (QPushButton* const button : {save_, discard_, cancel_})
-        button->setAutoDefault(true);
+    save_ = shell::makeButton(this, "VcabWarningSave");
+    discard_ = shell::makeButton(this, "VcabWarningDiscard");
+    cancel_ = shell::makeButton(this, "VcabWarningCancel");
 }
 
 void VcabWarning::layOut()

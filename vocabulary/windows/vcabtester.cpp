@@ -5,11 +5,11 @@
 #include "shell/pause.h"
 #include "shell/settings.h"
 #include "shell/windows/captions.h"
+#include "shell/windows/controls.h"
 #include "shell/windows/text.h"
 #include "shell/windows/type.h"
 #include "vocabulary/vocabulary_list.h"
 #include "vocabulary/vocabulary_tester.h"
-#include "vocabulary/windows/named.h"
 #include "vocabulary/windows/vcabtester_menus.h"
 #include "vocabulary/windows/word_box.h"
 #include "vocabulary/windows/word_label.h"
@@ -74,19 +74,17 @@ Vcabtester::~Vcabtester()
 void Vcabtester::makeControls()
 {
     makeVcabtesterMenus(*menuBar_);
-    question_ = named<WordLabel>("VQuestion", this);
-    hint_ = named<WordLabel>("VHint", this);
-    answer_ = named<WordBox>("VcabAnswer", this);
-    omit_ = named<QCheckBox>("VcabTestOmit", this);
-    ok_ = named<QPushButton>("VcabtesterOK", this);
-    cancel_ = named<QPushButton>("VcabtesterCancel", this);
+    question_ = shell::makeControl<WordLabel>(this, "VQuestion");
+    hint_ = shell::makeControl<WordLabel>(this, "VHint");
+    answer_ = shell::makeControl<WordBox>(this, "VcabAnswer");
+    omit_ = shell::makeControl<QCheckBox>(this, "VcabTestOmit");
+    ok_ = shell::makeButton(this, "VcabtesterOK");
+    cancel_ = shell::makeButton(this, "VcabtesterCancel");
     shell::setBoldType(*question_, shell::TitleType);
     shell::setType(*hint_, shell::FormType);
     answer_->setMinimumWidth(AnswerCharacters * answer_->fontMetrics().averageCharWidth());
     question_->setAlignment(Qt::AlignLeft | Qt::AlignBottom);
     hint_->setAlignment(Qt::AlignLeft | Qt::AlignBottom);
-    ok_->setAutoDefault(true);
-    cancel_->setAutoDefault(true);
 }
 
 void Vcabtester::layOut()
@@ -97,7 +95,7 @@ void Vcabtester::layOut()
     rows->addStretch(1);
     rows->addLayout(questionRow());
     rows->addSpacing(shell::LargeSpace);
-    auto* const answerLabel = named<QLabel>("AnswerLabel", this);
+    auto* const answerLabel = shell::makeLabel(this, "AnswerLabel");
     answerLabel->setBuddy(answer_);
     rows->addWidget(answerLabel);
     rows->addWidget(answer_);

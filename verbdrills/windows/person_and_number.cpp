@@ -1,0 +1,66 @@
+#include "verbdrills/windows/person_and_number.h"
+
+#include "shell/windows/controls.h"
+#include "shell/windows/type.h"
+#include "verbdrills/verb_quiz.h"
+
+#include <QButtonGroup>
+#include <QGridLayout>
+#include <QRadioButton>
+
+#include <array>
+#include <span>
+
+namespace verbdrills {
+
+namespace {
+
+constexpr std::array PersonButtons = {"QuizFirst", "QuizSecond", "QuizThird"};
+constexpr std::array NumberButtons = {"QuizSing", "QuizPlural"};
+
+// Numbers of the options in their groups.
+constexpr int FirstPerson = 1;
+constexpr int Singular = 0;
+constexpr int Plural = 1;
+
+} // namespace
+
+PersonAndNumber::PersonAndNumber(QWidget* parent)
+    : QWidget(parent), persons_(new QButtonGroup(this)), numbers_(new QButtonGroup(this))
+{
+    auto* const grid = new QGridLayout(this);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setHorizontalSpacing(shell::LargeSpace);
+    grid->setVerticalSpacing(shell::HairSpace);
+    grid->setColumnStretch(1, 1);
+    const auto addOptions = [&](QButtonGroup* group, std::span<const char* const> names, int first,
+                                int column) {
+        int row = 0;
+        for (const char* const name : names) {
+            auto* const option = shell::makeControl<QRadioButton>(this, name);
+            group->addButton(option, first + row);
+            grid->addWidget(option, row++, column);
+        }
+        connect(group, &QButtonGroup::idClicked, this, &PersonAndNumber::chosen);
+    };
+    addOptions(persons_, PersonButtons, FirstPerson, 0);
+    addOptions(numbers_, NumberButtons, Singular, 1);
+}
+
+int PersonAndNumber::person() const
+{
+    return persons_->checkedId();
+}
+
+std::string_view PersonAndNumber::number() const
+{
+    return numbers_->checkedId() == Plural ? quiz_number::Plural : quiz_number::Sing;
+}
+
+void PersonAndNumber::reset()
+{
+    persons_->button(FirstPerson)->setChecked(true);
+    numbers_->button(Singular)->setChecked(true);
+}
+
+} // namespace verbdrills

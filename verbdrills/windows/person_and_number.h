@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QWidget>
+
+#include <string_view>
+
+class QButtonGroup;
+
+namespace verbdrills {
+
+/// The option buttons of a person and of a number. One of each is always chosen.
+class PersonAndNumber : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit PersonAndNumber(QWidget* parent = nullptr);
+
+    /// 1 to 3.
+    int person() const;
+
+    /// A value of `quiz_number`.
+    std::string_view number() const;
+
+    /// Chooses the first person singular.
+    void reset();
+
+Q_SIGNALS:
+    /// The learner has clicked an option.
+    void chosen();
+
+private:
+    QButtonGroup* persons_;
+    QButtonGroup* numbers_;
+};
+
+} // namespace verbdrills
