@@ -223,21 +223,6 @@ TEST_F(VerbQuizWindows, QuestionShowsBothAnswersInTheLanguage)
     }
 }
 
-TEST_F(VerbQuizWindows, FormCarriesMarksThoughMarksAreOff)
-{
-    openQuiz();
-    include({Velle}, {0, 1});
-    EXPECT_EQ(settings.ShowVowelLength, FlagFalse);
-    bool marked = false;
-    for (int i = 0; i < 60 && !marked; ++i) {
-        clickIn("QuizSkip");
-        EXPECT_EQ(verbQuiz.QuizConjugation, verbs::Velle);
-        marked = text("QuizItem").contains(':');
-    }
-    EXPECT_TRUE(marked);
-    EXPECT_EQ(settings.VowelMark, "");
-}
-
 TEST_F(VerbQuizWindows, OptionsShowWhatIsIncludedAndComeBackToTheForm)
 {
     openQuiz();
