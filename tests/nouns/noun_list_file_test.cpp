@@ -5,7 +5,7 @@
 #include "tests/support/fresh_state.h"
 
 #include <numeric>
-#include <sstream>
+#include <tuple>
 #include <vector>
 
 namespace {
@@ -90,18 +90,11 @@ TEST_F(NounListFile, KeepsWholeNounsWhereverTheFileIsCutOff)
     }
 }
 
-struct BadCount {
-    std::string name;
-    std::string list;
-    int paradigm;
-    int counted;
-};
-
 TEST_F(NounListFile, StopsAtACountThatCannotBe)
 {
     const std::string noun = "f. -ae, stell, star,,,";
     const std::string head = "title\n0\nh,h\n0\nh,h\n";
-    const std::vector<BadCount> files = {
+    const std::vector<std::tuple<std::string, std::string, int, int>> files = {
         {"no number", "title\nmany\n" + noun, FirstDeclension, 0},
         {"negative", "title\n-3\n" + noun, FirstDeclension, 0},
         {"too large a number", "title\n70000\n" + noun, FirstDeclension, 0},
@@ -112,11 +105,11 @@ TEST_F(NounListFile, StopsAtACountThatCannotBe)
         {"headings before the second neuter", head + "0\nh,h\n0\nh,h\n1\nn. -i, sax, rock,,,\n",
          SecondDeclensionNeuter, 0},
     };
-    for (const BadCount& file : files) {
+    for (const auto& [name, list, paradigm, counted] : files) {
         nounList = {};
-        tests::writeFile("nouns.cfg", file.list);
-        EXPECT_FALSE(readNounList("nouns.cfg")) << file.name;
-        EXPECT_EQ(nounList.NounCount[file.paradigm], file.counted) << file.name;
+        tests::writeFile("nouns.cfg", list);
+        EXPECT_FALSE(readNounList("nouns.cfg")) << name;
+        EXPECT_EQ(nounList.NounCount[paradigm], counted) << name;
         for (int draws = 0; draws < 50; ++draws)
             BuildNounParadigms();
     }
