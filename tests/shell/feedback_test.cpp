@@ -43,25 +43,6 @@ TEST_F(Feedback, AsksAgainAfterAWrongAnswer)
     EXPECT_EQ(log, (Log{"show", "score 0% ", "pause", "hide", "ask again"}));
 }
 
-TEST_F(Feedback, ScoresNothingWhileItIsUp)
-{
-    fake.whileWaiting = [this] {
-        shell::giveRightFeedback(*this);
-        shell::giveWrongFeedback(*this);
-    };
-    shell::giveRightFeedback(*this);
-    EXPECT_EQ(shell::settings.AnsweredCount, 1);
-    EXPECT_EQ(log, (Log{"show", "grey", "score 100% ", "move on", "hide", "focus"}));
-}
-
-TEST_F(Feedback, DoesNotMoveOnADrillThatWasLeft)
-{
-    fake.whileWaiting = [] { shell::leaveDrill(); };
-    shell::giveRightFeedback(*this);
-    shell::giveWrongFeedback(*this);
-    EXPECT_EQ(log, (Log{"show", "grey", "score 100% ", "show", "score 50% "}));
-}
-
 TEST_F(Feedback, SoundsOnlyWithSoundOn)
 {
     shell::giveRightFeedback(*this);

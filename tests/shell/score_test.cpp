@@ -2,19 +2,20 @@
 #include "shell/settings.h"
 #include "tests/support/fresh_state.h"
 
+#include <tuple>
+
 namespace {
 
 using Score = tests::FreshState;
 
 TEST_F(Score, RoundsThePercentageHalvesToEven)
 {
-    struct Case {
-        int right;
-        int wrong;
-        std::string text;
-    };
-    for (const auto& [right, wrong, text] : {Case{1, 0, " 100% "}, Case{0, 1, " 0% "}, Case{3, 1, " 75% "},
-                                             Case{2, 1, " 67% "}, Case{1, 7, " 12% "}, Case{3, 5, " 38% "}}) {
+    for (const auto& [right, wrong, text] : {std::tuple{1, 0, " 100% "},
+                                             {0, 1, " 0% "},
+                                             {3, 1, " 75% "},
+                                             {2, 1, " 67% "},
+                                             {1, 7, " 12% "},
+                                             {3, 5, " 38% "}}) {
         shell::resetScore();
         for (int i = 0; i < wrong; ++i)
             shell::scoreWrongAnswer();

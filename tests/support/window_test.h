@@ -6,9 +6,15 @@
 #include <QTest>
 #include <QWidget>
 
+#include <functional>
+#include <memory>
 #include <stdexcept>
 
 class QListWidget;
+
+namespace app {
+class Navigation;
+}
 
 namespace tests {
 
@@ -17,14 +23,30 @@ namespace tests {
 class WindowTest : public FreshState {
 protected:
     WindowTest();
+    ~WindowTest() override;
+
+    /// Starts the program, anew where it runs already. Returns the main window.
+    QWidget& start();
+
+    /// Opens a window by a button or an item of the main window; starts the program where it does not run
+    /// yet.
+    QWidget& open(const QString& buttonOrItem, const QString& window);
+
+    /// Does something once, in the middle of the next pause.
+    void duringPause(std::function<void()> action);
+
+private:
+    std::unique_ptr<app::Navigation> navigation_;
 };
 
 /// The visible window with this object name; nullptr where it is not shown.
 QWidget* shownWindow(const QString& name);
+/// The same; throws std::runtime_error where it is not shown.
+QWidget& shown(const QString& name);
 
 /// A control of a window by its object name. Throws std::runtime_error where there is none.
 template <typename Control>
-Control& control(QWidget& window, const QString& name)
+Control& control(const QWidget& window, const QString& name)
 {
     auto* const found = window.findChild<Control*>(name);
     if (found == nullptr)
@@ -32,8 +54,14 @@ Control& control(QWidget& window, const QString& name)
     return *found;
 }
 
+/// The text of a label, and the texts of a list.
+QString label(const QWidget& window, const QString& name);
+QStringList rows(const QListWidget& list);
+
 /// Clicks a button with the mouse.
 void click(QWidget& window, const QString& button);
+/// Chooses an item of a window's menus.
+void choose(QWidget& window, const QString& item);
 
 /// Clicks a row of a list, or clicks it twice.
 void clickRow(QListWidget& list, int row);
@@ -41,6 +69,8 @@ void doubleClickRow(QListWidget& list, int row);
 
 /// Types into the widget that has the focus in a window, key by key.
 void type(QWidget& window, const QString& text);
+/// Selects what a line holds and types over it.
+void fill(QWidget& window, const QString& line, const QString& text);
 /// Presses a key in the window, which becomes the active one.
 void press(QWidget& window, Qt::Key key);
 

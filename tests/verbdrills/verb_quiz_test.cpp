@@ -45,13 +45,6 @@ TEST_F(VerbQuizRules, EveryFormOfEveryClassIsIdentified)
     }
 }
 
-TEST_F(VerbQuizRules, TheImperativeHasTheSecondPersons)
-{
-    EXPECT_EQ(identificationOf(verbs::FourthConjugation, 62), (Identification{3, 10, 2, Sing}));
-    EXPECT_EQ(identificationOf(verbs::ThirdIoConjugation, 65), (Identification{4, 10, 2, Plural}));
-    EXPECT_EQ(verbQuiz.QuizNumber, "Plural");
-}
-
 TEST_F(VerbQuizRules, EachPartOfAnIdentificationCounts)
 {
     const Identification right = identificationOf(verbs::FourthConjugation, 10);

@@ -80,12 +80,4 @@ TEST_F(VocabularyEdits, BringTheCommasBackThatASaveHadReplaced)
     expectWords({Rome, King});
 }
 
-TEST_F(VocabularyEdits, HaveTheListTestedFromItsBeginning)
-{
-    vocabulary::addWord(Rose);
-    vocabularyList.CurrentWord = 1;
-    vocabulary::acceptWord(1, King);
-    EXPECT_EQ(vocabularyList.CurrentWord, 0);
-}
-
 } // namespace

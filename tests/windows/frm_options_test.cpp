@@ -1,10 +1,6 @@
-#include "app/navigation.h"
 #include "shell/settings.h"
 #include "tests/support/window_test.h"
 
-#include <QAction>
-#include <QLabel>
-#include <QPushButton>
 #include <QSlider>
 #include <QTabBar>
 
@@ -16,19 +12,7 @@ using Texts = std::vector<std::string>;
 
 class FrmOptions : public tests::WindowTest {
 protected:
-    QWidget& open()
-    {
-        navigation_ = std::make_unique<app::Navigation>();
-        navigation_->start();
-        return openFrom("OptionsOptions");
-    }
-
-    static QWidget& openFrom(const QString& item)
-    {
-        control<QAction>(*tests::shownWindow("MainMenu"), item).trigger();
-        QApplication::processEvents();
-        return *tests::shownWindow("frmOptions");
-    }
+    QWidget& openFrom(const char* item) { return open(item, "frmOptions"); }
 
     static void expectFrame(QWidget& window, int chosen)
     {
@@ -38,14 +22,11 @@ protected:
             EXPECT_EQ(frame.isEnabled(), i == chosen) << i;
         }
     }
-
-private:
-    std::unique_ptr<app::Navigation> navigation_;
 };
 
 TEST_F(FrmOptions, OpensFromBothItemsAboveTheMainWindow)
 {
-    QWidget& window = open();
+    QWidget& window = openFrom("OptionsOptions");
     EXPECT_NE(tests::shownWindow("MainMenu"), nullptr);
     EXPECT_EQ(QApplication::activeModalWidget(), &window);
     window.close();
@@ -57,7 +38,7 @@ TEST_F(FrmOptions, OpensFromBothItemsAboveTheMainWindow)
 
 TEST_F(FrmOptions, BringsTheFrameOfTheChosenTabInAndSendsTheOthersOff)
 {
-    QWidget& window = open();
+    QWidget& window = openFrom("OptionsOptions");
     auto& tabs = control<QTabBar>(window, "tbsOptions");
     expectFrame(window, 0);
     tests::press(window, Qt::Key_Right);
@@ -74,7 +55,7 @@ TEST_F(FrmOptions, BringsTheFrameOfTheChosenTabInAndSendsTheOthersOff)
 
 TEST_F(FrmOptions, SaysWhatIsMissingAndClosesWithOkOnly)
 {
-    QWidget& window = open();
+    QWidget& window = openFrom("OptionsOptions");
     tests::click(window, "cmdApply");
     EXPECT_TRUE(window.isVisible());
     EXPECT_EQ(fake.messages, Texts{"Place code here to set options w/o closing dialog!"});
@@ -89,7 +70,7 @@ TEST_F(FrmOptions, SaysWhatIsMissingAndClosesWithOkOnly)
 
 TEST_F(FrmOptions, ShowsTheDelayAndSetsNothing)
 {
-    QWidget& window = open();
+    QWidget& window = openFrom("OptionsOptions");
     auto& slider = control<QSlider>(control<QWidget>(window, "OptionsTab"), "GODelaySlider");
     EXPECT_EQ(slider.value(), 2);
     slider.setFocus();

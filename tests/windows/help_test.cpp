@@ -1,4 +1,3 @@
-#include "app/navigation.h"
 #include "tests/support/window_test.h"
 
 #include <QRegularExpression>
@@ -7,55 +6,37 @@
 #include <QTextBlock>
 #include <QTextBrowser>
 
-#include <functional>
-
 namespace {
 
 using tests::control;
 
 class Help : public tests::WindowTest {
 protected:
-    QTextBrowser& open()
+    QTextBrowser& openGuide()
     {
-        navigation_ = std::make_unique<app::Navigation>();
-        navigation_->start();
-        QApplication::processEvents();
-        tests::press(*tests::shownWindow("MainMenu"), Qt::Key_F1);
-        return control<QTextBrowser>(*tests::shownWindow("Help"), "HelpText");
+        tests::press(start(), Qt::Key_F1);
+        return control<QTextBrowser>(tests::shown("Help"), "HelpText");
     }
 
     QTextBrowser& openSample()
     {
         tests::copySample("morvanti.hlp");
-        return open();
+        return openGuide();
     }
 
-    static void eachFragment(const QTextBrowser& text,
-                             const std::function<void(const QTextBlock&, const QTextCharFormat&)>& visit)
+    // What each part of the text is the target of, and where it leads.
+    static std::pair<QSet<QString>, QSet<QString>> anchorsAndLinksOf(const QTextBrowser& text)
     {
+        std::pair<QSet<QString>, QSet<QString>> found;
         for (QTextBlock block = text.document()->begin(); block.isValid(); block = block.next())
-            for (auto part = block.begin(); !part.atEnd(); ++part)
-                visit(block, part.fragment().charFormat());
-    }
-
-    static QSet<QString> anchorsOf(const QTextBrowser& text)
-    {
-        QSet<QString> anchors;
-        eachFragment(text, [&](const QTextBlock&, const QTextCharFormat& format) {
-            for (const QString& name : format.anchorNames())
-                anchors.insert(name);
-        });
-        return anchors;
-    }
-
-    static QSet<QString> linksOf(const QTextBrowser& text)
-    {
-        QSet<QString> links;
-        eachFragment(text, [&](const QTextBlock&, const QTextCharFormat& format) {
-            if (!format.anchorHref().isEmpty())
-                links.insert(format.anchorHref());
-        });
-        return links;
+            for (auto part = block.begin(); !part.atEnd(); ++part) {
+                const QTextCharFormat format = part.fragment().charFormat();
+                for (const QString& name : format.anchorNames())
+                    found.first.insert(name);
+                if (!format.anchorHref().isEmpty())
+                    found.second.insert(format.anchorHref());
+            }
+        return found;
     }
 
     static QStringList headingsOf(const QTextBrowser& text)
@@ -66,9 +47,6 @@ protected:
                 headings.append(block.text());
         return headings;
     }
-
-private:
-    std::unique_ptr<app::Navigation> navigation_;
 };
 
 TEST_F(Help, ShowsEveryHeadingOfTheGuideOnce)
@@ -82,14 +60,13 @@ TEST_F(Help, ShowsEveryHeadingOfTheGuideOnce)
     const QStringList shown = headingsOf(text);
     EXPECT_GT(shown.size(), 20);
     EXPECT_EQ(shown, written);
-    EXPECT_EQ(anchorsOf(text).size(), shown.size());
+    EXPECT_EQ(anchorsAndLinksOf(text).first.size(), shown.size());
 }
 
 TEST_F(Help, HasATargetForEveryLinkAndALinkToEveryChapter)
 {
     const QTextBrowser& text = openSample();
-    const QSet<QString> anchors = anchorsOf(text);
-    const QSet<QString> links = linksOf(text);
+    const auto [anchors, links] = anchorsAndLinksOf(text);
     for (const QString& link : links) {
         EXPECT_TRUE(link.startsWith(u'#')) << link.toStdString();
         EXPECT_TRUE(anchors.contains(link.mid(1))) << link.toStdString();
@@ -117,14 +94,14 @@ TEST_F(Help, ShowsAPlainTextAsItStands)
 {
     const std::string plain = "MY GUIDE\n\n* a *star* and   blanks\n  # no heading\n<b>x</b>";
     tests::writeFile("morvanti.hlp", plain);
-    const QTextBrowser& text = open();
+    const QTextBrowser& text = openGuide();
     EXPECT_EQ(text.toPlainText().toStdString(), plain);
     EXPECT_TRUE(headingsOf(text).isEmpty());
 }
 
 TEST_F(Help, SaysWhyThereIsNoGuideAndClosesWithEscape)
 {
-    const QTextBrowser& text = open();
+    const QTextBrowser& text = openGuide();
     EXPECT_TRUE(text.toPlainText().contains("morvanti.hlp"));
     tests::press(*tests::shownWindow("Help"), Qt::Key_Escape);
     EXPECT_EQ(tests::shownWindow("Help"), nullptr);

@@ -1,11 +1,10 @@
-#include "app/navigation.h"
 #include "nouns/noun_quiz.h"
 #include "nouns/noun_tables.h"
 #include "shell/settings.h"
 #include "shell/windows/main_menu.h"
 #include "tests/support/window_test.h"
 
-#include <QAction>
+#include <QAbstractButton>
 #include <QCheckBox>
 #include <QLabel>
 #include <QSignalSpy>
@@ -15,8 +14,8 @@ namespace {
 using namespace nouns;
 using tests::click;
 using tests::control;
+using tests::label;
 using tests::press;
-using tests::shownWindow;
 
 constexpr std::array Checks = {"NominativeSingCheck", "GenitiveSingCheck", "DativeSingCheck",
                                "AccusativeSingCheck", "AblativeSingCheck", "NominativePluralCheck",
@@ -29,16 +28,10 @@ protected:
     {
         tests::copySample("verbs.cfg");
         tests::copySample("nouns.cfg");
-        navigation.start();
+        start();
     }
 
-    QWidget& open()
-    {
-        control<QAction>(*shownWindow("MainMenu"), "FileNounQuiz").trigger();
-        return *shownWindow("NounQuiz");
-    }
-
-    static QString text(QWidget& quiz, const char* label) { return control<QLabel>(quiz, label).text(); }
+    QWidget& openQuiz() { return open("FileNounQuiz", "NounQuiz"); }
 
     static void tickRightCases(QWidget& quiz)
     {
@@ -53,140 +46,81 @@ protected:
             Checks, [&](const char* name) { return control<QCheckBox>(quiz, name).isChecked(); }));
     }
 
-    // What the window says while it pauses.
-    void watch(QWidget& quiz, QString& verdict, QString& answer)
+    // Checks the ticks; what the window says of them while it pauses.
+    std::pair<QString, QString> verdictAndAnswer(QWidget& quiz)
     {
-        fake.whileWaiting = [&, process = fake.whileWaiting] {
-            verdict = text(quiz, "NounQuizVerdict");
-            answer = text(quiz, "NounRightAnswer");
-            process();
-        };
+        std::pair<QString, QString> said;
+        duringPause([&] { said = {label(quiz, "NounQuizVerdict"), label(quiz, "NounRightAnswer")}; });
+        click(quiz, "NQOK");
+        return said;
     }
-
-    app::Navigation navigation;
 };
 
 TEST_F(NounQuizWindow, ShowsAFormItsNounAndTheIndexes)
 {
-    QWidget& quiz = open();
+    QWidget& quiz = openQuiz();
     for (int questions = 0; questions < 20; ++questions) {
         const int paradigm = nounQuestion.QuizParadigmIndex + 1;
-        EXPECT_EQ(text(quiz, "NounQuizForm").toStdString(),
+        EXPECT_EQ(label(quiz, "NounQuizForm").toStdString(),
                   nounTables.NounForms[paradigm][nounQuestion.QuizCaseIndex + 1]);
-        EXPECT_EQ(text(quiz, "NounQuizInfo").toStdString(), nounTables.NounCaption[paradigm]);
-        EXPECT_EQ(text(quiz, "NounQuizIndices").toStdString(), drawnIndexes());
-        EXPECT_EQ(text(quiz, "NounRightAnswer"), "");
+        EXPECT_EQ(label(quiz, "NounQuizInfo").toStdString(), nounTables.NounCaption[paradigm]);
+        EXPECT_EQ(label(quiz, "NounQuizIndices").toStdString(), drawnIndexes());
+        EXPECT_EQ(label(quiz, "NounRightAnswer"), "");
         click(quiz, "NQSkip");
     }
 }
 
 TEST_F(NounQuizWindow, JudgesTheTicksAndAsksAnew)
 {
-    QWidget& quiz = open();
-    QString verdict;
-    QString answer;
-    watch(quiz, verdict, answer);
+    QWidget& quiz = openQuiz();
     for (int questions = 0; questions < 20; ++questions) {
-        const std::string words = rightCasesInWords();
+        const QString words = QString::fromStdString(rightCasesInWords());
         tickRightCases(quiz);
-        click(quiz, "NQOK");
-        EXPECT_EQ(verdict, "Right!");
-        EXPECT_EQ(answer.toStdString(), words);
+        EXPECT_EQ(verdictAndAnswer(quiz), std::pair(QString("Right!"), words));
         EXPECT_EQ(ticked(quiz), 0);
-        EXPECT_EQ(text(quiz, "NounRightAnswer"), "");
+        EXPECT_EQ(label(quiz, "NounRightAnswer"), "");
     }
-    click(quiz, "AblativePluralCheck");
-    click(quiz, "AccusativeSingCheck");
-    click(quiz, "GenitivePluralCheck");
-    click(quiz, "NQOK");
-    EXPECT_EQ(verdict, "Wrong!");
+    for (const char* const wrong : {"AblativePluralCheck", "AccusativeSingCheck", "GenitivePluralCheck"})
+        click(quiz, wrong);
+    EXPECT_EQ(verdictAndAnswer(quiz).first, "Wrong!");
 }
 
 TEST_F(NounQuizWindow, NeedsEveryCaseAndTakesATickBack)
 {
-    QWidget& quiz = open();
-    QString verdict;
-    QString answer;
-    watch(quiz, verdict, answer);
-    click(quiz, "NQOK");
-    EXPECT_EQ(verdict, "Wrong!");
-
+    QWidget& quiz = openQuiz();
+    EXPECT_EQ(verdictAndAnswer(quiz).first, "Wrong!");
     tickRightCases(quiz);
     click(quiz, "AblativePluralCheck");
     click(quiz, "AblativePluralCheck");
     press(quiz, Qt::Key_Space);
     press(quiz, Qt::Key_Space);
-    click(quiz, "NQOK");
-    EXPECT_EQ(verdict, "Right!");
+    EXPECT_EQ(verdictAndAnswer(quiz).first, "Right!");
 }
 
 TEST_F(NounQuizWindow, SpeaksTheLanguageOfTheFeedback)
 {
     shell::settings.CurrentLanguage = shell::language::German;
-    QWidget& quiz = open();
-    QString verdict;
-    QString answer;
-    watch(quiz, verdict, answer);
-    click(quiz, "NQOK");
-    EXPECT_EQ(verdict, "Falsch!");
+    QWidget& quiz = openQuiz();
+    EXPECT_EQ(verdictAndAnswer(quiz).first, "Falsch!");
     EXPECT_EQ(control<QAbstractButton>(quiz, "NQCancel").text(), "&Abbruch");
-}
-
-TEST_F(NounQuizWindow, JudgesOnceWhileItPauses)
-{
-    QWidget& quiz = open();
-    QString first;
-    const auto process = fake.whileWaiting;
-    fake.whileWaiting = [&] {
-        const QString form = text(quiz, "NounQuizIndices");
-        click(quiz, "NQOK");
-        click(quiz, "GenitiveSingCheck");
-        EXPECT_EQ(text(quiz, "NounQuizIndices"), form);
-        process();
-    };
-    click(quiz, "NQOK");
-    EXPECT_EQ(fake.waits, 1);
-    EXPECT_EQ(ticked(quiz), 0);
 }
 
 TEST_F(NounQuizWindow, GoesOnAtOnceWhenSkippedInAPause)
 {
-    QWidget& quiz = open();
-    const auto process = fake.whileWaiting;
+    QWidget& quiz = openQuiz();
     QString skippedTo;
-    fake.whileWaiting = [&] {
+    duringPause([&] {
         click(quiz, "NQSkip");
-        skippedTo = text(quiz, "NounQuizForm") + text(quiz, "NounQuizIndices");
-        EXPECT_EQ(text(quiz, "NounQuizVerdict"), "");
-        process();
-    };
+        skippedTo = label(quiz, "NounQuizForm") + label(quiz, "NounQuizIndices");
+        EXPECT_EQ(label(quiz, "NounQuizVerdict"), "");
+    });
     click(quiz, "NQOK");
-    EXPECT_EQ(text(quiz, "NounQuizForm") + text(quiz, "NounQuizIndices"), skippedTo);
-}
-
-TEST_F(NounQuizWindow, IsLeftAtOnceInAPause)
-{
-    for (const auto leave :
-         {+[](QWidget& quiz) { click(quiz, "NQCancel"); },
-          +[](QWidget& quiz) { press(quiz, Qt::Key_Escape); }, +[](QWidget& quiz) { quiz.close(); }}) {
-        QWidget& quiz = open();
-        const QString asked = text(quiz, "NounQuizIndices");
-        const auto process = fake.whileWaiting;
-        fake.whileWaiting = [&] {
-            leave(quiz);
-            process();
-        };
-        click(quiz, "NQOK");
-        fake.whileWaiting = process;
-        EXPECT_EQ(shownWindow("NounQuiz"), nullptr);
-        EXPECT_NE(shownWindow("MainMenu"), nullptr);
-        EXPECT_EQ(text(quiz, "NounQuizIndices"), asked);
-    }
+    EXPECT_EQ(label(quiz, "NounQuizForm") + label(quiz, "NounQuizIndices"), skippedTo);
 }
 
 TEST_F(NounQuizWindow, SetsTheDeclensionOfTheNounInBold)
 {
-    QWidget& quiz = open();
+    QWidget& quiz = openQuiz();
     constexpr std::array labels = {0, 1, 1, 1, 4, 4, 5, 2};
     for (int questions = 0; questions < 40; ++questions) {
         const int drawn = labels.at(static_cast<std::size_t>(nounQuestion.QuizParadigmIndex));
@@ -199,8 +133,8 @@ TEST_F(NounQuizWindow, SetsTheDeclensionOfTheNounInBold)
 
 TEST_F(NounQuizWindow, AsksForTheDelayWindow)
 {
-    const auto* const menu = qobject_cast<shell::MainMenu*>(shownWindow("MainMenu"));
-    QWidget& quiz = open();
+    const auto* const menu = qobject_cast<shell::MainMenu*>(tests::shownWindow("MainMenu"));
+    QWidget& quiz = openQuiz();
     QSignalSpy requests(menu, &shell::MainMenu::delayRequested);
     click(quiz, "NQOptions");
     EXPECT_EQ(requests.count(), 1);

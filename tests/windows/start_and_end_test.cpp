@@ -1,4 +1,3 @@
-#include "app/navigation.h"
 #include "shell/settings.h"
 #include "tests/support/window_test.h"
 #include "verbs/verb_list.h"
@@ -18,14 +17,6 @@ using Lines = std::vector<std::string>;
 
 class StartAndEnd : public tests::WindowTest {
 protected:
-    QWidget& start()
-    {
-        navigation_ = std::make_unique<app::Navigation>();
-        navigation_->start();
-        QApplication::processEvents();
-        return *tests::shownWindow("MainMenu");
-    }
-
     static bool isChecked(QWidget& menu, const QString& name)
     {
         return control<QAction>(menu, name).isChecked();
@@ -38,19 +29,14 @@ protected:
             text += "-1\r\n";
         return text;
     }
-
-private:
-    std::unique_ptr<app::Navigation> navigation_;
 };
 
 TEST_F(StartAndEnd, StartsInAnEmptyFolderAndWritesThirtySixLines)
 {
     QWidget& menu = start();
     EXPECT_TRUE(menu.isMaximized());
-    EXPECT_TRUE(isChecked(menu, "SaveSettings"));
-    EXPECT_TRUE(isChecked(menu, "EnglishLang"));
-    EXPECT_TRUE(isChecked(menu, "SequentialOrder"));
-    EXPECT_TRUE(isChecked(menu, "NGDAABOrder"));
+    for (const char* const item : {"SaveSettings", "EnglishLang", "SequentialOrder", "NGDAABOrder"})
+        EXPECT_TRUE(isChecked(menu, item)) << item;
     EXPECT_EQ(settings.ActiveWindowName, "main");
     settings.SettingsChangeCount = 4;
     tests::click(menu, "ExitButton");
@@ -68,11 +54,9 @@ TEST_F(StartAndEnd, FindsTheSettingsThatItKept)
                      settingsWith("6\r\n-1\r\n-1\r\n 5\r\nGerman\r\nNAGDAb\r\nRandom\r\n 0\r\n-1\r\n"));
     QWidget& menu = start();
     EXPECT_FALSE(menu.isMaximized());
-    EXPECT_TRUE(isChecked(menu, "GermanLang"));
-    EXPECT_TRUE(isChecked(menu, "RandomOrder"));
-    EXPECT_TRUE(isChecked(menu, "NADGABOrder"));
-    EXPECT_TRUE(isChecked(menu, "VowelLengthVal"));
-    EXPECT_TRUE(isChecked(menu, "SoundStatus"));
+    for (const char* const item :
+         {"GermanLang", "RandomOrder", "NADGABOrder", "VowelLengthVal", "SoundStatus"})
+        EXPECT_TRUE(isChecked(menu, item)) << item;
     EXPECT_EQ(settings.VowelMark, ":");
     EXPECT_EQ(fake.sounds, (Lines{"open VELMOR2.WAV", "sound VELMOR2.WAV"}));
 }
@@ -82,10 +66,8 @@ TEST_F(StartAndEnd, TakesOddValuesAsTheyAre)
     tests::writeFile("morvanti.ini",
                      settingsWith("6\r\n 1\r\n 7\r\n 5\r\nenglish\r\nNADGAB\r\nrandom\r\n 9\r\n 0\r\n"));
     QWidget& menu = start();
-    EXPECT_FALSE(isChecked(menu, "EnglishLang"));
-    EXPECT_FALSE(isChecked(menu, "VowelLengthVal"));
-    EXPECT_FALSE(isChecked(menu, "SoundStatus"));
-    EXPECT_FALSE(isChecked(menu, "SaveSettings"));
+    for (const char* const item : {"EnglishLang", "VowelLengthVal", "SoundStatus", "SaveSettings"})
+        EXPECT_FALSE(isChecked(menu, item)) << item;
     EXPECT_TRUE(isChecked(menu, "NGDAABOrder"));
     EXPECT_EQ(settings.VowelMark, "");
     EXPECT_TRUE(fake.sounds.empty());
@@ -98,8 +80,8 @@ TEST_F(StartAndEnd, StripsTheStemsAtStartWhateverTheSettingsSay)
                      settingsWith("6\r\n-1\r\n 0\r\n 5\r\nEnglish\r\nNGDAAb\r\nSequential\r\n 0\r\n-1\r\n"));
     QWidget& menu = start();
     EXPECT_EQ(verbs::verbList.SupineStem[verbs::FirstConjugation][1], "amat");
-    control<QAction>(menu, "VowelLengthVal").trigger();
-    control<QAction>(menu, "VowelLengthVal").trigger();
+    tests::choose(menu, "VowelLengthVal");
+    tests::choose(menu, "VowelLengthVal");
     EXPECT_EQ(verbs::verbList.SupineStem[verbs::FirstConjugation][1], "ama:t");
 }
 
@@ -120,9 +102,9 @@ TEST_F(StartAndEnd, SurvivesFilesOfAnyKind)
 TEST_F(StartAndEnd, SavesNothingWhereItShallNot)
 {
     QWidget& menu = start();
-    control<QAction>(menu, "SoundStatus").trigger();
-    control<QAction>(menu, "SaveSettings").trigger();
-    control<QAction>(menu, "FileExit").trigger();
+    tests::choose(menu, "SoundStatus");
+    tests::choose(menu, "SaveSettings");
+    tests::choose(menu, "FileExit");
     EXPECT_EQ(fake.exitStatus, 0);
     EXPECT_FALSE(std::filesystem::exists("morvanti.ini"));
     EXPECT_TRUE(fake.sounds.empty());
@@ -131,7 +113,7 @@ TEST_F(StartAndEnd, SavesNothingWhereItShallNot)
 TEST_F(StartAndEnd, SoundsOnTheWayOut)
 {
     QWidget& menu = start();
-    control<QAction>(menu, "SoundStatus").trigger();
+    tests::choose(menu, "SoundStatus");
     menu.close();
     EXPECT_EQ(fake.exitStatus, 0);
     EXPECT_FALSE(menu.isVisible());

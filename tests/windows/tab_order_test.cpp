@@ -43,32 +43,17 @@ std::unique_ptr<QWidget> make()
     return window;
 }
 
-const std::vector<MakeWindow> AllWindows = {make<shell::MainMenu>,
-                                            make<shell::About>,
-                                            make<shell::Help>,
-                                            make<shell::DelayInterval>,
-                                            make<verbs::VerbManager>,
-                                            make<verbdrills::ConjugationChoose>,
-                                            make<verbdrills::Conjugation>,
-                                            make<verbdrills::TenseMoodChooser>,
-                                            make<verbdrills::Probatio>,
-                                            make<verbdrills::QuizInclude>,
-                                            make<nouns::DeclinationChoose>,
-                                            make<nouns::PronounChooser>,
-                                            make<nouns::Declination>,
-                                            make<nouns::PronounSingular>,
-                                            make<nouns::NounQuiz>,
-                                            make<nouns::NounHandler>,
-                                            make<vocabulary::Vcabtester>,
-                                            make<vocabulary::VcabManager>,
-                                            make<vocabulary::VcabLoader>,
-                                            make<vocabulary::FileHandler>,
-                                            make<vocabulary::VcabWarning>,
-                                            make<shell::FrmOptions>};
+// clang-format off
+const std::vector<MakeWindow> AllWindows = {
+    make<shell::MainMenu>, make<shell::About>, make<shell::Help>, make<shell::DelayInterval>, make<verbs::VerbManager>,
+    make<verbdrills::ConjugationChoose>, make<verbdrills::Conjugation>, make<verbdrills::TenseMoodChooser>, make<verbdrills::Probatio>, make<verbdrills::QuizInclude>,
+    make<nouns::DeclinationChoose>, make<nouns::PronounChooser>, make<nouns::Declination>, make<nouns::PronounSingular>, make<nouns::NounQuiz>, make<nouns::NounHandler>,
+    make<vocabulary::Vcabtester>, make<vocabulary::VcabManager>, make<vocabulary::VcabLoader>, make<vocabulary::FileHandler>, make<vocabulary::VcabWarning>, make<shell::FrmOptions>};
+// clang-format on
 
 bool takesTabs(const QWidget& widget)
 {
-    return widget.isVisible() && widget.isEnabled() && (widget.focusPolicy() & Qt::TabFocus) != 0 &&
+    return widget.isVisible() && (widget.focusPolicy() & Qt::TabFocus) != 0 &&
            !qobject_cast<const QMenuBar*>(&widget);
 }
 

@@ -1,20 +1,24 @@
-#include "app/navigation.h"
 #include "tests/support/full_disk.h"
 #include "tests/support/window_test.h"
 #include "vocabulary/vocabulary_edits.h"
 #include "vocabulary/vocabulary_list.h"
 
 #include <QAbstractButton>
-#include <QAction>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 
 namespace {
 
+using tests::choose;
 using tests::click;
+using tests::clickRow;
 using tests::control;
+using tests::fill;
+using tests::label;
 using tests::press;
+using tests::rows;
+using tests::shown;
 using tests::shownWindow;
 using tests::type;
 using vocabulary::vocabularyList;
@@ -22,59 +26,35 @@ using vocabulary::WordRecord;
 
 class VcabManagerWindow : public tests::WindowTest {
 protected:
-    QWidget& open()
-    {
-        navigation.start();
-        control<QAction>(*shownWindow("MainMenu"), "FileVcabManager").trigger();
-        return *shownWindow("VcabManager");
-    }
+    QWidget& openManager() { return open("FileVcabManager", "VcabManager"); }
 
     static QListWidget& words(QWidget& manager) { return control<QListWidget>(manager, "VcabManMainForm"); }
-
-    static QStringList rows(const QListWidget& list)
-    {
-        QStringList texts;
-        for (int row = 0; row < list.count(); ++row)
-            texts.append(list.item(row)->text());
-        return texts;
-    }
 
     static QString box(QWidget& manager, const QString& name)
     {
         return control<QLineEdit>(manager, name).text();
     }
 
-    // Selects what a box holds and types over it.
-    static void typeInto(QWidget& window, const QString& name, const QString& text)
+    static void fillIn(QWidget& manager, const WordRecord& record)
     {
-        auto& line = control<QLineEdit>(window, name);
-        line.setFocus();
-        line.selectAll();
-        type(window, text);
-    }
-
-    static void fill(QWidget& manager, const WordRecord& record)
-    {
-        typeInto(manager, "VcabManWord", QString::fromStdString(record.word));
-        typeInto(manager, "VcabManTrans", QString::fromStdString(record.translation));
-        typeInto(manager, "VcabManHint", QString::fromStdString(record.hint));
+        fill(manager, "VcabManWord", QString::fromStdString(record.word));
+        fill(manager, "VcabManTrans", QString::fromStdString(record.translation));
+        fill(manager, "VcabManHint", QString::fromStdString(record.hint));
     }
 
     static void add(QWidget& manager, const WordRecord& record)
     {
-        fill(manager, record);
+        fillIn(manager, record);
         click(manager, "VcabManAdd");
     }
 
     static void saveAs(QWidget& manager, const QString& name)
     {
         click(manager, "VcabManSave");
-        QWidget& files = *shownWindow("FileHandler");
-        typeInto(files, "FHFileName", name);
+        QWidget& files = shown("FileHandler");
+        fill(files, "FHFileName", name);
         click(files, "LoadSaveFH");
     }
-
-    app::Navigation navigation;
 };
 
 const WordRecord Rose{"rosa", "rose", "f."};
@@ -82,55 +62,55 @@ const WordRecord Rome{"Ro:ma", "Rome, Italy", "Romae, f."};
 
 TEST_F(VcabManagerWindow, LeadsAListThroughItsWholeLife)
 {
-    QWidget& manager = open();
+    QWidget& manager = openManager();
     EXPECT_EQ(tests::focusIn(manager), "VcabManWord");
     add(manager, Rose);
     EXPECT_EQ(tests::focusIn(manager), "VcabManWord");
     add(manager, Rome);
     add(manager, {"re:x", "king", "m."});
-    tests::clickRow(words(manager), 2);
+    clickRow(words(manager), 2);
     EXPECT_EQ(box(manager, "VcabManTrans"), "king");
     click(manager, "VcabManDelete");
-    tests::clickRow(words(manager), 0);
-    typeInto(manager, "VcabManTrans", "a rose");
+    clickRow(words(manager), 0);
+    fill(manager, "VcabManTrans", "a rose");
     click(manager, "VcabManAccept");
     EXPECT_EQ(rows(words(manager)), QStringList({"rosa", "Ro:ma"}));
 
     saveAs(manager, "mine");
     EXPECT_EQ(tests::bytesOf("mine.lst"), "rosa,a rose,f.\r\nRo:ma,Rome> Italy,Romae> f.\r\n");
     EXPECT_TRUE(manager.isVisible());
-    tests::clickRow(words(manager), 1);
+    clickRow(words(manager), 1);
     EXPECT_EQ(box(manager, "VcabManTrans"), "Rome> Italy");
     click(manager, "VcabManExit");
     EXPECT_EQ(shownWindow("VcabWarning"), nullptr);
 
-    QWidget& tester = *shownWindow("Vcabtester");
-    control<QAction>(tester, "VcabTesterFileOpen").trigger();
-    QWidget& loader = *shownWindow("VcabLoader");
+    QWidget& tester = shown("Vcabtester");
+    choose(tester, "VcabTesterFileOpen");
+    QWidget& loader = shown("VcabLoader");
     tests::doubleClickRow(control<QListWidget>(loader, "VcabFile"), 0);
     type(tester, "a rose");
     press(tester, Qt::Key_Return);
-    EXPECT_EQ(control<QLabel>(tester, "VQuestion").text(), "Ro:ma");
+    EXPECT_EQ(label(tester, "VQuestion"), "Ro:ma");
 
-    control<QAction>(tester, "VcabTesterEdit").trigger();
+    choose(tester, "VcabTesterEdit");
     click(manager, "VcabManLoad");
-    QWidget& files = *shownWindow("FileHandler");
-    tests::clickRow(control<QListWidget>(files, "FHFileBox"), 0);
+    QWidget& files = shown("FileHandler");
+    clickRow(control<QListWidget>(files, "FHFileBox"), 0);
     EXPECT_EQ(box(files, "FHFileName"), "mine.lst");
     click(files, "LoadSaveFH");
-    tests::clickRow(words(manager), 1);
+    clickRow(words(manager), 1);
     EXPECT_EQ(box(manager, "VcabManTrans"), "Rome, Italy");
     EXPECT_TRUE(fake.messages.empty());
 }
 
 TEST_F(VcabManagerWindow, TakesOverWhatWasTypedBeforeAnotherWordIsChosen)
 {
-    QWidget& manager = open();
+    QWidget& manager = openManager();
     add(manager, Rose);
     add(manager, Rome);
-    tests::clickRow(words(manager), 0);
-    typeInto(manager, "VcabManHint", "rosae, f.");
-    tests::clickRow(words(manager), 1);
+    clickRow(words(manager), 0);
+    fill(manager, "VcabManHint", "rosae, f.");
+    clickRow(words(manager), 1);
     EXPECT_EQ(box(manager, "VcabManWord"), "Ro:ma");
     EXPECT_EQ(vocabularyList.Loaded[1], (WordRecord{"rosa", "rose", "rosae, f."}));
     press(manager, Qt::Key_Up);
@@ -139,19 +119,19 @@ TEST_F(VcabManagerWindow, TakesOverWhatWasTypedBeforeAnotherWordIsChosen)
 
 TEST_F(VcabManagerWindow, TakesOverANewRecordBeforeAnythingElseComes)
 {
-    QWidget& manager = open();
+    QWidget& manager = openManager();
     add(manager, Rose);
-    fill(manager, Rome);
-    tests::clickRow(words(manager), 0);
+    fillIn(manager, Rome);
+    clickRow(words(manager), 0);
     EXPECT_EQ(rows(words(manager)), QStringList({"rosa", "Ro:ma"}));
     EXPECT_EQ(box(manager, "VcabManWord"), "rosa");
     click(manager, "VcabManDelete");
     click(manager, "VcabManDelete");
     EXPECT_EQ(vocabularyList.WordCount, 0);
-    fill(manager, Rome);
+    fillIn(manager, Rome);
     saveAs(manager, "rome.lst");
     EXPECT_EQ(tests::bytesOf("rome.lst"), "Ro:ma,Rome> Italy,Romae> f.\r\n");
-    fill(manager, Rose);
+    fillIn(manager, Rose);
     press(manager, Qt::Key_Escape);
     EXPECT_NE(shownWindow("VcabWarning"), nullptr);
     EXPECT_EQ(vocabularyList.Loaded[2], Rose);
@@ -159,10 +139,10 @@ TEST_F(VcabManagerWindow, TakesOverANewRecordBeforeAnythingElseComes)
 
 TEST_F(VcabManagerWindow, KeepsWhatWasTypedWhenTheRecordIsDeleted)
 {
-    QWidget& manager = open();
+    QWidget& manager = openManager();
     add(manager, Rose);
-    tests::clickRow(words(manager), 0);
-    typeInto(manager, "VcabManWord", "rosula");
+    clickRow(words(manager), 0);
+    fill(manager, "VcabManWord", "rosula");
     click(manager, "VcabManDelete");
     EXPECT_EQ(box(manager, "VcabManWord"), "rosula");
     EXPECT_FALSE(control<QAbstractButton>(manager, "VcabManDelete").isEnabled());
@@ -172,16 +152,16 @@ TEST_F(VcabManagerWindow, KeepsWhatWasTypedWhenTheRecordIsDeleted)
 
 TEST_F(VcabManagerWindow, AddsOrAcceptsWithTheEnterKey)
 {
-    QWidget& manager = open();
+    QWidget& manager = openManager();
     press(manager, Qt::Key_Return);
     EXPECT_EQ(vocabularyList.WordCount, 0);
-    fill(manager, Rose);
+    fillIn(manager, Rose);
     press(manager, Qt::Key_Return);
     EXPECT_EQ(vocabularyList.Loaded[1], Rose);
-    tests::clickRow(words(manager), 0);
+    clickRow(words(manager), 0);
     press(manager, Qt::Key_Return);
     EXPECT_EQ(tests::focusIn(manager), "VcabManWord");
-    typeInto(manager, "VcabManTrans", "a rose");
+    fill(manager, "VcabManTrans", "a rose");
     press(manager, Qt::Key_Return);
     EXPECT_EQ(vocabularyList.Loaded[1].translation, "a rose");
     EXPECT_EQ(vocabularyList.WordCount, 1);
@@ -189,11 +169,11 @@ TEST_F(VcabManagerWindow, AddsOrAcceptsWithTheEnterKey)
 
 TEST_F(VcabManagerWindow, RefusesTheThreeHundredAndFirstWordAndKeepsItsText)
 {
-    QWidget& manager = open();
+    QWidget& manager = openManager();
     add(manager, Rose);
     while (vocabularyList.WordCount < 300)
         vocabulary::addWord(Rose);
-    fill(manager, Rome);
+    fillIn(manager, Rome);
     for (const auto* const way : {"VcabManAdd", "VcabManSave", "VcabManLoad", "VcabManExit"}) {
         fake.messages.clear();
         click(manager, way);
@@ -201,37 +181,37 @@ TEST_F(VcabManagerWindow, RefusesTheThreeHundredAndFirstWordAndKeepsItsText)
         EXPECT_EQ(box(manager, "VcabManTrans"), "Rome, Italy") << way;
         EXPECT_TRUE(manager.isVisible()) << way;
     }
-    tests::clickRow(words(manager), 0);
+    clickRow(words(manager), 0);
     EXPECT_EQ(box(manager, "VcabManWord"), "Ro:ma");
     EXPECT_EQ(vocabularyList.WordCount, 300);
 }
 
 TEST_F(VcabManagerWindow, WarnsBeforeChangesAreLeftUnsaved)
 {
-    QWidget& manager = open();
+    QWidget& manager = openManager();
     add(manager, Rose);
     click(manager, "VcabManExit");
-    press(*shownWindow("VcabWarning"), Qt::Key_F1);
-    press(*shownWindow("Help"), Qt::Key_Escape);
-    press(*shownWindow("VcabWarning"), Qt::Key_Escape);
+    press(shown("VcabWarning"), Qt::Key_F1);
+    press(shown("Help"), Qt::Key_Escape);
+    press(shown("VcabWarning"), Qt::Key_Escape);
     EXPECT_EQ(shownWindow("VcabWarning"), nullptr);
     EXPECT_TRUE(manager.isVisible());
 
     click(manager, "VcabManExit");
-    click(*shownWindow("VcabWarning"), "VcabWarningSave");
+    click(shown("VcabWarning"), "VcabWarningSave");
     EXPECT_EQ(shownWindow("VcabWarning"), nullptr);
-    EXPECT_EQ(control<QAbstractButton>(*shownWindow("FileHandler"), "LoadSaveFH").text(), "&Save");
-    press(*shownWindow("FileHandler"), Qt::Key_Escape);
+    EXPECT_EQ(control<QAbstractButton>(shown("FileHandler"), "LoadSaveFH").text(), "&Save");
+    press(shown("FileHandler"), Qt::Key_Escape);
     EXPECT_TRUE(manager.isVisible());
 
     click(manager, "VcabManLoad");
-    click(*shownWindow("VcabWarning"), "VcabWarningDiscard");
-    EXPECT_EQ(control<QAbstractButton>(*shownWindow("FileHandler"), "LoadSaveFH").text(), "&Load");
-    click(*shownWindow("FileHandler"), "CancelFH");
+    click(shown("VcabWarning"), "VcabWarningDiscard");
+    EXPECT_EQ(control<QAbstractButton>(shown("FileHandler"), "LoadSaveFH").text(), "&Load");
+    click(shown("FileHandler"), "CancelFH");
     EXPECT_EQ(rows(words(manager)), QStringList({"rosa"}));
 
     manager.close();
-    click(*shownWindow("VcabWarning"), "VcabWarningDiscard");
+    click(shown("VcabWarning"), "VcabWarningDiscard");
     EXPECT_FALSE(manager.isVisible());
     EXPECT_NE(shownWindow("Vcabtester"), nullptr);
 }
@@ -240,10 +220,10 @@ TEST_F(VcabManagerWindow, ReturnsWithEverythingWhereASaveFails)
 {
     tests::writeFile("old.lst", "old,bytes,here\r\n");
     std::filesystem::create_directory("folder.lst");
-    QWidget& manager = open();
+    QWidget& manager = openManager();
     add(manager, Rome);
     add(manager, Rose);
-    tests::clickRow(words(manager), 0);
+    clickRow(words(manager), 0);
     const auto expectFailure = [&](const QString& name) {
         fake.messages.clear();
         saveAs(manager, name);
@@ -269,12 +249,12 @@ TEST_F(VcabManagerWindow, ReturnsWithEverythingWhereASaveFails)
 TEST_F(VcabManagerWindow, KeepsTheListWhereAnotherCannotBeLoaded)
 {
     tests::writeFile("cut.lst", "rosa,rose,f.\r\nre:x,king");
-    QWidget& manager = open();
+    QWidget& manager = openManager();
     add(manager, Rome);
     saveAs(manager, "mine");
     click(manager, "VcabManLoad");
-    QWidget& files = *shownWindow("FileHandler");
-    typeInto(files, "FHFileName", "missing");
+    QWidget& files = shown("FileHandler");
+    fill(files, "FHFileName", "missing");
     press(files, Qt::Key_Return);
     EXPECT_EQ(fake.messages, std::vector<std::string>{"missing.lst: No such file or directory"});
     EXPECT_EQ(vocabularyList.Loaded[1], Rome);
@@ -286,11 +266,11 @@ TEST_F(VcabManagerWindow, KeepsTheListWhereAnotherCannotBeLoaded)
 
 TEST_F(VcabManagerWindow, NeedsANameForAFile)
 {
-    QWidget& manager = open();
+    QWidget& manager = openManager();
     click(manager, "VcabManSave");
-    QWidget& files = *shownWindow("FileHandler");
+    QWidget& files = shown("FileHandler");
     for (const auto* const name : {"", "  ", "folder/"}) {
-        typeInto(files, "FHFileName", "x");
+        fill(files, "FHFileName", "x");
         control<QLineEdit>(files, "FHFileName").clear();
         type(files, name);
         EXPECT_FALSE(control<QAbstractButton>(files, "LoadSaveFH").isEnabled()) << name;
@@ -301,42 +281,14 @@ TEST_F(VcabManagerWindow, NeedsANameForAFile)
     EXPECT_TRUE(std::filesystem::is_empty("."));
 }
 
-TEST_F(VcabManagerWindow, IsWalkedThroughWithTheTabKeyAsItStands)
-{
-    const auto expectOrder = [](QWidget& window, const QStringList& names) {
-        control<QWidget>(window, names.front()).setFocus();
-        for (const QString& name : names) {
-            EXPECT_EQ(tests::focusIn(window), name);
-            press(window, Qt::Key_Tab);
-        }
-        EXPECT_EQ(tests::focusIn(window), names.front());
-    };
-    QWidget& manager = open();
-    add(manager, Rose);
-    tests::clickRow(words(manager), 0);
-    expectOrder(manager, {"VcabManMainForm", "VcabManWord", "VcabManTrans", "VcabManHint", "VcabManAccept",
-                          "VcabManAdd", "VcabManDelete", "VcabManLoad", "VcabManSave", "VcabManExit"});
-    click(manager, "VcabManSave");
-    QWidget& files = *shownWindow("FileHandler");
-    control<QLineEdit>(files, "FHFileName").setText("mine");
-    expectOrder(files, {"FHDirBox", "FHFileBox", "FHFileName", "LoadSaveFH", "CancelFH"});
-    press(files, Qt::Key_Escape);
-    click(manager, "VcabManExit");
-    QWidget& warning = *shownWindow("VcabWarning");
-    expectOrder(warning, {"VcabWarningSave", "VcabWarningDiscard", "VcabWarningCancel"});
-    click(warning, "VcabWarningDiscard");
-    expectOrder(*shownWindow("Vcabtester"),
-                {"VcabAnswer", "VcabTestOmit", "VcabtesterOK", "VcabtesterCancel"});
-}
-
 TEST_F(VcabManagerWindow, FindsListsInOtherFolders)
 {
     std::filesystem::create_directory("year one");
     for (const auto* const name : {"b.TXT", "a.lst", "c.voc", "d.doc"})
         tests::writeFile("year one/" + std::string(name), "rosa,rose,f.\r\n");
-    QWidget& manager = open();
+    QWidget& manager = openManager();
     click(manager, "VcabManLoad");
-    QWidget& files = *shownWindow("FileHandler");
+    QWidget& files = shown("FileHandler");
     auto& folders = control<QListWidget>(files, "FHDirBox");
     EXPECT_EQ(rows(folders), QStringList({"..", "year one"}));
     tests::doubleClickRow(folders, 1);
@@ -362,21 +314,19 @@ TEST_F(VcabManagerWindow, FindsListsInOtherFolders)
 TEST_F(VcabManagerWindow, ChangesTheListThatIsTestedAndHasItTestedAnew)
 {
     tests::writeFile("vr-vcab.lst", "rosa,rose,f.\r\nre:x,king,m.\r\n");
-    navigation.start();
-    click(*shownWindow("MainMenu"), "VocabularyButton");
-    QWidget& tester = *shownWindow("Vcabtester");
+    QWidget& tester = open("VocabularyButton", "Vcabtester");
     type(tester, "rose");
     press(tester, Qt::Key_Return);
-    control<QAction>(tester, "VcabTesterEdit").trigger();
-    QWidget& manager = *shownWindow("VcabManager");
+    choose(tester, "VcabTesterEdit");
+    QWidget& manager = shown("VcabManager");
     click(manager, "VcabManExit");
-    EXPECT_EQ(control<QLabel>(tester, "VQuestion").text(), "re:x");
-    control<QAction>(tester, "VcabTesterEdit").trigger();
-    tests::clickRow(words(manager), 0);
+    EXPECT_EQ(label(tester, "VQuestion"), "re:x");
+    choose(tester, "VcabTesterEdit");
+    clickRow(words(manager), 0);
     click(manager, "VcabManDelete");
     click(manager, "VcabManExit");
-    click(*shownWindow("VcabWarning"), "VcabWarningDiscard");
-    EXPECT_EQ(control<QLabel>(tester, "VQuestion").text(), "re:x");
+    click(shown("VcabWarning"), "VcabWarningDiscard");
+    EXPECT_EQ(label(tester, "VQuestion"), "re:x");
     EXPECT_EQ(vocabularyList.CurrentWord, 1);
     EXPECT_EQ(tests::bytesOf("vr-vcab.lst"), "rosa,rose,f.\r\nre:x,king,m.\r\n");
 }
@@ -384,22 +334,18 @@ TEST_F(VcabManagerWindow, ChangesTheListThatIsTestedAndHasItTestedAnew)
 TEST_F(VcabManagerWindow, BeginsANewListFromTheMainWindowUnlessTheLastHasUnsavedChanges)
 {
     tests::writeFile("vr-vcab.lst", "rosa,rose,f.\r\n");
-    navigation.start();
-    QWidget& menu = *shownWindow("MainMenu");
-    click(menu, "VocabularyButton");
-    QWidget& tester = *shownWindow("Vcabtester");
+    QWidget& tester = open("VocabularyButton", "Vcabtester");
     press(tester, Qt::Key_Escape);
-    control<QAction>(menu, "FileVcabManager").trigger();
-    QWidget& manager = *shownWindow("VcabManager");
+    QWidget& manager = openManager();
     EXPECT_EQ(rows(words(manager)), QStringList());
     click(manager, "VcabManExit");
-    control<QAction>(tester, "VcabTesterEdit").trigger();
+    choose(tester, "VcabTesterEdit");
     EXPECT_EQ(rows(words(manager)), QStringList({"rosa"}));
     add(manager, Rome);
     click(manager, "VcabManExit");
-    click(*shownWindow("VcabWarning"), "VcabWarningDiscard");
+    click(shown("VcabWarning"), "VcabWarningDiscard");
     press(tester, Qt::Key_Escape);
-    control<QAction>(menu, "FileVcabManager").trigger();
+    openManager();
     EXPECT_EQ(rows(words(manager)), QStringList({"rosa", "Ro:ma"}));
 }
 

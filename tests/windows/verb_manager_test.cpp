@@ -1,44 +1,30 @@
-#include "app/navigation.h"
 #include "tests/support/window_test.h"
 #include "verbs/verb_list.h"
 
-#include <QAction>
-#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 
 namespace {
 
 using tests::control;
+using tests::fill;
 using verbs::verbList;
 
 class VerbManager : public tests::WindowTest {
 protected:
-    QWidget& open()
+    QWidget& openManager()
     {
         tests::copySample("verbs.cfg");
-        navigation_.start();
-        control<QAction>(*tests::shownWindow("MainMenu"), "FileVerbManager").trigger();
-        return *tests::shownWindow("VerbManager");
-    }
-
-    static void fill(QWidget& manager, const QString& name, const QString& text)
-    {
-        auto& field = control<QLineEdit>(manager, name);
-        field.setFocus();
-        field.selectAll();
-        tests::type(manager, text);
+        return open("FileVerbManager", "VerbManager");
     }
 
     static QListWidget& classes(QWidget& manager) { return control<QListWidget>(manager, "VMConjList"); }
     static QListWidget& verbs(QWidget& manager) { return control<QListWidget>(manager, "VMFormsList"); }
-
-    app::Navigation navigation_;
 };
 
 TEST_F(VerbManager, ListsTheVerbsOfEachClassWithItsEnding)
 {
-    QWidget& manager = open();
+    QWidget& manager = openManager();
     const QStringList first = {"amare", "monere", "regere", "capire", "audire"};
     for (int row = 0; row < first.size(); ++row) {
         tests::clickRow(classes(manager), row);
@@ -50,23 +36,23 @@ TEST_F(VerbManager, ListsTheVerbsOfEachClassWithItsEnding)
 
 TEST_F(VerbManager, FillsTheFieldsFromTheVerbAndPreviewsItsForms)
 {
-    QWidget& manager = open();
+    QWidget& manager = openManager();
     tests::clickRow(classes(manager), 1);
     tests::clickRow(verbs(manager), 4);
     EXPECT_EQ(control<QLineEdit>(manager, "VerbManagerLatinForms0").text(), "mov");
     EXPECT_EQ(control<QLineEdit>(manager, "VerbManagerLatinForms1").text(), "mov");
     EXPECT_EQ(control<QLineEdit>(manager, "VerbManagerLatinForms2").text(), "mot");
     EXPECT_EQ(control<QLineEdit>(manager, "VerbManagerGermanForms3").text(), "moving");
-    EXPECT_EQ(control<QLabel>(manager, "LatInfinitive").text(), "movare");
-    EXPECT_EQ(control<QLabel>(manager, "LatPerfect").text(), "movi");
-    EXPECT_EQ(control<QLabel>(manager, "LatPastParticiple").text(), "motus");
+    EXPECT_EQ(tests::label(manager, "LatInfinitive"), "movare");
+    EXPECT_EQ(tests::label(manager, "LatPerfect"), "movi");
+    EXPECT_EQ(tests::label(manager, "LatPastParticiple"), "motus");
     fill(manager, "VerbManagerLatinForms0", "cant");
-    EXPECT_EQ(control<QLabel>(manager, "LatInfinitive").text(), "cantare");
+    EXPECT_EQ(tests::label(manager, "LatInfinitive"), "cantare");
 }
 
 TEST_F(VerbManager, AddsAVerbOnTheLastRowAndRefusesASixteenth)
 {
-    QWidget& manager = open();
+    QWidget& manager = openManager();
     verbList.Count[verbs::FirstConjugation] = 14;
     tests::clickRow(classes(manager), 1);
     tests::clickRow(classes(manager), 0);
@@ -91,21 +77,19 @@ TEST_F(VerbManager, AddsAVerbOnTheLastRowAndRefusesASixteenth)
 
 TEST_F(VerbManager, KeepsEditsAndMarksWhenVowelLengthIsSwitched)
 {
-    QWidget& manager = open();
+    QWidget& manager = openManager();
     tests::clickRow(verbs(manager), 3);
     fill(manager, "VerbManagerGermanForms0", "summon");
     tests::click(manager, "VerbManagerAdd");
     manager.close();
-    QWidget* const menu = tests::shownWindow("MainMenu");
-    ASSERT_NE(menu, nullptr);
-    control<QAction>(*menu, "VowelLengthVal").trigger();
+    tests::choose(tests::shown("MainMenu"), "VowelLengthVal");
     EXPECT_EQ(verbList.BaseForm[verbs::FirstConjugation][3], "summon");
     EXPECT_EQ(verbList.SupineStem[verbs::FirstConjugation][4], "voca:t");
 }
 
 TEST_F(VerbManager, EndsTheProgramWithItsCancelButton)
 {
-    tests::click(open(), "VerbMangerCancel");
+    tests::click(openManager(), "VerbMangerCancel");
     EXPECT_EQ(fake.exitStatus, 0);
     EXPECT_FALSE(std::filesystem::exists("morvanti.ini"));
 }

@@ -1,4 +1,3 @@
-#include "app/navigation.h"
 #include "shell/settings.h"
 #include "shell/settings_file.h"
 #include "tests/support/window_test.h"
@@ -14,15 +13,14 @@
 
 #include <algorithm>
 #include <array>
-#include <functional>
 #include <initializer_list>
-#include <utility>
 
 namespace {
 
 using platform::FlagFalse;
 using platform::FlagTrue;
 using shell::settings;
+using tests::shown;
 using verbdrills::verbQuiz;
 
 constexpr int Velle = 6;
@@ -30,31 +28,19 @@ constexpr int Ferre = 7;
 
 class VerbQuizWindows : public tests::WindowTest {
 protected:
-    // The quiz as it opens from the main window. The settings are those of a first start where the test sets
-    // nothing else before.
+    // The quiz as it opens from the main window, with the settings of a first start.
     QWidget& openQuiz()
     {
         tests::copySample("verbs.cfg");
-        navigation.start();
+        start();
         return openAgain();
     }
 
-    QWidget& openAgain()
-    {
-        tests::click(shown("MainMenu"), "QuizButton");
-        return shown("Probatio");
-    }
-
-    static QWidget& shown(const QString& name)
-    {
-        QWidget* const window = tests::shownWindow(name);
-        if (window == nullptr)
-            throw std::runtime_error("not shown: " + name.toStdString());
-        return *window;
-    }
+    QWidget& openAgain() { return open("QuizButton", "Probatio"); }
 
     static QWidget& quiz() { return shown("Probatio"); }
-    static QString text(const char* label) { return tests::control<QLabel>(quiz(), label).text(); }
+    static void clickIn(const char* button) { tests::click(quiz(), button); }
+    static QString text(const char* label) { return tests::label(quiz(), label); }
     static QListWidget& list(const char* name) { return tests::control<QListWidget>(quiz(), name); }
     static QRadioButton& option(const char* name) { return tests::control<QRadioButton>(quiz(), name); }
 
@@ -95,7 +81,7 @@ protected:
 
     static void include(std::initializer_list<int> classes, std::initializer_list<int> tenses)
     {
-        tests::click(quiz(), "QuizOptions");
+        clickIn("QuizOptions");
         setTicks("InclConj", 8, classes);
         setTicks("InclTense", 21, tenses);
         tests::click(shown("QuizInclude"), "InclQuiz");
@@ -111,8 +97,6 @@ protected:
         EXPECT_EQ(text("QuizHeading"), "");
         EXPECT_EQ(text("QuizCorrect"), "");
     }
-
-    app::Navigation navigation;
 };
 
 TEST_F(VerbQuizWindows, OpensWithAFormAndAnEmptyAnswer)
@@ -136,7 +120,7 @@ TEST_F(VerbQuizWindows, RightAnswerAsksAnotherFormAndEmptiesTheAnswer)
     include({0, 5}, {0, 1, 2});
     for (int answer = 1; answer <= 12; ++answer) {
         chooseRightAnswer();
-        tests::click(quiz(), "QuizOK");
+        clickIn("QuizOK");
         EXPECT_EQ(settings.RightCount, answer);
         EXPECT_EQ(settings.AnsweredCount, answer);
         EXPECT_EQ(fake.beeps, 2 * (answer + 1));
@@ -152,23 +136,15 @@ TEST_F(VerbQuizWindows, WrongAnswerAsksTheSameFormAgain)
     const QString form = text("QuizItem");
     chooseRightAnswer();
     tests::clickRow(list("QuizConjList"), Ferre);
-    tests::click(quiz(), "QuizOK");
+    clickIn("QuizOK");
     EXPECT_EQ(settings.AnsweredCount, 1);
     EXPECT_EQ(settings.RightCount, 0);
     EXPECT_EQ(text("QuizItem"), form);
     EXPECT_EQ(fake.beeps, 2);
     EXPECT_EQ(list("QuizConjList").currentRow(), Ferre);
     tests::clickRow(list("QuizConjList"), 0);
-    tests::click(quiz(), "QuizOK");
+    clickIn("QuizOK");
     EXPECT_EQ(settings.RightCount, 1);
-}
-
-TEST_F(VerbQuizWindows, ListsWithoutAChoiceAreAWrongAnswer)
-{
-    openQuiz();
-    tests::click(quiz(), "QuizOK");
-    EXPECT_EQ(settings.AnsweredCount, 1);
-    EXPECT_EQ(settings.RightCount, 0);
 }
 
 TEST_F(VerbQuizWindows, IsAnsweredFromTheKeyboard)
@@ -176,70 +152,32 @@ TEST_F(VerbQuizWindows, IsAnsweredFromTheKeyboard)
     openQuiz();
     verbQuiz.QuizRow = 11;
     verbdrills::identifyForm();
-    tests::press(quiz(), Qt::Key_Down);
-    tests::press(quiz(), Qt::Key_Tab);
-    EXPECT_EQ(tests::focusIn(quiz()), "QuizTenseList");
-    tests::press(quiz(), Qt::Key_Down);
-    tests::press(quiz(), Qt::Key_Down);
-    tests::press(quiz(), Qt::Key_Tab);
-    EXPECT_EQ(tests::focusIn(quiz()), "QuizFirst");
-    tests::press(quiz(), Qt::Key_Down);
-    tests::press(quiz(), Qt::Key_Tab);
-    EXPECT_EQ(tests::focusIn(quiz()), "QuizSing");
-    tests::press(quiz(), Qt::Key_Down);
+    for (const auto& [control, steps] :
+         {std::pair{"QuizConjList", 1}, {"QuizTenseList", 2}, {"QuizFirst", 1}, {"QuizSing", 1}}) {
+        EXPECT_EQ(tests::focusIn(quiz()), control);
+        for (int i = 0; i < steps; ++i)
+            tests::press(quiz(), Qt::Key_Down);
+        if (control != std::string_view("QuizSing"))
+            tests::press(quiz(), Qt::Key_Tab);
+    }
     EXPECT_EQ(text("QuizYourAnswer"), "2nd Person Plur, First Conjugation, Imperfect Indicative");
     tests::press(quiz(), Qt::Key_Return);
     EXPECT_EQ(settings.RightCount, 1);
     EXPECT_EQ(settings.AnsweredCount, 1);
 }
 
-TEST_F(VerbQuizWindows, NothingCountsTwiceWhileTheAnswerIsAnnounced)
+TEST_F(VerbQuizWindows, LeavingDuringThePauseForTheOptionsWorksAtOnce)
 {
     openQuiz();
     chooseRightAnswer();
-    int rounds = 0;
-    fake.whileWaiting = [&] {
-        if (++rounds > 1)
-            return;
-        EXPECT_NE(tests::shownWindow("Bravo"), nullptr);
-        for (const char* const button : {"QuizOK", "QuizQuestion", "QuizSkip"})
-            tests::click(quiz(), button);
-        tests::press(quiz(), Qt::Key_Return);
-    };
-    tests::click(quiz(), "QuizOK");
-    EXPECT_EQ(rounds, 1);
-    EXPECT_EQ(settings.AnsweredCount, 1);
+    duringPause([] { clickIn("QuizOptions"); });
+    clickIn("QuizOK");
+    EXPECT_EQ(tests::shownWindow("Probatio"), nullptr);
+    EXPECT_EQ(tests::shownWindow("Bravo"), nullptr);
     EXPECT_EQ(settings.RightCount, 1);
-    EXPECT_EQ(fake.beeps, 4);
-    expectEmptyAnswer();
-}
-
-TEST_F(VerbQuizWindows, LeavingDuringThePauseWorksAtOnce)
-{
-    openQuiz();
-    const auto leaveWhilePausing = [&](const std::function<void()>& leave) {
-        chooseRightAnswer();
-        bool done = false;
-        fake.whileWaiting = [&] {
-            if (!std::exchange(done, true))
-                leave();
-        };
-        tests::click(quiz(), "QuizOK");
-        EXPECT_EQ(tests::shownWindow("Probatio"), nullptr);
-        EXPECT_EQ(tests::shownWindow("Bravo"), nullptr);
-    };
-    leaveWhilePausing([] { tests::click(quiz(), "QuizCancel"); });
     EXPECT_EQ(fake.beeps, 2);
-    openAgain();
-    EXPECT_EQ(settings.AnsweredCount, 0);
-    leaveWhilePausing([] { tests::press(quiz(), Qt::Key_Escape); });
-    openAgain();
-    leaveWhilePausing([] { quiz().close(); });
-    openAgain();
-    leaveWhilePausing([] { tests::click(quiz(), "QuizOptions"); });
-    EXPECT_EQ(settings.RightCount, 1);
     tests::click(shown("QuizInclude"), "InclCancel");
-    EXPECT_EQ(fake.beeps, 10);
+    EXPECT_EQ(fake.beeps, 4);
     expectEmptyAnswer();
     EXPECT_TRUE(verbQuiz.formIsAsked);
 }
@@ -250,34 +188,26 @@ TEST_F(VerbQuizWindows, SkippingAsksAnotherFormAndDoesNotCount)
     chooseRightAnswer();
     clickOption("QuizThird");
     clickOption("QuizPlural");
-    tests::click(quiz(), "QuizQuestion");
-    tests::click(quiz(), "QuizSkip");
+    clickIn("QuizQuestion");
+    clickIn("QuizSkip");
     EXPECT_EQ(fake.beeps, 4);
     EXPECT_EQ(settings.AnsweredCount, 0);
     expectEmptyAnswer();
 }
 
-struct Words {
-    std::string_view language;
-    const char* correctHeading;
-    const char* correct;
-    const char* yours;
-};
-
 TEST_F(VerbQuizWindows, QuestionShowsBothAnswersInTheLanguage)
 {
+    const std::array<const char*, 4> languages[] = {
+        {"French", "Correct Answer", "3rd Person Sing, Third Conjugation (-io), Perfect Indicative",
+         "1st Person Plur, Velle, Passive Future Perfect Indicative"},
+        {"German", "Korrekte Antwort", "3. Person Sing., 3. Konjugation (-io), Perfekt Indikativ",
+         "1. Person Plur., Velle (wollen), Passiv Futur Perfekt Indikativ"},
+        {"Latin", "Responsum rectum", "Persona iii Sing., Conjugatio III (-io), Perfectum Indicativum",
+         "Persona i Plur., Velle, Passivum Futurum Perfectum Indicativum"}};
     openQuiz();
-    for (const Words& words :
-         {Words{"English", "Correct Answer", "3rd Person Sing, Third Conjugation (-io), Perfect Indicative",
-                "1st Person Plur, Velle, Passive Future Perfect Indicative"},
-          Words{"French", "Correct Answer", "3rd Person Sing, Third Conjugation (-io), Perfect Indicative",
-                "1st Person Plur, Velle, Passive Future Perfect Indicative"},
-          Words{"German", "Korrekte Antwort", "3. Person Sing., 3. Konjugation (-io), Perfekt Indikativ",
-                "1. Person Plur., Velle (wollen), Passiv Futur Perfekt Indikativ"},
-          Words{"Latin", "Responsum rectum", "Persona iii Sing., Conjugatio III (-io), Perfectum Indicativum",
-                "Persona i Plur., Velle, Passivum Futurum Perfectum Indicativum"}}) {
-        tests::click(quiz(), "QuizCancel");
-        settings.CurrentLanguage = words.language;
+    for (const auto& [language, heading, correct, yours] : languages) {
+        clickIn("QuizCancel");
+        settings.CurrentLanguage = language;
         openAgain();
         verbQuiz.QuizConjugation = verbs::ThirdIoConjugation;
         verbQuiz.QuizRow = 21;
@@ -285,45 +215,19 @@ TEST_F(VerbQuizWindows, QuestionShowsBothAnswersInTheLanguage)
         tests::clickRow(list("QuizConjList"), Velle);
         tests::clickRow(list("QuizTenseList"), 16);
         clickOption("QuizPlural");
-        tests::click(quiz(), "QuizQuestion");
-        EXPECT_EQ(text("QuizHeading"), words.correctHeading);
-        EXPECT_EQ(text("QuizCorrect"), words.correct);
-        EXPECT_EQ(text("QuizYourAnswer"), words.yours);
+        clickIn("QuizQuestion");
+        EXPECT_EQ(text("QuizHeading"), heading);
+        EXPECT_EQ(text("QuizCorrect"), correct);
+        EXPECT_EQ(text("QuizYourAnswer"), yours);
         EXPECT_EQ(settings.AnsweredCount, 0);
     }
-}
-
-TEST_F(VerbQuizWindows, FormCarriesMarksThoughMarksAreOff)
-{
-    openQuiz();
-    include({Velle}, {0, 1});
-    EXPECT_EQ(settings.ShowVowelLength, FlagFalse);
-    bool marked = false;
-    for (int i = 0; i < 60 && !marked; ++i) {
-        tests::click(quiz(), "QuizSkip");
-        EXPECT_EQ(verbQuiz.QuizConjugation, verbs::Velle);
-        marked = text("QuizItem").contains(':');
-    }
-    EXPECT_TRUE(marked);
-    EXPECT_EQ(settings.VowelMark, "");
-}
-
-TEST_F(VerbQuizWindows, CancelAndTheCloseBoxGoToTheMainWindow)
-{
-    openQuiz();
-    tests::click(quiz(), "QuizCancel");
-    EXPECT_EQ(tests::shownWindow("Probatio"), nullptr);
-    EXPECT_NE(tests::shownWindow("MainMenu"), nullptr);
-    openAgain().close();
-    EXPECT_EQ(tests::shownWindow("Probatio"), nullptr);
-    EXPECT_NE(tests::shownWindow("MainMenu"), nullptr);
 }
 
 TEST_F(VerbQuizWindows, OptionsShowWhatIsIncludedAndComeBackToTheForm)
 {
     openQuiz();
     const QString form = text("QuizItem");
-    tests::click(quiz(), "QuizOptions");
+    clickIn("QuizOptions");
     EXPECT_EQ(tests::shownWindow("Probatio"), nullptr);
     EXPECT_EQ(settings.ActiveWindowName, "quizinclude");
     for (int i = 0; i < 8; ++i)
@@ -338,7 +242,7 @@ TEST_F(VerbQuizWindows, OptionsShowWhatIsIncludedAndComeBackToTheForm)
 TEST_F(VerbQuizWindows, ClassesAreStoredAtOnceAndTensesWithThem)
 {
     openQuiz();
-    tests::click(quiz(), "QuizOptions");
+    clickIn("QuizOptions");
     tick("InclTense", 4, true);
     EXPECT_EQ(settings.QuizTenseInclude[4], FlagFalse);
     tick("InclConj", 3, true);
@@ -353,7 +257,7 @@ TEST_F(VerbQuizWindows, ClassesAreStoredAtOnceAndTensesWithThem)
 TEST_F(VerbQuizWindows, AllAndNoneTickTheBoxesWithoutStoring)
 {
     openQuiz();
-    tests::click(quiz(), "QuizOptions");
+    clickIn("QuizOptions");
     tests::click(shown("QuizInclude"), "InclInclude");
     EXPECT_TRUE(box("InclConj", Ferre).isChecked());
     EXPECT_TRUE(box("InclTense", 20).isChecked());
@@ -374,7 +278,7 @@ TEST_F(VerbQuizWindows, NothingToAskLeadsToTheChoice)
 {
     openQuiz();
     include({5}, {11, 12});
-    tests::click(quiz(), "QuizSkip");
+    clickIn("QuizSkip");
     EXPECT_EQ(tests::shownWindow("Probatio"), nullptr);
     EXPECT_TRUE(tests::control<QLabel>(shown("QuizInclude"), "InclNote").isVisible());
     tests::click(shown("QuizInclude"), "InclQuiz");
@@ -397,7 +301,7 @@ TEST_F(VerbQuizWindows, RightAnswerAfterWhichNothingCanBeAskedLeadsToTheChoice)
     openQuiz();
     include({5}, {11, 12});
     chooseRightAnswer();
-    tests::click(quiz(), "QuizOK");
+    clickIn("QuizOK");
     EXPECT_EQ(settings.RightCount, 1);
     EXPECT_EQ(tests::shownWindow("Bravo"), nullptr);
     EXPECT_EQ(tests::shownWindow("Probatio"), nullptr);
@@ -410,7 +314,7 @@ TEST_F(VerbQuizWindows, AQuizThatStartsWithFerreAloneShowsTheChoice)
     settings.QuizConjInclude[Ferre] = FlagTrue;
     settings.QuizTenseInclude[3] = FlagTrue;
     ASSERT_FALSE(shell::writeSettings(shell::SettingsFileName));
-    navigation.start();
+    start();
     tests::click(shown("MainMenu"), "QuizButton");
     EXPECT_EQ(tests::shownWindow("Probatio"), nullptr);
     tick("InclConj", 1, true);
