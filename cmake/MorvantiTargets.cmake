@@ -4,9 +4,9 @@
 add_library(morvanti_warnings INTERFACE)
 target_compile_options(morvanti_warnings INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast
-    -Wnon-virtual-dtor -Woverloaded-virtual -Wnull-dereference -Wduplicated-cond -Wlogical-op
+    -Wnon-virtual-dtor -Woverloaded-virtual -Wnull-dereference
     # g++ 12 sees overlaps in every std::string that is assigned a literal (its bug 105651).
-    -Wno-restrict)
+    $<$<CXX_COMPILER_ID:GNU>:-Wduplicated-cond;-Wlogical-op;-Wno-restrict>)
 
 # morvanti_rules(NAME SOURCES a.cpp ... USES other ...)
 function(morvanti_rules name)

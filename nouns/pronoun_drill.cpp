@@ -72,7 +72,7 @@ bool askNextCell()
 
 void beginNumber(Case firstCase)
 {
-    pronounDrill.FirstCase = firstCase;
+    pronounDrill.FirstCase = static_cast<std::int16_t>(firstCase);
     pronounDrill.CellDone.fill(platform::FlagFalse);
     ask(inRandomOrder() ? drawCellLeft() : firstWithFormFrom(1));
 }

@@ -113,4 +113,10 @@ std::string decoded(std::string_view bytes)
     return std::string(bytes);
 }
 
+std::string encoded(std::string_view text)
+{
+    std::string bytes(text.starts_with(ByteOrderMark) ? ByteOrderMark : std::string_view{});
+    return bytes.append(text);
+}
+
 } // namespace platform

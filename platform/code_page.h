@@ -14,4 +14,8 @@ std::string fromWindows1252(std::string_view bytes);
 /// The text of a file: UTF-8 where the bytes are UTF-8 (a byte order mark is skipped), else Windows-1252.
 std::string decoded(std::string_view bytes);
 
+/// The bytes of a file that `decoded` gives back as this text, which is UTF-8: the text itself, with a byte
+/// order mark before it where it begins with one of its own.
+std::string encoded(std::string_view text);
+
 } // namespace platform

@@ -54,6 +54,21 @@ void includeFirstWhereNone(Entries& entries, int last)
         entries[0] = FlagTrue;
 }
 
+bool isBlank(char letter)
+{
+    return letter == ' ' || letter == '\t';
+}
+
+// No language of the menu needs quotes. One that a hand has written may: with a comma inside, or a blank at
+// an end, a bare line would not give it back, and the file would not be read to its end.
+std::string languageLine()
+{
+    const std::string& name = settings.CurrentLanguage;
+    const bool needsQuotes = name.find(',') != std::string::npos ||
+                             (!name.empty() && (isBlank(name.front()) || isBlank(name.back())));
+    return needsQuotes ? '"' + name + '"' : name;
+}
+
 } // namespace
 
 bool readSettings(const std::filesystem::path& path)
@@ -106,7 +121,7 @@ std::string settingsText()
     numberLine(settings.ShowVowelLength);
     numberLine(settings.SoundOn);
     numberLine(settings.DelaySeconds);
-    line(settings.CurrentLanguage);
+    line(languageLine());
     line(settings.CaseOrder);
     line(settings.QuestionOrder);
     numberLine(settings.MainWindowState);

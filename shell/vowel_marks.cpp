@@ -4,18 +4,22 @@
 
 namespace shell {
 
-std::string StripOutColons(std::string stem)
+std::string StripOutColons(std::string_view stem)
 {
-    for (std::size_t i = 0; i < stem.size(); ++i)
-        if (stem[i] == LengthMark)
-            stem.erase(i, 1);
-    return stem;
+    std::string stripped;
+    bool afterMark = false;
+    for (const char letter : stem) {
+        const bool mark = letter == LengthMark && !afterMark;
+        if (!mark)
+            stripped += letter;
+        afterMark = mark;
+    }
+    return stripped;
 }
 
 std::string stemAsShown(std::string_view stem)
 {
-    std::string text(stem);
-    return settings.ShowVowelLength == platform::FlagTrue ? text : StripOutColons(std::move(text));
+    return settings.ShowVowelLength == platform::FlagTrue ? std::string(stem) : StripOutColons(stem);
 }
 
 void appendMarked(std::string& form, std::string_view text, std::string_view mark)

@@ -1,5 +1,6 @@
 #include "vocabulary/vocabulary_list.h"
 
+#include "platform/code_page.h"
 #include "platform/file_replacement.h"
 #include "platform/text_file.h"
 #include "vocabulary/vocabulary_edits.h"
@@ -48,9 +49,10 @@ std::optional<platform::Fault> saveList(const std::filesystem::path& path)
         words[number] = withoutCommas(words[number]);
         text += recordLine(words[number]);
     }
-    if (text.size() >= platform::LongestFile)
+    const std::string bytes = platform::encoded(text);
+    if (bytes.size() >= platform::LongestFile)
         return platform::Fault{path.filename().string(), 0, "the list is too long to be read again"};
-    if (const auto fault = platform::replaceFile(path, text))
+    if (const auto fault = platform::replaceFile(path, bytes))
         return fault;
     vocabularyList.Working = words;
     vocabularyList.CurrentWord = 0;

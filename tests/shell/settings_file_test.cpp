@@ -60,6 +60,18 @@ TEST_F(SettingsFile, ReadsWhatItWrote)
     }
 }
 
+TEST_F(SettingsFile, WritesAnUnknownLanguageSoThatItIsReadBack)
+{
+    for (const std::string language : {"Latin, German", " Latin", "Latin\t", ""}) {
+        auto lines = soundLines();
+        lines[3] = '"' + language + '"';
+        ASSERT_TRUE(read(fileOf(lines)));
+        ASSERT_EQ(settings.CurrentLanguage, language);
+        ASSERT_TRUE(read(shell::settingsText())) << language;
+        EXPECT_EQ(settings.CurrentLanguage, language);
+    }
+}
+
 TEST_F(SettingsFile, TakesBlanksAroundNumbersAndQuotesAroundStrings)
 {
     auto lines = soundLines();

@@ -126,11 +126,13 @@ TEST_F(VerbListFile, MayHoldAnythingOrBeMissing)
     for (int i = 0; i < 16; ++i)
         sixteen += verb;
     const std::string endless(5 << 20, 'x');
+    const std::string marks(3 << 20, ':');
     // clang-format off
     const std::vector<std::pair<std::string, int>> cases = {
         {"", 0},                 {"\n\n\n", 0},             {"h,0\n", 0},         {"h,x\n" + verb, 0},
         {"h,-1\n" + verb, 0},    {"h,32768\n" + verb, 0},   {"h,1.5\n" + verb, 0}, {"h,32767\n" + verb, 1},
         {"h,2\n" + verb, 1},     {sixteen, 15},             {endless, 0},         {"h,1\n" + verb + endless, 1},
+        {"h,1\n" + marks + verb, 1},
     };
     // clang-format on
     for (auto* const reader : {verbs::readVerbList, verbs::readVerbListAgain}) {

@@ -70,6 +70,7 @@ TEST_F(VocabularyFile, WritesTheBytesOfARecord)
         {{" a", "b ", "\tc"}, "\" a\",\"b \",\"\tc\"\r\n"},
         {{"say \"ave\"", "", " , "}, "say \"ave\",,\" > \"\r\n"},
         {{"", "", ""}, ",,\r\n"},
+        {{"\uFEFFrosa", "\uFEFF", ""}, "\xEF\xBB\xBF\xEF\xBB\xBFrosa,\xEF\xBB\xBF,\r\n"},
     };
     for (const auto& [record, bytes] : cases) {
         putIntoMemory({record});
@@ -81,8 +82,9 @@ TEST_F(VocabularyFile, WritesTheBytesOfARecord)
 TEST_F(VocabularyFile, ReadsBackWhateverIsStorable)
 {
     for (const std::string text :
-         {"rosa", "", " ", "Rome, Italy", " a, ", "a \"b\" c", "\"a\" b", "\"", " \"a\"", "\"a, b\" ", "a>b",
-          "two\r\nlines", "ē, ō", "\t", "'", ",,,", "a\"", "\"\""}) {
+         {"rosa", "",       " ",         "Rome, Italy", " a, ",         "a \"b\" c",     "\"a\" b",
+          "\"",   " \"a\"", "\"a, b\" ", "a>b",         "two\r\nlines", "ē, ō",          "\t",
+          "'",    ",,,",    "a\"",       "\"\"",        "\uFEFF",       "\uFEFF\uFEFF a"}) {
         const std::string stored = vocabulary::storableText(text);
         EXPECT_EQ(stored.size(), text.size()) << text;
         const WordRecord record{stored, "x" + stored, stored + "x"};
