@@ -45,20 +45,20 @@ void fillFromSamples(const fs::path& folder, const fs::path& samples)
     copy(samples / verbs::VerbListFileName);
 }
 
-std::optional<std::string> enterOwnFolder(const fs::path& samples)
+// Where the own folder cannot be had, the program works where it was started, without lists.
+void enterOwnFolder(const fs::path& samples)
 {
     const fs::path own = ownFolder();
     if (own.empty())
-        return "no folder is given, and the environment does not tell your own";
+        return;
     try {
         fs::create_directories(own);
         if (!samples.empty() && !fs::exists(own / verbs::VerbListFileName))
             fillFromSamples(own, samples);
         fs::current_path(own);
-    } catch (const fs::filesystem_error& error) {
-        return own.string() + ": " + error.code().message();
+    } catch (const fs::filesystem_error&) {
+        return;
     }
-    return {};
 }
 
 } // namespace
@@ -89,9 +89,9 @@ std::optional<std::string> enterWorkingFolder(const std::optional<std::string>& 
         fs::current_path(*folder, error);
         return error ? std::optional(*folder + ": " + error.message()) : std::nullopt;
     }
-    if (fs::exists(verbs::VerbListFileName, error))
-        return {};
-    return enterOwnFolder(samples);
+    if (!fs::exists(verbs::VerbListFileName, error))
+        enterOwnFolder(samples);
+    return {};
 }
 
 } // namespace app

@@ -14,8 +14,8 @@ namespace fs = std::filesystem;
 // Closes the file at the end of its scope; errors that matter are met by `fsync` before.
 class OpenFile {
 public:
-    explicit OpenFile(const fs::path& path, mode_t mode)
-        : descriptor_(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode))
+    explicit OpenFile(const fs::path& path)
+        : descriptor_(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666))
     {
     }
     OpenFile(const OpenFile&) = delete;
@@ -27,6 +27,9 @@ public:
     }
 
     bool isOpen() const { return descriptor_ >= 0; }
+
+    // Whatever the process takes from the files that it makes.
+    void setRights(mode_t mode) const { static_cast<void>(::fchmod(descriptor_, mode)); }
 
     bool write(std::string_view bytes) const
     {
@@ -53,11 +56,16 @@ fs::path finalName(const fs::path& path)
     return error ? path : target;
 }
 
-mode_t modeOf(const fs::path& path)
+std::optional<mode_t> rightsOf(const fs::path& path)
 {
     struct stat status {};
-    constexpr mode_t readableByAll = 0666;
-    return ::stat(path.c_str(), &status) == 0 ? status.st_mode & 07777U : readableByAll;
+    return ::stat(path.c_str(), &status) == 0 ? std::optional<mode_t>(status.st_mode & 07777U) : std::nullopt;
+}
+
+// No name that a learner would give a file.
+fs::path nameWhileWriting(const fs::path& target)
+{
+    return target.parent_path() / ("." + target.filename().string() + ".being-written");
 }
 
 // The system's number for why a file must stay, 0 where nothing forbids to replace it. A rename alone would
@@ -80,13 +88,14 @@ std::optional<Fault> replaceFile(const fs::path& path, std::string_view bytes)
     const fs::path target = finalName(path);
     if (const int reason = reasonNotToReplace(target); reason != 0)
         return failed(reason);
-    fs::path beside = target;
-    beside += ".new";
+    const fs::path beside = nameWhileWriting(target);
     ::unlink(beside.c_str());
 
-    const OpenFile file(beside, modeOf(target));
+    const OpenFile file(beside);
     if (!file.isOpen())
         return failed(errno);
+    if (const auto rights = rightsOf(target))
+        file.setRights(*rights);
     if (file.write(bytes) && ::rename(beside.c_str(), target.c_str()) == 0)
         return {};
     const Fault fault = failed(errno);

@@ -30,10 +30,10 @@ void waitSeconds(const std::function<double()>& seconds, const std::function<boo
         const double now = double{platform.secondsSinceMidnight()};
         const double end = start + seconds();
         pastMidnight = pastMidnight || now < start;
-        const bool sameTimeAgain = pastMidnight && end >= SecondsOfDay && now >= start;
-        if (now >= end || sameTimeAgain)
+        const bool startComesAgain = pastMidnight && end >= SecondsOfDay;
+        if (now >= end || (startComesAgain && now >= start))
             return;
-        platform.waitForEvents(untilReached(pastMidnight ? std::min(start, end) : end, now));
+        platform.waitForEvents(untilReached(startComesAgain ? start : end, now));
     }
 }
 

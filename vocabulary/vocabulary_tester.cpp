@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <filesystem>
 #include <limits>
 
 namespace vocabulary {
@@ -137,7 +138,8 @@ std::string openDefaultList()
 {
     vocabularyTester = {};
     LoadFaults faults = loadList(DefaultListName);
-    faults.unreadable.reset();
+    if (!std::filesystem::exists(DefaultListName))
+        faults.unreadable.reset();
     beginTest();
     return faults.message();
 }
@@ -186,10 +188,10 @@ std::string hintText()
 Judgement judge(const std::string& answer)
 {
     vocabularyTester.LastAnswer = answer;
-    if (vocabularyTester.WordIsAsked != platform::FlagTrue)
-        return Judgement::NothingAsked;
     if (answer == AnswerWish)
         return Judgement::AnswerWanted;
+    if (vocabularyTester.WordIsAsked != platform::FlagTrue)
+        return Judgement::NothingAsked;
     if (answer != expectedAnswer())
         return Judgement::Wrong;
     raise(vocabularyTester.RightAnswers[vocabularyList.CurrentWord]);

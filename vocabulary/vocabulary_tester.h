@@ -62,7 +62,7 @@ struct VocabularyTester {
 extern VocabularyTester vocabularyTester;
 
 /// Resets the tester and begins to test the default list, "vr-vcab.lst" of the working folder. Returns what
-/// the learner is to be told. A default list that is missing or cannot be read is passed over silently, and
+/// the learner is to be told. Where the default list is missing, which is passed over silently, or refused,
 /// the list in memory is tested.
 std::string openDefaultList();
 

@@ -82,7 +82,7 @@ void expectReplaceable()
     const std::string later = "the words of a later day\n";
     EXPECT_FALSE(platform::replaceFile("a.lst", later));
     EXPECT_EQ(tests::bytesOf("a.lst"), later);
-    EXPECT_FALSE(fs::exists("a.lst.new"));
+    EXPECT_FALSE(fs::exists(".a.lst.being-written"));
 }
 
 TEST_F(FileReplacement, WritesExactlyTheBytes)
@@ -90,7 +90,7 @@ TEST_F(FileReplacement, WritesExactlyTheBytes)
     EXPECT_FALSE(platform::replaceFile("a.lst", "one\r\n"));
     EXPECT_FALSE(platform::replaceFile("a.lst", "two\r\nthree\r\n"));
     EXPECT_EQ(tests::bytesOf("a.lst"), "two\r\nthree\r\n");
-    EXPECT_FALSE(fs::exists("a.lst.new"));
+    EXPECT_FALSE(fs::exists(".a.lst.being-written"));
 }
 
 TEST_F(FileReplacement, LeavesTheOldFileWholeOnAFullDisk)
@@ -102,7 +102,7 @@ TEST_F(FileReplacement, LeavesTheOldFileWholeOnAFullDisk)
         ASSERT_TRUE(fault.has_value()) << room;
         EXPECT_EQ(fault->message(), "a.lst: File too large");
         EXPECT_EQ(tests::bytesOf("a.lst"), "the old words\n");
-        EXPECT_FALSE(fs::exists("a.lst.new"));
+        EXPECT_FALSE(fs::exists(".a.lst.being-written"));
     }
 }
 
@@ -116,18 +116,27 @@ TEST_F(FileReplacement, RefusesWhatIsNoFileOrHasNoFolder)
 TEST_F(FileReplacement, KeepsALinkAndTheRightsOfTheFile)
 {
     tests::writeFile("real.lst", "old");
-    fs::permissions("real.lst", fs::perms::owner_read | fs::perms::owner_write);
     fs::create_symlink("real.lst", "link.lst");
-    EXPECT_FALSE(platform::replaceFile("link.lst", "new"));
-    EXPECT_TRUE(fs::is_symlink("link.lst"));
-    EXPECT_EQ(tests::bytesOf("real.lst"), "new");
-    EXPECT_EQ(fs::status("real.lst").permissions(), fs::perms::owner_read | fs::perms::owner_write);
+    for (const auto rights : {fs::perms{0600}, fs::perms{0666}}) {
+        fs::permissions("real.lst", rights);
+        EXPECT_FALSE(platform::replaceFile("link.lst", "new"));
+        EXPECT_TRUE(fs::is_symlink("link.lst"));
+        EXPECT_EQ(tests::bytesOf("real.lst"), "new");
+        EXPECT_EQ(fs::status("real.lst").permissions(), rights);
+    }
+}
+
+TEST_F(FileReplacement, LeavesOtherFilesOfTheLearnerAlone)
+{
+    tests::writeFile("a.lst.new", "another list");
+    EXPECT_FALSE(platform::replaceFile("a.lst", "words"));
+    EXPECT_EQ(tests::bytesOf("a.lst.new"), "another list");
 }
 
 TEST_F(FileReplacement, PassesOverWhatACrashLeftBehind)
 {
-    tests::writeFile("a.lst.new", "half a fi");
-    fs::permissions("a.lst.new", fs::perms::owner_read);
+    tests::writeFile(".a.lst.being-written", "half a fi");
+    fs::permissions(".a.lst.being-written", fs::perms::owner_read);
     EXPECT_FALSE(platform::replaceFile("a.lst", "whole"));
     EXPECT_EQ(tests::bytesOf("a.lst"), "whole");
 }
@@ -138,7 +147,7 @@ TEST_F(FileReplacement, LeavesTheOldFileWholeWhenKilledAtAnyByte)
         tests::writeFile("a.lst", OldBytes);
         ASSERT_TRUE(killedWhileReplacing([&] { killAtByte(written); })) << written;
         EXPECT_EQ(tests::bytesOf("a.lst"), OldBytes) << written;
-        EXPECT_EQ(tests::bytesOf("a.lst.new"), NewBytes.substr(0, written));
+        EXPECT_EQ(tests::bytesOf(".a.lst.being-written"), NewBytes.substr(0, written));
         expectReplaceable();
     }
 }

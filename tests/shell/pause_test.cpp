@@ -46,6 +46,19 @@ TEST_F(Pause, GoesByTheDelayThatIsSetWhileItLasts)
     EXPECT_EQ(fake.waits, 1);
 }
 
+TEST_F(Pause, DoesNotPollAfterTheClockWentBack)
+{
+    bool first = true;
+    fake.whileWaiting = [&] {
+        if (first)
+            fake.clock -= 200;
+        first = false;
+    };
+    shell::settings.DelaySeconds = 100;
+    shell::Pause();
+    EXPECT_LE(fake.waits, 4);
+}
+
 TEST_F(Pause, EndsAtOnceWhenTheDrillIsLeft)
 {
     fake.whileWaiting = [&] {

@@ -159,7 +159,7 @@ TEST_F(VocabularyFile, AndTheListStayWholeWhereSavingFails)
         EXPECT_FALSE(fault->reason.empty()) << path;
         EXPECT_EQ(vocabularyList.Working, before) << path;
         EXPECT_EQ(tests::bytesOf("old.lst"), "old,bytes,here\r\n") << path;
-        EXPECT_FALSE(std::filesystem::exists("old.lst.new")) << path;
+        EXPECT_FALSE(std::filesystem::exists(".old.lst.being-written")) << path;
     };
     tests::writeFile("old.lst", "old,bytes,here\r\n");
     putIntoMemory({{"Roma", "Rome, Italy", "Romae, f."}});

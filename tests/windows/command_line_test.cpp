@@ -72,10 +72,12 @@ TEST_F(WorkingFolder, IsElseTheLearnersOwnFilledOnceWithoutReplacingAnything)
     EXPECT_FALSE(fs::exists("VELMOR2.WAV"));
 }
 
-TEST_F(WorkingFolder, IsNotToBeHadInTheWayOfAFile)
+TEST_F(WorkingFolder, IsTheCurrentOneWhereAFileStandsInTheWayOfTheOwn)
 {
     tests::writeFile("../own", "a file");
-    EXPECT_TRUE(app::enterWorkingFolder({}, samples_).has_value());
+    const fs::path before = fs::current_path();
+    EXPECT_FALSE(app::enterWorkingFolder({}, samples_));
+    EXPECT_EQ(fs::current_path(), before);
 }
 
 } // namespace

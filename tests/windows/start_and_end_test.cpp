@@ -1,3 +1,4 @@
+#include "nouns/noun_list.h"
 #include "shell/settings.h"
 #include "tests/support/window_test.h"
 #include "verbs/verb_list.h"
@@ -46,6 +47,29 @@ TEST_F(StartAndEnd, StartsInAnEmptyFolderAndWritesThirtySixLines)
     EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 36);
     EXPECT_EQ(text.substr(0, text.find("-1\r\n") + 4),
               "6\r\n 0\r\n 0\r\n 2\r\nEnglish\r\nNGDAAb\r\nSequential\r\n 2\r\n-1\r\n");
+}
+
+TEST_F(StartAndEnd, ReadsTheSettingsAfterABrokenVerbListButNoNouns)
+{
+    tests::writeFile("verbs.cfg", "h\nmany\n");
+    tests::copySample("nouns.cfg");
+    tests::writeFile("morvanti.ini",
+                     settingsWith("6\r\n-1\r\n-1\r\n 5\r\nGerman\r\nNAGDAb\r\nRandom\r\n 0\r\n-1\r\n"));
+    EXPECT_TRUE(isChecked(start(), "GermanLang"));
+    for (const auto count : nouns::nounList.NounListCount)
+        EXPECT_EQ(count, 0);
+}
+
+TEST_F(StartAndEnd, TakesTheDefaultsForSettingsThatAreCutOff)
+{
+    std::string text = settingsWith("6\r\n-1\r\n-1\r\n 5\r\nGerman\r\nNAGDAb\r\nRandom\r\n 0\r\n-1\r\n");
+    text.resize(text.size() - 60);
+    tests::writeFile("morvanti.ini", text);
+    QWidget& menu = start();
+    EXPECT_TRUE(isChecked(menu, "EnglishLang"));
+    EXPECT_FALSE(isChecked(menu, "SoundStatus"));
+    tests::click(menu, "ExitButton");
+    EXPECT_EQ(std::ranges::count(tests::bytesOf("morvanti.ini"), '\n'), 36);
 }
 
 TEST_F(StartAndEnd, FindsTheSettingsThatItKept)

@@ -148,6 +148,12 @@ TEST_F(VcabManagerWindow, KeepsWhatWasTypedWhenTheRecordIsDeleted)
     EXPECT_FALSE(control<QAbstractButton>(manager, "VcabManDelete").isEnabled());
     click(manager, "VcabManAdd");
     EXPECT_EQ(vocabularyList.Loaded[1], (WordRecord{"rosula", "rose", "f."}));
+
+    clickRow(words(manager), 0);
+    fill(manager, "VcabManWord", "violet");
+    click(manager, "VcabManDelete");
+    click(manager, "VcabManSave");
+    EXPECT_EQ(vocabularyList.WordCount, 0);
 }
 
 TEST_F(VcabManagerWindow, AddsOrAcceptsWithTheEnterKey)

@@ -267,16 +267,20 @@ void VcabManager::add()
     boxes_.front()->setFocus();
 }
 
-// A text that was typed and not yet accepted outlives the record: it can still be added.
+// A text that was typed and not yet accepted outlives the record: it can still be added, but only by Add.
 void VcabManager::deleteChosen()
 {
     const int number = shown_;
+    const bool edited = boxesAreEdited();
     deleteWord(number);
     listWords();
-    if (boxesAreEdited())
-        markChosen(0);
-    else
+    if (!edited) {
         showRecord(std::min<int>(number, vocabularyList.WordCount));
+        return;
+    }
+    markChosen(0);
+    for (QLineEdit* const box : boxes_)
+        box->setModified(false);
 }
 
 void VcabManager::enterRecord()
