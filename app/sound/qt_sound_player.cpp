@@ -1,9 +1,9 @@
 #include "app/sound/qt_sound_player.h"
 
+#include "app/sound/wave_sound.h"
+
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QSoundEffect>
-#include <QUrl>
 
 #include <algorithm>
 
@@ -12,7 +12,7 @@ namespace app {
 // Sounds must go while the sound system still stands: the plugin itself goes only after it.
 QtSoundPlayer::QtSoundPlayer()
 {
-    connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, [this] { effects_.clear(); });
+    connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, [this] { sounds_.clear(); });
 }
 
 QtSoundPlayer::~QtSoundPlayer() = default;
@@ -20,22 +20,20 @@ QtSoundPlayer::~QtSoundPlayer() = default;
 void QtSoundPlayer::open(const std::string& waveFile)
 {
     const QFileInfo file(QString::fromStdString(waveFile));
-    if (effects_.contains(waveFile) || !file.isFile())
+    if (sounds_.contains(waveFile) || !file.isFile())
         return;
-    auto effect = std::make_unique<QSoundEffect>();
-    effect->setSource(QUrl::fromLocalFile(file.absoluteFilePath()));
-    effects_.emplace(waveFile, std::move(effect));
+    sounds_.emplace(waveFile, std::make_unique<WaveSound>(file.absoluteFilePath()));
 }
 
 void QtSoundPlayer::play(const std::string& waveFile)
 {
-    if (const auto effect = effects_.find(waveFile); effect != effects_.end())
-        effect->second->play();
+    if (const auto sound = sounds_.find(waveFile); sound != sounds_.end())
+        sound->second->play();
 }
 
 bool QtSoundPlayer::isPlaying() const
 {
-    return std::ranges::any_of(effects_, [](const auto& effect) { return effect.second->isPlaying(); });
+    return std::ranges::any_of(sounds_, [](const auto& sound) { return sound.second->isPlaying(); });
 }
 
 } // namespace app

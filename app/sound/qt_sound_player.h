@@ -7,9 +7,9 @@
 #include <map>
 #include <memory>
 
-class QSoundEffect;
-
 namespace app {
+
+class WaveSound;
 
 /// The sound player as Qt Multimedia gives it.
 class QtSoundPlayer : public QObject, public SoundPlayer {
@@ -26,7 +26,7 @@ public:
     bool isPlaying() const override;
 
 private:
-    std::map<std::string, std::unique_ptr<QSoundEffect>> effects_;
+    std::map<std::string, std::unique_ptr<WaveSound>> sounds_;
 };
 
 } // namespace app
