@@ -56,7 +56,7 @@ TEST_F(StartAndEnd, ReadsTheSettingsAfterABrokenVerbListButNoNouns)
     tests::writeFile("morvanti.ini",
                      settingsWith("6\r\n-1\r\n-1\r\n 5\r\nGerman\r\nNAGDAb\r\nRandom\r\n 0\r\n-1\r\n"));
     EXPECT_TRUE(isChecked(start(), "GermanLang"));
-    for (const auto count : nouns::nounList.NounListCount)
+    for (const auto count : nouns::nounList.NounCount)
         EXPECT_EQ(count, 0);
 }
 
