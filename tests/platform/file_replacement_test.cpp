@@ -113,6 +113,26 @@ TEST_F(FileReplacement, RefusesWhatIsNoFileOrHasNoFolder)
     EXPECT_EQ(platform::replaceFile("nowhere/a.lst", "x")->message(), "a.lst: No such file or directory");
 }
 
+// In a process of its own, which may not write where only root may.
+TEST_F(FileReplacement, LeavesTheFileWholeInAFolderThatMayNotBeWritten)
+{
+    tests::writeFile("a.lst", OldBytes);
+    fs::permissions("a.lst", fs::perms{0666});
+    fs::permissions(".", fs::perms{0555});
+    const pid_t child = ::fork();
+    if (child == 0) {
+        constexpr uid_t nobody = 65534;
+        static_cast<void>(::seteuid(nobody));
+        const bool refused = platform::replaceFile("a.lst", NewBytes).has_value();
+        ::_exit(refused ? EXIT_SUCCESS : EXIT_FAILURE);
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    fs::permissions(".", fs::perms{0755});
+    EXPECT_EQ(status, 0);
+    EXPECT_EQ(tests::bytesOf("a.lst"), OldBytes);
+}
+
 TEST_F(FileReplacement, KeepsALinkAndTheRightsOfTheFile)
 {
     tests::writeFile("real.lst", "old");

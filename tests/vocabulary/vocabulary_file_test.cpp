@@ -49,6 +49,10 @@ TEST_F(VocabularyFile, ReadsEveryFormOfARecord)
         const auto file = vocabulary::readVocabularyFile("words.lst");
         EXPECT_EQ(file.records, expected) << bytes;
         EXPECT_FALSE(file.unreadable || file.tooLong || file.cutOff) << bytes;
+
+        putIntoMemory(file.records);
+        EXPECT_FALSE(vocabulary::saveList("again.lst"));
+        EXPECT_EQ(vocabulary::readVocabularyFile("again.lst").records, expected) << bytes;
     }
 }
 

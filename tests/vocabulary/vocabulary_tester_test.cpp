@@ -104,6 +104,28 @@ TEST_F(VocabularyTest, WaitsWhereEveryWordIsLeftOutAndGoesOnOnceOneIsNot)
     }
 }
 
+TEST_F(VocabularyTest, WaitsOnAListOfEmptyWords)
+{
+    for (const auto order : {Sequential, Random}) {
+        vocabularyList.WordCount = 3;
+        vocabulary::beginTest();
+        EXPECT_FALSE(wordIsAsked());
+        nextWords(order, 2);
+        EXPECT_FALSE(wordIsAsked());
+        EXPECT_EQ(vocabulary::judge("?"), Judgement::AnswerWanted);
+        EXPECT_FALSE(fake.exitStatus);
+    }
+}
+
+TEST_F(VocabularyTest, EndsTheProgramEvenAtALearnedWordThatIsOmitted)
+{
+    test(2);
+    vocabularyTester.RightAnswers[2] = 6;
+    omit({2});
+    nextWords(Random, 20);
+    EXPECT_EQ(fake.exitStatus, 0);
+}
+
 TEST_F(VocabularyTest, DrawsEveryWordAndNeverTheSameTwiceRunning)
 {
     test(6);

@@ -1,8 +1,12 @@
+#include "app/application.h"
 #include "app/command_line.h"
 #include "app/working_folder.h"
 #include "tests/support/fresh_state.h"
 
+#include <QEvent>
+
 #include <cstdlib>
+#include <stdexcept>
 #include <vector>
 
 namespace {
@@ -22,6 +26,25 @@ TEST(CommandLine, TakesOneFolderAndKnowsItsOptions)
     EXPECT_EQ(read({"--version"}).answer->substr(0, 9), "morvanti ");
     EXPECT_EQ(read({"-x"}).fault, "unknown option -x");
     EXPECT_TRUE(read({"one", "two"}).fault.has_value());
+}
+
+// What is thrown while an event is handled, such as an index past a table, ends the program with one line.
+TEST(Faults, EndTheProgramWithOneLineAndStatusOne)
+{
+    class Faulty : public QObject {
+        bool event(QEvent*) override { throw std::out_of_range("no such word"); }
+    };
+    const auto run = [] {
+        ::setenv("QT_QPA_PLATFORM", "offscreen", 1);
+        std::string name = "morvanti";
+        char* arguments[] = {name.data(), nullptr};
+        int count = 1;
+        app::Application application(count, arguments);
+        Faulty faulty;
+        QEvent event(QEvent::User);
+        QCoreApplication::sendEvent(&faulty, &event);
+    };
+    EXPECT_EXIT(run(), testing::ExitedWithCode(EXIT_FAILURE), "morvanti: no such word\n$");
 }
 
 class WorkingFolder : public tests::FreshState {
