@@ -258,6 +258,7 @@ TEST_P(BoxDrill, ShowsTheAnswerInRedForOnePauseWithoutCounting)
             EXPECT_EQ(box.text(), right);
             EXPECT_EQ(box.palette().color(QPalette::Text), QColor(Qt::red));
             pressEverything(window);
+            EXPECT_EQ(box.text(), right);
         });
         type(window, "b");
         ask();
@@ -272,6 +273,19 @@ TEST_P(BoxDrill, ShowsTheAnswerInRedForOnePauseWithoutCounting)
         expectShownOnce([&] { click(window, button); });
     EXPECT_EQ(settings.AnsweredCount, 0);
     EXPECT_EQ(&askedBox(window), &box);
+}
+
+TEST_P(BoxDrill, ForgetsTheAnswerShownWhenItIsLeftAndOpenedAnew)
+{
+    QWidget& window = open();
+    duringPause([&] {
+        click(window, drill().quit);
+        tests::doubleClickRow(control<QListWidget>(shown(drill().back), drill().list), 0);
+        EXPECT_EQ(askedBox(window).text(), "");
+        type(window, "a");
+    });
+    type(window, "?");
+    EXPECT_EQ(askedBox(window).text(), "a");
 }
 
 TEST_P(BoxDrill, SendsTheFocusBackToTheBoxAsked)

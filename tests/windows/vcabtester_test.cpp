@@ -10,6 +10,8 @@
 #include <QLineEdit>
 #include <QListWidget>
 
+#include <tuple>
+
 namespace {
 
 using tests::choose;
@@ -184,6 +186,23 @@ TEST_F(VcabtesterWindow, AsksForTheOtherSideAsSoonAsItIsChosen)
     EXPECT_EQ(question(tester), "Rome, Italy");
     choose(tester, "VcabtesterOptionsPromptEnglish");
     EXPECT_EQ(question(tester), "Ro:ma");
+}
+
+TEST_F(VcabtesterWindow, SpeaksTheLanguageThatIsSet)
+{
+    std::filesystem::remove("vr-vcab.lst");
+    start();
+    for (const auto& [language, title, noWord, quit] :
+         {std::tuple{"German", "Wortschatz", "Es gibt kein Wort zum Abfragen.", "&Beenden"},
+          {"Latin", "Verba nostra", "Nullum verbum restat.", "R&everte!"},
+          {"English", "Vocabulary", "There is no word to ask.", "Q&uit"}}) {
+        shell::settings.CurrentLanguage = language;
+        QWidget& tester = openTester();
+        EXPECT_EQ(tester.windowTitle(), title);
+        EXPECT_EQ(question(tester), noWord);
+        EXPECT_EQ(control<QAbstractButton>(tester, "VcabtesterCancel").text(), quit);
+        click(tester, "VcabtesterCancel");
+    }
 }
 
 TEST_F(VcabtesterWindow, OpensAnotherListWithoutCounts)
