@@ -9,6 +9,8 @@
 #include <QTime>
 #include <QTimer>
 
+#include <utility>
+
 namespace app {
 
 float QtPlatform::secondsSinceMidnight() const
@@ -56,13 +58,14 @@ bool QtPlatform::startProgram(const std::string& commandLine)
     return !words.isEmpty() && QProcess::startDetached(words.takeFirst(), words);
 }
 
-void QtPlatform::showMessage(const std::string& text)
+void QtPlatform::showMessage(const std::string& text, std::function<void()> dismissed)
 {
     auto* const box =
         new QMessageBox(QMessageBox::Information, QCoreApplication::applicationName(),
                         QString::fromStdString(text), QMessageBox::Ok, QApplication::activeWindow());
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setTextFormat(Qt::PlainText);
+    QObject::connect(box, &QMessageBox::finished, box, std::move(dismissed));
     box->open();
 }
 

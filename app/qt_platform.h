@@ -14,7 +14,8 @@ public:
     void playSound(const std::string& waveFile) override;
     bool soundIsPlaying() const override;
     bool startProgram(const std::string& commandLine) override;
-    void showMessage(const std::string& text) override;
+    using Platform::showMessage;
+    void showMessage(const std::string& text, std::function<void()> dismissed) override;
     void endProgram(int exitStatus) override;
     bool ending() const override;
 

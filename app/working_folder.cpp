@@ -1,10 +1,13 @@
 #include "app/working_folder.h"
 
+#include "platform/file_replacement.h"
 #include "verbs/verb_list_file.h"
 
 #include <algorithm>
 #include <array>
 #include <cstdlib>
+#include <fstream>
+#include <iterator>
 #include <string_view>
 
 namespace app {
@@ -33,16 +36,25 @@ fs::path variable(const char* name)
     return value == nullptr ? fs::path() : fs::path(value);
 }
 
-// The verb list comes last: while it is missing, the folder is not yet filled.
-void fillFromSamples(const fs::path& folder, const fs::path& samples)
+// Whole or not at all: what is there already stays, and so half a sample would stay for ever.
+bool copySample(const fs::path& sample, const fs::path& folder)
 {
-    const auto copy = [&](const fs::path& sample) {
-        fs::copy_file(sample, folder / sample.filename(), fs::copy_options::skip_existing);
-    };
+    const fs::path copy = folder / sample.filename();
+    if (fs::exists(copy))
+        return true;
+    std::ifstream stream(sample, std::ios::binary);
+    const std::string bytes{std::istreambuf_iterator<char>(stream), {}};
+    return stream && !platform::replaceFile(copy, bytes);
+}
+
+// The verb list comes last: while it is missing, the folder is not yet filled.
+bool fillFromSamples(const fs::path& folder, const fs::path& samples)
+{
     for (const fs::directory_entry& entry : fs::directory_iterator(samples))
-        if (isSample(entry.path()) && entry.path().filename() != verbs::VerbListFileName)
-            copy(entry.path());
-    copy(samples / verbs::VerbListFileName);
+        if (isSample(entry.path()) && entry.path().filename() != verbs::VerbListFileName &&
+            !copySample(entry.path(), folder))
+            return false;
+    return copySample(samples / verbs::VerbListFileName, folder);
 }
 
 // Where the own folder cannot be had, the program works where it was started, without lists.
@@ -53,9 +65,9 @@ void enterOwnFolder(const fs::path& samples)
         return;
     try {
         fs::create_directories(own);
-        if (!samples.empty() && !fs::exists(own / verbs::VerbListFileName))
-            fillFromSamples(own, samples);
-        fs::current_path(own);
+        const bool filled = samples.empty() || fs::exists(own / verbs::VerbListFileName);
+        if (filled || fillFromSamples(own, samples))
+            fs::current_path(own);
     } catch (const fs::filesystem_error&) {
         return;
     }

@@ -35,7 +35,7 @@ public:
     void playSound(const std::string&) override {}
     bool soundIsPlaying() const override { return false; }
     bool startProgram(const std::string&) override { return false; }
-    void showMessage(const std::string&) override {}
+    void showMessage(const std::string&, std::function<void()>) override {}
     void endProgram(int) override {}
     bool ending() const override { return false; }
 };

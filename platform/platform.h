@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 #include <string>
 
 namespace platform {
@@ -36,8 +37,9 @@ public:
     /// Starts a program, minimised, with a command line; false when it cannot be started.
     virtual bool startProgram(const std::string& commandLine) = 0;
 
-    /// Shows a message box and returns at once.
-    virtual void showMessage(const std::string& text) = 0;
+    /// Shows a message box and returns at once. `dismissed` is called when the box was closed.
+    virtual void showMessage(const std::string& text, std::function<void()> dismissed) = 0;
+    void showMessage(const std::string& text) { showMessage(text, [] {}); }
 
     /// Ends the program as soon as the running event is worked off, with this exit status.
     virtual void endProgram(int exitStatus) = 0;

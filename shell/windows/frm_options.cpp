@@ -12,6 +12,7 @@
 #include <QFormLayout>
 #include <QFrame>
 #include <QLabel>
+#include <QPointer>
 #include <QPushButton>
 #include <QSlider>
 #include <QTabBar>
@@ -92,7 +93,7 @@ void FrmOptions::fillDelayFrame(QFrame& frame)
     auto* const page = new QWidget;
     page->setObjectName(QStringLiteral("OptionsTab"));
     slider_->setObjectName(QStringLiteral("GODelaySlider"));
-    slider_->setRange(ShortestDelay, LongestDelay);
+    slider_->setRange(0, LongestDelay);
     auto* const label = new QLabel;
     label->setObjectName(QStringLiteral("GODelayLabel"));
     label->setBuddy(slider_);
@@ -210,8 +211,11 @@ void FrmOptions::apply()
 
 void FrmOptions::confirm()
 {
-    platform::current().showMessage("Place code here to set options and close dialog!");
-    hide();
+    platform::current().showMessage("Place code here to set options and close dialog!",
+                                    [window = QPointer<FrmOptions>(this)] {
+                                        if (window != nullptr)
+                                            window->hide();
+                                    });
 }
 
 void FrmOptions::closeBoxPressed()

@@ -62,7 +62,7 @@ constexpr std::array MainMenuCaptions = {
     row("FileVerbManager",    "Ve&rb List...",            "Ve&rbliste...",                      "Liste des ve&rbes...",                    "Lista de ve&rbos...",              "Index &verborum..."),
     row("FileVcabManager",    "V&ocabulary Lists...",     "W&ortlisten...",                     "Listes de v&ocabulaire...",               "Listas de vo&cabulario...",        "Indices v&ocabulorum..."),
     row("OptionsOptions",     "&More Options...",         "&Weitere Optionen...",               "Autres opt&ions...",                      "&Más opciones...",                 "&Aliae optiones..."),
-    row("OptionsOptionsForm", "Options &Window...",       "O&ptionsfenster...",                 "&Fenêtre des options...",                 "&Ventana de opciones...",          "&Fenestra optionum..."),
+    row("OptionsOptionsForm", "Options &Window...",       "O&ptionsfenster...",                 "&Fenêtre des options...",                 "Ventana de opc&iones...",          "&Fenestra optionum..."),
     row("NGDAABOrder",        "&Nom. Gen. Dat. Acc. Abl.", "&Nom. Gen. Dat. Akk. Abl.",         "&Nom. Gén. Dat. Acc. Abl.",               "&Nom. Gen. Dat. Ac. Abl.",         "&Nom. Gen. Dat. Acc. Abl."),
     row("NADGABOrder",        "Nom. &Acc. Gen. Dat. Abl.", "Nom. &Akk. Gen. Dat. Abl.",         "Nom. &Acc. Gén. Dat. Abl.",               "Nom. &Ac. Gen. Dat. Abl.",         "Nom. &Acc. Gen. Dat. Abl."),
 };

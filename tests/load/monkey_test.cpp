@@ -12,6 +12,7 @@
 
 #include <cstdlib>
 #include <random>
+#include <utility>
 
 namespace {
 
@@ -47,7 +48,7 @@ protected:
         fake.messages.clear();
         shell::settings = {};
         app::Navigation navigation;
-        // Half of the pauses are filled with further events.
+        // Most pauses are filled with further events.
         fake.whileWaiting = [this] {
             QApplication::processEvents();
             for (int i = below(6); i > 0 && depth_ < 4; --i)
@@ -64,6 +65,8 @@ protected:
         if (events_-- <= 0 || fake.exitStatus)
             return;
         ++depth_;
+        if (const auto dismiss = std::exchange(fake.dismissMessage, {}))
+            dismiss();
         if (QWidget* const window = anyWindow())
             actOn(*window);
         QApplication::processEvents();

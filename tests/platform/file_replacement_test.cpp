@@ -1,5 +1,6 @@
 #include "platform/file_replacement.h"
 #include "tests/support/fresh_state.h"
+#include "tests/support/full_disk.h"
 
 #include <array>
 #include <csignal>
@@ -7,7 +8,6 @@
 #include <linux/filter.h>
 #include <linux/seccomp.h>
 #include <sys/prctl.h>
-#include <sys/resource.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -17,24 +17,6 @@ namespace {
 namespace fs = std::filesystem;
 
 using FileReplacement = tests::FreshState;
-
-// As long as it lives, no file can grow past so many bytes: what a full disk does.
-class FullDisk {
-public:
-    explicit FullDisk(rlim_t bytes)
-    {
-        std::signal(SIGXFSZ, SIG_IGN);
-        ::getrlimit(RLIMIT_FSIZE, &before_);
-        const rlimit small = {bytes, before_.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &small);
-    }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-    ~FullDisk() { ::setrlimit(RLIMIT_FSIZE, &before_); }
-
-private:
-    rlimit before_{};
-};
 
 const std::string OldBytes = "the old words\n";
 const std::string NewBytes(100, 'x');
@@ -97,7 +79,7 @@ TEST_F(FileReplacement, LeavesTheOldFileWholeOnAFullDisk)
 {
     tests::writeFile("a.lst", "the old words\n");
     for (const rlim_t room : {rlim_t{0}, rlim_t{1}, rlim_t{99}}) {
-        const FullDisk disk(room);
+        const tests::FullDisk disk(room);
         const auto fault = platform::replaceFile("a.lst", std::string(100, 'x'));
         ASSERT_TRUE(fault.has_value()) << room;
         EXPECT_EQ(fault->message(), "a.lst: File too large");
@@ -175,7 +157,8 @@ TEST_F(FileReplacement, LeavesTheOldFileWholeWhenKilledAtAnyByte)
 TEST_F(FileReplacement, LeavesTheOldOrTheNewFileWholeWhenKilledAtAnyStep)
 {
     const std::array steps = {std::pair{SYS_openat, OldBytes}, std::pair{SYS_write, OldBytes},
-                              std::pair{SYS_fsync, OldBytes}, std::pair{SYS_close, NewBytes}};
+                              std::pair{SYS_fsync, OldBytes}, std::pair{SYS_rename, OldBytes},
+                              std::pair{SYS_close, NewBytes}};
     for (const auto& [step, left] : steps) {
         tests::writeFile("a.lst", OldBytes);
         ASSERT_TRUE(killedWhileReplacing([&, call = step] { killAtCall(call); })) << step;

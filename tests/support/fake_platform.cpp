@@ -1,6 +1,7 @@
 #include "tests/support/fake_platform.h"
 
 #include <cmath>
+#include <utility>
 
 namespace tests {
 
@@ -48,9 +49,10 @@ bool FakePlatform::startProgram(const std::string& commandLine)
     return programsStart;
 }
 
-void FakePlatform::showMessage(const std::string& text)
+void FakePlatform::showMessage(const std::string& text, std::function<void()> dismissed)
 {
     messages.push_back(text);
+    dismissMessage = std::move(dismissed);
 }
 
 void FakePlatform::endProgram(int status)

@@ -24,6 +24,8 @@ public:
     /// "open right.wav", "sound right.wav" and so on.
     std::vector<std::string> sounds;
     std::vector<std::string> messages;
+    /// Closes the last message, as the learner does.
+    std::function<void()> dismissMessage;
     std::vector<std::string> programs;
     bool programsStart = false;
     std::optional<int> exitStatus;
@@ -35,7 +37,8 @@ public:
     void playSound(const std::string& waveFile) override;
     bool soundIsPlaying() const override;
     bool startProgram(const std::string& commandLine) override;
-    void showMessage(const std::string& text) override;
+    using Platform::showMessage;
+    void showMessage(const std::string& text, std::function<void()> dismissed) override;
     void endProgram(int status) override;
     bool ending() const override;
 };

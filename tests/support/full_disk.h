@@ -5,14 +5,13 @@
 
 namespace tests {
 
-/// As long as it lives, no file can grow past a few bytes: writing fails as on a full disk.
+/// As long as it lives, no file can grow past so many bytes: writing fails as on a full disk.
 class FullDisk {
 public:
-    FullDisk() : handler_(std::signal(SIGXFSZ, SIG_IGN))
+    explicit FullDisk(rlim_t bytes = 5) : handler_(std::signal(SIGXFSZ, SIG_IGN))
     {
         ::getrlimit(RLIMIT_FSIZE, &before_);
-        constexpr rlim_t fewBytes = 5;
-        const rlimit full{fewBytes, before_.rlim_max};
+        const rlimit full{bytes, before_.rlim_max};
         ::setrlimit(RLIMIT_FSIZE, &full);
     }
     FullDisk(const FullDisk&) = delete;

@@ -2,6 +2,7 @@
 #include "app/command_line.h"
 #include "app/working_folder.h"
 #include "tests/support/fresh_state.h"
+#include "tests/support/full_disk.h"
 
 #include <QEvent>
 
@@ -93,6 +94,20 @@ TEST_F(WorkingFolder, IsElseTheLearnersOwnFilledOnceWithoutReplacingAnything)
     fs::current_path("..");
     EXPECT_FALSE(app::enterWorkingFolder({}, samples_));
     EXPECT_FALSE(fs::exists("VELMOR2.WAV"));
+}
+
+TEST_F(WorkingFolder, IsFilledWholeAtTheNextStartWhereTheDiskWasFull)
+{
+    const fs::path before = fs::current_path();
+    {
+        const tests::FullDisk disk(1);
+        EXPECT_FALSE(app::enterWorkingFolder({}, samples_));
+    }
+    EXPECT_EQ(fs::current_path(), before);
+    EXPECT_TRUE(fs::is_empty(app::ownFolder()));
+    EXPECT_FALSE(app::enterWorkingFolder({}, samples_));
+    EXPECT_EQ(tests::bytesOf("verbs.cfg"), "verbs");
+    EXPECT_EQ(tests::bytesOf("VELMOR2.WAV"), "sound");
 }
 
 TEST_F(WorkingFolder, IsTheCurrentOneWhereAFileStandsInTheWayOfTheOwn)

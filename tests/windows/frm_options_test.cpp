@@ -60,8 +60,10 @@ TEST_F(FrmOptions, SaysWhatIsMissingAndClosesWithOkOnly)
     EXPECT_TRUE(window.isVisible());
     EXPECT_EQ(fake.messages, Texts{"Place code here to set options w/o closing dialog!"});
     tests::click(window, "cmdOK");
-    EXPECT_FALSE(window.isVisible());
     EXPECT_EQ(fake.messages.back(), "Place code here to set options and close dialog!");
+    EXPECT_TRUE(window.isVisible());
+    fake.dismissMessage();
+    EXPECT_FALSE(window.isVisible());
     openFrom("OptionsOptions");
     tests::click(window, "cmdCancel");
     EXPECT_FALSE(window.isVisible());
@@ -80,9 +82,11 @@ TEST_F(FrmOptions, ShowsTheDelayAndSetsNothing)
     tests::click(window, "cmdOK");
     EXPECT_EQ(settings.DelaySeconds, 2);
     EXPECT_EQ(settings.SettingsChangeCount, 0);
-    settings.DelaySeconds = 7;
-    openFrom("OptionsOptions");
-    EXPECT_EQ(slider.value(), 7);
+    for (const auto seconds : {0, 7}) {
+        settings.DelaySeconds = static_cast<std::int16_t>(seconds);
+        openFrom("OptionsOptions");
+        EXPECT_EQ(slider.value(), seconds);
+    }
 }
 
 } // namespace

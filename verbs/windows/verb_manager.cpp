@@ -63,7 +63,7 @@ QString textOf(const std::array<QLineEdit*, Size>& fields, std::size_t index)
 
 VerbManager::VerbManager()
     : Window("VerbManager", "verbmanager"), classes_(new QListWidget), verbs_(new QListWidget),
-      add_(new QPushButton(QStringLiteral("&Add"))), cancel_(new QPushButton(QStringLiteral("End &Program")))
+      add_(new QPushButton(QStringLiteral("&Add"))), cancel_(new QPushButton(QStringLiteral("En&d Program")))
 {
     setWindowTitle(QStringLiteral("Verbs"));
     makeControls();
