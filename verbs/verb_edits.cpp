@@ -41,13 +41,13 @@ auto editOf(int verbClass, int number)
         edits, [=](const Edit& edit) { return edit.verbClass == verbClass && edit.number == number; });
 }
 
-// A stem that was left as it stood while marks were not shown takes its marks from the list.
-void keepMarks(VerbRecord& edited, const VerbRecord& listed)
+// A stem that was left as it stood while marks were not shown takes its marks from the verb before the edit.
+void keepMarks(VerbRecord& edited, const VerbRecord& before)
 {
     for (std::string VerbRecord::*const stem :
          {&VerbRecord::presentStem, &VerbRecord::perfectStem, &VerbRecord::supineStem})
-        if (edited.*stem == shell::StripOutColons(listed.*stem))
-            edited.*stem = listed.*stem;
+        if (edited.*stem == shell::StripOutColons(before.*stem))
+            edited.*stem = before.*stem;
 }
 
 } // namespace
@@ -58,13 +58,16 @@ VerbEdit editVerb(int verbClass, int number, const VerbRecord& verb)
         return VerbEdit::NoPresentStem;
     if (number > MostVerbs)
         return VerbEdit::ListFull;
-    bool added = number > verbList.Count[verbClass];
+    Edit edit{verbClass, number, verb, number > verbList.Count[verbClass],
+              settings.ShowVowelLength == platform::FlagTrue};
     if (const auto before = editOf(verbClass, number); before != edits.end()) {
-        added = added || before->added;
+        edit.added = edit.added || before->added;
+        if (!edit.marksShown)
+            keepMarks(edit.verb, before->verb);
         edits.erase(before);
     }
-    edits.push_back({verbClass, number, verb, added, settings.ShowVowelLength == platform::FlagTrue});
-    store(edits.back());
+    store(edit);
+    edits.push_back(edit);
     return VerbEdit::Stored;
 }
 

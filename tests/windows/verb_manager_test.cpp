@@ -12,11 +12,9 @@ using verbs::verbList;
 
 class VerbManager : public tests::WindowTest {
 protected:
-    QWidget& openManager()
-    {
-        tests::copySample("verbs.cfg");
-        return open("FileVerbManager", "VerbManager");
-    }
+    VerbManager() { tests::copySample("verbs.cfg"); }
+
+    QWidget& openManager() { return open("FileVerbManager", "VerbManager"); }
 
     static QListWidget& classes(QWidget& manager) { return control<QListWidget>(manager, "VMConjList"); }
     static QListWidget& verbs(QWidget& manager) { return control<QListWidget>(manager, "VMFormsList"); }
@@ -85,6 +83,51 @@ TEST_F(VerbManager, KeepsEditsAndMarksWhenVowelLengthIsSwitched)
     tests::choose(tests::shown("MainMenu"), "VowelLengthVal");
     EXPECT_EQ(verbList.BaseForm[verbs::FirstConjugation][3], "summon");
     EXPECT_EQ(verbList.SupineStem[verbs::FirstConjugation][4], "voca:t");
+}
+
+TEST_F(VerbManager, KeepsTheMarksOfAnEditThatIsEditedWhileNoneAreShown)
+{
+    QWidget& menu = start();
+    tests::choose(menu, "VowelLengthVal");
+    QWidget& manager = openManager();
+    tests::clickRow(verbs(manager), 3);
+    fill(manager, "VerbManagerLatinForms2", "lau:dat");
+    tests::click(manager, "VerbManagerAdd");
+    manager.close();
+    tests::choose(menu, "VowelLengthVal");
+    openManager();
+    tests::clickRow(verbs(manager), 3);
+    EXPECT_EQ(control<QLineEdit>(manager, "VerbManagerLatinForms2").text(), "laudat");
+    fill(manager, "VerbManagerGermanForms0", "extol");
+    tests::click(manager, "VerbManagerAdd");
+    manager.close();
+    EXPECT_EQ(verbList.SupineStem[verbs::FirstConjugation][4], "laudat");
+    tests::choose(menu, "VowelLengthVal");
+    EXPECT_EQ(verbList.SupineStem[verbs::FirstConjugation][4], "lau:dat");
+    EXPECT_EQ(verbList.BaseForm[verbs::FirstConjugation][3], "extol");
+}
+
+TEST_F(VerbManager, KeepsWhatWasTypedAndNotAddedYet)
+{
+    QWidget& manager = openManager();
+    const auto base = [&] { return control<QLineEdit>(manager, "VerbManagerGermanForms0").text(); };
+    const auto choose = [&](int verbClass, int row) {
+        tests::clickRow(classes(manager), verbClass);
+        tests::clickRow(verbs(manager), row);
+    };
+    const QString listed = base();
+    fill(manager, "VerbManagerGermanForms0", "adore");
+    choose(1, 15);
+    fill(manager, "VerbManagerGermanForms0", "sing");
+    choose(0, 0);
+    EXPECT_EQ(base(), "adore");
+    choose(2, 15);
+    EXPECT_EQ(base(), "");
+    manager.close();
+    openManager();
+    EXPECT_EQ(base(), listed);
+    choose(1, 15);
+    EXPECT_EQ(base(), "sing");
 }
 
 TEST_F(VerbManager, EndsTheProgramWithItsCancelButton)

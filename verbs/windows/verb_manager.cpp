@@ -5,7 +5,6 @@
 #include "shell/windows/text.h"
 #include "shell/windows/type.h"
 #include "verbs/verb_edits.h"
-#include "verbs/verb_list.h"
 
 #include <QBoxLayout>
 #include <QGridLayout>
@@ -15,6 +14,7 @@
 #include <QPushButton>
 
 #include <algorithm>
+#include <iterator>
 
 namespace verbs {
 
@@ -52,11 +52,12 @@ constexpr std::array<StemField, 3> StemFields = {{{"&Present stem", "LatInfiniti
 constexpr std::array TranslationCaptions = {"&Base form", "Pas&t", "Past pa&rticiple", "Prese&nt participle"};
 
 constexpr auto NewItem = "** Add New Item Here **";
+constexpr int NewVerb = -1;
 
 template <std::size_t Size>
-QString textOf(const std::array<QLineEdit*, Size>& fields, std::size_t index)
+std::string textOf(const std::array<QLineEdit*, Size>& fields, std::size_t index)
 {
-    return fields.at(index)->text();
+    return fields.at(index)->text().toStdString();
 }
 
 } // namespace
@@ -99,35 +100,10 @@ void VerbManager::makeControls()
 
 void VerbManager::layOut()
 {
-    auto* const fields = new QGridLayout;
-    fields->setHorizontalSpacing(shell::MediumSpace);
-    fields->setVerticalSpacing(shell::SmallSpace);
-    int row = 0;
-    const auto addField = [&](const char* caption, QLineEdit* field, QLabel* preview) {
-        auto* const label = new QLabel(QLatin1String(caption));
-        label->setBuddy(field);
-        fields->addWidget(label, row, 0);
-        fields->addWidget(field, row, 1);
-        if (preview != nullptr)
-            fields->addWidget(preview, row, 2);
-        ++row;
-    };
-    for (std::size_t i = 0; i < latin_.size(); ++i)
-        addField(StemFields.at(i).caption, latin_.at(i), previews_.at(i));
-    for (std::size_t i = 0; i < translations_.size(); ++i)
-        addField(TranslationCaptions.at(i), translations_.at(i), nullptr);
-    fields->setColumnStretch(1, 2);
-    fields->setColumnStretch(2, 1);
-
-    auto* const buttons = new QHBoxLayout;
-    buttons->addWidget(add_);
-    buttons->addStretch();
-    buttons->addWidget(cancel_);
-
     auto* const right = new QVBoxLayout;
-    right->addLayout(fields);
+    right->addLayout(fieldGrid());
     right->addStretch();
-    right->addLayout(buttons);
+    right->addLayout(buttonRow());
 
     auto* const columns = new QHBoxLayout(centredBlock(LargestBlock));
     columns->setContentsMargins(shell::LargeSpace, shell::LargeSpace, shell::LargeSpace, shell::LargeSpace);
@@ -135,31 +111,68 @@ void VerbManager::layOut()
     columns->addWidget(classes_, 2);
     columns->addWidget(verbs_, 2);
     columns->addLayout(right, 5);
+    setTabs();
+}
 
-    QWidget* before = classes_;
-    const auto tabTo = [&](QWidget* next) {
-        setTabOrder(before, next);
-        before = next;
+QGridLayout* VerbManager::fieldGrid()
+{
+    auto* const grid = new QGridLayout;
+    grid->setHorizontalSpacing(shell::MediumSpace);
+    grid->setVerticalSpacing(shell::SmallSpace);
+    const auto addField = [grid](int row, const char* caption, QLineEdit* field) {
+        auto* const label = new QLabel(QLatin1String(caption));
+        label->setBuddy(field);
+        grid->addWidget(label, row, 0);
+        grid->addWidget(field, row, 1);
     };
-    tabTo(verbs_);
-    std::ranges::for_each(latin_, tabTo);
-    std::ranges::for_each(translations_, tabTo);
-    tabTo(add_);
-    tabTo(cancel_);
+    int row = 0;
+    for (std::size_t i = 0; i < latin_.size(); ++i, ++row) {
+        addField(row, StemFields.at(i).caption, latin_.at(i));
+        grid->addWidget(previews_.at(i), row, 2);
+    }
+    for (std::size_t i = 0; i < translations_.size(); ++i, ++row)
+        addField(row, TranslationCaptions.at(i), translations_.at(i));
+    grid->setColumnStretch(1, 2);
+    grid->setColumnStretch(2, 1);
+    return grid;
+}
+
+QBoxLayout* VerbManager::buttonRow()
+{
+    auto* const row = new QHBoxLayout;
+    row->addWidget(add_);
+    row->addStretch();
+    row->addWidget(cancel_);
+    return row;
+}
+
+void VerbManager::setTabs()
+{
+    QWidgetList order = {classes_, verbs_};
+    std::ranges::copy(latin_, std::back_inserter(order));
+    std::ranges::copy(translations_, std::back_inserter(order));
+    order << add_ << cancel_;
+    for (qsizetype i = 1; i < order.size(); ++i)
+        setTabOrder(order.at(i - 1), order.at(i));
 }
 
 void VerbManager::connectControls()
 {
     connect(classes_, &QListWidget::currentRowChanged, this, &VerbManager::listVerbs);
     connect(verbs_, &QListWidget::currentRowChanged, this, &VerbManager::showVerb);
-    for (const QLineEdit* const field : latin_)
+    for (const QLineEdit* const field : latin_) {
         connect(field, &QLineEdit::textChanged, this, &VerbManager::showPreviews);
+        connect(field, &QLineEdit::textEdited, this, &VerbManager::keepDraft);
+    }
+    for (const QLineEdit* const field : translations_)
+        connect(field, &QLineEdit::textEdited, this, &VerbManager::keepDraft);
     connect(add_, &QPushButton::clicked, this, &VerbManager::addVerb);
     connect(cancel_, &QPushButton::clicked, this, &VerbManager::endRequested);
 }
 
 void VerbManager::open()
 {
+    std::erase_if(drafts_, [](const auto& draft) { return draft.first.second != NewVerb; });
     classes_->setCurrentRow(0);
     listVerbs();
     showInMainWindowState();
@@ -169,6 +182,20 @@ void VerbManager::open()
 int VerbManager::chosenClass() const
 {
     return Classes.at(static_cast<std::size_t>(classes_->currentRow())).verbClass;
+}
+
+VerbManager::DraftPlace VerbManager::chosenPlace() const
+{
+    const int row = verbs_->currentRow();
+    return {chosenClass(), row == verbs_->count() - 1 ? NewVerb : row};
+}
+
+VerbRecord VerbManager::typedVerb() const
+{
+    VerbRecord verb{textOf(latin_, 0), textOf(latin_, 1), textOf(latin_, 2), {}};
+    for (std::size_t i = 0; i < translations_.size(); ++i)
+        verb.translations.at(i) = textOf(translations_, i);
+    return verb;
 }
 
 void VerbManager::listVerbs()
@@ -185,8 +212,10 @@ void VerbManager::showVerb(int row)
 {
     if (row < 0)
         return;
-    const bool isNew = row == verbs_->count() - 1;
-    const VerbRecord verb = isNew ? VerbRecord{} : verbAt(chosenClass(), row + 1);
+    const auto [verbClass, place] = chosenPlace();
+    const VerbRecord listed = place == NewVerb ? VerbRecord{} : verbAt(verbClass, row + 1);
+    const auto draft = drafts_.find({verbClass, place});
+    const VerbRecord& verb = draft == drafts_.end() ? listed : draft->second;
     latin_[0]->setText(shell::fromUtf8(verb.presentStem));
     latin_[1]->setText(shell::fromUtf8(verb.perfectStem));
     latin_[2]->setText(shell::fromUtf8(verb.supineStem));
@@ -198,7 +227,13 @@ void VerbManager::showVerb(int row)
 void VerbManager::showPreviews()
 {
     for (std::size_t i = 0; i < latin_.size(); ++i)
-        previews_.at(i)->setText(textOf(latin_, i) + QLatin1String(StemFields.at(i).ending));
+        previews_.at(i)->setText(latin_.at(i)->text() + QLatin1String(StemFields.at(i).ending));
+}
+
+void VerbManager::keepDraft()
+{
+    if (verbs_->currentRow() >= 0)
+        drafts_.insert_or_assign(chosenPlace(), typedVerb());
 }
 
 void VerbManager::addVerb()
@@ -206,14 +241,7 @@ void VerbManager::addVerb()
     const int row = verbs_->currentRow();
     if (row < 0)
         return;
-    VerbRecord verb{textOf(latin_, 0).toStdString(),
-                    textOf(latin_, 1).toStdString(),
-                    textOf(latin_, 2).toStdString(),
-                    {}};
-    for (std::size_t i = 0; i < translations_.size(); ++i)
-        verb.translations.at(i) = textOf(translations_, i).toStdString();
-
-    switch (editVerb(chosenClass(), row + 1, verb)) {
+    switch (editVerb(chosenClass(), row + 1, typedVerb())) {
     case VerbEdit::NoPresentStem:
         platform::current().showMessage("A verb needs a present stem.");
         return;
@@ -223,6 +251,7 @@ void VerbManager::addVerb()
     case VerbEdit::Stored:
         break;
     }
+    drafts_.erase(chosenPlace());
     listVerbs();
     verbs_->setCurrentRow(row);
 }

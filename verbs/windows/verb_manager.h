@@ -1,9 +1,14 @@
 #pragma once
 
 #include "shell/windows/window.h"
+#include "verbs/verb_list.h"
 
 #include <array>
+#include <map>
+#include <utility>
 
+class QBoxLayout;
+class QGridLayout;
 class QLabel;
 class QLineEdit;
 class QListWidget;
@@ -12,7 +17,8 @@ class QPushButton;
 namespace verbs {
 
 /// Shows the verb lists by class and lets the learner change and add verbs. The changes are kept in memory:
-/// the list file is never written.
+/// the list file is never written. What was typed and not added stays with its verb as long as the window is
+/// shown, a new verb as long as the program runs.
 class VerbManager : public shell::Window {
     Q_OBJECT
 
@@ -35,12 +41,21 @@ protected:
 private:
     void makeControls();
     void layOut();
+    QGridLayout* fieldGrid();
+    QBoxLayout* buttonRow();
+    void setTabs();
     void connectControls();
     void listVerbs();
     void showVerb(int row);
     void showPreviews();
+    void keepDraft();
     void addVerb();
     int chosenClass() const;
+    VerbRecord typedVerb() const;
+
+    // A class, and the row of a verb of it; -1 for the new verb.
+    using DraftPlace = std::pair<int, int>;
+    DraftPlace chosenPlace() const;
 
     QListWidget* classes_;
     QListWidget* verbs_;
@@ -49,6 +64,8 @@ private:
     std::array<QLineEdit*, 4> translations_{};
     QPushButton* add_;
     QPushButton* cancel_;
+
+    std::map<DraftPlace, VerbRecord> drafts_;
 };
 
 } // namespace verbs
