@@ -150,8 +150,7 @@ void Declination::placeRows()
 
 void Declination::open()
 {
-    shell::applyDesignedCaptions(*this, Captions);
-    shell::applyCaptions(*this, Captions);
+    shell::applyDesignedOrCurrentCaptions(*this, Captions);
     placeRows();
     drawDeclension();
     showNoun();

@@ -134,8 +134,7 @@ void PronounSingular::placeRows()
 
 void PronounSingular::open()
 {
-    shell::applyDesignedCaptions(*this, Captions);
-    shell::applyCaptions(*this, Captions);
+    shell::applyDesignedOrCurrentCaptions(*this, Captions);
     placeRows();
     beginPronouns();
     heading_->setText(

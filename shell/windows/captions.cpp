@@ -58,6 +58,12 @@ void applyDesignedCaptions(QWidget& window, std::span<const Caption> captions)
     applyIn(language::English, window, captions);
 }
 
+void applyDesignedOrCurrentCaptions(QWidget& window, std::span<const Caption> captions)
+{
+    applyDesignedCaptions(window, captions);
+    applyCaptions(window, captions);
+}
+
 void fillList(QListWidget& list, std::span<const LanguageTexts> rows)
 {
     list.clear();

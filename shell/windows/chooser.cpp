@@ -91,8 +91,7 @@ void Chooser::open()
 
 void Chooser::fill()
 {
-    applyDesignedCaptions(*this, captions_);
-    applyCaptions(*this, captions_);
+    applyDesignedOrCurrentCaptions(*this, captions_);
     fillList(*list_, rows_);
     list_->setAccessibleName(windowTitle());
     ok_->setEnabled(beginsAtOk());

@@ -96,8 +96,7 @@ void DelayInterval::connectControls()
 
 void DelayInterval::open()
 {
-    applyDesignedCaptions(*this, Captions);
-    applyCaptions(*this, Captions);
+    applyDesignedOrCurrentCaptions(*this, Captions);
     scroll_->setAccessibleName(windowTitle());
     scroll_->setValue(scrollAtFirst());
     showLength(scroll_->value());

@@ -168,8 +168,7 @@ void FrmOptions::open()
 
 void FrmOptions::showCaptions()
 {
-    applyDesignedCaptions(*this, Captions);
-    applyCaptions(*this, Captions);
+    applyDesignedOrCurrentCaptions(*this, Captions);
     for (std::size_t tab = 0; tab < Tabs.size(); ++tab)
         tabs_->setTabText(static_cast<int>(tab), fromUtf8(Tabs.at(tab).designedOrCurrent()));
     tabs_->setAccessibleName(windowTitle());

@@ -164,6 +164,14 @@ TEST_F(VcabtesterWindow, SaysThatThereIsNoWordWithoutADefaultList)
     EXPECT_EQ(fake.exitStatus, 0);
 }
 
+TEST_F(VcabtesterWindow, SaysWhyTheDefaultListCannotBeRead)
+{
+    std::filesystem::remove("vr-vcab.lst");
+    std::filesystem::create_symlink("vr-vcab.lst", "vr-vcab.lst");
+    EXPECT_EQ(question(openTester()), "There is no word to ask.");
+    EXPECT_EQ(fake.messages, std::vector<std::string>{"vr-vcab.lst: Too many levels of symbolic links"});
+}
+
 TEST_F(VcabtesterWindow, EndsTheProgramWithoutSavingOnALearnedWordAtRandom)
 {
     tests::writeFile("vr-vcab.lst", "rosa,rose,f.");
@@ -195,6 +203,7 @@ TEST_F(VcabtesterWindow, SpeaksTheLanguageThatIsSet)
     for (const auto& [language, title, noWord, quit] :
          {std::tuple{"German", "Wortschatz", "Es gibt kein Wort zum Abfragen.", "&Beenden"},
           {"Latin", "Verba nostra", "Nullum verbum restat.", "R&everte!"},
+          {"Italian", "Vocabulary", "There is no word to ask.", "Q&uit"},
           {"English", "Vocabulary", "There is no word to ask.", "Q&uit"}}) {
         shell::settings.CurrentLanguage = language;
         QWidget& tester = openTester();

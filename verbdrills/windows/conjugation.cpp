@@ -119,8 +119,7 @@ QGridLayout* Conjugation::answerGrid()
 
 void Conjugation::open()
 {
-    shell::applyDesignedCaptions(*this, Captions);
-    shell::applyCaptions(*this, Captions);
+    shell::applyDesignedOrCurrentCaptions(*this, Captions);
     emptyRound();
     scoreLabel()->clear();
     if (shell::settings.QuestionOrder == shell::question_order::Random &&

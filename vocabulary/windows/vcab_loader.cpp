@@ -75,7 +75,7 @@ void VcabLoader::connectControls()
 
 void VcabLoader::open()
 {
-    shell::applyCaptions(*this, Captions);
+    shell::applyDesignedOrCurrentCaptions(*this, Captions);
     files_->setAccessibleName(windowTitle());
     files_->clear();
     files_->addItems(listFilesIn(QDir::current()));

@@ -164,7 +164,7 @@ void VcabManager::open()
 
 void VcabManager::comeBack()
 {
-    shell::applyCaptions(*this, Captions);
+    shell::applyDesignedOrCurrentCaptions(*this, Captions);
     words_->setAccessibleName(windowTitle());
     listWords();
     showRecord(shown_);

@@ -75,7 +75,7 @@ void VcabWarning::connectControls()
 
 void VcabWarning::open()
 {
-    shell::applyCaptions(*this, Captions);
+    shell::applyDesignedOrCurrentCaptions(*this, Captions);
     adjustSize();
     show();
     raise();

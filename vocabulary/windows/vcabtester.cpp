@@ -156,7 +156,7 @@ void Vcabtester::connectPrompt(const char* item, std::string_view promptLanguage
 
 void Vcabtester::setCaptions()
 {
-    shell::applyCaptions(*this, Captions);
+    shell::applyDesignedOrCurrentCaptions(*this, Captions);
     QString title = shell::fromUtf8(Title.designedOrCurrent());
     if (!vocabularyList.File.empty())
         title += QStringLiteral(" - ") + shell::fromUtf8(vocabularyList.File.filename().string());
