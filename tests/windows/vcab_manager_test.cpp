@@ -287,6 +287,19 @@ TEST_F(VcabManagerWindow, NeedsANameForAFile)
     EXPECT_TRUE(std::filesystem::is_empty("."));
 }
 
+TEST_F(VcabManagerWindow, GivesANameItsEndingUnlessItHasOne)
+{
+    QWidget& manager = openManager();
+    add(manager, Rose);
+    for (const auto& [typed, name] : {std::pair{"mine", "mine.lst"},
+                                      {"mine.TXT", "mine.TXT"},
+                                      {"1. Deklination", "1. Deklination.lst"},
+                                      {"Lektion 1.2", "Lektion 1.2.lst"}}) {
+        saveAs(manager, typed);
+        EXPECT_TRUE(std::filesystem::exists(name)) << typed;
+    }
+}
+
 TEST_F(VcabManagerWindow, FindsListsInOtherFolders)
 {
     std::filesystem::create_directory("year one");

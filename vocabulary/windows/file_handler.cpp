@@ -41,7 +41,6 @@ constexpr LanguageTexts SaveTitle{"Save the Word List", "Enregistrer la liste de
 
 constexpr auto LoadAction = "&Load";
 constexpr auto SaveAction = "&Save";
-constexpr auto ListEnding = ".lst";
 
 bool isLoading()
 {
@@ -137,7 +136,7 @@ void FileHandler::connectControls()
 
 void FileHandler::setCaptions()
 {
-    shell::applyCaptions(*this, Captions);
+    shell::applyDesignedOrCurrentCaptions(*this, Captions);
     const LanguageTexts& title = isLoading() ? LoadTitle : SaveTitle;
     setWindowTitle(shell::fromUtf8(title.designedOrCurrent()));
     action_->setText(QLatin1String(isLoading() ? LoadAction : SaveAction));
@@ -205,10 +204,7 @@ void FileHandler::activateFile(int row)
 
 std::filesystem::path FileHandler::path() const
 {
-    std::filesystem::path name = pathOf(name_->text().trimmed());
-    if (!name.has_extension())
-        name += ListEnding;
-    return pathOf(folder_.absolutePath()) / name;
+    return pathOf(folder_.absolutePath()) / pathOf(withEnding(name_->text().trimmed()));
 }
 
 void FileHandler::loadOrSave()
