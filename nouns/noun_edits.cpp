@@ -66,7 +66,7 @@ NounEdit addNoun(int paradigm, const NounRecord& noun)
     if (count >= mostNounsOf(paradigm))
         return NounEdit::ListFull;
     if (paradigm == ThirdDeclension && noun.obliqueStem.empty())
-        return NounEdit::NoStem;
+        return NounEdit::NoObliqueStem;
     storeNoun(paradigm, count + 1, noun);
     ++count;
     return NounEdit::Stored;

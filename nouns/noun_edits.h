@@ -32,9 +32,11 @@ std::string listedNominative(const ListedParadigm& paradigm, int number);
 void countFourthDeclension();
 
 /// What came of adding a noun.
-enum class NounEdit { Stored, FixedNouns, NoStem, ListFull };
+enum class NounEdit { Stored, FixedNouns, NoStem, NoObliqueStem, ListFull };
 
-/// Adds a noun at the end of a paradigm's list and counts it. The change lasts until the program ends.
+/// Adds a noun at the end of a paradigm's list and counts it. Refused where the paradigm's nouns are fixed,
+/// the noun has no stem, the list is full, or a masculine or feminine noun of the third declension has no
+/// stem of the oblique cases. The change lasts until the program ends.
 NounEdit addNoun(int paradigm, const NounRecord& noun);
 
 } // namespace nouns

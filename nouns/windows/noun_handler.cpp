@@ -263,6 +263,9 @@ void NounHandler::storeNewNoun()
     case NounEdit::NoStem:
         platform::current().showMessage("A noun needs a stem.");
         return;
+    case NounEdit::NoObliqueStem:
+        platform::current().showMessage("A noun of the third declension needs an oblique stem as well.");
+        return;
     case NounEdit::ListFull:
         platform::current().showMessage("This paradigm holds " + std::to_string(mostNounsOf(paradigm)) +
                                         " nouns at the most.");

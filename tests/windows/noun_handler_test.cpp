@@ -145,11 +145,15 @@ TEST_F(NounManager, RefusesWhatDoesNotFit)
     fill("NHStem", "pax");
     click(*manager, "NHAdd");
     EXPECT_EQ(nounList.NounCount[ThirdDeclension], 10);
+    nounList.NounCount[ThirdDeclension] = 9;
+    click(*manager, "NHAdd");
+    EXPECT_EQ(nounList.NounCount[ThirdDeclension], 9);
     chooseDeclension(4);
     click(*manager, "NHAdd");
     EXPECT_EQ(fake.messages,
               (std::vector<std::string>{"A noun needs a stem.", "This paradigm holds 20 nouns at the most.",
                                         "This paradigm holds 10 nouns at the most.",
+                                        "A noun of the third declension needs an oblique stem as well.",
                                         "The nouns of the fourth and fifth declensions are fixed."}));
     for (int draws = 0; draws < 100; ++draws)
         BuildNounParadigms();
