@@ -98,7 +98,7 @@ void VerbNavigation::takeConjugation(int row)
     }
     shell::beginDrill(shell::exercise::Conjugation);
     verbdrills::generateParadigms();
-    verbdrills::chooseFirstPerson();
+    verbdrills::beginRound();
     conjugationChoose_->hide();
     conjugation().open();
 }

@@ -6,8 +6,8 @@
 #include "platform/random.h"
 #include "shell/settings.h"
 
-#include <algorithm>
 #include <array>
+#include <optional>
 
 namespace nouns {
 
@@ -27,18 +27,10 @@ void ask(int box)
     declensionDrill.CurrentCaseIndex = static_cast<std::int16_t>(box);
 }
 
-bool boxIsLeft()
+std::optional<int> drawBoxLeft()
 {
-    const auto& done = declensionDrill.CaseDone;
-    return std::find(done.begin(), done.begin() + CaseCount, platform::FlagFalse) != done.begin() + CaseCount;
-}
-
-int drawBoxLeft()
-{
-    int box = platform::draw(CaseCount);
-    while (declensionDrill.CaseDone[box] == platform::FlagTrue)
-        box = platform::draw(CaseCount);
-    return box;
+    return platform::drawFitting(CaseCount,
+                                 [](int box) { return declensionDrill.CaseDone[box] != platform::FlagTrue; });
 }
 
 // Asks the next box of the round; false when all ten have been asked.
@@ -49,10 +41,10 @@ bool askNextBox()
         return declensionDrill.CurrentCaseIndex < CaseCount;
     }
     declensionDrill.CaseDone[declensionDrill.CurrentCaseIndex] = platform::FlagTrue;
-    if (!boxIsLeft())
-        return false;
-    ask(drawBoxLeft());
-    return true;
+    const std::optional<int> next = drawBoxLeft();
+    if (next)
+        ask(*next);
+    return next.has_value();
 }
 
 } // namespace

@@ -30,15 +30,6 @@ constexpr std::array<Section, 8> Sections = {{
     {2, FifthDeclension},
 }};
 
-bool skipFields(FieldReader& reader, int count)
-{
-    std::string ignored;
-    for (int i = 0; i < count; ++i)
-        if (!reader.read(ignored))
-            return false;
-    return true;
-}
-
 std::optional<NounRecord> readNoun(FieldReader& reader, NounParadigm paradigm)
 {
     NounRecord noun;
@@ -68,7 +59,7 @@ int readNouns(FieldReader& reader, NounParadigm paradigm, int count)
 bool readSection(FieldReader& reader, const Section& section)
 {
     std::int16_t count = 0;
-    if (!skipFields(reader, section.headingFields) || !reader.read(count) || count < 0)
+    if (!reader.skip(section.headingFields) || !reader.read(count) || count < 0)
         return false;
     const int read = readNouns(reader, section.paradigm, count);
     nounList.NounCount[section.paradigm] = static_cast<std::int16_t>(read);

@@ -6,6 +6,7 @@
 #include "nouns/noun_tables.h"
 #include "platform/random.h"
 #include "shell/settings.h"
+#include "shell/settings_changes.h"
 #include "shell/vowel_marks.h"
 
 #include <algorithm>
@@ -256,8 +257,7 @@ void buildThirdDeclension(int number)
 
 void BuildNounParadigms()
 {
-    if (settings.ShowVowelLength == platform::FlagTrue)
-        settings.VowelMark = shell::LengthMark;
+    shell::setVowelMarkWhereShown();
     buildFirst();
     buildSecond();
     buildThirdDeclension(drawThirdDeclension());

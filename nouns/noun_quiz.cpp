@@ -4,7 +4,6 @@
 #include "nouns/noun_tables.h"
 #include "platform/random.h"
 #include "shell/settings.h"
-#include "shell/vowel_marks.h"
 
 #include <algorithm>
 #include <array>
@@ -78,8 +77,6 @@ void drawNounQuestion()
     platform::seedFromClock();
     nounQuestion.QuizParadigmIndex = static_cast<std::int16_t>(platform::draw(DrawnParadigms));
     nounQuestion.QuizCaseIndex = static_cast<std::int16_t>(platform::draw(DrawnCases));
-    if (settings.ShowVowelLength == FlagTrue)
-        settings.VowelMark = shell::LengthMark;
     BuildNounParadigms();
     nounQuestion.QuizRightCases = casesOfOneForm(nounQuestion.QuizParadigmIndex, nounQuestion.QuizCaseIndex);
     nounQuestion.QuizTickedCases.fill(FlagFalse);

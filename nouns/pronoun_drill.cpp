@@ -5,6 +5,8 @@
 #include "shell/settings.h"
 #include "shell/vowel_marks.h"
 
+#include <optional>
+
 namespace nouns {
 
 using shell::settings;
@@ -20,20 +22,10 @@ bool isAskable(int cell)
     return !pronounFormAt(cell).empty() && pronounDrill.CellDone[cell] != platform::FlagTrue;
 }
 
-bool someCellIsLeft()
+std::optional<int> drawCellLeft()
 {
-    for (int cell = 1; cell <= CellCount; ++cell)
-        if (isAskable(cell))
-            return true;
-    return false;
-}
-
-int drawCellLeft()
-{
-    int cell = platform::draw(CellCount) + 1;
-    while (!isAskable(cell))
-        cell = platform::draw(CellCount) + 1;
-    return cell;
+    const auto box = platform::drawFitting(CellCount, [](int number) { return isAskable(number + 1); });
+    return box ? std::optional(*box + 1) : std::nullopt;
 }
 
 // The cell itself where it has a form, else the next one that has; past the last where there is none.
@@ -64,17 +56,17 @@ bool askNextCell()
         return next <= CellCount;
     }
     pronounDrill.CellDone[pronounDrill.CurrentCell] = platform::FlagTrue;
-    if (!someCellIsLeft())
-        return false;
-    ask(drawCellLeft());
-    return true;
+    const std::optional<int> next = drawCellLeft();
+    if (next)
+        ask(*next);
+    return next.has_value();
 }
 
 void beginNumber(Case firstCase)
 {
     pronounDrill.FirstCase = static_cast<std::int16_t>(firstCase);
     pronounDrill.CellDone.fill(platform::FlagFalse);
-    ask(inRandomOrder() ? drawCellLeft() : firstWithFormFrom(1));
+    ask(inRandomOrder() ? drawCellLeft().value() : firstWithFormFrom(1));
 }
 
 } // namespace

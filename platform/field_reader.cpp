@@ -26,6 +26,14 @@ bool FieldReader::read(std::string& field)
     return true;
 }
 
+bool FieldReader::skip(int fields)
+{
+    std::string passedOver;
+    while (fields > 0 && read(passedOver))
+        --fields;
+    return fields <= 0;
+}
+
 // A comma promises one more field, be it empty, even at the end of the text.
 bool FieldReader::atEnd() const
 {

@@ -25,6 +25,9 @@ public:
     template <std::integral Number>
     bool read(Number& number);
 
+    /// Passes over so many fields. Returns false where there are fewer.
+    bool skip(int fields);
+
     /// True when no field is left.
     bool atEnd() const;
 

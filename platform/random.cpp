@@ -2,8 +2,10 @@
 
 #include "platform/platform.h"
 
+#include <algorithm>
 #include <bit>
 #include <random>
+#include <ranges>
 
 namespace platform {
 
@@ -40,6 +42,16 @@ double randomFraction()
 int draw(int count)
 {
     return static_cast<int>(randomFraction() * count);
+}
+
+std::optional<int> drawFitting(int count, const std::function<bool(int)>& fits)
+{
+    if (std::ranges::none_of(std::views::iota(0, count), fits))
+        return {};
+    int drawn = draw(count);
+    while (!fits(drawn))
+        drawn = draw(count);
+    return drawn;
 }
 
 } // namespace platform

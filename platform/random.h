@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
+#include <optional>
 
 namespace platform {
 
@@ -16,5 +18,8 @@ double randomFraction();
 
 /// The integer part of a random value times `count`: 0 to `count` - 1, and 0 where `count` is 0.
 int draw(int count);
+
+/// Draws from 0 to `count` - 1 until one fits; nothing where none does.
+std::optional<int> drawFitting(int count, const std::function<bool(int)>& fits);
 
 } // namespace platform

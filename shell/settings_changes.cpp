@@ -1,6 +1,7 @@
 #include "shell/settings_changes.h"
 
 #include "shell/settings.h"
+#include "shell/vowel_marks.h"
 
 namespace shell {
 
@@ -50,12 +51,17 @@ void setVowelMarkForDrill()
     settings.VowelMark = settings.ShowVowelLength == MarkingFlagOfDrills ? ":" : "";
 }
 
-void setVowelMarkAsShown()
+void setVowelMarkWhereShown()
 {
     if (settings.ShowVowelLength == platform::FlagTrue)
-        settings.VowelMark = ":";
+        settings.VowelMark = LengthMark;
+}
+
+void setVowelMarkAsShown()
+{
+    setVowelMarkWhereShown();
     if (settings.ShowVowelLength == platform::FlagFalse)
-        settings.VowelMark = "";
+        settings.VowelMark.clear();
 }
 
 } // namespace shell

@@ -23,6 +23,9 @@ void switchSaving(bool saved);
 /// meant.
 void setVowelMarkForDrill();
 
+/// Sets `VowelMark` before forms are generated: ":" where `ShowVowelLength` is true. It never empties it.
+void setVowelMarkWhereShown();
+
 /// Sets `VowelMark` at start, and when the option is switched: ":" where `ShowVowelLength` is true, "" where
 /// it is false.
 void setVowelMarkAsShown();

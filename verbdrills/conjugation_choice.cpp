@@ -1,8 +1,6 @@
 #include "verbdrills/conjugation_choice.h"
 
-#include "platform/random.h"
 #include "shell/score.h"
-#include "shell/settings.h"
 #include "verbdrills/conjugation_drill.h"
 #include "verbs/generators.h"
 #include "verbs/person_labels.h"
@@ -71,16 +69,6 @@ void generateParadigms()
     verbs::buildRegularConjugations();
     verbs::buildIrregularVerbs();
     verbs::buildThirdAndFourthConjugations();
-}
-
-void chooseFirstPerson()
-{
-    const bool random = shell::settings.QuestionOrder == shell::question_order::Random;
-    const auto person = static_cast<std::int16_t>(random ? platform::draw(BoxCount) : 0);
-    conjugationDrill.PersonIndex = person;
-    conjugationDrill.FormRow = person;
-    if (random)
-        conjugationDrill.RoundStartPerson = person;
 }
 
 } // namespace verbdrills

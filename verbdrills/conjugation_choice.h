@@ -19,17 +19,15 @@ enum class ConjugationChoice { None, Paradigm, SingleTense };
 /// row chooses nothing.
 ConjugationChoice chooseConjugation(int row);
 
-/// What showing the tense chooser sets.
+/// What showing the tense chooser sets: `SingleTenseMode`.
 void beginTenseChoice();
 
 /// Takes a row of the tense chooser, 0 to 20: that tense of the first conjugation, from its first person.
 /// Resets the score. Returns false for another row, which chooses nothing.
 bool chooseTense(int row);
 
-/// Generates the forms of all classes, with their titles and translations.
+/// Draws a verb of each class and generates the forms of all classes, with their titles and translations, and
+/// the person labels. Goes back to the present indicative, unless a single tense is drilled.
 void generateParadigms();
-
-/// Chooses the person that is asked first: the first one, or in random order any.
-void chooseFirstPerson();
 
 } // namespace verbdrills

@@ -7,7 +7,7 @@
 #include "verbs/paradigm_titles.h"
 #include "verbs/verb_tables.h"
 
-#include <algorithm>
+#include <optional>
 
 namespace verbdrills {
 
@@ -35,18 +35,10 @@ void askPerson(int person)
         static_cast<std::int16_t>(verbs::formNumber(currentParadigm.TenseMoodCode, person + 1) - 1);
 }
 
-bool someoneIsLeft()
+std::optional<int> drawPersonLeft()
 {
-    const auto& done = conjugationDrill.PersonDone;
-    return std::find(done.begin(), done.begin() + BoxCount, platform::FlagFalse) != done.begin() + BoxCount;
-}
-
-int drawPersonLeft()
-{
-    int person = platform::draw(BoxCount);
-    while (conjugationDrill.PersonDone[person] == platform::FlagTrue)
-        person = platform::draw(BoxCount);
-    return person;
+    return platform::drawFitting(
+        BoxCount, [](int person) { return conjugationDrill.PersonDone[person] != platform::FlagTrue; });
 }
 
 // Asks the next person of the round; false when all six have been asked.
@@ -58,10 +50,10 @@ bool askNextPerson()
         return conjugationDrill.PersonIndex < BoxCount;
     }
     conjugationDrill.PersonDone[conjugationDrill.PersonIndex] = platform::FlagTrue;
-    if (!someoneIsLeft())
-        return false;
-    askPerson(drawPersonLeft());
-    return true;
+    const std::optional<int> next = drawPersonLeft();
+    if (next)
+        askPerson(*next);
+    return next.has_value();
 }
 
 void endRound()
@@ -70,13 +62,6 @@ void endRound()
     conjugationDrill.AnswerSlots.fill({});
     if (settings.SoundOn == platform::FlagTrue)
         platform::current().beep();
-}
-
-void beginRound()
-{
-    const int person = inRandomOrder() ? platform::draw(BoxCount) : 0;
-    conjugationDrill.RoundStartPerson = static_cast<std::int16_t>(person);
-    askPerson(person);
 }
 
 bool blockHasForms(int block)
@@ -111,6 +96,13 @@ Advance goToNextTense()
 }
 
 } // namespace
+
+void beginRound()
+{
+    const int person = inRandomOrder() ? platform::draw(BoxCount) : 0;
+    conjugationDrill.RoundStartPerson = static_cast<std::int16_t>(person);
+    askPerson(person);
+}
 
 void setConjugationQuestion()
 {

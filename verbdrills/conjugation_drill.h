@@ -45,6 +45,9 @@ struct ConjugationDrill {
 
 extern ConjugationDrill conjugationDrill;
 
+/// Begins a round of the current tense with the first person, or in random order with any.
+void beginRound();
+
 /// Sets the question: `CorrectForm`, and the titles of the current paradigm with the verb that is drilled.
 void setConjugationQuestion();
 

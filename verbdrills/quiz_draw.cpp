@@ -3,6 +3,7 @@
 #include "platform/platform.h"
 #include "platform/random.h"
 #include "shell/settings.h"
+#include "shell/vowel_marks.h"
 #include "verbdrills/conjugation_choice.h"
 #include "verbdrills/verb_quiz.h"
 #include "verbs/paradigm.h"
@@ -158,7 +159,7 @@ bool askForm()
 {
     const bool unmarked = settings.ShowVowelLength == FlagFalse;
     if (unmarked)
-        settings.VowelMark = ":";
+        settings.VowelMark = shell::LengthMark;
     generateParadigms();
     if (unmarked)
         settings.VowelMark.clear();

@@ -36,7 +36,8 @@ bool judgeIdentification(const Identification& identification)
 {
     shell::settings.ExerciseType = shell::exercise::Quiz;
     const bool right = identification == rightIdentification();
-    verbQuiz.formIsAsked = !right;
+    if (right)
+        verbQuiz.formIsAsked = false;
     return right;
 }
 

@@ -82,12 +82,6 @@ VerbStems stemsOf(VerbClass verbClass, int number)
             verbList.SupineStem[verbClass][number]};
 }
 
-void setVowelMarkWhereShown()
-{
-    if (shell::settings.ShowVowelLength == platform::FlagTrue)
-        shell::settings.VowelMark = shell::LengthMark;
-}
-
 void resetTense()
 {
     if (currentParadigm.SingleTenseMode != 1)

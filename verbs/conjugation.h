@@ -43,9 +43,6 @@ void takeGermanGloss(VerbClass verbClass, int number);
 /// The stems of a verb of `verbList`.
 VerbStems stemsOf(VerbClass verbClass, int number);
 
-/// Sets `VowelMark` to ":" where `ShowVowelLength` is true; it never empties it.
-void setVowelMarkWhereShown();
-
 /// Goes back to the present indicative, unless a single tense is drilled.
 void resetTense();
 

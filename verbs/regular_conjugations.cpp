@@ -1,4 +1,5 @@
 #include "platform/random.h"
+#include "shell/settings_changes.h"
 #include "verbs/first_conjugation.h"
 #include "verbs/generators.h"
 #include "verbs/second_conjugation.h"
@@ -38,7 +39,7 @@ void buildSecondConjugation()
 void buildRegularConjugations()
 {
     resetTense();
-    setVowelMarkWhereShown();
+    shell::setVowelMarkWhereShown();
     buildFirstConjugation();
     buildSecondConjugation();
 }

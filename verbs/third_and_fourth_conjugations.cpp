@@ -1,4 +1,5 @@
 #include "platform/random.h"
+#include "shell/settings_changes.h"
 #include "verbs/fourth_conjugation.h"
 #include "verbs/generators.h"
 #include "verbs/shared_endings.h"
@@ -42,7 +43,7 @@ void correctGermanList()
 
 void buildThirdAndFourthConjugations()
 {
-    setVowelMarkWhereShown();
+    shell::setVowelMarkWhereShown();
     platform::seedFromClock();
     const int number = buildClass(ThirdConjugation, "ere", ThirdConjugationEndings);
     shortenImperative(verbList.PresentStem[ThirdConjugation][number]);

@@ -39,15 +39,6 @@ constexpr std::array<Section, 5> SectionsAfterSwitch = {{
 }};
 // clang-format on
 
-bool skipFields(FieldReader& reader, int count)
-{
-    std::string ignored;
-    for (int i = 0; i < count; ++i)
-        if (!reader.read(ignored))
-            return false;
-    return true;
-}
-
 std::optional<VerbRecord> readVerb(FieldReader& reader)
 {
     VerbRecord verb;
@@ -74,7 +65,7 @@ int readVerbs(FieldReader& reader, VerbClass verbClass, int count)
 bool readSection(FieldReader& reader, const Section& section)
 {
     std::int16_t count = 0;
-    if (!skipFields(reader, section.headingFields) || !reader.read(count) || count < 0)
+    if (!reader.skip(section.headingFields) || !reader.read(count) || count < 0)
         return false;
     const auto read = static_cast<std::int16_t>(readVerbs(reader, section.verbs, count));
     std::int16_t& kept = verbList.Count[section.count];

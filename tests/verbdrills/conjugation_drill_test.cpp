@@ -40,7 +40,7 @@ protected:
         verbdrills::beginConjugationChoice();
         verbdrills::chooseConjugation(row);
         verbdrills::generateParadigms();
-        verbdrills::chooseFirstPerson();
+        verbdrills::beginRound();
     }
 
     static void beginTense(int row)
