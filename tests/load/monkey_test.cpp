@@ -3,14 +3,19 @@
 //     MORVANTI_MONKEY_EVENTS=1000000 MORVANTI_MONKEY_SEED=7 build/sanitize/monkey_test
 
 #include "app/navigation.h"
+#include "nouns/declension_drill.h"
+#include "nouns/pronoun_drill.h"
 #include "shell/settings.h"
 #include "tests/support/window_test.h"
+#include "verbdrills/conjugation_drill.h"
+#include "vocabulary/vocabulary_tester.h"
 
 #include <QAction>
 #include <QElapsedTimer>
 #include <QMenu>
 
 #include <cstdlib>
+#include <map>
 #include <random>
 #include <utility>
 
@@ -90,8 +95,10 @@ protected:
     void actOn(QWidget& window)
     {
         const int choice = below(100);
-        if (choice < 45)
+        if (choice < 40)
             clickSomewhere(window);
+        else if (choice < 45)
+            answerRightly(window);
         else if (choice < 90)
             pressSomething(window);
         else if (choice < 98)
@@ -133,6 +140,21 @@ protected:
         return false;
     }
 
+    // So that drills come to their end as well.
+    static void answerRightly(QWidget& window)
+    {
+        const std::map<QString, std::string> answers = {
+            {"Conjugation", verbdrills::conjugationDrill.CorrectForm},
+            {"Declination", nouns::declensionDrill.ExpectedAnswer},
+            {"PronounSingular", nouns::pronounDrill.ExpectedAnswer},
+            {"Vcabtester", vocabulary::expectedAnswer()}};
+        const auto answer = answers.find(window.objectName());
+        if (answer == answers.end() || window.focusWidget() == nullptr)
+            return;
+        tests::type(window, QString::fromStdString(answer->second));
+        tests::press(window, Qt::Key_Return);
+    }
+
     void pressSomething(QWidget& window)
     {
         static const QList<Qt::Key> keys = {
@@ -142,7 +164,9 @@ protected:
         QWidget* const target = window.focusWidget() == nullptr ? &window : window.focusWidget();
         if (isInFolderList(*target) || (endsTheProgram(*target) && below(8) > 0))
             return;
-        if (below(3) == 0)
+        if (below(12) == 0)
+            QTest::keyClick(target, static_cast<Qt::Key>(Qt::Key_A + below(26)), Qt::AltModifier);
+        else if (below(3) == 0)
             QTest::sendKeyEvent(QTest::Click, target, Qt::Key_unknown, QString(QChar('a' + below(26))),
                                 Qt::NoModifier);
         else
