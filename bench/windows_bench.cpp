@@ -103,6 +103,14 @@ public:
 
     void await() { waits_ = true; }
 
+    void mustHaveCome() const
+    {
+        if (!waits_)
+            return;
+        std::fprintf(stderr, "windows_bench: a judgement was never painted\n");
+        std::abort();
+    }
+
 private:
     void note()
     {
@@ -154,6 +162,7 @@ bool measureJudgements(Judgement& judgement)
             judgement.await();
             const std::string form = right ? verbdrills::conjugationDrill.CorrectForm : "?!";
             const auto begin = answer(form);
+            judgement.mustHaveCome();
             times.push_back(std::chrono::duration<double, std::milli>(judgement.painted - begin).count());
         }
     const double slow = quantile(times, 0.99);
@@ -169,6 +178,7 @@ bool measurePause(Judgement& judgement)
     judgement.putsAhead = 0;
     judgement.await();
     answer("?!");
+    judgement.mustHaveCome();
     const double used = processorMilliseconds() - judgement.processorAtPaint;
     return row("processor time of a pause of two seconds", QStringLiteral("%1 ms").arg(used, 0, 'f', 1),
                QStringLiteral("%1 ms").arg(MostOfPause), used < MostOfPause);
