@@ -42,6 +42,7 @@ About::About() : Window("About", "About")
     text->setWordWrap(true);
     auto* const version =
         new QLabel(QStringLiteral("Morvanti %1  ·  MIT").arg(QCoreApplication::applicationVersion()));
+    version->setObjectName(QStringLiteral("AboutVersion"));
     auto* const close = new QPushButton;
     close->setObjectName(QStringLiteral("Command1"));
     close->setDefault(true);

@@ -61,6 +61,7 @@ void Help::showGuide()
         showGuideText(*text_, text);
     shownText_ = text;
     applyCaptions(*this, HelpCaptions);
+    text_->setAccessibleName(windowTitle());
     showInFront();
     text_->setFocus();
 }

@@ -152,7 +152,9 @@ TEST_F(MainMenu, ShowsAndClosesTheAboutWindow)
 {
     QWidget& menu = start();
     choose(menu, "GermanLang");
+    QCoreApplication::setApplicationVersion("1.2.3");
     choose(menu, "MainABout");
+    EXPECT_EQ(tests::label(shown("About"), "AboutVersion"), "Morvanti 1.2.3  ·  MIT");
     tests::click(shown("About"), "Command1");
     EXPECT_EQ(shownWindow("About"), nullptr);
 }
