@@ -7,7 +7,6 @@
 #include <array>
 #include <cstdlib>
 #include <fstream>
-#include <iterator>
 #include <string_view>
 
 namespace app {
@@ -42,9 +41,10 @@ bool copySample(const fs::path& sample, const fs::path& folder)
     const fs::path copy = folder / sample.filename();
     if (fs::exists(copy))
         return true;
+    std::string bytes(fs::file_size(sample), '\0');
     std::ifstream stream(sample, std::ios::binary);
-    const std::string bytes{std::istreambuf_iterator<char>(stream), {}};
-    return stream && !platform::replaceFile(copy, bytes);
+    return stream.read(bytes.data(), static_cast<std::streamsize>(bytes.size())) &&
+           !platform::replaceFile(copy, bytes);
 }
 
 // The verb list comes last: while it is missing, the folder is not yet filled.
