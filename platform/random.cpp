@@ -2,10 +2,8 @@
 
 #include "platform/platform.h"
 
-#include <algorithm>
 #include <bit>
 #include <random>
-#include <ranges>
 
 namespace platform {
 
@@ -18,6 +16,14 @@ using Generator =
 Generator generator;
 
 constexpr int FractionBits = 53;
+
+bool someFits(int count, const std::function<bool(int)>& fits)
+{
+    for (int number = 0; number < count; ++number)
+        if (fits(number))
+            return true;
+    return false;
+}
 
 } // namespace
 
@@ -46,7 +52,7 @@ int draw(int count)
 
 std::optional<int> drawFitting(int count, const std::function<bool(int)>& fits)
 {
-    if (std::ranges::none_of(std::views::iota(0, count), fits))
+    if (!someFits(count, fits))
         return {};
     int drawn = draw(count);
     while (!fits(drawn))
