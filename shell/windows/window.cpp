@@ -21,6 +21,14 @@ constexpr int BlockStretch = 1000;
 // What the frame and the title of a window leave it of the screen.
 constexpr double ShareOfScreen = 0.9;
 
+// Qt hangs where windows stand above each other in a circle: the one below loses the window below it then.
+void putAbove(QWindow& window, QWindow* below)
+{
+    if (below != nullptr && window.isAncestorOf(below))
+        below->setTransientParent(nullptr);
+    window.setTransientParent(below);
+}
+
 } // namespace
 
 Window::Window(std::string_view name, std::string_view activeName) : activeName_(activeName)
@@ -62,7 +70,7 @@ void Window::showInFront()
     winId();
     const QWidget* const below = isModal() ? QApplication::activeWindow() : QApplication::activeModalWidget();
     if (below != this)
-        windowHandle()->setTransientParent(below == nullptr ? nullptr : below->windowHandle());
+        putAbove(*windowHandle(), below == nullptr ? nullptr : below->windowHandle());
     if (!isVisible())
         move(screen()->geometry().center() - rect().center());
     show();

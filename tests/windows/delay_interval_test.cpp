@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
+#include <QWindow>
 
 #include <tuple>
 
@@ -160,6 +161,18 @@ TEST_F(DelayInterval, OpensAGuideThatCanBeUsedMeanwhile)
     tests::click(*help, "Command1");
     EXPECT_FALSE(help->isVisible());
     EXPECT_TRUE(window.isVisible());
+}
+
+TEST_F(DelayInterval, StandsAboveTheGuideThatStoodAboveIt)
+{
+    QWidget& window = openWindow();
+    press(window, Qt::Key_F1);
+    window.close();
+    QWidget& help = tests::shown("Help");
+    QApplication::setActiveWindow(&help);
+    openWindow();
+    EXPECT_TRUE(help.windowHandle()->isAncestorOf(window.windowHandle()));
+    EXPECT_FALSE(window.windowHandle()->isAncestorOf(help.windowHandle()));
 }
 
 } // namespace
