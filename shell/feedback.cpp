@@ -1,24 +1,11 @@
 #include "shell/feedback.h"
 
-#include "platform/platform.h"
 #include "shell/drill.h"
 #include "shell/pause.h"
 #include "shell/score.h"
 #include "shell/sound_control.h"
 
 namespace shell {
-
-namespace {
-
-// Pauses; false when the drill was left meanwhile.
-bool pauseWithDrill()
-{
-    const int session = drillSession();
-    Pause();
-    return session == drillSession() && !platform::current().ending();
-}
-
-} // namespace
 
 void giveRightFeedback(FeedbackSurface& surface)
 {

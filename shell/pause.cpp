@@ -1,5 +1,6 @@
 #include "shell/pause.h"
 
+#include "platform/platform.h"
 #include "shell/drill.h"
 #include "shell/settings.h"
 #include "shell/wait.h"
@@ -39,6 +40,13 @@ void Pause()
 {
     const Wait wait;
     waitSeconds([] { return settings.DelaySeconds; }, [&wait] { return wait.isOff(); });
+}
+
+bool pauseWithDrill()
+{
+    const int session = drillSession();
+    Pause();
+    return session == drillSession() && !platform::current().ending();
 }
 
 bool pausing()

@@ -204,12 +204,10 @@ void NounQuiz::check()
 {
     if (shell::pausing() || !isVisible())
         return;
-    const int session = shell::drillSession();
     const shell::LanguageTexts& verdict = ticksAreRight() ? shell::RightTexts : shell::WrongTexts;
     verdict_->setText(shell::fromUtf8(verdict.designedOrCurrent()));
     answer_->setText(shell::fromUtf8(rightCasesInWords()));
-    shell::Pause();
-    if (session == shell::drillSession())
+    if (shell::pauseWithDrill())
         ask();
 }
 

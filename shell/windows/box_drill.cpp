@@ -128,14 +128,12 @@ void BoxDrill::hint()
 {
     if (!canAnswer())
         return;
-    const int session = drillSession();
     holdBoxes();
     askedBox().lookRevealed();
     askedBox().setText(fromUtf8(answer()));
     askedBox().repaint();
     answerShown();
-    Pause();
-    if (session != drillSession())
+    if (!pauseWithDrill())
         return;
     answerHidden();
     askAgain();

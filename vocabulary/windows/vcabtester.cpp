@@ -225,14 +225,12 @@ void Vcabtester::reveal()
 {
     if (shell::pausing() || !isVisible() || vocabularyTester.WordIsAsked != platform::FlagTrue)
         return;
-    const int session = shell::drillSession();
     answer_->setReadOnly(true);
     answer_->clear();
     answer_->lookRevealed();
     answer_->setText(shell::fromUtf8(expectedAnswer()));
     answer_->repaint();
-    shell::Pause();
-    if (session != shell::drillSession())
+    if (!shell::pauseWithDrill())
         return;
     answer_->lookBlack();
     answer_->clear();
