@@ -3,7 +3,6 @@
 #include <QIcon>
 
 #include <cstdlib>
-#include <exception>
 #include <iostream>
 
 namespace app {
@@ -21,6 +20,12 @@ QIcon programIcon()
 
 } // namespace
 
+void endWithFault(const std::exception& fault)
+{
+    std::cerr << "morvanti: " << fault.what() << std::endl;
+    std::_Exit(EXIT_FAILURE);
+}
+
 Application::Application(int& argumentCount, char** arguments) : QApplication(argumentCount, arguments)
 {
     setApplicationName(QStringLiteral("Morvanti"));
@@ -34,9 +39,8 @@ bool Application::notify(QObject* receiver, QEvent* event)
 {
     try {
         return QApplication::notify(receiver, event);
-    } catch (const std::exception& error) {
-        std::cerr << "morvanti: " << error.what() << std::endl;
-        std::_Exit(EXIT_FAILURE);
+    } catch (const std::exception& fault) {
+        endWithFault(fault);
     }
 }
 

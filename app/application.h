@@ -2,9 +2,14 @@
 
 #include <QApplication>
 
+#include <exception>
+
 namespace app {
 
-/// The one boundary at which exceptions end: one line on standard error, and exit status 1.
+/// Where exceptions end: one line on standard error, and exit status 1.
+[[noreturn]] void endWithFault(const std::exception& fault);
+
+/// Ends the program with the fault where one is thrown while an event is handled.
 class Application : public QApplication {
     Q_OBJECT
 

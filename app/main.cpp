@@ -19,6 +19,7 @@ int refuse(const std::string& fault)
     return WrongCall;
 }
 
+// What is left of them once Qt has taken its own.
 std::vector<std::string> argumentsOf(const QStringList& words)
 {
     std::vector<std::string> arguments;
@@ -27,18 +28,12 @@ std::vector<std::string> argumentsOf(const QStringList& words)
     return arguments;
 }
 
-} // namespace
-
-int main(int argumentCount, char** arguments)
+int run(int argumentCount, char** arguments)
 {
     app::Application application(argumentCount, arguments);
     const app::CommandLine line = app::readCommandLine(argumentsOf(app::Application::arguments()));
     if (line.fault)
         return refuse(*line.fault);
-    if (line.answer) {
-        std::cout << *line.answer << std::endl;
-        return EXIT_SUCCESS;
-    }
     const auto samples = app::samplesBeside(app::Application::applicationDirPath().toStdString());
     if (const auto fault = app::enterWorkingFolder(line.folder, samples))
         return refuse(*fault);
@@ -48,4 +43,21 @@ int main(int argumentCount, char** arguments)
     app::Navigation navigation;
     navigation.start();
     return app::Application::exec();
+}
+
+} // namespace
+
+// A question about the program is answered where there is no display, too.
+int main(int argumentCount, char** arguments)
+{
+    const std::vector<std::string> words(arguments + 1, arguments + argumentCount);
+    if (const auto answer = app::readCommandLine(words).answer) {
+        std::cout << *answer << std::endl;
+        return EXIT_SUCCESS;
+    }
+    try {
+        return run(argumentCount, arguments);
+    } catch (const std::exception& fault) {
+        app::endWithFault(fault);
+    }
 }
