@@ -30,8 +30,11 @@ void waitForSound()
     platform::Platform& platform = platform::current();
     QElapsedTimer timer;
     timer.start();
-    while (platform.soundIsPlaying() && !platform.ending() && !timer.hasExpired(LongestSound.count()))
-        platform.waitForEvents(LongestSound - std::chrono::milliseconds(timer.elapsed()));
+    auto left = LongestSound;
+    while (platform.soundIsPlaying() && !platform.ending() && left.count() > 0) {
+        platform.waitForEvents(left);
+        left = LongestSound - std::chrono::milliseconds(timer.elapsed());
+    }
 }
 
 } // namespace
