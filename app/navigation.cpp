@@ -19,7 +19,7 @@ namespace {
 
 constexpr auto HelpCommand = "winhelp.exe morvanti.hlp";
 
-void prepareWordListsAgain()
+void prepareVerbListAgain()
 {
     verbs::readVerbListAgain(verbs::VerbListFileName);
     verbs::repeatVerbEdits();
@@ -45,7 +45,7 @@ void Navigation::start()
 
 void Navigation::connectMainMenu()
 {
-    connect(&mainMenu_, &MainMenu::vowelLengthSwitched, this, &prepareWordListsAgain);
+    connect(&mainMenu_, &MainMenu::vowelLengthSwitched, this, &prepareVerbListAgain);
     connect(&mainMenu_, &MainMenu::exitRequested, this, [this] { exitProgram(mainMenu_); });
     connect(&mainMenu_, &MainMenu::quietEndRequested, this, &endProgramQuietly);
     connect(&mainMenu_, &MainMenu::helpRequested, this, &Navigation::showHelp);
@@ -93,7 +93,6 @@ void Navigation::connectNouns()
         giveWay();
         nouns_.showNounManager();
     });
-    connect(&nouns_, &NounNavigation::delayRequested, &mainMenu_, &MainMenu::delayRequested);
     connect(&nouns_, &NounNavigation::left, this, &Navigation::showMainMenu);
     connect(&nouns_, &NounNavigation::helpRequested, this, &Navigation::showHelp);
 }
@@ -126,6 +125,7 @@ void Navigation::connectVocabulary()
 void Navigation::connectOptions()
 {
     connect(&mainMenu_, &MainMenu::delayRequested, &options_, &OptionsNavigation::showDelayInterval);
+    connect(&nouns_, &NounNavigation::delayRequested, &options_, &OptionsNavigation::showDelayInterval);
     connect(&mainMenu_, &MainMenu::optionsRequested, &options_, &OptionsNavigation::showOptions);
     connect(&options_, &OptionsNavigation::helpRequested, this, &Navigation::showHelp);
 }

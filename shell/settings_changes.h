@@ -12,7 +12,7 @@ void chooseQuestionOrder(std::string_view questionOrder);
 /// Sets `SoundOn` and raises `SettingsChangeCount` by one.
 void switchSound(bool on);
 
-/// Sets `ShowVowelLength`, and `VowelMark` with it; the word lists have to be prepared again afterwards.
+/// Sets `ShowVowelLength`, and `VowelMark` with it; the verb list has to be read again afterwards.
 void switchVowelLength(bool shown);
 
 /// Sets `SaveSettingsOnExit`.

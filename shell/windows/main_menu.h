@@ -36,7 +36,7 @@ Q_SIGNALS:
     void optionsRequested();
     void aboutRequested();
 
-    /// `ShowVowelLength` was switched: the word lists have to be prepared again.
+    /// `ShowVowelLength` was switched: the verb list has to be read again.
     void vowelLengthSwitched();
 
     /// The program is to end as `ExitButton` says.
