@@ -19,6 +19,8 @@
 
 #include <algorithm>
 #include <array>
+#include <stdexcept>
+#include <string>
 
 namespace shell {
 
@@ -49,6 +51,8 @@ QString mainMenuText(std::string_view control)
 {
     const auto menu = mainMenuCaptions();
     const auto row = std::ranges::find(menu, control, &Caption::control);
+    if (row == menu.end())
+        throw std::logic_error("the main window has no caption of " + std::string(control));
     QString text = fromUtf8(row->texts.designedOrCurrent());
     text.remove(u'&');
     return text.endsWith(QStringLiteral("...")) ? text.chopped(3) : text;

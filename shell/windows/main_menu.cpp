@@ -16,6 +16,8 @@
 #include <QPushButton>
 
 #include <array>
+#include <stdexcept>
+#include <string>
 
 namespace shell {
 
@@ -29,6 +31,15 @@ constexpr int ButtonLines = 3;
 // The buttons as they stand on the window: two columns, read line by line.
 constexpr std::array Buttons = {"ConjugationButton", "DeclensionButton", "PronounButton",
                                 "QuizButton",        "VocabularyButton", "ExitButton"};
+
+template <typename Control>
+Control* named(const QWidget& window, const char* name)
+{
+    auto* const found = window.findChild<Control*>(QLatin1String(name));
+    if (found == nullptr)
+        throw std::logic_error("the main window has no " + std::string(name));
+    return found;
+}
 
 struct LanguageItem {
     const char* item;
@@ -214,12 +225,12 @@ void MainMenu::recordWindowState()
 
 QAction* MainMenu::item(const char* name) const
 {
-    return findChild<QAction*>(QLatin1String(name));
+    return named<QAction>(*this, name);
 }
 
 QPushButton* MainMenu::button(const char* name) const
 {
-    return findChild<QPushButton*>(QLatin1String(name));
+    return named<QPushButton>(*this, name);
 }
 
 } // namespace shell
