@@ -15,6 +15,7 @@
 #include <QElapsedTimer>
 #include <QMenu>
 
+#include <algorithm>
 #include <cstdlib>
 #include <map>
 #include <random>
@@ -98,6 +99,8 @@ protected:
         for (QWidget* const window : QApplication::topLevelWidgets())
             if (window->isVisible() && !window->objectName().isEmpty() && !qobject_cast<QMenu*>(window))
                 shown << window;
+        // Qt's own order changes from run to run.
+        std::ranges::sort(shown, {}, &QWidget::objectName);
         EXPECT_FALSE(shown.isEmpty()) << "no window is left";
         if (shown.isEmpty())
             events_ = 0;
