@@ -34,12 +34,16 @@ public:
     /// True while a sound that was started can still be heard.
     virtual bool soundIsPlaying() const = 0;
 
-    /// Starts a program, minimised, with a command line; false when it cannot be started.
+    /// Starts a program with a command line; false when it cannot be started. How its window stands is left
+    /// to it.
     virtual bool startProgram(const std::string& commandLine) = 0;
 
     /// Shows a message box and returns at once. `dismissed` is called when the box was closed.
     virtual void showMessage(const std::string& text, std::function<void()> dismissed) = 0;
-    void showMessage(const std::string& text) { showMessage(text, [] {}); }
+    void showMessage(const std::string& text)
+    {
+        showMessage(text, [] {});
+    }
 
     /// Ends the program as soon as the running event is worked off, with this exit status.
     virtual void endProgram(int exitStatus) = 0;
