@@ -29,6 +29,7 @@
 #include <QLabel>
 #include <QMap>
 #include <QMenuBar>
+#include <QPushButton>
 
 #include <array>
 #include <functional>
@@ -175,6 +176,16 @@ TEST_F(EveryWindow, NamesEachControlForProgramsAndForTheEar)
             EXPECT_TRUE(hasName(*widget))
                 << window->objectName().toStdString() << ": " << widget->objectName().toStdString();
         }
+    }
+}
+
+TEST_F(EveryWindow, LetsEnterPressTheButtonThatHasTheFocus)
+{
+    for (const MakeWindow& makeWindow : AllWindows) {
+        const auto window = makeWindow();
+        for (const QPushButton* const button : window->findChildren<QPushButton*>())
+            EXPECT_TRUE(button->autoDefault() || button->isDefault())
+                << window->objectName().toStdString() << ": " << button->objectName().toStdString();
     }
 }
 

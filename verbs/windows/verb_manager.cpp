@@ -81,6 +81,8 @@ void VerbManager::makeControls()
     verbs_->setAccessibleName(QStringLiteral("Verbs"));
     add_->setObjectName(QStringLiteral("VerbManagerAdd"));
     cancel_->setObjectName(QStringLiteral("VerbMangerCancel"));
+    for (QPushButton* const button : {add_, cancel_})
+        button->setAutoDefault(true);
     for (std::size_t i = 0; i < latin_.size(); ++i) {
         latin_.at(i) = new QLineEdit(this);
         latin_.at(i)->setObjectName(QStringLiteral("VerbManagerLatinForms%1").arg(i));
