@@ -62,8 +62,10 @@ VerbEdit editVerb(int verbClass, int number, const VerbRecord& verb)
               settings.ShowVowelLength == platform::FlagTrue};
     if (const auto before = editOf(verbClass, number); before != edits.end()) {
         edit.added = edit.added || before->added;
-        if (!edit.marksShown)
+        if (!edit.marksShown) {
             keepMarks(edit.verb, before->verb);
+            edit.marksShown = before->marksShown;
+        }
         edits.erase(before);
     }
     store(edit);

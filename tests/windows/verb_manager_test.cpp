@@ -91,6 +91,7 @@ TEST_F(VerbManager, KeepsTheMarksOfAnEditThatIsEditedWhileNoneAreShown)
     tests::choose(menu, "VowelLengthVal");
     QWidget& manager = openManager();
     tests::clickRow(verbs(manager), 3);
+    fill(manager, "VerbManagerLatinForms1", "vocav");
     fill(manager, "VerbManagerLatinForms2", "lau:dat");
     tests::click(manager, "VerbManagerAdd");
     manager.close();
@@ -103,6 +104,7 @@ TEST_F(VerbManager, KeepsTheMarksOfAnEditThatIsEditedWhileNoneAreShown)
     manager.close();
     EXPECT_EQ(verbList.SupineStem[verbs::FirstConjugation][4], "laudat");
     tests::choose(menu, "VowelLengthVal");
+    EXPECT_EQ(verbList.PerfectStem[verbs::FirstConjugation][4], "vocav");
     EXPECT_EQ(verbList.SupineStem[verbs::FirstConjugation][4], "lau:dat");
     EXPECT_EQ(verbList.BaseForm[verbs::FirstConjugation][3], "extol");
 }
