@@ -289,14 +289,17 @@ TEST_F(VcabManagerWindow, NeedsANameForAFile)
 
 TEST_F(VcabManagerWindow, GivesANameItsEndingUnlessItHasOne)
 {
+    tests::writeFile("old.dat", "");
     QWidget& manager = openManager();
     add(manager, Rose);
     for (const auto& [typed, name] : {std::pair{"mine", "mine.lst"},
                                       {"mine.TXT", "mine.TXT"},
                                       {"1. Deklination", "1. Deklination.lst"},
-                                      {"Lektion 1.2", "Lektion 1.2.lst"}}) {
+                                      {"Lektion 1.2", "Lektion 1.2.lst"},
+                                      {"Kap.II", "Kap.II.lst"},
+                                      {"old.dat", "old.dat"}}) {
         saveAs(manager, typed);
-        EXPECT_TRUE(std::filesystem::exists(name)) << typed;
+        EXPECT_EQ(tests::bytesOf(name), "rosa,rose,f.\r\n") << typed;
     }
 }
 

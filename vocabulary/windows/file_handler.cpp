@@ -204,7 +204,7 @@ void FileHandler::activateFile(int row)
 
 std::filesystem::path FileHandler::path() const
 {
-    return pathOf(folder_.absolutePath()) / pathOf(withEnding(name_->text().trimmed()));
+    return pathOf(folder_.absolutePath()) / pathOf(withEnding(folder_, name_->text().trimmed()));
 }
 
 void FileHandler::loadOrSave()

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QDir>
-#include <QRegularExpression>
 
 namespace vocabulary {
 
@@ -12,12 +11,14 @@ inline QStringList listFilesIn(const QDir& folder)
                             QDir::Files, QDir::Name | QDir::IgnoreCase);
 }
 
-/// A name as it was typed, with ".lst" where it has no ending: a dot and one to four letters. What follows
-/// the dot of "1. Deklination" or "Lektion 1.2" is part of the name.
-inline QString withEnding(const QString& name)
+/// A name as it was typed, with ".lst" where it has none of the endings that are listed: what follows the dot
+/// of "Kap.II" is part of the name. A file of just this name keeps it.
+inline QString withEnding(const QDir& folder, const QString& name)
 {
-    static const QRegularExpression ending(QStringLiteral("\\.[A-Za-z]{1,4}$"));
-    return ending.match(name).hasMatch() ? name : name + QStringLiteral(".lst");
+    for (const char* const ending : {".lst", ".txt", ".voc"})
+        if (name.endsWith(QLatin1String(ending), Qt::CaseInsensitive))
+            return name;
+    return folder.exists(name) ? name : name + QStringLiteral(".lst");
 }
 
 } // namespace vocabulary
