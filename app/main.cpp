@@ -13,6 +13,12 @@ namespace {
 
 constexpr int WrongCall = 2;
 
+int tell(const std::string& answer)
+{
+    std::cout << answer << std::endl;
+    return EXIT_SUCCESS;
+}
+
 int refuse(const std::string& fault)
 {
     std::cerr << "morvanti: " << fault << std::endl;
@@ -34,6 +40,8 @@ int run(int argumentCount, char** arguments)
     const app::CommandLine line = app::readCommandLine(argumentsOf(app::Application::arguments()));
     if (line.fault)
         return refuse(*line.fault);
+    if (line.answer)
+        return tell(*line.answer);
     const auto samples = app::samplesBeside(app::Application::applicationDirPath().toStdString());
     if (const auto fault = app::enterWorkingFolder(line.folder, samples))
         return refuse(*fault);
@@ -51,10 +59,8 @@ int run(int argumentCount, char** arguments)
 int main(int argumentCount, char** arguments)
 {
     const std::vector<std::string> words(arguments + 1, arguments + argumentCount);
-    if (const auto answer = app::readCommandLine(words).answer) {
-        std::cout << *answer << std::endl;
-        return EXIT_SUCCESS;
-    }
+    if (const auto answer = app::readCommandLine(words).answer)
+        return tell(*answer);
     try {
         return run(argumentCount, arguments);
     } catch (const std::exception& fault) {
