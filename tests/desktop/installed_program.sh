@@ -18,5 +18,6 @@ for sample in "$here"/../../data/*.{cfg,lst,hlp,wav,WAV}; do
     cmp "$sample" "$own/$(basename "$sample")" || fail "the own folder lacks $sample"
 done
 grep -q "$work/usr/lib/morvanti/libmorvanti_sound.so" "/proc/$running/maps" || fail "nothing plays its sounds"
+rm "$own/morvanti.ini"
 end_with alt+e
-grep -q '^German' "$own/morvanti.ini" || fail "the language was not kept"
+grep -q '^German' "$own/morvanti.ini" || fail "the settings were not written"

@@ -129,7 +129,7 @@ TEST_F(NounQuizWindow, SetsTheDeclensionOfTheNounInBold)
     }
 }
 
-TEST_F(NounQuizWindow, OpensTheDelayWindowAboveIt)
+TEST_F(NounQuizWindow, OpensTheDelayWindowAndStays)
 {
     QWidget& quiz = openQuiz();
     click(quiz, "NQOptions");
