@@ -20,9 +20,14 @@ QIcon programIcon()
 
 } // namespace
 
+void tellFault(std::string_view fault)
+{
+    std::cerr << "morvanti: " << fault << std::endl;
+}
+
 void endWithFault(const std::exception& fault)
 {
-    std::cerr << "morvanti: " << fault.what() << std::endl;
+    tellFault(fault.what());
     std::_Exit(EXIT_FAILURE);
 }
 

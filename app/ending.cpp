@@ -1,5 +1,6 @@
 #include "app/ending.h"
 
+#include "app/application.h"
 #include "platform/platform.h"
 #include "shell/drill.h"
 #include "shell/settings.h"
@@ -11,7 +12,6 @@
 #include <QElapsedTimer>
 
 #include <cstdlib>
-#include <iostream>
 
 namespace app {
 
@@ -50,7 +50,7 @@ void exitProgram(shell::MainMenu& mainMenu)
     }
     const auto fault = shell::writeSettings(shell::SettingsFileName);
     if (fault) {
-        std::cerr << "morvanti: " << fault->message() << std::endl;
+        tellFault(fault->message());
         platform.endProgram(EXIT_FAILURE);
         return;
     }

@@ -21,7 +21,7 @@ int tell(const std::string& answer)
 
 int refuse(const std::string& fault)
 {
-    std::cerr << "morvanti: " << fault << std::endl;
+    app::tellFault(fault);
     return WrongCall;
 }
 

@@ -48,7 +48,9 @@ void switchSaving(bool saved)
 
 void setVowelMarkForDrill()
 {
-    settings.VowelMark = settings.ShowVowelLength == MarkingFlagOfDrills ? ":" : "";
+    settings.VowelMark.clear();
+    if (settings.ShowVowelLength == MarkingFlagOfDrills)
+        settings.VowelMark = LengthMark;
 }
 
 void setVowelMarkWhereShown()

@@ -24,11 +24,13 @@ needs() {
     rm -f "$log"
 }
 
-# build PRESET: configures where that was not done with these presets, and builds. Prints what it does only when it fails.
+# build PRESET: configures where that was not done with these presets, and builds. Prints what it does only when it
+# fails.
 build() {
     local preset=$1 log=build/$1.log
     mkdir -p build
-    [ "build/$preset/build.ninja" -nt CMakePresets.json ] || cmake --preset "$preset" >"$log" 2>&1 || { cat "$log" >&2; exit 1; }
+    [ "build/$preset/build.ninja" -nt CMakePresets.json ] || cmake --preset "$preset" >"$log" 2>&1 ||
+        { cat "$log" >&2; exit 1; }
     cmake --build --preset "$preset" >"$log" 2>&1 || { cat "$log" >&2; exit 1; }
 }
 

@@ -58,7 +58,6 @@ Declination::Declination() : BoxDrill("Declination", "declination", shell::exerc
     makeControls();
     makeBoxes();
     layOut();
-    shell::applyDesignedCaptions(*this, Captions);
 }
 
 void Declination::makeControls()

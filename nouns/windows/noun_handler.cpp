@@ -2,6 +2,7 @@
 
 #include "platform/platform.h"
 #include "shell/settings.h"
+#include "shell/windows/controls.h"
 #include "shell/windows/text.h"
 #include "shell/windows/type.h"
 
@@ -33,10 +34,7 @@ constexpr auto NewItem = "** Add New Item Here **";
 
 } // namespace
 
-NounHandler::NounHandler()
-    : Window("NounHandler", "nounmanager"), declensions_(new QListWidget), nouns_(new QListWidget),
-      paradigms_(new QComboBox), stem_(new QLineEdit), obliqueStem_(new QLineEdit), note_(new QLineEdit),
-      add_(new QPushButton(QStringLiteral("&Add"))), close_(new QPushButton(QStringLiteral("&Close")))
+NounHandler::NounHandler() : Window("NounHandler", "nounmanager")
 {
     setWindowTitle(QStringLiteral("Noun Manager"));
     makeControls();
@@ -45,24 +43,25 @@ NounHandler::NounHandler()
     closeOnEscape();
 }
 
+// In the order in which Tab goes through them.
 void NounHandler::makeControls()
 {
-    declensions_->setObjectName(QStringLiteral("NHDeclList"));
+    declensions_ = shell::makeControl<QListWidget>(this, "NHDeclList");
     declensions_->setAccessibleName(QStringLiteral("Declensions"));
-    nouns_->setObjectName(QStringLiteral("NHNounList"));
+    nouns_ = shell::makeControl<QListWidget>(this, "NHNounList");
     nouns_->setAccessibleName(QStringLiteral("Nouns"));
-    paradigms_->setObjectName(QStringLiteral("NHParadigm"));
-    stem_->setObjectName(QStringLiteral("NHStem"));
-    obliqueStem_->setObjectName(QStringLiteral("NHObliqueStem"));
-    note_->setObjectName(QStringLiteral("NHNote"));
+    paradigms_ = shell::makeControl<QComboBox>(this, "NHParadigm");
+    stem_ = shell::makeControl<QLineEdit>(this, "NHStem");
+    obliqueStem_ = shell::makeControl<QLineEdit>(this, "NHObliqueStem");
+    note_ = shell::makeControl<QLineEdit>(this, "NHNote");
     for (std::size_t i = 0; i < meanings_.size(); ++i) {
-        meanings_.at(i) = new QLineEdit;
+        meanings_.at(i) = new QLineEdit(this);
         meanings_.at(i)->setObjectName(QStringLiteral("NHMeaning%1").arg(i));
     }
-    add_->setObjectName(QStringLiteral("NHAdd"));
-    add_->setAutoDefault(true);
-    close_->setObjectName(QStringLiteral("NHClose"));
-    close_->setAutoDefault(true);
+    add_ = shell::makeButton(this, "NHAdd");
+    add_->setText(QStringLiteral("&Add"));
+    close_ = shell::makeButton(this, "NHClose");
+    close_->setText(QStringLiteral("&Close"));
     nouns_->setMinimumWidth(nouns_->fontMetrics().horizontalAdvance(QLatin1String(NewItem)) +
                             2 * nouns_->verticalScrollBar()->sizeHint().width());
     for (const char* const name : Declensions)
@@ -75,7 +74,7 @@ void NounHandler::makeControls()
 void NounHandler::layOut()
 {
     auto* const right = new QVBoxLayout;
-    right->addLayout(fieldRows());
+    right->addLayout(fieldGrid());
     right->addStretch();
     right->addLayout(buttonRow());
 
@@ -86,27 +85,19 @@ void NounHandler::layOut()
     columns->addLayout(right, 4);
 }
 
-QBoxLayout* NounHandler::fieldRows()
+QGridLayout* NounHandler::fieldGrid()
 {
-    auto* const fields = new QGridLayout;
-    fields->setHorizontalSpacing(shell::MediumSpace);
-    fields->setVerticalSpacing(shell::SmallSpace);
+    auto* const grid = new QGridLayout;
+    grid->setHorizontalSpacing(shell::MediumSpace);
+    grid->setVerticalSpacing(shell::SmallSpace);
     int row = 0;
-    const auto addField = [&](const char* caption, QWidget* field) {
-        auto* const label = new QLabel(QLatin1String(caption));
-        label->setBuddy(field);
-        fields->addWidget(label, row, 0);
-        fields->addWidget(field, row++, 1);
-    };
-    addField("&Paradigm", paradigms_);
-    addField("&Stem", stem_);
-    addField("O&blique stem", obliqueStem_);
-    addField("Gender and geni&tive", note_);
+    shell::addField(*grid, row++, "&Paradigm", paradigms_);
+    shell::addField(*grid, row++, "&Stem", stem_);
+    shell::addField(*grid, row++, "O&blique stem", obliqueStem_);
+    shell::addField(*grid, row++, "Gender and geni&tive", note_);
     for (std::size_t i = 0; i < meanings_.size(); ++i)
-        addField(MeaningLabels.at(i), meanings_.at(i));
-    auto* const rows = new QVBoxLayout;
-    rows->addLayout(fields);
-    return rows;
+        shell::addField(*grid, row++, MeaningLabels.at(i), meanings_.at(i));
+    return grid;
 }
 
 QBoxLayout* NounHandler::buttonRow()

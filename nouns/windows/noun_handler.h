@@ -8,6 +8,7 @@
 
 class QBoxLayout;
 class QComboBox;
+class QGridLayout;
 class QLineEdit;
 class QListWidget;
 class QPushButton;
@@ -38,7 +39,7 @@ protected:
 private:
     void makeControls();
     void layOut();
-    QBoxLayout* fieldRows();
+    QGridLayout* fieldGrid();
     QBoxLayout* buttonRow();
     void connectControls();
 

@@ -70,7 +70,6 @@ PronounSingular::PronounSingular() : BoxDrill("PronounSingular", "pronoun", shel
     makeControls();
     makeBoxes();
     layOut();
-    shell::applyDesignedCaptions(*this, Captions);
 }
 
 void PronounSingular::makeControls()

@@ -32,36 +32,35 @@ bool setText(QObject* control, const QString& text)
     return false;
 }
 
-void applyIn(std::string_view language, QWidget& window, std::span<const Caption> captions)
+void setCaption(QWidget& window, std::string_view control, std::string_view text)
 {
-    for (const auto& [control, texts] : captions) {
-        const auto text = texts.in(language);
-        if (!text)
-            continue;
-        const QString name = fromUtf8(control);
-        if (name == window.objectName())
-            window.setWindowTitle(fromUtf8(*text));
-        else if (!setText(window.findChild<QObject*>(name), fromUtf8(*text)))
-            throw std::logic_error("no control with a caption is named " + std::string(control));
-    }
+    const QString name = fromUtf8(control);
+    if (name == window.objectName())
+        window.setWindowTitle(fromUtf8(text));
+    else if (!setText(window.findChild<QObject*>(name), fromUtf8(text)))
+        throw std::logic_error("no control with a caption is named " + std::string(control));
 }
 
 } // namespace
 
 void applyCaptions(QWidget& window, std::span<const Caption> captions)
 {
-    applyIn(settings.CurrentLanguage, window, captions);
+    for (const auto& [control, texts] : captions)
+        if (const auto text = texts.in(settings.CurrentLanguage))
+            setCaption(window, control, *text);
 }
 
 void applyDesignedCaptions(QWidget& window, std::span<const Caption> captions)
 {
-    applyIn(language::English, window, captions);
+    for (const auto& [control, texts] : captions)
+        if (texts.english)
+            setCaption(window, control, *texts.english);
 }
 
 void applyDesignedOrCurrentCaptions(QWidget& window, std::span<const Caption> captions)
 {
-    applyDesignedCaptions(window, captions);
-    applyCaptions(window, captions);
+    for (const auto& [control, texts] : captions)
+        setCaption(window, control, texts.designedOrCurrent());
 }
 
 void fillList(QListWidget& list, std::span<const LanguageTexts> rows)

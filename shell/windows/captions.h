@@ -17,7 +17,7 @@ void applyCaptions(QWidget& window, std::span<const Caption> captions);
 /// Gives the controls the captions that they are designed with: the English ones.
 void applyDesignedCaptions(QWidget& window, std::span<const Caption> captions);
 
-/// Both: a control without a text for `CurrentLanguage` goes back to the English one.
+/// Gives each control the caption for `CurrentLanguage`, or where it has none the designed one.
 void applyDesignedOrCurrentCaptions(QWidget& window, std::span<const Caption> captions);
 
 /// Fills a list anew with the rows for `CurrentLanguage`, the English ones where it has none. No row is

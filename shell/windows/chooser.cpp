@@ -40,7 +40,6 @@ Chooser::Chooser(const ChooserNames& names, std::span<const Caption> captions,
     layOut();
     connectControls();
     closeOnEscape();
-    applyDesignedCaptions(*this, captions_);
 }
 
 void Chooser::makeControls(const ChooserNames& names)

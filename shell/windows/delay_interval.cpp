@@ -41,7 +41,6 @@ DelayInterval::DelayInterval()
     layOut();
     connectControls();
     closeOnEscape();
-    applyDesignedCaptions(*this, Captions);
 }
 
 void DelayInterval::makeControls()

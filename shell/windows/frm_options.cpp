@@ -70,7 +70,6 @@ FrmOptions::FrmOptions()
     layOut();
     connectControls();
     closeOnEscape();
-    applyDesignedCaptions(*this, Captions);
 }
 
 void FrmOptions::makeControls()

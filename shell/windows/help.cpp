@@ -32,7 +32,6 @@ constexpr std::array HelpCaptions = {
 Help::Help() : Window("Help"), text_(new QTextBrowser)
 {
     text_->setObjectName(QStringLiteral("HelpText"));
-    text_->setAccessibleName(QStringLiteral("Help"));
     text_->document()->setDocumentMargin(WideSpace);
     auto* const close = new QPushButton;
     close->setObjectName(QStringLiteral("Command1"));

@@ -62,7 +62,6 @@ MainMenu::MainMenu() : Window("MainMenu", "main"), menuBar_(new QMenuBar(this))
     layOut();
     connectControls();
     connectSettings();
-    applyDesignedCaptions(*this, mainMenuCaptions());
 }
 
 void MainMenu::makeControls()
@@ -173,7 +172,7 @@ void MainMenu::showSettings()
             check(languageItem, true);
     check(settings.CaseOrder == case_order::NAGDAb ? "NADGABOrder" : "NGDAABOrder", true);
     check(settings.QuestionOrder == question_order::Random ? "RandomOrder" : "SequentialOrder", true);
-    applyCaptions(*this, mainMenuCaptions());
+    applyDesignedOrCurrentCaptions(*this, mainMenuCaptions());
     for (const char* const available : {"SpanishLang", "FrenchLang"})
         item(available)->setEnabled(true);
     for (const char* const unavailable : {"ItalianLang", "NorwegianLang"})

@@ -37,7 +37,6 @@ public:
     void playSound(const std::string& waveFile) override;
     bool soundIsPlaying() const override;
     bool startProgram(const std::string& commandLine) override;
-    using Platform::showMessage;
     void showMessage(const std::string& text, std::function<void()> dismissed) override;
     void endProgram(int status) override;
     bool ending() const override;

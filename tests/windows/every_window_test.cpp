@@ -47,6 +47,8 @@ std::unique_ptr<QWidget> make()
         window->open();
     else if constexpr (requires { window->open("Save"); })
         window->open("Save");
+    else if constexpr (requires { window->showGuide(); })
+        window->showGuide();
     else if constexpr (requires { window->showSettings(); })
         window->showSettings();
     return window;

@@ -47,7 +47,6 @@ Conjugation::Conjugation() : BoxDrill("Conjugation", "conjugation", shell::exerc
 {
     makeControls();
     layOut();
-    shell::applyDesignedCaptions(*this, Captions);
 }
 
 void Conjugation::makeControls()

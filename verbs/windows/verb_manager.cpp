@@ -13,9 +13,6 @@
 #include <QListWidget>
 #include <QPushButton>
 
-#include <algorithm>
-#include <iterator>
-
 namespace verbs {
 
 namespace {
@@ -54,17 +51,14 @@ constexpr std::array TranslationCaptions = {"&Base form", "Pas&t", "Past pa&rtic
 constexpr auto NewItem = "** Add New Item Here **";
 constexpr int NewVerb = -1;
 
-template <std::size_t Size>
-std::string textOf(const std::array<QLineEdit*, Size>& fields, std::size_t index)
+std::string textOf(const QLineEdit* field)
 {
-    return fields.at(index)->text().toStdString();
+    return field->text().toStdString();
 }
 
 } // namespace
 
-VerbManager::VerbManager()
-    : Window("VerbManager", "verbmanager"), classes_(new QListWidget), verbs_(new QListWidget),
-      add_(new QPushButton(QStringLiteral("&Add"))), cancel_(new QPushButton(QStringLiteral("En&d Program")))
+VerbManager::VerbManager() : Window("VerbManager", "verbmanager")
 {
     setWindowTitle(QStringLiteral("Verbs"));
     makeControls();
@@ -73,16 +67,13 @@ VerbManager::VerbManager()
     closeOnEscape();
 }
 
+// In the order in which Tab goes through them.
 void VerbManager::makeControls()
 {
-    classes_->setObjectName(QStringLiteral("VMConjList"));
+    classes_ = shell::makeControl<QListWidget>(this, "VMConjList");
     classes_->setAccessibleName(QStringLiteral("Conjugations"));
-    verbs_->setObjectName(QStringLiteral("VMFormsList"));
+    verbs_ = shell::makeControl<QListWidget>(this, "VMFormsList");
     verbs_->setAccessibleName(QStringLiteral("Verbs"));
-    add_->setObjectName(QStringLiteral("VerbManagerAdd"));
-    cancel_->setObjectName(QStringLiteral("VerbMangerCancel"));
-    for (QPushButton* const button : {add_, cancel_})
-        button->setAutoDefault(true);
     for (std::size_t i = 0; i < latin_.size(); ++i) {
         latin_.at(i) = new QLineEdit(this);
         latin_.at(i)->setObjectName(QStringLiteral("VerbManagerLatinForms%1").arg(i));
@@ -94,6 +85,10 @@ void VerbManager::makeControls()
         translations_.at(i) = new QLineEdit(this);
         translations_.at(i)->setObjectName(QStringLiteral("VerbManagerGermanForms%1").arg(i));
     }
+    add_ = shell::makeButton(this, "VerbManagerAdd");
+    add_->setText(QStringLiteral("&Add"));
+    cancel_ = shell::makeButton(this, "VerbMangerCancel");
+    cancel_->setText(QStringLiteral("En&d Program"));
     for (QListWidget* const list : {classes_, verbs_})
         shell::setLeastWidth(*list, ListCharacters);
     for (const ClassRow& row : Classes)
@@ -113,7 +108,6 @@ void VerbManager::layOut()
     columns->addWidget(classes_, 2);
     columns->addWidget(verbs_, 2);
     columns->addLayout(right, 5);
-    setTabs();
 }
 
 QGridLayout* VerbManager::fieldGrid()
@@ -121,19 +115,13 @@ QGridLayout* VerbManager::fieldGrid()
     auto* const grid = new QGridLayout;
     grid->setHorizontalSpacing(shell::MediumSpace);
     grid->setVerticalSpacing(shell::SmallSpace);
-    const auto addField = [grid](int row, const char* caption, QLineEdit* field) {
-        auto* const label = new QLabel(QLatin1String(caption));
-        label->setBuddy(field);
-        grid->addWidget(label, row, 0);
-        grid->addWidget(field, row, 1);
-    };
     int row = 0;
     for (std::size_t i = 0; i < latin_.size(); ++i, ++row) {
-        addField(row, StemFields.at(i).caption, latin_.at(i));
+        shell::addField(*grid, row, StemFields.at(i).caption, latin_.at(i));
         grid->addWidget(previews_.at(i), row, 2);
     }
     for (std::size_t i = 0; i < translations_.size(); ++i, ++row)
-        addField(row, TranslationCaptions.at(i), translations_.at(i));
+        shell::addField(*grid, row, TranslationCaptions.at(i), translations_.at(i));
     grid->setColumnStretch(1, 2);
     grid->setColumnStretch(2, 1);
     return grid;
@@ -146,16 +134,6 @@ QBoxLayout* VerbManager::buttonRow()
     row->addStretch();
     row->addWidget(cancel_);
     return row;
-}
-
-void VerbManager::setTabs()
-{
-    QWidgetList order = {classes_, verbs_};
-    std::ranges::copy(latin_, std::back_inserter(order));
-    std::ranges::copy(translations_, std::back_inserter(order));
-    order << add_ << cancel_;
-    for (qsizetype i = 1; i < order.size(); ++i)
-        setTabOrder(order.at(i - 1), order.at(i));
 }
 
 void VerbManager::connectControls()
@@ -194,9 +172,9 @@ VerbManager::DraftPlace VerbManager::chosenPlace() const
 
 VerbRecord VerbManager::typedVerb() const
 {
-    VerbRecord verb{textOf(latin_, 0), textOf(latin_, 1), textOf(latin_, 2), {}};
+    VerbRecord verb{textOf(latin_[0]), textOf(latin_[1]), textOf(latin_[2]), {}};
     for (std::size_t i = 0; i < translations_.size(); ++i)
-        verb.translations.at(i) = textOf(translations_, i);
+        verb.translations.at(i) = textOf(translations_.at(i));
     return verb;
 }
 

@@ -43,7 +43,6 @@ private:
     void layOut();
     QGridLayout* fieldGrid();
     QBoxLayout* buttonRow();
-    void setTabs();
     void connectControls();
     void listVerbs();
     void showVerb(int row);

@@ -66,7 +66,6 @@ FileHandler::FileHandler() : Window("FileHandler")
     layOut();
     connectControls();
     closeOnEscape();
-    shell::applyDesignedCaptions(*this, Captions);
 }
 
 void FileHandler::makeControls()

@@ -38,7 +38,6 @@ VcabLoader::VcabLoader() : Window("VcabLoader")
     layOut();
     connectControls();
     closeOnEscape();
-    shell::applyDesignedCaptions(*this, Captions);
 }
 
 void VcabLoader::makeControls()

@@ -64,7 +64,6 @@ VcabManager::VcabManager() : Window("VcabManager")
     layOut();
     connectControls();
     closeOnEscape();
-    shell::applyDesignedCaptions(*this, Captions);
 }
 
 void VcabManager::makeControls()

@@ -36,7 +36,6 @@ VcabWarning::VcabWarning() : Window("VcabWarning")
     layOut();
     connectControls();
     closeOnEscape();
-    shell::applyDesignedCaptions(*this, Captions);
 }
 
 void VcabWarning::makeControls()

@@ -62,7 +62,6 @@ Vcabtester::Vcabtester() : Window("Vcabtester"), menuBar_(new QMenuBar(this))
     layOut();
     connectControls();
     closeOnEscape();
-    shell::applyDesignedCaptions(*this, Captions);
     shell::registerDrill(shell::exercise::Vcabtester, *this);
 }
 
