@@ -6,7 +6,7 @@ work=$(mktemp -d)
 export HOME=$work/home XDG_RUNTIME_DIR=$work/runtime XDG_CONFIG_HOME=$work/config LC_ALL=C.UTF-8
 unset WAYLAND_DISPLAY QT_QPA_PLATFORM QT_STYLE_OVERRIDE
 mkdir -p -m 700 "$HOME" "$XDG_RUNTIME_DIR"
-trap 'kill $(jobs -p) 2>/dev/null; wait 2>/dev/null; rm -rf "$work"' EXIT
+trap 'kill $(jobs -p) 2>/dev/null || true; wait 2>/dev/null; rm -rf "$work"' EXIT
 
 fail() {
     echo "FAILED: $1" >&2
