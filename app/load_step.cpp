@@ -2,9 +2,9 @@
 
 #include "app/ending.h"
 #include "nouns/noun_list_file.h"
-#include "shell/settings_changes.h"
 #include "shell/settings_file.h"
 #include "shell/sound_control.h"
+#include "shell/vowel_marks.h"
 #include "shell/windows/main_menu.h"
 #include "verbs/verb_list_file.h"
 

@@ -5,7 +5,7 @@
 #include "app/load_step.h"
 #include "platform/platform.h"
 #include "shell/settings.h"
-#include "shell/settings_changes.h"
+#include "shell/vowel_marks.h"
 #include "verbs/verb_edits.h"
 #include "verbs/verb_list_file.h"
 
@@ -29,7 +29,8 @@ void prepareVerbListAgain()
 
 Navigation::Navigation()
 {
-    qApp->installEventFilter(&heldKeys_);
+    qApp->installEventFilter(&keyFilter_);
+    connect(&keyFilter_, &KeyFilter::helpRequested, this, &Navigation::showHelp);
     connectMainMenu();
     connectVerbs();
     connectNouns();
@@ -67,7 +68,6 @@ void Navigation::connectVerbs()
     });
     connect(&verbs_, &VerbNavigation::left, this, &Navigation::showMainMenu);
     connect(&verbs_, &VerbNavigation::endRequested, this, &endProgramQuietly);
-    connect(&verbs_, &VerbNavigation::helpRequested, this, &Navigation::showHelp);
 }
 
 void Navigation::connectNouns()
@@ -94,7 +94,6 @@ void Navigation::connectNouns()
         nouns_.showNounManager();
     });
     connect(&nouns_, &NounNavigation::left, this, &Navigation::showMainMenu);
-    connect(&nouns_, &NounNavigation::helpRequested, this, &Navigation::showHelp);
 }
 
 void Navigation::connectQuiz()
@@ -104,7 +103,6 @@ void Navigation::connectQuiz()
         quiz_.showQuiz();
     });
     connect(&quiz_, &QuizNavigation::left, this, &Navigation::showMainMenu);
-    connect(&quiz_, &QuizNavigation::helpRequested, this, &Navigation::showHelp);
 }
 
 void Navigation::connectVocabulary()
@@ -119,7 +117,6 @@ void Navigation::connectVocabulary()
         vocabulary_.showManager();
     });
     connect(&vocabulary_, &VocabularyNavigation::left, this, &Navigation::showMainMenu);
-    connect(&vocabulary_, &VocabularyNavigation::helpRequested, this, &Navigation::showHelp);
 }
 
 void Navigation::connectOptions()
@@ -127,7 +124,6 @@ void Navigation::connectOptions()
     connect(&mainMenu_, &MainMenu::delayRequested, &options_, &OptionsNavigation::showDelayInterval);
     connect(&nouns_, &NounNavigation::delayRequested, &options_, &OptionsNavigation::showDelayInterval);
     connect(&mainMenu_, &MainMenu::optionsRequested, &options_, &OptionsNavigation::showOptions);
-    connect(&options_, &OptionsNavigation::helpRequested, this, &Navigation::showHelp);
 }
 
 void Navigation::giveWay()
@@ -144,19 +140,15 @@ void Navigation::showHelp()
 {
     if (platform::current().startProgram(HelpCommand))
         return;
-    if (!help_) {
+    if (!help_)
         help_ = std::make_unique<shell::Help>();
-        connect(help_.get(), &shell::Help::helpRequested, this, &Navigation::showHelp);
-    }
     help_->showGuide();
 }
 
 void Navigation::showAbout()
 {
-    if (!about_) {
+    if (!about_)
         about_ = std::make_unique<shell::About>();
-        connect(about_.get(), &shell::About::helpRequested, this, &Navigation::showHelp);
-    }
     about_->open();
 }
 

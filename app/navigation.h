@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/feedback_windows.h"
-#include "app/held_keys.h"
+#include "app/key_filter.h"
 #include "app/noun_navigation.h"
 #include "app/options_navigation.h"
 #include "app/quiz_navigation.h"
@@ -40,7 +40,7 @@ private:
     void showHelp();
     void showAbout();
 
-    HeldKeys heldKeys_;
+    KeyFilter keyFilter_;
     shell::MainMenu mainMenu_;
     FeedbackWindows feedback_;
     VerbNavigation verbs_{feedback_};

@@ -24,8 +24,7 @@ DeclinationChoose& NounNavigation::declinationChoose()
     declinationChoose_ = std::make_unique<DeclinationChoose>();
     const DeclinationChoose* const window = declinationChoose_.get();
     connect(window, &DeclinationChoose::chosen, this, &NounNavigation::takeDeclension);
-    connect(window, &DeclinationChoose::helpRequested, this, &NounNavigation::helpRequested);
-    connect(window, &DeclinationChoose::cancelled, this, [this] {
+    connect(window, &DeclinationChoose::left, this, [this] {
         declinationChoose_->hide();
         Q_EMIT left();
     });
@@ -40,7 +39,6 @@ Declination& NounNavigation::declination()
     const Declination* const window = declination_.get();
     connect(window, &Declination::answerJudged, this, [this](bool right) { feedback_.announce(right); });
     connect(window, &Declination::left, this, &NounNavigation::leaveDeclination);
-    connect(window, &Declination::helpRequested, this, &NounNavigation::helpRequested);
     return *declination_;
 }
 
@@ -51,8 +49,7 @@ PronounChooser& NounNavigation::pronounChooser()
     pronounChooser_ = std::make_unique<PronounChooser>();
     const PronounChooser* const window = pronounChooser_.get();
     connect(window, &PronounChooser::chosen, this, &NounNavigation::takePronouns);
-    connect(window, &PronounChooser::helpRequested, this, &NounNavigation::helpRequested);
-    connect(window, &PronounChooser::cancelled, this, [this] {
+    connect(window, &PronounChooser::left, this, [this] {
         pronounChooser_->hide();
         Q_EMIT left();
     });
@@ -67,7 +64,6 @@ PronounSingular& NounNavigation::pronounSingular()
     const PronounSingular* const window = pronounSingular_.get();
     connect(window, &PronounSingular::answerJudged, this, [this](bool right) { feedback_.announce(right); });
     connect(window, &PronounSingular::left, this, &NounNavigation::leavePronouns);
-    connect(window, &PronounSingular::helpRequested, this, &NounNavigation::helpRequested);
     return *pronounSingular_;
 }
 
@@ -79,7 +75,6 @@ NounQuiz& NounNavigation::nounQuiz()
     const NounQuiz* const window = nounQuiz_.get();
     connect(window, &NounQuiz::left, this, &NounNavigation::leaveNounQuiz);
     connect(window, &NounQuiz::optionsRequested, this, &NounNavigation::delayRequested);
-    connect(window, &NounQuiz::helpRequested, this, &NounNavigation::helpRequested);
     return *nounQuiz_;
 }
 
@@ -89,7 +84,6 @@ NounHandler& NounNavigation::nounHandler()
         return *nounHandler_;
     nounHandler_ = std::make_unique<NounHandler>();
     const NounHandler* const window = nounHandler_.get();
-    connect(window, &NounHandler::helpRequested, this, &NounNavigation::helpRequested);
     connect(window, &NounHandler::left, this, [this] {
         nounHandler_->hide();
         Q_EMIT left();

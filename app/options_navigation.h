@@ -18,9 +18,6 @@ public:
     void showDelayInterval();
     void showOptions();
 
-Q_SIGNALS:
-    void helpRequested();
-
 private:
     std::unique_ptr<shell::DelayInterval> delayInterval_;
     std::unique_ptr<shell::FrmOptions> options_;

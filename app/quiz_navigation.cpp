@@ -18,7 +18,6 @@ Probatio& QuizNavigation::probatio()
     probatio_ = std::make_unique<Probatio>();
     const Probatio* const window = probatio_.get();
     connect(window, &Probatio::answerJudged, this, [this](bool right) { feedback_.announce(right); });
-    connect(window, &Probatio::helpRequested, this, &QuizNavigation::helpRequested);
     connect(window, &Probatio::optionsRequested, this, [this] {
         leaveProbatio();
         quizInclude().open();
@@ -41,12 +40,11 @@ QuizInclude& QuizNavigation::quizInclude()
         return *quizInclude_;
     quizInclude_ = std::make_unique<QuizInclude>();
     const QuizInclude* const window = quizInclude_.get();
-    connect(window, &QuizInclude::helpRequested, this, &QuizNavigation::helpRequested);
     connect(window, &QuizInclude::chosen, this, [this] {
         quizInclude_->hide();
         probatio().resume();
     });
-    connect(window, &QuizInclude::cancelled, this, [this] {
+    connect(window, &QuizInclude::left, this, [this] {
         quizInclude_->hide();
         probatio().comeBack();
     });

@@ -22,7 +22,6 @@ public:
 Q_SIGNALS:
     /// The quiz was left for the main window.
     void left();
-    void helpRequested();
 
 private:
     verbdrills::Probatio& probatio();

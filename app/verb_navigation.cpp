@@ -22,8 +22,7 @@ ConjugationChoose& VerbNavigation::conjugationChoose()
     conjugationChoose_ = std::make_unique<ConjugationChoose>();
     const ConjugationChoose* const window = conjugationChoose_.get();
     connect(window, &ConjugationChoose::chosen, this, &VerbNavigation::takeConjugation);
-    connect(window, &ConjugationChoose::helpRequested, this, &VerbNavigation::helpRequested);
-    connect(window, &ConjugationChoose::cancelled, this, [this] {
+    connect(window, &ConjugationChoose::left, this, [this] {
         const Hourglass hourglass;
         conjugationChoose_->hide();
         Q_EMIT left();
@@ -38,8 +37,7 @@ TenseMoodChooser& VerbNavigation::tenseMoodChooser()
     tenseMoodChooser_ = std::make_unique<TenseMoodChooser>();
     const TenseMoodChooser* const window = tenseMoodChooser_.get();
     connect(window, &TenseMoodChooser::chosen, this, &VerbNavigation::takeTense);
-    connect(window, &TenseMoodChooser::helpRequested, this, &VerbNavigation::helpRequested);
-    connect(window, &TenseMoodChooser::cancelled, this, [this] {
+    connect(window, &TenseMoodChooser::left, this, [this] {
         tenseMoodChooser_->hide();
         conjugationChoose().open();
     });
@@ -54,7 +52,6 @@ Conjugation& VerbNavigation::conjugation()
     const Conjugation* const window = conjugation_.get();
     connect(window, &Conjugation::answerJudged, this, [this](bool right) { feedback_.announce(right); });
     connect(window, &Conjugation::left, this, &VerbNavigation::leaveConjugation);
-    connect(window, &Conjugation::helpRequested, this, &VerbNavigation::helpRequested);
     return *conjugation_;
 }
 
@@ -65,7 +62,6 @@ VerbManager& VerbNavigation::verbManager()
     verbManager_ = std::make_unique<VerbManager>();
     const VerbManager* const window = verbManager_.get();
     connect(window, &VerbManager::endRequested, this, &VerbNavigation::endRequested);
-    connect(window, &VerbManager::helpRequested, this, &VerbNavigation::helpRequested);
     connect(window, &VerbManager::left, this, [this] {
         verbManager_->hide();
         Q_EMIT left();

@@ -26,7 +26,6 @@ Q_SIGNALS:
     /// The last of these windows was left for the main window.
     void left();
     void endRequested();
-    void helpRequested();
 
 private:
     verbdrills::ConjugationChoose& conjugationChoose();

@@ -24,7 +24,6 @@ Vcabtester& VocabularyNavigation::tester()
     connect(window, &Vcabtester::listRequested, this, &VocabularyNavigation::showLoader);
     connect(window, &Vcabtester::editorRequested, this, &VocabularyNavigation::editTestedList);
     connect(window, &Vcabtester::left, this, &VocabularyNavigation::leaveTester);
-    connect(window, &Vcabtester::helpRequested, this, &VocabularyNavigation::helpRequested);
     return *tester_;
 }
 
@@ -33,7 +32,6 @@ VcabLoader& VocabularyNavigation::loader()
     if (loader_)
         return *loader_;
     loader_ = std::make_unique<VcabLoader>();
-    connect(loader_.get(), &VcabLoader::helpRequested, this, &VocabularyNavigation::helpRequested);
     connect(loader_.get(), &VcabLoader::left, this, [this] {
         loader_->hide();
         returnToTester();
@@ -52,7 +50,6 @@ VcabManager& VocabularyNavigation::manager()
             [this] { goOnWithoutPendingChanges(&VocabularyNavigation::chooseFileToLoad); });
     connect(window, &VcabManager::exitRequested, this,
             [this] { goOnWithoutPendingChanges(&VocabularyNavigation::returnToTester); });
-    connect(window, &VcabManager::helpRequested, this, &VocabularyNavigation::helpRequested);
     return *manager_;
 }
 
@@ -70,7 +67,6 @@ FileHandler& VocabularyNavigation::fileHandler()
         fileHandler_->hide();
         manager_->comeBack();
     });
-    connect(window, &FileHandler::helpRequested, this, &VocabularyNavigation::helpRequested);
     return *fileHandler_;
 }
 
@@ -80,8 +76,7 @@ VcabWarning& VocabularyNavigation::warning()
         return *warning_;
     warning_ = std::make_unique<VcabWarning>();
     const VcabWarning* const window = warning_.get();
-    connect(window, &VcabWarning::helpRequested, this, &VocabularyNavigation::helpRequested);
-    connect(window, &VcabWarning::cancelled, warning_.get(), &VcabWarning::hide);
+    connect(window, &VcabWarning::left, warning_.get(), &VcabWarning::hide);
     connect(window, &VcabWarning::discardRequested, this, &VocabularyNavigation::goOnWithoutSaving);
     connect(window, &VcabWarning::saveRequested, this, [this] {
         warning_->hide();

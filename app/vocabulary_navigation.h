@@ -29,7 +29,6 @@ public:
 Q_SIGNALS:
     /// The last of these windows was left for the main window.
     void left();
-    void helpRequested();
 
 private:
     using Step = void (VocabularyNavigation::*)();

@@ -2,8 +2,8 @@
 // procedure prints the ratios as rows of a table and fails where one is above the limit. The single times of
 // Google Benchmark come with --benchmark_filter=.
 
+#include "nouns/declensions.h"
 #include "nouns/noun_list_file.h"
-#include "nouns/noun_paradigms.h"
 #include "nouns/noun_tables.h"
 #include "platform/platform.h"
 #include "shell/settings.h"

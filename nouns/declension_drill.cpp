@@ -1,7 +1,7 @@
 #include "nouns/declension_drill.h"
 
 #include "nouns/case_order.h"
-#include "nouns/noun_paradigms.h"
+#include "nouns/declensions.h"
 #include "nouns/noun_tables.h"
 #include "platform/random.h"
 #include "shell/settings.h"

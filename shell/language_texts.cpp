@@ -21,7 +21,7 @@ std::optional<std::string_view> LanguageTexts::in(std::string_view languageName)
     return {};
 }
 
-std::string_view LanguageTexts::designedOrCurrent() const
+std::string_view LanguageTexts::currentOrDesigned() const
 {
     return in(settings.CurrentLanguage).value_or(english.value_or(""));
 }

@@ -18,7 +18,7 @@ struct LanguageTexts {
     std::optional<std::string_view> in(std::string_view languageName) const;
 
     /// The text for `CurrentLanguage`, else the English one, with which windows are designed.
-    std::string_view designedOrCurrent() const;
+    std::string_view currentOrDesigned() const;
 };
 
 /// The texts of a window's control, or of the window itself, by its object name.

@@ -5,12 +5,6 @@
 
 namespace shell {
 
-namespace {
-
-constexpr platform::Flag MarkingFlagOfDrills = 1;
-
-} // namespace
-
 void chooseLanguage(std::string_view language)
 {
     settings.CurrentLanguage = language;
@@ -44,26 +38,6 @@ void switchVowelLength(bool shown)
 void switchSaving(bool saved)
 {
     settings.SaveSettingsOnExit = platform::flagOf(saved);
-}
-
-void setVowelMarkForDrill()
-{
-    settings.VowelMark.clear();
-    if (settings.ShowVowelLength == MarkingFlagOfDrills)
-        settings.VowelMark = LengthMark;
-}
-
-void setVowelMarkWhereShown()
-{
-    if (settings.ShowVowelLength == platform::FlagTrue)
-        settings.VowelMark = LengthMark;
-}
-
-void setVowelMarkAsShown()
-{
-    setVowelMarkWhereShown();
-    if (settings.ShowVowelLength == platform::FlagFalse)
-        settings.VowelMark.clear();
 }
 
 } // namespace shell

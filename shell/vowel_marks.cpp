@@ -4,6 +4,12 @@
 
 namespace shell {
 
+namespace {
+
+constexpr platform::Flag MarkingFlagOfDrills = 1;
+
+} // namespace
+
 std::string StripOutColons(std::string_view stem)
 {
     std::string stripped;
@@ -30,6 +36,26 @@ void appendMarked(std::string& form, std::string_view text, std::string_view mar
         else
             form += character;
     }
+}
+
+void setVowelMarkForDrill()
+{
+    settings.VowelMark.clear();
+    if (settings.ShowVowelLength == MarkingFlagOfDrills)
+        settings.VowelMark = LengthMark;
+}
+
+void setVowelMarkWhereShown()
+{
+    if (settings.ShowVowelLength == platform::FlagTrue)
+        settings.VowelMark = LengthMark;
+}
+
+void setVowelMarkAsShown()
+{
+    setVowelMarkWhereShown();
+    if (settings.ShowVowelLength == platform::FlagFalse)
+        settings.VowelMark.clear();
 }
 
 } // namespace shell

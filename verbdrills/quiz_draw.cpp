@@ -5,7 +5,7 @@
 #include "shell/settings.h"
 #include "shell/vowel_marks.h"
 #include "verbdrills/conjugation_choice.h"
-#include "verbdrills/verb_quiz.h"
+#include "verbdrills/verb_question.h"
 #include "verbs/paradigm.h"
 #include "verbs/verb_tables.h"
 

@@ -66,7 +66,7 @@ constexpr std::string_view Separator = ", ";
 
 std::string_view chosenName(std::span<const LanguageTexts> names, int row)
 {
-    return row < 0 ? std::string_view() : names[static_cast<std::size_t>(row)].designedOrCurrent();
+    return row < 0 ? std::string_view() : names[static_cast<std::size_t>(row)].currentOrDesigned();
 }
 
 } // namespace
@@ -84,8 +84,8 @@ std::span<const LanguageTexts> quizTenseNames()
 std::string describe(const Identification& identification)
 {
     const bool plural = identification.number == quiz_number::Plural;
-    std::string text(PersonTexts.at(static_cast<std::size_t>(identification.person - 1)).designedOrCurrent());
-    text += (plural ? PluralText : SingularText).designedOrCurrent();
+    std::string text(PersonTexts.at(static_cast<std::size_t>(identification.person - 1)).currentOrDesigned());
+    text += (plural ? PluralText : SingularText).currentOrDesigned();
     text += chosenName(ClassNames, identification.classRow);
     if (identification.classRow >= 0 && identification.tenseRow >= 0)
         text += Separator;

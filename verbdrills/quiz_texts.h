@@ -1,7 +1,7 @@
 #pragma once
 
 #include "shell/language_texts.h"
-#include "verbdrills/verb_quiz.h"
+#include "verbdrills/verb_question.h"
 
 #include <span>
 #include <string>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "verbs/conjugation.h"
+#include "verbs/ending_rows.h"
 
 #include <array>
 

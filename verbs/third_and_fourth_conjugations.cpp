@@ -1,5 +1,5 @@
 #include "platform/random.h"
-#include "shell/settings_changes.h"
+#include "shell/vowel_marks.h"
 #include "verbs/fourth_conjugation.h"
 #include "verbs/generators.h"
 #include "verbs/shared_endings.h"

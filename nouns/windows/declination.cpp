@@ -4,12 +4,12 @@
 #include "nouns/declension_drill.h"
 #include "nouns/noun_tables.h"
 #include "nouns/windows/case_names.h"
+#include "shell/kit/answer_box.h"
+#include "shell/kit/captions.h"
+#include "shell/kit/controls.h"
+#include "shell/kit/text.h"
+#include "shell/kit/type.h"
 #include "shell/settings.h"
-#include "shell/windows/answer_box.h"
-#include "shell/windows/captions.h"
-#include "shell/windows/controls.h"
-#include "shell/windows/text.h"
-#include "shell/windows/type.h"
 
 #include <QBoxLayout>
 #include <QGridLayout>
@@ -149,7 +149,7 @@ void Declination::placeRows()
 
 void Declination::open()
 {
-    shell::applyDesignedOrCurrentCaptions(*this, Captions);
+    shell::applyCurrentOrDesignedCaptions(*this, Captions);
     placeRows();
     drawDeclension();
     showNoun();

@@ -1,10 +1,10 @@
 #include "nouns/windows/noun_handler.h"
 
 #include "platform/platform.h"
+#include "shell/kit/controls.h"
+#include "shell/kit/text.h"
+#include "shell/kit/type.h"
 #include "shell/settings.h"
-#include "shell/windows/controls.h"
-#include "shell/windows/text.h"
-#include "shell/windows/type.h"
 
 #include <QBoxLayout>
 #include <QComboBox>
@@ -275,11 +275,6 @@ void NounHandler::chooseLastOf(int paradigm)
                                    [&](const ListRow& row) { return row.paradigm->paradigm == paradigm; });
     nouns_->setCurrentRow(static_cast<int>(rows_.rend() - last) - 1);
     nouns_->setFocus();
-}
-
-void NounHandler::closeBoxPressed()
-{
-    Q_EMIT left();
 }
 
 } // namespace nouns

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "nouns/noun_edits.h"
-#include "shell/windows/window.h"
+#include "shell/kit/window.h"
 
 #include <array>
 #include <vector>
@@ -28,13 +28,6 @@ public:
 
     /// Starts afresh with the first declension.
     void open();
-
-Q_SIGNALS:
-    /// The window was closed.
-    void left();
-
-protected:
-    void closeBoxPressed() override;
 
 private:
     void makeControls();

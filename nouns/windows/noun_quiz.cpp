@@ -1,14 +1,14 @@
 #include "nouns/windows/noun_quiz.h"
 
-#include "nouns/noun_quiz.h"
+#include "nouns/noun_question.h"
 #include "nouns/windows/case_names.h"
 #include "shell/drill.h"
 #include "shell/feedback_texts.h"
+#include "shell/kit/captions.h"
+#include "shell/kit/controls.h"
+#include "shell/kit/text.h"
+#include "shell/kit/type.h"
 #include "shell/pause.h"
-#include "shell/windows/captions.h"
-#include "shell/windows/controls.h"
-#include "shell/windows/text.h"
-#include "shell/windows/type.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>
@@ -205,7 +205,7 @@ void NounQuiz::check()
     if (shell::pausing() || !isVisible())
         return;
     const shell::LanguageTexts& verdict = ticksAreRight() ? shell::RightTexts : shell::WrongTexts;
-    verdict_->setText(shell::fromUtf8(verdict.designedOrCurrent()));
+    verdict_->setText(shell::fromUtf8(verdict.currentOrDesigned()));
     answer_->setText(shell::fromUtf8(rightCasesInWords()));
     if (shell::pauseWithDrill())
         ask();
@@ -216,11 +216,6 @@ void NounQuiz::skip()
 {
     shell::leaveDrill();
     ask();
-}
-
-void NounQuiz::closeBoxPressed()
-{
-    Q_EMIT left();
 }
 
 } // namespace nouns

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "nouns/noun_paradigm.h"
-#include "shell/windows/window.h"
+#include "shell/kit/window.h"
 
 #include <array>
 
@@ -29,12 +29,6 @@ public:
 Q_SIGNALS:
     /// The length of the pause is to be set.
     void optionsRequested();
-
-    /// The quiz was left.
-    void left();
-
-protected:
-    void closeBoxPressed() override;
 
 private:
     void makeControls();

@@ -2,12 +2,12 @@
 
 #include "nouns/case_order.h"
 #include "nouns/windows/case_names.h"
+#include "shell/kit/answer_box.h"
+#include "shell/kit/captions.h"
+#include "shell/kit/controls.h"
+#include "shell/kit/text.h"
+#include "shell/kit/type.h"
 #include "shell/settings.h"
-#include "shell/windows/answer_box.h"
-#include "shell/windows/captions.h"
-#include "shell/windows/controls.h"
-#include "shell/windows/text.h"
-#include "shell/windows/type.h"
 
 #include <QBoxLayout>
 #include <QGridLayout>
@@ -133,11 +133,11 @@ void PronounSingular::placeRows()
 
 void PronounSingular::open()
 {
-    shell::applyDesignedOrCurrentCaptions(*this, Captions);
+    shell::applyCurrentOrDesignedCaptions(*this, Captions);
     placeRows();
     beginPronouns();
     heading_->setText(
-        shell::fromUtf8(Headings.at(static_cast<std::size_t>(pronounDrill.Group)).designedOrCurrent()));
+        shell::fromUtf8(Headings.at(static_cast<std::size_t>(pronounDrill.Group)).currentOrDesigned()));
     showNumber();
     scoreLabel()->clear();
     showInMainWindowState();

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "nouns/pronoun_drill.h"
-#include "shell/windows/box_drill.h"
+#include "shell/kit/box_drill.h"
 
 #include <array>
 

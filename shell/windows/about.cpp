@@ -1,8 +1,8 @@
 #include "shell/windows/about.h"
 
-#include "shell/windows/captions.h"
-#include "shell/windows/text.h"
-#include "shell/windows/type.h"
+#include "shell/kit/captions.h"
+#include "shell/kit/text.h"
+#include "shell/kit/type.h"
 
 #include <QBoxLayout>
 #include <QCoreApplication>

@@ -1,11 +1,11 @@
 #include "shell/windows/delay_interval.h"
 
 #include "shell/delay.h"
+#include "shell/kit/captions.h"
+#include "shell/kit/enter_key.h"
+#include "shell/kit/text.h"
+#include "shell/kit/type.h"
 #include "shell/wait.h"
-#include "shell/windows/captions.h"
-#include "shell/windows/enter_key.h"
-#include "shell/windows/text.h"
-#include "shell/windows/type.h"
 
 #include <QBoxLayout>
 #include <QLabel>
@@ -95,7 +95,7 @@ void DelayInterval::connectControls()
 
 void DelayInterval::open()
 {
-    applyDesignedOrCurrentCaptions(*this, Captions);
+    applyCurrentOrDesignedCaptions(*this, Captions);
     scroll_->setAccessibleName(windowTitle());
     scroll_->setValue(scrollAtFirst());
     showLength(scroll_->value());

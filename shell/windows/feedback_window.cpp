@@ -1,9 +1,9 @@
 #include "shell/windows/feedback_window.h"
 
 #include "shell/feedback_texts.h"
-#include "shell/windows/captions.h"
-#include "shell/windows/text.h"
-#include "shell/windows/type.h"
+#include "shell/kit/captions.h"
+#include "shell/kit/text.h"
+#include "shell/kit/type.h"
 
 #include <QLabel>
 #include <QScreen>

@@ -2,11 +2,11 @@
 
 #include "platform/platform.h"
 #include "platform/printed_number.h"
+#include "shell/kit/captions.h"
+#include "shell/kit/text.h"
+#include "shell/kit/type.h"
 #include "shell/settings.h"
-#include "shell/windows/captions.h"
 #include "shell/windows/main_menu_captions.h"
-#include "shell/windows/text.h"
-#include "shell/windows/type.h"
 
 #include <QBoxLayout>
 #include <QFormLayout>
@@ -53,7 +53,7 @@ QString mainMenuText(std::string_view control)
     const auto row = std::ranges::find(menu, control, &Caption::control);
     if (row == menu.end())
         throw std::logic_error("the main window has no caption of " + std::string(control));
-    QString text = fromUtf8(row->texts.designedOrCurrent());
+    QString text = fromUtf8(row->texts.currentOrDesigned());
     text.remove(u'&');
     return text.endsWith(QStringLiteral("...")) ? text.chopped(3) : text;
 }
@@ -171,9 +171,9 @@ void FrmOptions::open()
 
 void FrmOptions::showCaptions()
 {
-    applyDesignedOrCurrentCaptions(*this, Captions);
+    applyCurrentOrDesignedCaptions(*this, Captions);
     for (std::size_t tab = 0; tab < Tabs.size(); ++tab)
-        tabs_->setTabText(static_cast<int>(tab), fromUtf8(Tabs.at(tab).designedOrCurrent()));
+        tabs_->setTabText(static_cast<int>(tab), fromUtf8(Tabs.at(tab).currentOrDesigned()));
     tabs_->setAccessibleName(windowTitle());
 }
 

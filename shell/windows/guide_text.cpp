@@ -1,6 +1,6 @@
 #include "shell/windows/guide_text.h"
 
-#include "shell/windows/type.h"
+#include "shell/kit/type.h"
 
 #include <QTextBlock>
 #include <QTextBrowser>

@@ -1,10 +1,10 @@
 #include "shell/windows/help.h"
 
 #include "platform/text_file.h"
-#include "shell/windows/captions.h"
+#include "shell/kit/captions.h"
+#include "shell/kit/text.h"
+#include "shell/kit/type.h"
 #include "shell/windows/guide_text.h"
-#include "shell/windows/text.h"
-#include "shell/windows/type.h"
 
 #include <QBoxLayout>
 #include <QPushButton>

@@ -1,11 +1,11 @@
 #include "shell/windows/main_menu.h"
 
+#include "shell/kit/captions.h"
+#include "shell/kit/type.h"
 #include "shell/settings.h"
 #include "shell/settings_changes.h"
-#include "shell/windows/captions.h"
 #include "shell/windows/main_menu_captions.h"
 #include "shell/windows/main_menu_items.h"
-#include "shell/windows/type.h"
 
 #include <QAction>
 #include <QBoxLayout>
@@ -172,7 +172,7 @@ void MainMenu::showSettings()
             check(languageItem, true);
     check(settings.CaseOrder == case_order::NAGDAb ? "NADGABOrder" : "NGDAABOrder", true);
     check(settings.QuestionOrder == question_order::Random ? "RandomOrder" : "SequentialOrder", true);
-    applyDesignedOrCurrentCaptions(*this, mainMenuCaptions());
+    applyCurrentOrDesignedCaptions(*this, mainMenuCaptions());
     for (const char* const available : {"SpanishLang", "FrenchLang"})
         item(available)->setEnabled(true);
     for (const char* const unavailable : {"ItalianLang", "NorwegianLang"})

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/windows/window.h"
+#include "shell/kit/window.h"
 
 class QAction;
 class QMenuBar;
@@ -34,6 +34,7 @@ Q_SIGNALS:
     void vocabularyManagerRequested();
     void delayRequested();
     void optionsRequested();
+    void helpRequested();
     void aboutRequested();
 
     /// `ShowVowelLength` was switched: the verb list has to be read again.

@@ -1,6 +1,6 @@
+#include "nouns/declensions.h"
 #include "nouns/noun_list.h"
 #include "nouns/noun_list_file.h"
-#include "nouns/noun_paradigms.h"
 #include "nouns/noun_tables.h"
 #include "shell/settings.h"
 #include "shell/vowel_marks.h"

@@ -1,11 +1,11 @@
 #include "nouns/declension_drill.h"
 #include "nouns/pronoun_drill.h"
 #include "shell/settings.h"
-#include "shell/settings_changes.h"
 #include "shell/settings_file.h"
+#include "shell/vowel_marks.h"
 #include "tests/fuzz/one_file.h"
 #include "verbdrills/quiz_draw.h"
-#include "verbdrills/verb_quiz.h"
+#include "verbdrills/verb_question.h"
 #include "verbs/verb_tables.h"
 
 #include <algorithm>

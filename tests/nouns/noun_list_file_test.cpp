@@ -1,6 +1,6 @@
+#include "nouns/declensions.h"
 #include "nouns/noun_list.h"
 #include "nouns/noun_list_file.h"
-#include "nouns/noun_paradigms.h"
 #include "shell/settings.h"
 #include "tests/support/fresh_state.h"
 

@@ -1,5 +1,5 @@
+#include "nouns/declensions.h"
 #include "nouns/noun_list_file.h"
-#include "nouns/noun_paradigms.h"
 #include "nouns/noun_tables.h"
 #include "shell/settings.h"
 #include "tests/support/fresh_state.h"

@@ -1,6 +1,6 @@
 #include "shell/settings.h"
-#include "shell/settings_changes.h"
 #include "shell/settings_file.h"
+#include "shell/vowel_marks.h"
 #include "tests/support/fresh_state.h"
 
 #include <tuple>

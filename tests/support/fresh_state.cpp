@@ -2,7 +2,7 @@
 
 #include "nouns/declension_drill.h"
 #include "nouns/noun_list.h"
-#include "nouns/noun_quiz.h"
+#include "nouns/noun_question.h"
 #include "nouns/noun_tables.h"
 #include "nouns/pronoun_drill.h"
 #include "platform/random.h"
@@ -10,7 +10,7 @@
 #include "shell/settings.h"
 #include "verbdrills/conjugation_drill.h"
 #include "verbdrills/quiz_inclusion.h"
-#include "verbdrills/verb_quiz.h"
+#include "verbdrills/verb_question.h"
 #include "verbs/verb_edits.h"
 #include "verbs/verb_list.h"
 #include "verbs/verb_tables.h"

@@ -1,7 +1,7 @@
 #include "shell/settings.h"
 #include "tests/support/fresh_state.h"
 #include "verbdrills/quiz_draw.h"
-#include "verbdrills/verb_quiz.h"
+#include "verbdrills/verb_question.h"
 #include "verbs/paradigm.h"
 #include "verbs/verb_list_file.h"
 #include "verbs/verb_tables.h"

@@ -1,6 +1,6 @@
 #include "shell/settings.h"
 #include "tests/support/fresh_state.h"
-#include "verbdrills/verb_quiz.h"
+#include "verbdrills/verb_question.h"
 #include "verbs/paradigm.h"
 
 #include <array>

@@ -1,12 +1,12 @@
 // What all drills have in common: an answer counts once, a hint does not count, and a pause can be left.
 
 #include "nouns/declension_drill.h"
-#include "nouns/noun_quiz.h"
+#include "nouns/noun_question.h"
 #include "nouns/pronoun_drill.h"
 #include "shell/settings.h"
 #include "tests/support/window_test.h"
 #include "verbdrills/conjugation_drill.h"
-#include "verbdrills/verb_quiz.h"
+#include "verbdrills/verb_question.h"
 #include "vocabulary/vocabulary_list.h"
 #include "vocabulary/vocabulary_tester.h"
 

@@ -1,5 +1,5 @@
+#include "nouns/declensions.h"
 #include "nouns/noun_list.h"
-#include "nouns/noun_paradigms.h"
 #include "shell/settings.h"
 #include "tests/support/window_test.h"
 

@@ -1,4 +1,4 @@
-#include "nouns/noun_quiz.h"
+#include "nouns/noun_question.h"
 #include "nouns/noun_tables.h"
 #include "shell/settings.h"
 #include "tests/support/window_test.h"

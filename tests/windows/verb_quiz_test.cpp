@@ -1,7 +1,7 @@
 #include "shell/settings.h"
 #include "shell/settings_file.h"
 #include "tests/support/window_test.h"
-#include "verbdrills/verb_quiz.h"
+#include "verbdrills/verb_question.h"
 #include "verbs/paradigm.h"
 
 #include <QApplication>

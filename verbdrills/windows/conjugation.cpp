@@ -1,12 +1,12 @@
 #include "verbdrills/windows/conjugation.h"
 
 #include "platform/platform.h"
+#include "shell/kit/answer_box.h"
+#include "shell/kit/captions.h"
+#include "shell/kit/controls.h"
+#include "shell/kit/text.h"
+#include "shell/kit/type.h"
 #include "shell/settings.h"
-#include "shell/windows/answer_box.h"
-#include "shell/windows/captions.h"
-#include "shell/windows/controls.h"
-#include "shell/windows/text.h"
-#include "shell/windows/type.h"
 #include "verbdrills/gloss.h"
 #include "verbs/verb_tables.h"
 
@@ -118,7 +118,7 @@ QGridLayout* Conjugation::answerGrid()
 
 void Conjugation::open()
 {
-    shell::applyDesignedOrCurrentCaptions(*this, Captions);
+    shell::applyCurrentOrDesignedCaptions(*this, Captions);
     emptyRound();
     scoreLabel()->clear();
     if (shell::settings.QuestionOrder == shell::question_order::Random &&

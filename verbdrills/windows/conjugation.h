@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/windows/box_drill.h"
+#include "shell/kit/box_drill.h"
 #include "verbdrills/conjugation_drill.h"
 
 #include <array>

@@ -1,8 +1,8 @@
 #include "verbdrills/windows/person_and_number.h"
 
-#include "shell/windows/controls.h"
-#include "shell/windows/type.h"
-#include "verbdrills/verb_quiz.h"
+#include "shell/kit/controls.h"
+#include "shell/kit/type.h"
+#include "verbdrills/verb_question.h"
 
 #include <QButtonGroup>
 #include <QGridLayout>

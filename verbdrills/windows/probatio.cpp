@@ -1,11 +1,11 @@
 #include "verbdrills/windows/probatio.h"
 
+#include "shell/kit/captions.h"
+#include "shell/kit/controls.h"
+#include "shell/kit/text.h"
+#include "shell/kit/type.h"
 #include "shell/pause.h"
 #include "shell/settings.h"
-#include "shell/windows/captions.h"
-#include "shell/windows/controls.h"
-#include "shell/windows/text.h"
-#include "shell/windows/type.h"
 #include "verbdrills/quiz_draw.h"
 #include "verbdrills/quiz_texts.h"
 #include "verbdrills/windows/person_and_number.h"
@@ -260,11 +260,6 @@ void Probatio::showRightAnswer()
     showChosenAnswer();
     correctHeading_->setText(shell::fromUtf8(correctHeading()));
     correct_->setText(shell::fromUtf8(describe(rightIdentification())));
-}
-
-void Probatio::closeBoxPressed()
-{
-    Q_EMIT left();
 }
 
 // The quiz shows no score, and has no box that turns grey.

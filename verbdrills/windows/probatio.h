@@ -1,8 +1,8 @@
 #pragma once
 
 #include "shell/drill.h"
-#include "shell/windows/window.h"
-#include "verbdrills/verb_quiz.h"
+#include "shell/kit/window.h"
+#include "verbdrills/verb_question.h"
 
 class QBoxLayout;
 class QGridLayout;
@@ -46,12 +46,6 @@ Q_SIGNALS:
     void nothingToAsk();
 
     void optionsRequested();
-
-    /// The quiz was left.
-    void left();
-
-protected:
-    void closeBoxPressed() override;
 
 private:
     void makeControls();

@@ -43,7 +43,7 @@ std::span<const Caption> probatioCaptions()
 
 std::string_view correctHeading()
 {
-    return CorrectHeading.designedOrCurrent();
+    return CorrectHeading.currentOrDesigned();
 }
 
 } // namespace verbdrills

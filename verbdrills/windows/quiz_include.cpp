@@ -1,9 +1,9 @@
 #include "verbdrills/windows/quiz_include.h"
 
-#include "shell/windows/captions.h"
-#include "shell/windows/controls.h"
-#include "shell/windows/enter_key.h"
-#include "shell/windows/type.h"
+#include "shell/kit/captions.h"
+#include "shell/kit/controls.h"
+#include "shell/kit/enter_key.h"
+#include "shell/kit/type.h"
 #include "verbdrills/quiz_texts.h"
 
 #include <QBoxLayout>
@@ -146,7 +146,7 @@ void QuizInclude::connectControls()
     connect(ok_, &QPushButton::clicked, this, &QuizInclude::take);
     connect(all_, &QPushButton::clicked, this, [this] { showTicks(everyTick()); });
     connect(none_, &QPushButton::clicked, this, [this] { showTicks(noTick()); });
-    connect(cancel_, &QPushButton::clicked, this, &QuizInclude::cancelled);
+    connect(cancel_, &QPushButton::clicked, this, &QuizInclude::left);
 }
 
 void QuizInclude::open()
@@ -199,11 +199,6 @@ void QuizInclude::take()
 {
     takeTicks(ticks());
     Q_EMIT chosen();
-}
-
-void QuizInclude::closeBoxPressed()
-{
-    Q_EMIT cancelled();
 }
 
 void QuizInclude::keyPressEvent(QKeyEvent* event)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/windows/framed_window.h"
+#include "shell/kit/framed_window.h"
 #include "verbdrills/quiz_inclusion.h"
 
 #include <array>
@@ -28,10 +28,8 @@ public:
 Q_SIGNALS:
     /// The ticked boxes were taken.
     void chosen();
-    void cancelled();
 
 protected:
-    void closeBoxPressed() override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:

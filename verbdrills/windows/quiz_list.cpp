@@ -1,7 +1,7 @@
 #include "verbdrills/windows/quiz_list.h"
 
-#include "shell/windows/captions.h"
-#include "shell/windows/type.h"
+#include "shell/kit/captions.h"
+#include "shell/kit/type.h"
 
 #include <QItemSelectionModel>
 

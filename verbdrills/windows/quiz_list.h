@@ -1,7 +1,7 @@
 #pragma once
 
+#include "shell/kit/choice_list.h"
 #include "shell/language_texts.h"
-#include "shell/windows/choice_list.h"
 
 #include <span>
 

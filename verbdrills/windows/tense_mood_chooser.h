@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/windows/chooser.h"
+#include "shell/kit/chooser.h"
 
 namespace verbdrills {
 

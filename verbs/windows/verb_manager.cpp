@@ -1,9 +1,9 @@
 #include "verbs/windows/verb_manager.h"
 
 #include "platform/platform.h"
-#include "shell/windows/controls.h"
-#include "shell/windows/text.h"
-#include "shell/windows/type.h"
+#include "shell/kit/controls.h"
+#include "shell/kit/text.h"
+#include "shell/kit/type.h"
 #include "verbs/verb_edits.h"
 
 #include <QBoxLayout>
@@ -234,11 +234,6 @@ void VerbManager::addVerb()
     drafts_.erase(chosenPlace());
     listVerbs();
     verbs_->setCurrentRow(row);
-}
-
-void VerbManager::closeBoxPressed()
-{
-    Q_EMIT left();
 }
 
 } // namespace verbs

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/windows/window.h"
+#include "shell/kit/window.h"
 #include "verbs/verb_list.h"
 
 #include <array>
@@ -29,14 +29,9 @@ public:
     void open();
 
 Q_SIGNALS:
-    /// The window was closed by its close box.
-    void left();
 
     /// The cancel button, which ends the whole program at once.
     void endRequested();
-
-protected:
-    void closeBoxPressed() override;
 
 private:
     void makeControls();

@@ -1,11 +1,11 @@
 #include "vocabulary/windows/file_handler.h"
 
 #include "platform/platform.h"
-#include "shell/windows/captions.h"
-#include "shell/windows/choice_list.h"
-#include "shell/windows/controls.h"
-#include "shell/windows/text.h"
-#include "shell/windows/type.h"
+#include "shell/kit/captions.h"
+#include "shell/kit/choice_list.h"
+#include "shell/kit/controls.h"
+#include "shell/kit/text.h"
+#include "shell/kit/type.h"
 #include "vocabulary/vocabulary_edits.h"
 #include "vocabulary/windows/list_files.h"
 #include "vocabulary/windows/word_label.h"
@@ -135,9 +135,9 @@ void FileHandler::connectControls()
 
 void FileHandler::setCaptions()
 {
-    shell::applyDesignedOrCurrentCaptions(*this, Captions);
+    shell::applyCurrentOrDesignedCaptions(*this, Captions);
     const LanguageTexts& title = isLoading() ? LoadTitle : SaveTitle;
-    setWindowTitle(shell::fromUtf8(title.designedOrCurrent()));
+    setWindowTitle(shell::fromUtf8(title.currentOrDesigned()));
     action_->setText(QLatin1String(isLoading() ? LoadAction : SaveAction));
 }
 
@@ -231,11 +231,6 @@ void FileHandler::save()
     Q_EMIT left();
     if (fault)
         tell("The list was not saved. " + fault->message());
-}
-
-void FileHandler::closeBoxPressed()
-{
-    Q_EMIT left();
 }
 
 } // namespace vocabulary

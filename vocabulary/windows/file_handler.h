@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/windows/window.h"
+#include "shell/kit/window.h"
 
 #include <QDir>
 
@@ -32,12 +32,6 @@ public:
 Q_SIGNALS:
     /// Another list was loaded.
     void loaded();
-
-    /// The list was saved, or could not be, or the window was left.
-    void left();
-
-protected:
-    void closeBoxPressed() override;
 
 private:
     void makeControls();

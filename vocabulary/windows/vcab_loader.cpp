@@ -1,10 +1,10 @@
 #include "vocabulary/windows/vcab_loader.h"
 
 #include "platform/platform.h"
-#include "shell/windows/captions.h"
-#include "shell/windows/choice_list.h"
-#include "shell/windows/controls.h"
-#include "shell/windows/type.h"
+#include "shell/kit/captions.h"
+#include "shell/kit/choice_list.h"
+#include "shell/kit/controls.h"
+#include "shell/kit/type.h"
 #include "vocabulary/vocabulary_list.h"
 #include "vocabulary/windows/list_files.h"
 
@@ -74,7 +74,7 @@ void VcabLoader::connectControls()
 
 void VcabLoader::open()
 {
-    shell::applyDesignedOrCurrentCaptions(*this, Captions);
+    shell::applyCurrentOrDesignedCaptions(*this, Captions);
     files_->setAccessibleName(windowTitle());
     files_->clear();
     files_->addItems(listFilesIn(QDir::current()));
@@ -93,11 +93,6 @@ void VcabLoader::loadChosen()
         Q_EMIT left();
     if (const std::string message = faults.message(); !message.empty())
         platform::current().showMessage(message);
-}
-
-void VcabLoader::closeBoxPressed()
-{
-    Q_EMIT left();
 }
 
 } // namespace vocabulary

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/windows/window.h"
+#include "shell/kit/window.h"
 
 class QBoxLayout;
 class QPushButton;
@@ -20,13 +20,6 @@ public:
 
     /// Shows the lists that there are now; none is chosen.
     void open();
-
-Q_SIGNALS:
-    /// A list was loaded, or the window was left without one.
-    void left();
-
-protected:
-    void closeBoxPressed() override;
 
 private:
     void makeControls();

@@ -2,11 +2,11 @@
 
 #include "platform/platform.h"
 #include "platform/text_file.h"
-#include "shell/windows/captions.h"
-#include "shell/windows/choice_list.h"
-#include "shell/windows/controls.h"
-#include "shell/windows/text.h"
-#include "shell/windows/type.h"
+#include "shell/kit/captions.h"
+#include "shell/kit/choice_list.h"
+#include "shell/kit/controls.h"
+#include "shell/kit/text.h"
+#include "shell/kit/type.h"
 #include "vocabulary/vocabulary_edits.h"
 
 #include <QBoxLayout>
@@ -163,7 +163,7 @@ void VcabManager::open()
 
 void VcabManager::comeBack()
 {
-    shell::applyDesignedOrCurrentCaptions(*this, Captions);
+    shell::applyCurrentOrDesignedCaptions(*this, Captions);
     words_->setAccessibleName(windowTitle());
     listWords();
     showRecord(shown_);

@@ -1,8 +1,8 @@
 #include "vocabulary/windows/vcab_warning.h"
 
-#include "shell/windows/captions.h"
-#include "shell/windows/controls.h"
-#include "shell/windows/type.h"
+#include "shell/kit/captions.h"
+#include "shell/kit/controls.h"
+#include "shell/kit/type.h"
 
 #include <QBoxLayout>
 #include <QLabel>
@@ -69,22 +69,17 @@ void VcabWarning::connectControls()
 {
     connect(save_, &QPushButton::clicked, this, &VcabWarning::saveRequested);
     connect(discard_, &QPushButton::clicked, this, &VcabWarning::discardRequested);
-    connect(cancel_, &QPushButton::clicked, this, &VcabWarning::cancelled);
+    connect(cancel_, &QPushButton::clicked, this, &VcabWarning::left);
 }
 
 void VcabWarning::open()
 {
-    shell::applyDesignedOrCurrentCaptions(*this, Captions);
+    shell::applyCurrentOrDesignedCaptions(*this, Captions);
     adjustSize();
     show();
     raise();
     activateWindow();
     save_->setFocus();
-}
-
-void VcabWarning::closeBoxPressed()
-{
-    Q_EMIT cancelled();
 }
 
 } // namespace vocabulary

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/windows/window.h"
+#include "shell/kit/window.h"
 
 class QLabel;
 class QPushButton;
@@ -19,10 +19,6 @@ public:
 Q_SIGNALS:
     void saveRequested();
     void discardRequested();
-    void cancelled();
-
-protected:
-    void closeBoxPressed() override;
 
 private:
     void makeControls();

@@ -1,13 +1,13 @@
 #include "vocabulary/windows/vcabtester.h"
 
 #include "platform/platform.h"
+#include "shell/kit/captions.h"
+#include "shell/kit/controls.h"
+#include "shell/kit/text.h"
+#include "shell/kit/type.h"
 #include "shell/language_texts.h"
 #include "shell/pause.h"
 #include "shell/settings.h"
-#include "shell/windows/captions.h"
-#include "shell/windows/controls.h"
-#include "shell/windows/text.h"
-#include "shell/windows/type.h"
 #include "vocabulary/vocabulary_list.h"
 #include "vocabulary/vocabulary_tester.h"
 #include "vocabulary/windows/vcabtester_menus.h"
@@ -155,8 +155,8 @@ void Vcabtester::connectPrompt(const char* item, std::string_view promptLanguage
 
 void Vcabtester::setCaptions()
 {
-    shell::applyDesignedOrCurrentCaptions(*this, Captions);
-    QString title = shell::fromUtf8(Title.designedOrCurrent());
+    shell::applyCurrentOrDesignedCaptions(*this, Captions);
+    QString title = shell::fromUtf8(Title.currentOrDesigned());
     if (!vocabularyList.File.empty())
         title += QStringLiteral(" - ") + shell::fromUtf8(vocabularyList.File.filename().string());
     setWindowTitle(title);
@@ -187,7 +187,7 @@ void Vcabtester::comeBack()
 void Vcabtester::showTheWord()
 {
     const bool asked = vocabularyTester.WordIsAsked == platform::FlagTrue;
-    question_->setText(shell::fromUtf8(asked ? questionText() : NoWord.designedOrCurrent()));
+    question_->setText(shell::fromUtf8(asked ? questionText() : NoWord.currentOrDesigned()));
     hint_->setText(shell::fromUtf8(hintText()));
     answer_->setAccessibleDescription(question_->text() + QStringLiteral(", ") + hint_->text());
     omit_->setChecked(currentWordIsOmitted());
@@ -275,11 +275,6 @@ void Vcabtester::askAgain()
     countMiss();
     answer_->clear();
     focusQuestion();
-}
-
-void Vcabtester::closeBoxPressed()
-{
-    Q_EMIT left();
 }
 
 } // namespace vocabulary

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "shell/drill.h"
-#include "shell/windows/window.h"
+#include "shell/kit/window.h"
 
 #include <string_view>
 
@@ -40,10 +40,6 @@ Q_SIGNALS:
     void answerJudged(bool right);
     void listRequested();
     void editorRequested();
-    void left();
-
-protected:
-    void closeBoxPressed() override;
 
 private:
     void makeControls();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/windows/answer_box.h"
+#include "shell/kit/answer_box.h"
 
 namespace vocabulary {
 

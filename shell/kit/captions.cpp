@@ -1,7 +1,7 @@
-#include "shell/windows/captions.h"
+#include "shell/kit/captions.h"
 
 #include "shell/settings.h"
-#include "shell/windows/text.h"
+#include "shell/kit/text.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -57,17 +57,17 @@ void applyDesignedCaptions(QWidget& window, std::span<const Caption> captions)
             setCaption(window, control, *texts.english);
 }
 
-void applyDesignedOrCurrentCaptions(QWidget& window, std::span<const Caption> captions)
+void applyCurrentOrDesignedCaptions(QWidget& window, std::span<const Caption> captions)
 {
     for (const auto& [control, texts] : captions)
-        setCaption(window, control, texts.designedOrCurrent());
+        setCaption(window, control, texts.currentOrDesigned());
 }
 
 void fillList(QListWidget& list, std::span<const LanguageTexts> rows)
 {
     list.clear();
     for (const LanguageTexts& row : rows)
-        list.addItem(fromUtf8(row.designedOrCurrent()));
+        list.addItem(fromUtf8(row.currentOrDesigned()));
 }
 
 } // namespace shell

@@ -18,7 +18,7 @@ void applyCaptions(QWidget& window, std::span<const Caption> captions);
 void applyDesignedCaptions(QWidget& window, std::span<const Caption> captions);
 
 /// Gives each control the caption for `CurrentLanguage`, or where it has none the designed one.
-void applyDesignedOrCurrentCaptions(QWidget& window, std::span<const Caption> captions);
+void applyCurrentOrDesignedCaptions(QWidget& window, std::span<const Caption> captions);
 
 /// Fills a list anew with the rows for `CurrentLanguage`, the English ones where it has none. No row is
 /// chosen.

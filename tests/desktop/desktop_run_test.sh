@@ -9,7 +9,7 @@ printf '#!/bin/sh\nsleep 1\nexec %s "$@"\n' "$(command -v openbox)" >"$work/slow
 chmod +x "$work/slow/openbox"
 export PATH=$work/slow:$PATH
 for _ in 1 2 3; do
-    MORVANTI_PRESET=sanitize "$root/run" "$work/folder" >"$work/said" 2>"$work/errors" &
+    MORVANTI_PRESET=$(basename "$2") "$root/run" "$work/folder" >"$work/said" 2>"$work/errors" &
     running=$!
     wait_for "the display" grep -q 'DISPLAY=' "$work/said"
     DISPLAY=$(sed -n 's/.*DISPLAY=\(:[0-9]*\).*/\1/p' "$work/said")

@@ -1,6 +1,6 @@
-#include "nouns/noun_quiz.h"
+#include "nouns/noun_question.h"
 
-#include "nouns/noun_paradigms.h"
+#include "nouns/declensions.h"
 #include "nouns/noun_tables.h"
 #include "platform/random.h"
 #include "shell/settings.h"

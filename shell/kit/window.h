@@ -7,8 +7,8 @@
 
 namespace shell {
 
-/// What all windows of the program share: the object name, `ActiveWindowName` on activation, F1, the close
-/// box and Escape, the state that `MainWindowState` asks for, and a block that keeps a large window's content
+/// What all windows of the program share: the object name, `ActiveWindowName` on activation, the close box
+/// and Escape, the state that `MainWindowState` asks for, and a block that keeps a large window's content
 /// together.
 class Window : public QWidget {
     Q_OBJECT
@@ -26,7 +26,9 @@ public:
     void showInFront();
 
 Q_SIGNALS:
-    void helpRequested();
+    /// The window was left by its cancel, back or quit button, its close box or Escape, or has come to its
+    /// end. It is still shown.
+    void left();
 
 protected:
     /// A widget for the window's content. It fills the window up to so many characters and lines of the
@@ -39,8 +41,8 @@ protected:
     /// Called after the window became the active one.
     virtual void becameActive() {}
 
-    /// What the close box does: the same as the window's cancel or quit button.
-    virtual void closeBoxPressed() = 0;
+    /// What the close box does, the same as the window's cancel or quit button: it leaves the window.
+    virtual void closeBoxPressed() { Q_EMIT left(); }
 
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;

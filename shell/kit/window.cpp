@@ -1,7 +1,7 @@
-#include "shell/windows/window.h"
+#include "shell/kit/window.h"
 
 #include "shell/settings.h"
-#include "shell/windows/text.h"
+#include "shell/kit/text.h"
 
 #include <QApplication>
 #include <QBoxLayout>
@@ -34,8 +34,6 @@ void putAbove(QWindow& window, QWindow* below)
 Window::Window(std::string_view name, std::string_view activeName) : activeName_(activeName)
 {
     setObjectName(fromUtf8(name));
-    auto* const help = new QShortcut(Qt::Key_F1, this);
-    connect(help, &QShortcut::activated, this, &Window::helpRequested);
 }
 
 void Window::closeOnEscape()

@@ -1,4 +1,4 @@
-#include "shell/windows/controls.h"
+#include "shell/kit/controls.h"
 
 #include <QGridLayout>
 #include <QLabel>

@@ -1,4 +1,4 @@
-#include "verbs/conjugation.h"
+#include "verbs/ending_rows.h"
 
 #include "platform/random.h"
 #include "shell/settings.h"

@@ -1,9 +1,9 @@
-#include "shell/windows/chooser.h"
+#include "shell/kit/chooser.h"
 
-#include "shell/windows/captions.h"
-#include "shell/windows/choice_list.h"
-#include "shell/windows/text.h"
-#include "shell/windows/type.h"
+#include "shell/kit/captions.h"
+#include "shell/kit/choice_list.h"
+#include "shell/kit/text.h"
+#include "shell/kit/type.h"
 
 #include <QBoxLayout>
 #include <QFrame>
@@ -75,7 +75,7 @@ void Chooser::connectControls()
             [this](int row) { ok_->setEnabled(row >= 0 || beginsAtOk()); });
     connect(list_, &ChoiceList::rowActivated, this, &Chooser::choose);
     connect(ok_, &QPushButton::clicked, this, &Chooser::choose);
-    connect(cancel_, &QPushButton::clicked, this, &Chooser::cancelled);
+    connect(cancel_, &QPushButton::clicked, this, &Chooser::left);
 }
 
 void Chooser::open()
@@ -90,7 +90,7 @@ void Chooser::open()
 
 void Chooser::fill()
 {
-    applyDesignedOrCurrentCaptions(*this, captions_);
+    applyCurrentOrDesignedCaptions(*this, captions_);
     fillList(*list_, rows_);
     list_->setAccessibleName(windowTitle());
     ok_->setEnabled(beginsAtOk());
@@ -103,11 +103,6 @@ void Chooser::choose()
 {
     if (isVisible() && list_->chosenRow() >= 0)
         Q_EMIT chosen(list_->chosenRow());
-}
-
-void Chooser::closeBoxPressed()
-{
-    Q_EMIT cancelled();
 }
 
 } // namespace shell

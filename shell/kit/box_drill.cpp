@@ -1,10 +1,10 @@
-#include "shell/windows/box_drill.h"
+#include "shell/kit/box_drill.h"
 
 #include "shell/pause.h"
-#include "shell/windows/answer_box.h"
-#include "shell/windows/controls.h"
-#include "shell/windows/text.h"
-#include "shell/windows/type.h"
+#include "shell/kit/answer_box.h"
+#include "shell/kit/controls.h"
+#include "shell/kit/text.h"
+#include "shell/kit/type.h"
 
 #include <QBoxLayout>
 #include <QLabel>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/windows/window.h"
+#include "shell/kit/window.h"
 
 class QFrame;
 

@@ -1,6 +1,6 @@
-#include "shell/windows/answer_box.h"
+#include "shell/kit/answer_box.h"
 
-#include "shell/windows/type.h"
+#include "shell/kit/type.h"
 
 #include <QApplication>
 #include <QKeyEvent>

@@ -1,4 +1,4 @@
-#include "verbdrills/verb_quiz.h"
+#include "verbdrills/verb_question.h"
 
 #include "shell/settings.h"
 #include "verbs/paradigm.h"

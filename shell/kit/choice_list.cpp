@@ -1,6 +1,6 @@
-#include "shell/windows/choice_list.h"
+#include "shell/kit/choice_list.h"
 
-#include "shell/windows/enter_key.h"
+#include "shell/kit/enter_key.h"
 
 namespace shell {
 

@@ -1,6 +1,6 @@
-#include "shell/windows/framed_window.h"
+#include "shell/kit/framed_window.h"
 
-#include "shell/windows/text.h"
+#include "shell/kit/text.h"
 
 #include <QFrame>
 #include <QScreen>

@@ -1,4 +1,4 @@
-#include "shell/windows/type.h"
+#include "shell/kit/type.h"
 
 #include <QApplication>
 #include <QFont>

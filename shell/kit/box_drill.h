@@ -1,7 +1,7 @@
 #pragma once
 
 #include "shell/drill.h"
-#include "shell/windows/window.h"
+#include "shell/kit/window.h"
 
 #include <initializer_list>
 #include <optional>
@@ -35,9 +35,6 @@ public:
 Q_SIGNALS:
     /// An answer was checked.
     void answerJudged(bool right);
-
-    /// The drill was left, or has come to its end.
-    void left();
 
 protected:
     /// The box that is asked, as the drill's rules have it.

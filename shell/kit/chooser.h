@@ -1,7 +1,7 @@
 #pragma once
 
 #include "shell/language_texts.h"
-#include "shell/windows/framed_window.h"
+#include "shell/kit/framed_window.h"
 
 #include <span>
 #include <string_view>
@@ -36,7 +36,6 @@ public:
 
 Q_SIGNALS:
     void chosen(int row);
-    void cancelled();
 
 protected:
     /// Called each time the list was filled anew.
@@ -48,8 +47,6 @@ protected:
 
     /// Fills the list anew, with no row chosen.
     void fill();
-
-    void closeBoxPressed() override;
 
 private:
     void makeControls(const ChooserNames& names);

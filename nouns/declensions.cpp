@@ -1,4 +1,4 @@
-#include "nouns/noun_paradigms.h"
+#include "nouns/declensions.h"
 
 #include "nouns/fixed_nouns.h"
 #include "nouns/noun_endings.h"
@@ -6,7 +6,6 @@
 #include "nouns/noun_tables.h"
 #include "platform/random.h"
 #include "shell/settings.h"
-#include "shell/settings_changes.h"
 #include "shell/vowel_marks.h"
 
 #include <algorithm>

@@ -1,0 +1,33 @@
+#include "app/key_filter.h"
+
+#include "shell/kit/enter_key.h"
+#include "shell/kit/window.h"
+
+#include <QApplication>
+
+namespace app {
+
+namespace {
+
+// Not a menu that is open, nor a message.
+bool windowHasTheKeys()
+{
+    return QApplication::activePopupWidget() == nullptr &&
+           qobject_cast<shell::Window*>(QApplication::activeWindow()) != nullptr;
+}
+
+} // namespace
+
+bool KeyFilter::eventFilter(QObject* /*receiver*/, QEvent* event)
+{
+    if (event->type() != QEvent::KeyPress)
+        return false;
+    const auto& key = *static_cast<QKeyEvent*>(event);
+    if (key.key() == Qt::Key_F1 && key.modifiers() == Qt::NoModifier && windowHasTheKeys()) {
+        Q_EMIT helpRequested();
+        return true;
+    }
+    return key.isAutoRepeat() && (shell::isEnter(key) || key.key() == Qt::Key_Escape);
+}
+
+} // namespace app

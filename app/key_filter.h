@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QObject>
+
+namespace app {
+
+/// Sees every key before the windows do. F1 asks for the guide in each window of the program. Enter and
+/// Escape count once however long they are held: a key that is still down when a pause ends must not answer
+/// the next question.
+class KeyFilter : public QObject {
+    Q_OBJECT
+
+Q_SIGNALS:
+    void helpRequested();
+
+protected:
+    bool eventFilter(QObject* receiver, QEvent* event) override;
+};
+
+} // namespace app
