@@ -1,18 +1,32 @@
 #include "vocabulary/vocabulary_edits.h"
 
-#include "vocabulary/vocabulary_file.h"
-
 #include <algorithm>
+#include <span>
+#include <vector>
 
 namespace vocabulary {
-
-VocabularyEditor vocabularyEditor;
 
 namespace {
 
 WordRecord storable(const WordRecord& record)
 {
     return {storableText(record.word), storableText(record.translation), storableText(record.hint)};
+}
+
+void takeList(const std::vector<WordRecord>& records, const std::filesystem::path& path)
+{
+    vocabularyList = {};
+    for (const WordRecord& record : records)
+        vocabularyList.Loaded[++vocabularyList.WordCount] = record;
+    vocabularyList.Working = vocabularyList.Loaded;
+    vocabularyList.File = path;
+    forgetPendingChanges();
+}
+
+std::span<WordRecord> wordsOf(VocabularyList::Words& table)
+{
+    return std::span(table.begin(), table.end())
+        .subspan(1, static_cast<std::size_t>(vocabularyList.WordCount));
 }
 
 void countChange()
@@ -43,6 +57,28 @@ void beginNewList()
 {
     vocabularyList = {};
     forgetPendingChanges();
+}
+
+std::optional<LoadFault> loadList(const std::filesystem::path& path)
+{
+    VocabularyFile file = readVocabularyFile(path);
+    if (!file.fault || !file.fault->refused())
+        takeList(file.records, path);
+    return file.fault;
+}
+
+std::optional<platform::Fault> saveList(const std::filesystem::path& path)
+{
+    VocabularyList::Words words = vocabularyList.Working;
+    for (WordRecord& record : wordsOf(words))
+        record = withoutCommas(std::move(record));
+    if (const auto fault = writeVocabularyFile(path, wordsOf(words)))
+        return fault;
+    vocabularyList.Working = std::move(words);
+    vocabularyList.CurrentWord = 0;
+    vocabularyList.File = path;
+    forgetPendingChanges();
+    return {};
 }
 
 void acceptWord(int number, const WordRecord& record)

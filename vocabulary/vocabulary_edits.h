@@ -1,7 +1,12 @@
 #pragma once
 
+#include "platform/fault.h"
+#include "vocabulary/vocabulary_file.h"
 #include "vocabulary/vocabulary_list.h"
 
+#include <filesystem>
+#include <optional>
+#include <string>
 #include <string_view>
 
 namespace vocabulary {
@@ -21,7 +26,7 @@ struct VocabularyEditor {
     int SavedChangeCount = 0;
 };
 
-extern VocabularyEditor vocabularyEditor;
+inline VocabularyEditor vocabularyEditor;
 
 /// True when something was accepted, added or deleted since the last load or save.
 bool changesArePending();
@@ -29,6 +34,15 @@ void forgetPendingChanges();
 
 /// Begins a new list without words.
 void beginNewList();
+
+/// Puts the list of a file in the place of the one in memory, in both tables, and sets `CurrentWord` to 0. No
+/// change is pending then. Where the file is refused, the list in memory is as it was.
+std::optional<LoadFault> loadList(const std::filesystem::path& path);
+
+/// Replaces a file with the working table, in which ">" then stands where commas were, and sets `CurrentWord`
+/// to 0. No change is pending then. Where that fails, the file and the list are as they were, and the fault
+/// is returned.
+std::optional<platform::Fault> saveList(const std::filesystem::path& path);
 
 /// Puts a record in the place of number 1 to `WordCount`, then copies the loaded table into the working one.
 /// Each edit stores its texts as a file can give them back, and has the list tested from its beginning.

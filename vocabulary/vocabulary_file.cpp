@@ -1,6 +1,8 @@
 #include "vocabulary/vocabulary_file.h"
 
+#include "platform/code_page.h"
 #include "platform/field_reader.h"
+#include "platform/file_replacement.h"
 #include "platform/text_file.h"
 
 #include <algorithm>
@@ -44,9 +46,14 @@ bool readRecord(platform::FieldReader& reader, WordRecord& record)
     return true;
 }
 
+LoadFault faultOf(LoadFault::Kind kind, const std::filesystem::path& path, int line, std::string reason)
+{
+    return {kind, {path.filename().string(), line, std::move(reason)}};
+}
+
 VocabularyFile tooLong(const std::filesystem::path& path, std::string reason)
 {
-    return {{}, {}, platform::Fault{path.filename().string(), 0, std::move(reason)}, {}};
+    return {{}, faultOf(LoadFault::Kind::TooLong, path, 0, std::move(reason))};
 }
 
 // Of a file past this length only the beginning would be read.
@@ -57,13 +64,27 @@ bool isPastLongestFile(const std::filesystem::path& path)
     return !error && size >= platform::LongestFile;
 }
 
+// The line of a record, with CR LF at its end. Fields that begin or end with a blank, or begin with a double
+// quote, stand in double quotes.
+std::string lineOf(const WordRecord& record)
+{
+    std::string line;
+    for (const Field field : Fields) {
+        const std::string& text = record.*field;
+        const std::string quote(needsQuotes(text) ? 1 : 0, Quote);
+        line += quote + text + quote + Comma;
+    }
+    line.back() = '\r';
+    return line + '\n';
+}
+
 } // namespace
 
 VocabularyFile readVocabularyFile(const std::filesystem::path& path)
 {
     platform::TextFile text = platform::readTextFile(path);
     if (text.fault)
-        return {{}, text.fault, {}, {}};
+        return {{}, LoadFault{LoadFault::Kind::Unreadable, *text.fault}};
     if (isPastLongestFile(path))
         return tooLong(path, "the file is too long for a word list");
     platform::FieldReader reader(std::move(text.text));
@@ -73,12 +94,24 @@ VocabularyFile readVocabularyFile(const std::filesystem::path& path)
         if (readRecord(reader, record))
             file.records.push_back(record);
         else if (!isEmpty(record))
-            file.cutOff = {path.filename().string(), reader.line(),
-                           "the last word is cut off and was left out"};
+            file.fault = faultOf(LoadFault::Kind::CutOff, path, reader.line(),
+                                 "the last word is cut off and was left out");
         if (file.records.size() > MostWords)
             return tooLong(path, "the file holds more than 300 words");
     }
     return file;
+}
+
+std::optional<platform::Fault> writeVocabularyFile(const std::filesystem::path& path,
+                                                   std::span<const WordRecord> records)
+{
+    std::string text;
+    for (const WordRecord& record : records)
+        text += lineOf(record);
+    const std::string bytes = platform::encoded(text);
+    if (bytes.size() >= platform::LongestFile)
+        return platform::Fault{path.filename().string(), 0, "the list is too long to be read again"};
+    return platform::replaceFile(path, bytes);
 }
 
 std::string storableText(std::string_view text)
@@ -97,18 +130,6 @@ WordRecord withoutCommas(WordRecord record)
     for (const Field field : Fields)
         std::ranges::replace(record.*field, Comma, EscapedComma);
     return record;
-}
-
-std::string recordLine(const WordRecord& record)
-{
-    std::string line;
-    for (const Field field : Fields) {
-        const std::string& text = record.*field;
-        const std::string quote(needsQuotes(text) ? 1 : 0, Quote);
-        line += quote + text + quote + Comma;
-    }
-    line.back() = '\r';
-    return line + '\n';
 }
 
 } // namespace vocabulary

@@ -5,28 +5,44 @@
 
 #include <filesystem>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace vocabulary {
 
+/// What kept the words of a file from being read whole.
+struct LoadFault {
+    enum class Kind {
+        Unreadable, ///< there is no such file, or none that can be read
+        TooLong,    ///< it holds more than `MostWords` words, or more than a reader takes
+        CutOff,     ///< its last record lacks a field or two and was left out
+    };
+
+    Kind kind;
+    platform::Fault fault;
+
+    /// True where nothing of the file was taken.
+    bool refused() const { return kind != Kind::CutOff; }
+
+    /// What the learner is to be told.
+    std::string message() const { return fault.message(); }
+};
+
 /// What a file holds: three fields a word, of which each ends at a comma or at the end of its line, and in
-/// which ">" stands for a comma.
+/// which ">" stands for a comma. A file that is refused has no records.
 struct VocabularyFile {
     std::vector<WordRecord> records;
-
-    /// Why the file cannot be read. There are no records then.
-    std::optional<platform::Fault> unreadable;
-
-    /// That the file holds more than `MostWords` words. There are no records then either.
-    std::optional<platform::Fault> tooLong;
-
-    /// A last record that lacks a field or two. It is not among the records.
-    std::optional<platform::Fault> cutOff;
+    std::optional<LoadFault> fault;
 };
 
 VocabularyFile readVocabularyFile(const std::filesystem::path& path);
+
+/// Replaces a file with these records, each without commas. Where that fails, the file is as it was, and the
+/// fault is returned.
+std::optional<platform::Fault> writeVocabularyFile(const std::filesystem::path& path,
+                                                   std::span<const WordRecord> records);
 
 /// A text as a field of a file can give it back. A ">" reads back as a comma, no field goes on in a second
 /// line, and a field that has to stand in double quotes can hold none itself: they become apostrophes.
@@ -34,9 +50,5 @@ std::string storableText(std::string_view text);
 
 /// The record with ">" in the place of every comma, as it is written.
 WordRecord withoutCommas(WordRecord record);
-
-/// The line of a file for a record without commas, with CR LF at its end. Fields that begin or end with a
-/// blank, or begin with a double quote, stand in double quotes.
-std::string recordLine(const WordRecord& record);
 
 } // namespace vocabulary

@@ -1,11 +1,9 @@
 #pragma once
 
-#include "platform/fault.h"
 #include "platform/table.h"
 
 #include <cstdint>
 #include <filesystem>
-#include <optional>
 #include <string>
 
 namespace vocabulary {
@@ -43,30 +41,6 @@ struct VocabularyList {
     std::filesystem::path File;
 };
 
-extern VocabularyList vocabularyList;
-
-/// What kept a list from being loaded whole.
-struct LoadFaults {
-    /// Why the file was refused: it cannot be read, or is too long. The list in memory is as it was.
-    std::optional<platform::Fault> unreadable;
-    std::optional<platform::Fault> tooLong;
-
-    /// A last record that the end of the file cuts off, and that was left out.
-    std::optional<platform::Fault> cutOff;
-
-    bool refused() const { return unreadable || tooLong; }
-
-    /// What the learner is to be told; empty where all went well.
-    std::string message() const;
-};
-
-/// Puts the list of a file in the place of the one in memory, in both tables, and sets `CurrentWord` to 0. No
-/// change is pending then.
-LoadFaults loadList(const std::filesystem::path& path);
-
-/// Replaces a file with the working table, in which ">" then stands where commas were, and sets `CurrentWord`
-/// to 0. No change is pending then. Where that fails, the file and the list are as they were, and the fault
-/// is returned.
-std::optional<platform::Fault> saveList(const std::filesystem::path& path);
+inline VocabularyList vocabularyList;
 
 } // namespace vocabulary

@@ -2,6 +2,7 @@
 
 #include "platform/platform.h"
 #include "platform/random.h"
+#include "vocabulary/vocabulary_edits.h"
 #include "vocabulary/vocabulary_list.h"
 
 #include <algorithm>
@@ -125,6 +126,12 @@ bool findRandomWord()
     return true;
 }
 
+bool isMissing(const std::filesystem::path& path)
+{
+    std::error_code error;
+    return !std::filesystem::exists(path, error) && !error;
+}
+
 void askCurrentWord(bool asked)
 {
     vocabularyTester.WordIsAsked = platform::flagOf(asked);
@@ -137,12 +144,9 @@ void askCurrentWord(bool asked)
 std::string openDefaultList()
 {
     vocabularyTester = {};
-    LoadFaults faults = loadList(DefaultListName);
-    std::error_code error;
-    if (!std::filesystem::exists(DefaultListName, error) && !error)
-        faults.unreadable.reset();
+    const auto fault = loadList(DefaultListName);
     beginTest();
-    return faults.message();
+    return fault && !isMissing(DefaultListName) ? fault->message() : "";
 }
 
 void beginTest()

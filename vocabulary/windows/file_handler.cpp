@@ -52,12 +52,6 @@ std::filesystem::path pathOf(const QString& text)
     return text.toStdString();
 }
 
-void tell(const std::string& message)
-{
-    if (!message.empty())
-        platform::current().showMessage(message);
-}
-
 } // namespace
 
 FileHandler::FileHandler() : Window("FileHandler")
@@ -219,10 +213,11 @@ void FileHandler::loadOrSave()
 // The message comes last, so that it stands above the window that is shown then.
 void FileHandler::load()
 {
-    const LoadFaults faults = loadList(path());
-    if (!faults.refused())
+    const auto fault = loadList(path());
+    if (!fault || !fault->refused())
         Q_EMIT loaded();
-    tell(faults.message());
+    if (fault)
+        platform::current().showMessage(fault->message());
 }
 
 void FileHandler::save()
@@ -230,7 +225,7 @@ void FileHandler::save()
     const auto fault = saveList(path());
     Q_EMIT left();
     if (fault)
-        tell("The list was not saved. " + fault->message());
+        platform::current().showMessage("The list was not saved. " + fault->message());
 }
 
 } // namespace vocabulary

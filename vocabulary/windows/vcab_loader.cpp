@@ -5,7 +5,7 @@
 #include "shell/kit/choice_list.h"
 #include "shell/kit/controls.h"
 #include "shell/kit/type.h"
-#include "vocabulary/vocabulary_list.h"
+#include "vocabulary/vocabulary_edits.h"
 #include "vocabulary/windows/list_files.h"
 
 #include <QBoxLayout>
@@ -88,11 +88,11 @@ void VcabLoader::loadChosen()
 {
     if (!isVisible() || files_->chosenRow() < 0)
         return;
-    const LoadFaults faults = loadList(files_->item(files_->chosenRow())->text().toStdString());
-    if (!faults.refused())
+    const auto fault = loadList(files_->item(files_->chosenRow())->text().toStdString());
+    if (!fault || !fault->refused())
         Q_EMIT left();
-    if (const std::string message = faults.message(); !message.empty())
-        platform::current().showMessage(message);
+    if (fault)
+        platform::current().showMessage(fault->message());
 }
 
 } // namespace vocabulary
