@@ -4,10 +4,10 @@
 #include "nouns/declensions.h"
 #include "nouns/noun_tables.h"
 #include "platform/random.h"
+#include "shell/round.h"
 #include "shell/settings.h"
 
 #include <array>
-#include <optional>
 
 namespace nouns {
 
@@ -27,21 +27,14 @@ void ask(int box)
     declensionDrill.CurrentCaseIndex = static_cast<std::int16_t>(box);
 }
 
-std::optional<int> drawBoxLeft()
-{
-    return platform::drawFitting(CaseCount,
-                                 [](int box) { return declensionDrill.CaseDone[box] != platform::FlagTrue; });
-}
-
 // Asks the next box of the round; false when all ten have been asked.
 bool askNextBox()
 {
-    if (settings.QuestionOrder != shell::question_order::Random) {
-        ask(nextInCaseOrder(declensionDrill.CurrentCaseIndex));
-        return declensionDrill.CurrentCaseIndex < CaseCount;
-    }
-    declensionDrill.CaseDone[declensionDrill.CurrentCaseIndex] = platform::FlagTrue;
-    const std::optional<int> next = drawBoxLeft();
+    const shell::Round round{.inRandomOrder = settings.QuestionOrder == shell::question_order::Random,
+                             .first = 0,
+                             .last = CaseCount - 1,
+                             .following = nextInCaseOrder};
+    const auto next = shell::questionAfter(declensionDrill.CurrentCaseIndex, round, declensionDrill.CaseDone);
     if (next)
         ask(*next);
     return next.has_value();

@@ -1,11 +1,9 @@
 #include "nouns/pronoun_drill.h"
 
 #include "nouns/case_order.h"
-#include "platform/random.h"
+#include "shell/round.h"
 #include "shell/settings.h"
 #include "shell/vowel_marks.h"
-
-#include <optional>
 
 namespace nouns {
 
@@ -17,23 +15,31 @@ namespace {
 
 constexpr std::string_view RandomInSmallLetters = "random";
 
-bool isAskable(int cell)
+bool hasForm(int cell)
 {
-    return !pronounFormAt(cell).empty() && pronounDrill.CellDone[cell] != platform::FlagTrue;
+    return !pronounFormAt(cell).empty();
 }
 
-std::optional<int> drawCellLeft()
+int cellAfter(int cell)
 {
-    const auto box = platform::drawFitting(CellCount, [](int number) { return isAskable(number + 1); });
-    return box ? std::optional(*box + 1) : std::nullopt;
+    return nextInCaseOrder(cell - 1) + 1;
 }
 
 // The cell itself where it has a form, else the next one that has; past the last where there is none.
 int firstWithFormFrom(int cell)
 {
-    while (cell <= CellCount && pronounFormAt(cell).empty())
-        cell = nextInCaseOrder(cell - 1) + 1;
+    while (cell <= CellCount && !hasForm(cell))
+        cell = cellAfter(cell);
     return cell;
+}
+
+shell::Round cellsOfNumber()
+{
+    return {.inRandomOrder = settings.QuestionOrder == RandomInSmallLetters,
+            .first = 1,
+            .last = CellCount,
+            .following = [](int cell) { return firstWithFormFrom(cellAfter(cell)); },
+            .canBeAsked = hasForm};
 }
 
 void ask(int cell)
@@ -41,22 +47,10 @@ void ask(int cell)
     pronounDrill.CurrentCell = static_cast<std::int16_t>(cell);
 }
 
-bool inRandomOrder()
-{
-    return settings.QuestionOrder == RandomInSmallLetters;
-}
-
 // Asks the next box of this number; false when all have been asked.
 bool askNextCell()
 {
-    if (!inRandomOrder()) {
-        const int next = firstWithFormFrom(nextInCaseOrder(pronounDrill.CurrentCell - 1) + 1);
-        if (next <= CellCount)
-            ask(next);
-        return next <= CellCount;
-    }
-    pronounDrill.CellDone[pronounDrill.CurrentCell] = platform::FlagTrue;
-    const std::optional<int> next = drawCellLeft();
+    const auto next = shell::questionAfter(pronounDrill.CurrentCell, cellsOfNumber(), pronounDrill.CellDone);
     if (next)
         ask(*next);
     return next.has_value();
@@ -66,7 +60,9 @@ void beginNumber(Case firstCase)
 {
     pronounDrill.FirstCase = static_cast<std::int16_t>(firstCase);
     pronounDrill.CellDone.fill(platform::FlagFalse);
-    ask(inRandomOrder() ? drawCellLeft().value() : firstWithFormFrom(1));
+    const shell::Round cells = cellsOfNumber();
+    ask(cells.inRandomOrder ? shell::drawQuestionLeft(cells, pronounDrill.CellDone).value()
+                            : firstWithFormFrom(cells.first));
 }
 
 } // namespace

@@ -2,12 +2,11 @@
 
 #include "platform/platform.h"
 #include "platform/random.h"
+#include "shell/round.h"
 #include "shell/score.h"
 #include "shell/settings.h"
 #include "verbs/paradigm_titles.h"
 #include "verbs/verb_tables.h"
-
-#include <optional>
 
 namespace verbdrills {
 
@@ -35,22 +34,14 @@ void askPerson(int person)
         static_cast<std::int16_t>(verbs::formNumber(currentParadigm.TenseMoodCode, person + 1) - 1);
 }
 
-std::optional<int> drawPersonLeft()
-{
-    return platform::drawFitting(
-        BoxCount, [](int person) { return conjugationDrill.PersonDone[person] != platform::FlagTrue; });
-}
-
 // Asks the next person of the round; false when all six have been asked.
 bool askNextPerson()
 {
-    if (!inRandomOrder()) {
-        ++conjugationDrill.PersonIndex;
-        ++conjugationDrill.FormRow;
-        return conjugationDrill.PersonIndex < BoxCount;
-    }
-    conjugationDrill.PersonDone[conjugationDrill.PersonIndex] = platform::FlagTrue;
-    const std::optional<int> next = drawPersonLeft();
+    const shell::Round round{.inRandomOrder = inRandomOrder(),
+                             .first = 0,
+                             .last = BoxCount - 1,
+                             .following = [](int person) { return person + 1; }};
+    const auto next = shell::questionAfter(conjugationDrill.PersonIndex, round, conjugationDrill.PersonDone);
     if (next)
         askPerson(*next);
     return next.has_value();

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "platform/flag.h"
+#include "platform/random.h"
+#include "platform/table.h"
+
+#include <cstddef>
+#include <optional>
+
+namespace shell {
+
+/// The questions of a drill's round, numbered from `first` to `last`, each of which is asked once.
+struct Round {
+    bool inRandomOrder;
+    int first;
+    int last;
+
+    /// The question that follows in sequence; past `last` where the round ends.
+    int (*following)(int question);
+
+    /// Whether there is anything to ask.
+    bool (*canBeAsked)(int question) = [](int) { return true; };
+};
+
+/// Draws one of the questions that can be asked and are not done; none where all are.
+template <std::size_t Size>
+std::optional<int> drawQuestionLeft(const Round& round, const platform::Table<platform::Flag, Size>& done)
+{
+    const auto drawn = platform::drawFitting(round.last - round.first + 1, [&](int number) {
+        const int question = round.first + number;
+        return done[question] != platform::FlagTrue && round.canBeAsked(question);
+    });
+    return drawn ? std::optional(round.first + *drawn) : std::nullopt;
+}
+
+/// The question to be asked after `current`; none where the round ends. In random order `current` is done,
+/// and one of those left is drawn.
+template <std::size_t Size>
+std::optional<int> questionAfter(int current, const Round& round, platform::Table<platform::Flag, Size>& done)
+{
+    if (round.inRandomOrder) {
+        done[current] = platform::FlagTrue;
+        return drawQuestionLeft(round, done);
+    }
+    const int next = round.following(current);
+    return next <= round.last ? std::optional(next) : std::nullopt;
+}
+
+} // namespace shell
