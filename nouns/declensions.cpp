@@ -210,13 +210,15 @@ void buildThirdNeuter()
 void buildFixedCaptions(int paradigm, const FixedNouns& fixed)
 {
     int number = 1;
-    for (const auto& [stem, texts] : fixed.nouns) {
+    for (const FixedNoun& noun : fixed.nouns) {
         std::string& caption = nounTables.NounCaptionList[paradigm][number++];
-        const auto text = texts.in(settings.CurrentLanguage);
-        if (!text)
+        const auto meaning = noun.meaning.in(settings.CurrentLanguage);
+        if (!meaning)
             continue;
-        setMarked(caption, stem);
-        caption.append(fixed.captionEnding).append(*text);
+        setMarked(caption, noun.stem);
+        caption.append(fixed.captionEnding).append(genderNote(noun));
+        if (!meaning->empty())
+            caption.append(" = ").append(*meaning);
     }
 }
 

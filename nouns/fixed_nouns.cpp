@@ -1,52 +1,47 @@
 #include "nouns/fixed_nouns.h"
 
+#include "shell/settings.h"
 #include "shell/vowel_marks.h"
 
 #include <array>
 
 namespace nouns {
 
-using shell::englishToo;
-
 namespace {
 
-constexpr std::string_view BeforeMeaning = "= ";
+constexpr shell::LanguageTexts meaning(std::string_view english, std::string_view german,
+                                       std::string_view spanish)
+{
+    return shell::englishToo(english, german, spanish, "");
+}
 
 // clang-format off
-//                       English, French, Italian        German                     Spanish                   Latin
+//              stem    gender       English, French, Italian  German              Spanish
 constexpr std::array FourthDeclensionNouns = {
-    FixedNoun{"fru:ct", englishToo(" (m) = fruit",   " (m) = Obst",     " (m) = fruto", " (m)")},
-    FixedNoun{"man",    englishToo(" (f) = hand",    " (f) = Hand",     " (f) = mano",  " (f)")},
-    FixedNoun{"met",    englishToo(" (m) = fear",    " (m) = Furcht",   " (m) = miedo", " (m)")},
-    FixedNoun{"pass",   englishToo(" (m) = step",    " (m) = Treppe",   " (m) = paso",  " (m)")},
-    FixedNoun{"vers",   englishToo(" (m) = a verse", " (m) = ein Vers", " (m) = verso", " (m)")},
+    FixedNoun{"fru:ct", "m", meaning("fruit",         "Obst",             "fruto")},
+    FixedNoun{"man",    "f", meaning("hand",          "Hand",             "mano")},
+    FixedNoun{"met",    "m", meaning("fear",          "Furcht",           "miedo")},
+    FixedNoun{"pass",   "m", meaning("step",          "Treppe",           "paso")},
+    FixedNoun{"vers",   "m", meaning("a verse",       "ein Vers",         "verso")},
 };
 
 constexpr std::array FourthDeclensionNeuterNouns = {
-    FixedNoun{"corn", englishToo(" (n) = horn", " (n) = Horn", " (n) = cuerno",  " (n)")},
-    FixedNoun{"gen",  englishToo(" (n) = knee", " (n) = Knie", " (n) = rodilla", " (n)")},
+    FixedNoun{"corn",   "n", meaning("horn",          "Horn",             "cuerno")},
+    FixedNoun{"gen",    "n", meaning("knee",          "Knie",             "rodilla")},
 };
 
 constexpr std::array FifthDeclensionNouns = {
-    FixedNoun{"r",     englishToo(" (f) = thing",         " (f) = Ding, Sache",      " (f) = cosa",            " (f)")},
-    FixedNoun{"di",    englishToo(" (f) = day",           " (f) = Tag",              " (f) = día",             " (f)")},
-    FixedNoun{"sp",    englishToo(" (f) = hope",          " (f) = Hoffnung",         " (f) = esperanza",       " (f)")},
-    FixedNoun{"fid",   englishToo(" (f) = faith",         " (f) = Glaube",           " (f) = fe",              " (f)")},
-    FixedNoun{"speci", englishToo(" (f) = sight; beauty", " (f) = Sicht, Schönheit", " (f) = visión, belleza", " (f)")},
-    FixedNoun{"qui",   englishToo(" (f) = quiet",         " (f) = Ruhe",             " (f) = quietud",         " (f)")},
-    FixedNoun{"requi", englishToo(" (f) = rest",          " (f) = Rast",             " (f) = descanso",        " (f)")},
+    FixedNoun{"r",      "f", meaning("thing",         "Ding, Sache",      "cosa")},
+    FixedNoun{"di",     "f", meaning("day",           "Tag",              "día")},
+    FixedNoun{"sp",     "f", meaning("hope",          "Hoffnung",         "esperanza")},
+    FixedNoun{"fid",    "f", meaning("faith",         "Glaube",           "fe")},
+    FixedNoun{"speci",  "f", meaning("sight; beauty", "Sicht, Schönheit", "visión, belleza")},
+    FixedNoun{"qui",    "f", meaning("quiet",         "Ruhe",             "quietud")},
+    FixedNoun{"requi",  "f", meaning("rest",          "Rast",             "descanso")},
 };
 // clang-format on
 
 constexpr int FourthDeclensionNeuterSlots = 5;
-
-std::string meaningIn(std::string_view genderAndMeaning)
-{
-    const std::size_t found = genderAndMeaning.find(BeforeMeaning);
-    if (found == std::string_view::npos)
-        return {};
-    return std::string(genderAndMeaning.substr(found + BeforeMeaning.size()));
-}
 
 } // namespace
 
@@ -64,15 +59,24 @@ FixedNouns fixedNounsOf(int paradigm)
     }
 }
 
+std::string genderNote(const FixedNoun& noun)
+{
+    return " (" + std::string(noun.gender) + ")";
+}
+
 NounRecord fixedNounAt(int paradigm, int number)
 {
     const FixedNoun& noun = fixedNounsOf(paradigm).nouns[static_cast<std::size_t>(number - 1)];
-    const auto& [stem, texts] = noun;
-    const auto meaning = [](const auto& text) { return meaningIn(text.value_or("")); };
-    return {.note = std::string(texts.latin.value_or("")),
-            .stem = shell::stemAsShown(stem),
-            .obliqueStem = {},
-            .meanings = {meaning(texts.english), meaning(texts.german), {}, meaning(texts.spanish)}};
+    const auto inLanguage = [&](std::string_view language) {
+        return std::string(noun.meaning.in(language).value_or(""));
+    };
+    namespace language = shell::language;
+    return {
+        .note = genderNote(noun),
+        .stem = shell::stemAsShown(noun.stem),
+        .obliqueStem = {},
+        .meanings = {
+            inLanguage(language::English), inLanguage(language::German), {}, inLanguage(language::Spanish)}};
 }
 
 } // namespace nouns

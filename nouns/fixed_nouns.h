@@ -4,15 +4,17 @@
 #include "shell/language_texts.h"
 
 #include <span>
+#include <string>
 #include <string_view>
 
 namespace nouns {
 
-/// A noun that no list file changes: its stem, ":" after long vowels, and what its caption says of it: gender
-/// and meaning.
+/// A noun that no list file changes: its stem, ":" after long vowels, its gender and its meaning. Latin gives
+/// no meaning.
 struct FixedNoun {
     std::string_view stem;
-    shell::LanguageTexts genderAndMeaning;
+    std::string_view gender;
+    shell::LanguageTexts meaning;
 };
 
 /// The nouns of a paradigm, in the order of their numbers, and what the caption sets behind the stem.
@@ -27,8 +29,10 @@ struct FixedNouns {
 /// The fixed nouns of the fourth and fifth declensions; none of another paradigm.
 FixedNouns fixedNounsOf(int paradigm);
 
-/// A fixed noun, number 1 and on, as a record of the noun manager: gender and meanings taken out of its
-/// captions. French has no meaning of its own.
+/// The gender as captions and the noun manager show it: " (m)".
+std::string genderNote(const FixedNoun& noun);
+
+/// A fixed noun, number 1 and on, as a record of the noun manager. French has no meaning of its own.
 NounRecord fixedNounAt(int paradigm, int number);
 
 } // namespace nouns

@@ -1,12 +1,15 @@
 #include "nouns/noun_question.h"
 
 #include "nouns/declensions.h"
+#include "nouns/noun_endings.h"
 #include "nouns/noun_tables.h"
 #include "platform/random.h"
 #include "shell/settings.h"
+#include "shell/vowel_marks.h"
 
 #include <algorithm>
 #include <array>
+#include <ranges>
 #include <string_view>
 
 namespace nouns {
@@ -24,22 +27,14 @@ constexpr int DrawnCases = 9;
 
 constexpr int NominativeIndex = NominativeSingular - 1;
 
-using Groups = std::array<std::string_view, 4>;
+// True for endings that differ in the length of their vowels alone: puella, puella:.
+constexpr bool areAlike(std::string_view ending, std::string_view other)
+{
+    const auto isLetter = [](char sign) { return sign != shell::LengthMark; };
+    return std::ranges::equal(ending | std::views::filter(isLetter), other | std::views::filter(isLetter));
+}
 
-// Cases with one form: 0 to 4 nominative, genitive, dative, accusative, ablative singular, 5 to 9 the plural.
-// clang-format off
-constexpr std::array<Groups, ParadigmCount> GroupTable = {{
-    {"04",   "125", "79"},       // puella
-    {"15",   "24",  "79"},       // hortus
-    {"15",   "24",  "79"},       // ager
-    {"03",   "24",  "58", "79"}, // do:num
-    {"0158", "79"},              // fru:ctus
-    {"0234", "58",  "79"},       // cornu:
-    {"058",  "12",  "79"},       // die:s
-    {"58",   "79"},              // re:x
-    {"03",   "58",  "79"},       // no:men
-}};
-// clang-format on
+static_assert(areAlike("a", "a:") && areAlike("i:s", "i:s") && !areAlike("i:", "i:s"));
 
 constexpr std::array CaseWords = {" Nominative", " Genitive", " Dative", " Accusative", " Ablative"};
 
@@ -61,12 +56,11 @@ void appendCases(std::string& text, std::string_view number, int first)
 
 CaseSet casesOfOneForm(int paradigmIndex, int caseIndex)
 {
+    const Endings& endings = EndingTable.at(static_cast<std::size_t>(paradigmIndex)).endings;
+    const std::string_view drawn = endings.at(static_cast<std::size_t>(caseIndex));
     CaseSet cases;
-    cases[caseIndex] = FlagTrue;
-    for (const std::string_view group : GroupTable.at(static_cast<std::size_t>(paradigmIndex)))
-        if (group.find(static_cast<char>('0' + caseIndex)) != std::string_view::npos)
-            for (const char member : group)
-                cases[member - '0'] = FlagTrue;
+    for (int i = 0; i < CaseCount; ++i)
+        cases[i] = platform::flagOf(areAlike(endings.at(static_cast<std::size_t>(i)), drawn));
     if (paradigmIndex + 1 == FourthDeclension && settings.ShowVowelLength == FlagTrue)
         cases[NominativeIndex] = FlagFalse;
     return cases;

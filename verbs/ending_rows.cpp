@@ -1,9 +1,7 @@
 #include "verbs/ending_rows.h"
 
-#include "platform/random.h"
 #include "shell/settings.h"
 #include "shell/vowel_marks.h"
-#include "verbs/verb_list.h"
 #include "verbs/verb_tables.h"
 
 namespace verbs {
@@ -46,46 +44,6 @@ void buildForms(VerbClass verbClass, const VerbStems& stems, std::span<const End
         for (const std::string_view ending : row.endings)
             buildForm(column[form++], stem, ending, shell::settings.VowelMark);
     }
-}
-
-int drawVerb(VerbClass verbClass)
-{
-    return platform::draw(verbList.Count[verbClass]) + 1;
-}
-
-void takeVerb(VerbClass verbClass, int number, std::string_view infinitiveEnding)
-{
-    const std::string& present = verbList.PresentStem[verbClass][number];
-    verbTables.WorkingStems[PresentStemIndex + verbClass] = present;
-    verbTables.WorkingStems[SupineStemIndex + verbClass] = verbList.SupineStem[verbClass][number];
-
-    std::string& infinitive = verbTables.Infinitive[verbClass];
-    infinitive = present;
-    shell::appendMarked(infinitive, infinitiveEnding, shell::settings.VowelMark);
-
-    const int place = number - 1;
-    verbTables.BaseGloss[verbClass] = verbList.BaseForm[verbClass][place];
-    verbTables.PastGloss[verbClass] = verbList.Past[verbClass][place];
-    verbTables.ParticipleGloss[verbClass] = verbList.PastParticiple[verbClass][place];
-    verbTables.PresentParticipleGloss[verbClass] = verbList.PresentParticiple[verbClass][place];
-}
-
-void takeGermanGloss(VerbClass verbClass, int number)
-{
-    if (shell::settings.CurrentLanguage == shell::language::German)
-        verbTables.GermanGloss[verbClass - 1] = verbList.German[verbClass][number - 1];
-}
-
-VerbStems stemsOf(VerbClass verbClass, int number)
-{
-    return {verbList.PresentStem[verbClass][number], verbList.PerfectStem[verbClass][number],
-            verbList.SupineStem[verbClass][number]};
-}
-
-void resetTense()
-{
-    if (currentParadigm.SingleTenseMode != 1)
-        currentParadigm.TenseMoodCode = PresentIndicative;
 }
 
 } // namespace verbs

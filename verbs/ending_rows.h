@@ -30,20 +30,4 @@ struct VerbStems {
 /// every colon of an ending.
 void buildForms(VerbClass verbClass, const VerbStems& stems, std::span<const EndingRow> rows);
 
-/// Draws a verb of the class from `verbList`, 1 to its count; 1 where it has none.
-int drawVerb(VerbClass verbClass);
-
-/// What every regular class takes over from the verb drawn, in `verbTables`: the working stems, the four
-/// translations, and the infinitive: the present stem with this ending.
-void takeVerb(VerbClass verbClass, int number, std::string_view infinitiveEnding);
-
-/// Copies the verb's extra translation where the language is German.
-void takeGermanGloss(VerbClass verbClass, int number);
-
-/// The stems of a verb of `verbList`.
-VerbStems stemsOf(VerbClass verbClass, int number);
-
-/// Goes back to the present indicative, unless a single tense is drilled.
-void resetTense();
-
 } // namespace verbs

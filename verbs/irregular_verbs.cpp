@@ -20,15 +20,27 @@ struct Glosses {
     std::optional<std::string_view> german;
 };
 
-struct IrregularGlosses {
+struct IrregularVerb {
+    VerbClass verbClass;
+    std::string_view infinitive;
+    std::string_view perfect;
+    std::string_view supine;
+    std::span<const EndingRow> forms;
+    std::span<const EndingRow> compounds;
+    TenseBlock lastTense;
     Glosses english;
     Glosses german;
 };
 
 // clang-format off
-constexpr IrregularGlosses EsseGlosses  = {{"be",   "was",    "been",   "being",   {}}, {"bin",  "war",    "gewesen",  {},      {}}};
-constexpr IrregularGlosses VelleGlosses = {{"want", "wanted", "wanted", "wanting", {}}, {"woll", "wollte", "gewollt",  {},      {}}};
-constexpr IrregularGlosses FerreGlosses = {{"bear", "bore",   "borne",  "bearing", {}}, {"trag", "trug",   "getragen", "trüge", "träg"}};
+constexpr std::array<IrregularVerb, 3> Verbs = {{
+    {Esse,  "esse",  "fu",   "",     EsseForms,  {},                 Imperative,
+     {"be",   "was",    "been",   "being",   {}}, {"bin",  "war",    "gewesen",  {},      {}}},
+    {Velle, "velle", "volu", "",     VelleForms, {},                 PluperfectSubjunctive,
+     {"want", "wanted", "wanted", "wanting", {}}, {"woll", "wollte", "gewollt",  {},      {}}},
+    {Ferre, "ferre", "tul",  "la:t", FerreForms, MasculineCompounds, PassivePluperfectSubjunctive,
+     {"bear", "bore",   "borne",  "bearing", {}}, {"trag", "trug",   "getragen", "trüge", "träg"}},
+}};
 // clang-format on
 
 void setGlosses(VerbClass verbClass, const Glosses& glosses)
@@ -43,67 +55,36 @@ void setGlosses(VerbClass verbClass, const Glosses& glosses)
 }
 
 // Latin, and a language that is not known, leave the translations as they were.
-void setGlossesInLanguage(VerbClass verbClass, const IrregularGlosses& glosses)
+void setGlossesInLanguage(const IrregularVerb& verb)
 {
     namespace language = shell::language;
     const std::string& current = shell::settings.CurrentLanguage;
     if (current == language::German)
-        setGlosses(verbClass, glosses.german);
+        setGlosses(verb.verbClass, verb.german);
     else if (current == language::English || current == language::French || current == language::Italian ||
              current == language::Spanish)
-        setGlosses(verbClass, glosses.english);
+        setGlosses(verb.verbClass, verb.english);
 }
 
-std::string marked(std::string_view text)
+void buildVerb(const IrregularVerb& verb)
 {
-    std::string form;
-    shell::appendMarked(form, text, shell::settings.VowelMark);
-    return form;
-}
-
-void setTenseCount(VerbClass verbClass, int blocks)
-{
-    verbTables.TenseCount[verbClass] = static_cast<std::int16_t>(blocks);
-}
-
-void buildEsse()
-{
-    verbTables.Infinitive[Esse] = "esse";
-    setGlossesInLanguage(Esse, EsseGlosses);
-    buildForms(Esse, {}, EsseForms);
-    buildForms(Esse, {.present = {}, .perfect = "fu", .supine = {}}, PerfectSystem);
-    setTenseCount(Esse, Imperative);
-}
-
-void buildVelle()
-{
-    verbTables.Infinitive[Velle] = "velle";
-    setGlossesInLanguage(Velle, VelleGlosses);
-    buildForms(Velle, {}, VelleForms);
-    buildForms(Velle, {.present = {}, .perfect = "volu", .supine = {}}, PerfectSystem);
-    setTenseCount(Velle, PluperfectSubjunctive);
-}
-
-void buildFerre()
-{
-    setGlossesInLanguage(Ferre, FerreGlosses);
-    verbTables.Infinitive[Ferre] = "ferre";
-    const std::string supine = marked("la:t");
-    const VerbStems stems = {.present = {}, .perfect = "tul", .supine = supine};
-    buildForms(Ferre, stems, FerreForms);
-    buildForms(Ferre, stems, PerfectSystem);
-    buildForms(Ferre, stems, MasculineCompounds);
-    setTenseCount(Ferre, BlockCount);
+    std::string supine;
+    shell::appendMarked(supine, verb.supine, shell::settings.VowelMark);
+    const VerbStems stems = {.present = {}, .perfect = verb.perfect, .supine = supine};
+    for (const auto& rows : {verb.forms, std::span<const EndingRow>(PerfectSystem), verb.compounds})
+        buildForms(verb.verbClass, stems, rows);
+    verbTables.Infinitive[verb.verbClass] = verb.infinitive;
+    verbTables.TenseCount[verb.verbClass] = verb.lastTense;
+    setGlossesInLanguage(verb);
 }
 
 } // namespace
 
 void buildIrregularVerbs()
 {
-    buildEsse();
-    buildVelle();
     resetTense();
-    buildFerre();
+    for (const IrregularVerb& verb : Verbs)
+        buildVerb(verb);
 }
 
 } // namespace verbs

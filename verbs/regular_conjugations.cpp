@@ -1,37 +1,124 @@
 #include "platform/random.h"
+#include "shell/settings.h"
 #include "shell/vowel_marks.h"
 #include "verbs/first_conjugation.h"
+#include "verbs/fourth_conjugation.h"
 #include "verbs/generators.h"
 #include "verbs/second_conjugation.h"
 #include "verbs/shared_endings.h"
+#include "verbs/third_conjugation.h"
+#include "verbs/third_io_conjugation.h"
+#include "verbs/verb_list.h"
 #include "verbs/verb_tables.h"
+
+#include <algorithm>
 
 namespace verbs {
 
 namespace {
 
-void buildFirstConjugation()
+enum class Draw { Seeded, GoesOn };
+enum class Gloss { German, None };
+
+struct RegularClass {
+    VerbClass verbClass;
+    std::string_view infinitive;
+    std::span<const EndingRow> endings;
+    std::span<const EndingRow> compounds;
+    Draw draw;
+    Gloss gloss;
+
+    /// The class whose tenses are counted.
+    VerbClass counted;
+
+    /// What the verb with this number sets besides.
+    void (*besides)(int number);
+};
+
+void setNothing(int) {}
+
+void noteVerb(int number)
 {
-    platform::seedFromClock();
-    const int number = drawVerb(FirstConjugation);
-    takeVerb(FirstConjugation, number, "a:re");
-    const VerbStems stems = stemsOf(FirstConjugation, number);
-    buildForms(FirstConjugation, stems, FirstConjugationEndings);
-    buildForms(FirstConjugation, stems, PerfectSystem);
-    verbTables.TenseCount[FirstConjugation] = BlockCount;
+    verbTables.SecondConjugationVerb = static_cast<std::int16_t>(number);
 }
 
-void buildSecondConjugation()
+void shortenImperative(int number)
 {
-    platform::seedFromClock();
-    const int number = drawVerb(SecondConjugation);
-    verbTables.SecondConjugationVerb = static_cast<std::int16_t>(number);
-    takeVerb(SecondConjugation, number, "e:re");
-    takeGermanGloss(SecondConjugation, number);
-    const VerbStems stems = stemsOf(SecondConjugation, number);
-    buildForms(SecondConjugation, stems, SecondConjugationEndings);
-    buildForms(SecondConjugation, stems, PerfectSystem);
-    verbTables.TenseCount[SecondConjugation] = BlockCount;
+    const std::string& stem = verbList.PresentStem[ThirdConjugation][number];
+    if (std::ranges::find(StemsWithBareImperative, stem) != StemsWithBareImperative.end())
+        verbTables.Forms[ThirdConjugation][formNumber(Imperative, SecondSingular)] = stem;
+}
+
+// The fourth verb of the list has this German translation, whichever verb it is.
+void correctGermanList(int)
+{
+    constexpr int fourthVerb = 3;
+    verbList.German[FourthConjugation][fourthVerb] = "gräbe"; // sic
+}
+
+// clang-format off
+// In the order in which their verbs are drawn.
+constexpr std::array<RegularClass, LastRegularClass> Classes = {{
+    // class            infinitive endings                    compounds           draw          gloss          counted            besides
+    {FirstConjugation,   "a:re", FirstConjugationEndings,   {},                 Draw::Seeded, Gloss::None,   FirstConjugation,  setNothing},
+    {SecondConjugation,  "e:re", SecondConjugationEndings,  {},                 Draw::Seeded, Gloss::German, SecondConjugation, noteVerb},
+    {ThirdConjugation,   "ere",  ThirdConjugationEndings,   MasculineCompounds, Draw::Seeded, Gloss::German, ThirdConjugation,  shortenImperative},
+    {ThirdIoConjugation, "ere",  ThirdIoConjugationEndings, MasculineCompounds, Draw::GoesOn, Gloss::German, FourthConjugation, setNothing}, // sic
+    {FourthConjugation,  "i:re", FourthConjugationEndings,  MasculineCompounds, Draw::GoesOn, Gloss::German, FourthConjugation, correctGermanList},
+}};
+// clang-format on
+
+constexpr std::size_t FirstTwo = 2;
+
+static_assert(Classes[FirstTwo].verbClass == ThirdConjugation);
+
+// What a class takes over from the verb drawn: the working stems, the infinitive and the translations.
+void takeVerb(const RegularClass& row, int number)
+{
+    const VerbClass verbClass = row.verbClass;
+    const std::string& present = verbList.PresentStem[verbClass][number];
+    verbTables.WorkingStems[PresentStemIndex + verbClass] = present;
+    verbTables.WorkingStems[SupineStemIndex + verbClass] = verbList.SupineStem[verbClass][number];
+
+    std::string& infinitive = verbTables.Infinitive[verbClass];
+    infinitive = present;
+    shell::appendMarked(infinitive, row.infinitive, shell::settings.VowelMark);
+
+    const int place = number - 1;
+    verbTables.BaseGloss[verbClass] = verbList.BaseForm[verbClass][place];
+    verbTables.PastGloss[verbClass] = verbList.Past[verbClass][place];
+    verbTables.ParticipleGloss[verbClass] = verbList.PastParticiple[verbClass][place];
+    verbTables.PresentParticipleGloss[verbClass] = verbList.PresentParticiple[verbClass][place];
+}
+
+void buildClassForms(const RegularClass& row, int number)
+{
+    const VerbClass verbClass = row.verbClass;
+    const VerbStems stems = {verbList.PresentStem[verbClass][number], verbList.PerfectStem[verbClass][number],
+                             verbList.SupineStem[verbClass][number]};
+    for (const auto& rows : {row.endings, std::span<const EndingRow>(PerfectSystem), row.compounds})
+        buildForms(verbClass, stems, rows);
+}
+
+// A class without verbs is drawn as number 1.
+void buildClass(const RegularClass& row)
+{
+    if (row.draw == Draw::Seeded)
+        platform::seedFromClock();
+    const int number = platform::draw(verbList.Count[row.verbClass]) + 1;
+    takeVerb(row, number);
+    buildClassForms(row, number);
+    row.besides(number);
+    if (row.gloss == Gloss::German && shell::settings.CurrentLanguage == shell::language::German)
+        verbTables.GermanGloss[row.verbClass - 1] = verbList.German[row.verbClass][number - 1];
+    verbTables.TenseCount[row.counted] = BlockCount;
+}
+
+void buildClasses(std::span<const RegularClass> classes)
+{
+    shell::setVowelMarkWhereShown();
+    for (const RegularClass& row : classes)
+        buildClass(row);
 }
 
 } // namespace
@@ -39,9 +126,12 @@ void buildSecondConjugation()
 void buildRegularConjugations()
 {
     resetTense();
-    shell::setVowelMarkWhereShown();
-    buildFirstConjugation();
-    buildSecondConjugation();
+    buildClasses(std::span(Classes).first(FirstTwo));
+}
+
+void buildThirdAndFourthConjugations()
+{
+    buildClasses(std::span(Classes).subspan(FirstTwo));
 }
 
 } // namespace verbs

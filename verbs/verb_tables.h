@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/table.h"
+#include "verbs/paradigm.h"
 
 #include <cstdint>
 #include <string>
@@ -51,7 +52,7 @@ struct VerbTables {
 inline constexpr int PresentStemIndex = 16;
 inline constexpr int SupineStemIndex = 32;
 
-extern VerbTables verbTables;
+inline VerbTables verbTables;
 
 /// The paradigm that is drilled now.
 struct CurrentParadigm {
@@ -70,6 +71,13 @@ struct CurrentParadigm {
     std::string VerbLabel;
 };
 
-extern CurrentParadigm currentParadigm;
+inline CurrentParadigm currentParadigm;
+
+/// Goes back to the present indicative, unless a single tense is drilled.
+inline void resetTense()
+{
+    if (currentParadigm.SingleTenseMode != 1)
+        currentParadigm.TenseMoodCode = PresentIndicative;
+}
 
 } // namespace verbs

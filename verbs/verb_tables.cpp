@@ -1,8 +1,0 @@
-#include "verbs/verb_tables.h"
-
-namespace verbs {
-
-VerbTables verbTables;
-CurrentParadigm currentParadigm;
-
-} // namespace verbs
