@@ -23,9 +23,9 @@ void takeList(const std::vector<WordRecord>& records, const std::filesystem::pat
     forgetPendingChanges();
 }
 
-std::span<WordRecord> wordsOf(VocabularyList::Words& table)
+std::span<WordRecord> workingWords()
 {
-    return std::span(table.begin(), table.end())
+    return std::span(vocabularyList.Working.begin(), vocabularyList.Working.end())
         .subspan(1, static_cast<std::size_t>(vocabularyList.WordCount));
 }
 
@@ -69,12 +69,10 @@ std::optional<LoadFault> loadList(const std::filesystem::path& path)
 
 std::optional<platform::Fault> saveList(const std::filesystem::path& path)
 {
-    VocabularyList::Words words = vocabularyList.Working;
-    for (WordRecord& record : wordsOf(words))
-        record = withoutCommas(std::move(record));
-    if (const auto fault = writeVocabularyFile(path, wordsOf(words)))
+    const std::span words = workingWords();
+    if (const auto fault = writeVocabularyFile(path, words))
         return fault;
-    vocabularyList.Working = std::move(words);
+    std::ranges::transform(words, words.begin(), withoutCommas);
     vocabularyList.CurrentWord = 0;
     vocabularyList.File = path;
     forgetPendingChanges();

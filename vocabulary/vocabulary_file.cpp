@@ -64,13 +64,14 @@ bool isPastLongestFile(const std::filesystem::path& path)
     return !error && size >= platform::LongestFile;
 }
 
-// The line of a record, with CR LF at its end. Fields that begin or end with a blank, or begin with a double
-// quote, stand in double quotes.
+// The line of a record without commas, with CR LF at its end. Fields that begin or end with a blank, or begin
+// with a double quote, stand in double quotes.
 std::string lineOf(const WordRecord& record)
 {
+    const WordRecord written = withoutCommas(record);
     std::string line;
     for (const Field field : Fields) {
-        const std::string& text = record.*field;
+        const std::string& text = written.*field;
         const std::string quote(needsQuotes(text) ? 1 : 0, Quote);
         line += quote + text + quote + Comma;
     }

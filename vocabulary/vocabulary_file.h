@@ -39,7 +39,7 @@ struct VocabularyFile {
 
 VocabularyFile readVocabularyFile(const std::filesystem::path& path);
 
-/// Replaces a file with these records, each without commas. Where that fails, the file is as it was, and the
+/// Replaces a file with these records, each `withoutCommas`. Where that fails, the file is as it was, and the
 /// fault is returned.
 std::optional<platform::Fault> writeVocabularyFile(const std::filesystem::path& path,
                                                    std::span<const WordRecord> records);
