@@ -3,7 +3,6 @@
 #include "shell/kit/captions.h"
 #include "shell/kit/type.h"
 #include "shell/settings.h"
-#include "shell/settings_changes.h"
 #include "shell/windows/main_menu_captions.h"
 #include "shell/windows/main_menu_items.h"
 
