@@ -6,7 +6,7 @@
 #include "shell/kit/text.h"
 #include "shell/kit/type.h"
 #include "shell/settings.h"
-#include "shell/windows/main_menu_captions.h"
+#include "shell/windows/main_menu_items.h"
 
 #include <QBoxLayout>
 #include <QFormLayout>
