@@ -44,7 +44,7 @@ void waitForSound()
 
 void loadProgram(shell::MainMenu& mainMenu)
 {
-    if (verbs::readVerbList(verbs::VerbListFileName))
+    if (verbs::readVerbList(verbs::VerbListFileName)) // sic: before the settings
         nouns::readNounList(nouns::NounListFileName);
     if (!shell::readSettings(shell::SettingsFileName))
         shell::applyDefaultSettings();

@@ -15,9 +15,9 @@ inline constexpr std::string_view ProgramSound = "VELMOR2.WAV";
 /// them on the main window, shows that window, and plays the sound when sound is on. Files that are missing
 /// or broken are passed over silently.
 ///
-/// The word lists are read before the settings, and the noun list only after a sound verb list (sic). So the
-/// stems have no marks at first; those of verbs get them when the option is switched, those of the nouns in
-/// the file never.
+/// The word lists are read before the settings, and the noun list only after a sound verb list. So the stems
+/// have no marks at first; those of verbs get them when the option is switched, those of the nouns in the
+/// file never.
 void loadProgram(shell::MainMenu& mainMenu);
 
 /// Ends the program as `ExitButton` does. Where `SaveSettingsOnExit` is false, at once. Else the settings

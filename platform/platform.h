@@ -21,7 +21,6 @@ public:
     /// Sleeps until an event comes or `atMost` is over, then lets the windows work off what is pending.
     virtual void waitForEvents(std::chrono::milliseconds atMost) = 0;
 
-    /// The system beep.
     virtual void beep() = 0;
 
     /// Plays a wave file of the working folder from its start, on the audio device that is the default at the

@@ -48,7 +48,7 @@ void waitSeconds(const std::function<double()>& seconds, const std::function<boo
         const double now = double{platform.secondsSinceMidnight()};
         const double end = start + seconds();
         pastMidnight = pastMidnight || now < start;
-        const bool startComesAgain = pastMidnight && end >= SecondsOfDay;
+        const bool startComesAgain = pastMidnight && end >= SecondsOfDay; // sic
         if (now >= end || (startComesAgain && now >= start))
             return;
         platform.waitForEvents(untilReached(startComesAgain ? start : end, now));

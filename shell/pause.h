@@ -9,7 +9,7 @@ namespace shell {
 /// the program ends.
 ///
 /// The clock starts again at 0 at midnight: a wait that would end after midnight lasts until the time of day
-/// at which it began comes round again (sic).
+/// at which it began comes round again.
 void waitSeconds(const std::function<double()>& seconds, const std::function<bool()>& isOff);
 
 /// Waits `DelaySeconds` seconds, likewise. Returns earlier when the drill that pauses is left.
