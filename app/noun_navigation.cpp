@@ -1,114 +1,53 @@
 #include "app/noun_navigation.h"
 
-#include "app/hourglass.h"
 #include "nouns/declension_drill.h"
 #include "nouns/pronoun_drill.h"
 #include "shell/drill.h"
 #include "shell/settings.h"
+#include "shell/vowel_marks.h"
 
 namespace app {
 
-using nouns::Declination;
 using nouns::DeclinationChoose;
-using nouns::NounHandler;
 using nouns::NounQuiz;
 using nouns::PronounChooser;
-using nouns::PronounSingular;
+using shell::MainMenu;
 
-NounNavigation::NounNavigation(FeedbackWindows& feedback) : feedback_(feedback) {}
-
-DeclinationChoose& NounNavigation::declinationChoose()
+NounNavigation::NounNavigation(CommonWindows& common)
+    : common_(common), declinationChoose_([this](const DeclinationChoose& window) {
+          connect(&window, &DeclinationChoose::chosen, this, &NounNavigation::takeDeclension);
+          whenLeft(window, common_.toMainMenu);
+      }),
+      declination_([this](nouns::Declination& window) {
+          common_.joinDrill(window, [this] { declinationChoose_->open(); });
+      }),
+      pronounChooser_([this](const PronounChooser& window) {
+          connect(&window, &PronounChooser::chosen, this, &NounNavigation::takePronouns);
+          whenLeft(window, common_.toMainMenu);
+      }),
+      pronounSingular_([this](nouns::PronounSingular& window) {
+          common_.joinDrill(window, [this] { pronounChooser_->open(); });
+      }),
+      nounQuiz_([this](const NounQuiz& window) {
+          connect(&window, &NounQuiz::optionsRequested, this, [this] { common_.delayInterval->open(); });
+          connect(&window, &NounQuiz::left, this, &shell::leaveDrill);
+          whenLeft(window, common_.toMainMenu);
+      }),
+      nounHandler_([this](const nouns::NounHandler& window) { whenLeft(window, common_.toMainMenu); })
 {
-    if (declinationChoose_)
-        return *declinationChoose_;
-    declinationChoose_ = std::make_unique<DeclinationChoose>();
-    const DeclinationChoose* const window = declinationChoose_.get();
-    connect(window, &DeclinationChoose::chosen, this, &NounNavigation::takeDeclension);
-    connect(window, &DeclinationChoose::left, this, [this] {
-        declinationChoose_->hide();
-        Q_EMIT left();
-    });
-    return *declinationChoose_;
+    connect(&common_.mainMenu, &MainMenu::declensionRequested, this, &NounNavigation::beginToChooseNouns);
+    connect(&common_.mainMenu, &MainMenu::pronounsRequested, this, &NounNavigation::beginToChoosePronouns);
+    common_.opens(&MainMenu::nounQuizRequested, nounQuiz_);
+    common_.opens(&MainMenu::nounManagerRequested, nounHandler_);
 }
 
-Declination& NounNavigation::declination()
+void NounNavigation::beginToChooseNouns()
 {
-    if (declination_)
-        return *declination_;
-    declination_ = std::make_unique<Declination>();
-    const Declination* const window = declination_.get();
-    connect(window, &Declination::answerJudged, this, [this](bool right) { feedback_.announce(right); });
-    connect(window, &Declination::left, this, &NounNavigation::leaveDeclination);
-    return *declination_;
-}
-
-PronounChooser& NounNavigation::pronounChooser()
-{
-    if (pronounChooser_)
-        return *pronounChooser_;
-    pronounChooser_ = std::make_unique<PronounChooser>();
-    const PronounChooser* const window = pronounChooser_.get();
-    connect(window, &PronounChooser::chosen, this, &NounNavigation::takePronouns);
-    connect(window, &PronounChooser::left, this, [this] {
-        pronounChooser_->hide();
-        Q_EMIT left();
-    });
-    return *pronounChooser_;
-}
-
-PronounSingular& NounNavigation::pronounSingular()
-{
-    if (pronounSingular_)
-        return *pronounSingular_;
-    pronounSingular_ = std::make_unique<PronounSingular>();
-    const PronounSingular* const window = pronounSingular_.get();
-    connect(window, &PronounSingular::answerJudged, this, [this](bool right) { feedback_.announce(right); });
-    connect(window, &PronounSingular::left, this, &NounNavigation::leavePronouns);
-    return *pronounSingular_;
-}
-
-NounQuiz& NounNavigation::nounQuiz()
-{
-    if (nounQuiz_)
-        return *nounQuiz_;
-    nounQuiz_ = std::make_unique<NounQuiz>();
-    const NounQuiz* const window = nounQuiz_.get();
-    connect(window, &NounQuiz::left, this, &NounNavigation::leaveNounQuiz);
-    connect(window, &NounQuiz::optionsRequested, this, &NounNavigation::delayRequested);
-    return *nounQuiz_;
-}
-
-NounHandler& NounNavigation::nounHandler()
-{
-    if (nounHandler_)
-        return *nounHandler_;
-    nounHandler_ = std::make_unique<NounHandler>();
-    const NounHandler* const window = nounHandler_.get();
-    connect(window, &NounHandler::left, this, [this] {
-        nounHandler_->hide();
-        Q_EMIT left();
-    });
-    return *nounHandler_;
-}
-
-void NounNavigation::showDeclinationChoose()
-{
-    declinationChoose().open();
-}
-
-void NounNavigation::showPronounChooser()
-{
-    pronounChooser().open();
-}
-
-void NounNavigation::showNounQuiz()
-{
-    nounQuiz().open();
-}
-
-void NounNavigation::showNounManager()
-{
-    nounHandler().open();
+    const Hourglass hourglass;
+    shell::setVowelMarkForDrill();
+    shell::settings.ExerciseType = shell::exercise::Declination;
+    common_.mainMenu.hide();
+    declinationChoose_->open();
 }
 
 void NounNavigation::takeDeclension(int row)
@@ -118,16 +57,15 @@ void NounNavigation::takeDeclension(int row)
         return;
     shell::beginDrill(shell::exercise::Declination);
     declinationChoose_->hide();
-    declination().open();
+    declination_->open();
 }
 
-void NounNavigation::leaveDeclination()
+void NounNavigation::beginToChoosePronouns()
 {
     const Hourglass hourglass;
-    shell::leaveDrill();
-    feedback_.hide();
-    declination_->hide();
-    declinationChoose().open();
+    shell::settings.ExerciseType = shell::exercise::Pronouns;
+    common_.mainMenu.hide();
+    pronounChooser_->open();
 }
 
 void NounNavigation::takePronouns(int row)
@@ -137,23 +75,7 @@ void NounNavigation::takePronouns(int row)
         return;
     shell::beginDrill(shell::exercise::Pronouns);
     pronounChooser_->hide();
-    pronounSingular().open();
-}
-
-void NounNavigation::leavePronouns()
-{
-    const Hourglass hourglass;
-    shell::leaveDrill();
-    feedback_.hide();
-    pronounSingular_->hide();
-    pronounChooser().open();
-}
-
-void NounNavigation::leaveNounQuiz()
-{
-    shell::leaveDrill();
-    nounQuiz_->hide();
-    Q_EMIT left();
+    pronounSingular_->open();
 }
 
 } // namespace app

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/feedback_windows.h"
+#include "app/common_windows.h"
 #include "nouns/windows/declination.h"
 #include "nouns/windows/declination_choose.h"
 #include "nouns/windows/noun_handler.h"
@@ -10,50 +10,26 @@
 
 #include <QObject>
 
-#include <memory>
-
 namespace app {
 
-/// Knows the windows of the nouns and pronouns and says who shows whom. Each is made when it is first shown.
+/// Knows the windows of the nouns and pronouns and says who shows whom.
 class NounNavigation : public QObject {
-    Q_OBJECT
-
 public:
-    explicit NounNavigation(FeedbackWindows& feedback);
-
-    void showDeclinationChoose();
-    void showPronounChooser();
-    void showNounQuiz();
-    void showNounManager();
-
-Q_SIGNALS:
-    /// The last of these windows was left for the main window.
-    void left();
-
-    /// The length of the pause is to be set.
-    void delayRequested();
+    explicit NounNavigation(CommonWindows& common);
 
 private:
-    nouns::DeclinationChoose& declinationChoose();
-    nouns::Declination& declination();
-    nouns::PronounChooser& pronounChooser();
-    nouns::PronounSingular& pronounSingular();
-    nouns::NounQuiz& nounQuiz();
-    nouns::NounHandler& nounHandler();
-
+    void beginToChooseNouns();
     void takeDeclension(int row);
-    void leaveDeclination();
+    void beginToChoosePronouns();
     void takePronouns(int row);
-    void leavePronouns();
-    void leaveNounQuiz();
 
-    FeedbackWindows& feedback_;
-    std::unique_ptr<nouns::DeclinationChoose> declinationChoose_;
-    std::unique_ptr<nouns::Declination> declination_;
-    std::unique_ptr<nouns::PronounChooser> pronounChooser_;
-    std::unique_ptr<nouns::PronounSingular> pronounSingular_;
-    std::unique_ptr<nouns::NounQuiz> nounQuiz_;
-    std::unique_ptr<nouns::NounHandler> nounHandler_;
+    CommonWindows& common_;
+    OnDemand<nouns::DeclinationChoose> declinationChoose_;
+    OnDemand<nouns::Declination> declination_;
+    OnDemand<nouns::PronounChooser> pronounChooser_;
+    OnDemand<nouns::PronounSingular> pronounSingular_;
+    OnDemand<nouns::NounQuiz> nounQuiz_;
+    OnDemand<nouns::NounHandler> nounHandler_;
 };
 
 } // namespace app

@@ -34,15 +34,9 @@ void QtPlatform::beep()
     QApplication::beep();
 }
 
-void QtPlatform::openSound(const std::string& waveFile)
-{
-    if (SoundPlayer* const player = soundPlayer())
-        player->open(waveFile);
-}
-
 void QtPlatform::playSound(const std::string& waveFile)
 {
-    if (SoundPlayer* const player = loadedSoundPlayer())
+    if (SoundPlayer* const player = soundPlayer())
         player->play(waveFile);
 }
 

@@ -10,7 +10,6 @@ public:
     float secondsSinceMidnight() const override;
     void waitForEvents(std::chrono::milliseconds atMost) override;
     void beep() override;
-    void openSound(const std::string& waveFile) override;
     void playSound(const std::string& waveFile) override;
     bool soundIsPlaying() const override;
     bool startProgram(const std::string& commandLine) override;

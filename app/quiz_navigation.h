@@ -1,37 +1,24 @@
 #pragma once
 
-#include "app/feedback_windows.h"
+#include "app/common_windows.h"
 #include "verbdrills/windows/probatio.h"
 #include "verbdrills/windows/quiz_include.h"
 
 #include <QObject>
 
-#include <memory>
-
 namespace app {
 
-/// Knows the windows of the verb quiz and says who shows whom. Each is made when it is first shown.
+/// Knows the windows of the verb quiz and says who shows whom.
 class QuizNavigation : public QObject {
-    Q_OBJECT
-
 public:
-    explicit QuizNavigation(FeedbackWindows& feedback);
-
-    void showQuiz();
-
-Q_SIGNALS:
-    /// The quiz was left for the main window.
-    void left();
+    explicit QuizNavigation(CommonWindows& common);
 
 private:
-    verbdrills::Probatio& probatio();
-    verbdrills::QuizInclude& quizInclude();
+    void beginQuiz();
 
-    void leaveProbatio();
-
-    FeedbackWindows& feedback_;
-    std::unique_ptr<verbdrills::Probatio> probatio_;
-    std::unique_ptr<verbdrills::QuizInclude> quizInclude_;
+    CommonWindows& common_;
+    OnDemand<verbdrills::Probatio> probatio_;
+    OnDemand<verbdrills::QuizInclude> quizInclude_;
 };
 
 } // namespace app

@@ -7,7 +7,7 @@
 namespace app {
 
 /// Plays wave files of the working folder. It comes as a plugin, because the sound system is as large as all
-/// the rest: it is loaded when the first file is opened, which is never the case with sound off.
+/// the rest: it is loaded when the first file is played, which is never the case with sound off.
 class SoundPlayer {
 public:
     SoundPlayer() = default;
@@ -15,10 +15,7 @@ public:
     SoundPlayer& operator=(const SoundPlayer&) = delete;
     virtual ~SoundPlayer() = default;
 
-    /// Makes a file ready. A file that cannot be played stays silent.
-    virtual void open(const std::string& waveFile) = 0;
-
-    /// Plays a file that was opened, from its start.
+    /// Plays a file from its start. A file that cannot be played stays silent.
     virtual void play(const std::string& waveFile) = 0;
 
     virtual bool isPlaying() const = 0;

@@ -1,82 +1,49 @@
 #include "app/verb_navigation.h"
 
-#include "app/hourglass.h"
+#include "app/start_and_end.h"
 #include "shell/drill.h"
 #include "shell/settings.h"
+#include "shell/vowel_marks.h"
 #include "verbdrills/conjugation_choice.h"
 #include "verbs/verb_tables.h"
 
 namespace app {
 
-using verbdrills::Conjugation;
+using shell::MainMenu;
 using verbdrills::ConjugationChoose;
 using verbdrills::TenseMoodChooser;
 using verbs::VerbManager;
 
-VerbNavigation::VerbNavigation(FeedbackWindows& feedback) : feedback_(feedback) {}
-
-ConjugationChoose& VerbNavigation::conjugationChoose()
+VerbNavigation::VerbNavigation(CommonWindows& common)
+    : common_(common), conjugationChoose_([this](const ConjugationChoose& window) {
+          connect(&window, &ConjugationChoose::chosen, this, &VerbNavigation::takeConjugation);
+          whenLeft(window, [this] {
+              const Hourglass hourglass;
+              common_.toMainMenu();
+          });
+      }),
+      tenseMoodChooser_([this](const TenseMoodChooser& window) {
+          connect(&window, &TenseMoodChooser::chosen, this, &VerbNavigation::takeTense);
+          whenLeft(window, [this] { conjugationChoose_->open(); });
+      }),
+      conjugation_(
+          [this](verbdrills::Conjugation& window) { common_.joinDrill(window, [this] { chooseAgain(); }); }),
+      verbManager_([this](const VerbManager& window) {
+          connect(&window, &VerbManager::endRequested, this, &endProgramQuietly);
+          whenLeft(window, common_.toMainMenu);
+      })
 {
-    if (conjugationChoose_)
-        return *conjugationChoose_;
-    conjugationChoose_ = std::make_unique<ConjugationChoose>();
-    const ConjugationChoose* const window = conjugationChoose_.get();
-    connect(window, &ConjugationChoose::chosen, this, &VerbNavigation::takeConjugation);
-    connect(window, &ConjugationChoose::left, this, [this] {
-        const Hourglass hourglass;
-        conjugationChoose_->hide();
-        Q_EMIT left();
-    });
-    return *conjugationChoose_;
+    connect(&common_.mainMenu, &MainMenu::conjugationRequested, this, &VerbNavigation::beginToChoose);
+    common_.opens(&MainMenu::verbManagerRequested, verbManager_);
 }
 
-TenseMoodChooser& VerbNavigation::tenseMoodChooser()
+void VerbNavigation::beginToChoose()
 {
-    if (tenseMoodChooser_)
-        return *tenseMoodChooser_;
-    tenseMoodChooser_ = std::make_unique<TenseMoodChooser>();
-    const TenseMoodChooser* const window = tenseMoodChooser_.get();
-    connect(window, &TenseMoodChooser::chosen, this, &VerbNavigation::takeTense);
-    connect(window, &TenseMoodChooser::left, this, [this] {
-        tenseMoodChooser_->hide();
-        conjugationChoose().open();
-    });
-    return *tenseMoodChooser_;
-}
-
-Conjugation& VerbNavigation::conjugation()
-{
-    if (conjugation_)
-        return *conjugation_;
-    conjugation_ = std::make_unique<Conjugation>();
-    const Conjugation* const window = conjugation_.get();
-    connect(window, &Conjugation::answerJudged, this, [this](bool right) { feedback_.announce(right); });
-    connect(window, &Conjugation::left, this, &VerbNavigation::leaveConjugation);
-    return *conjugation_;
-}
-
-VerbManager& VerbNavigation::verbManager()
-{
-    if (verbManager_)
-        return *verbManager_;
-    verbManager_ = std::make_unique<VerbManager>();
-    const VerbManager* const window = verbManager_.get();
-    connect(window, &VerbManager::endRequested, this, &VerbNavigation::endRequested);
-    connect(window, &VerbManager::left, this, [this] {
-        verbManager_->hide();
-        Q_EMIT left();
-    });
-    return *verbManager_;
-}
-
-void VerbNavigation::showConjugationChoose()
-{
-    conjugationChoose().open();
-}
-
-void VerbNavigation::showVerbManager()
-{
-    verbManager().open();
+    const Hourglass hourglass;
+    shell::setVowelMarkForDrill();
+    shell::settings.ExerciseType = shell::exercise::Conjugation;
+    common_.mainMenu.hide();
+    conjugationChoose_->open();
 }
 
 void VerbNavigation::takeConjugation(int row)
@@ -87,7 +54,7 @@ void VerbNavigation::takeConjugation(int row)
         return;
     case verbdrills::ConjugationChoice::SingleTense:
         conjugationChoose_->hide();
-        tenseMoodChooser().open();
+        tenseMoodChooser_->open();
         return;
     case verbdrills::ConjugationChoice::Paradigm:
         break;
@@ -96,7 +63,7 @@ void VerbNavigation::takeConjugation(int row)
     verbdrills::generateParadigms();
     verbdrills::beginRound();
     conjugationChoose_->hide();
-    conjugation().open();
+    conjugation_->open();
 }
 
 void VerbNavigation::takeTense(int row)
@@ -107,19 +74,15 @@ void VerbNavigation::takeTense(int row)
     shell::beginDrill(shell::exercise::Conjugation);
     verbdrills::generateParadigms();
     tenseMoodChooser_->hide();
-    conjugation().open();
+    conjugation_->open();
 }
 
-void VerbNavigation::leaveConjugation()
+void VerbNavigation::chooseAgain()
 {
-    const Hourglass hourglass;
-    shell::leaveDrill();
-    feedback_.hide();
-    conjugation_->hide();
     if (verbs::currentParadigm.SingleTenseMode == 1)
-        tenseMoodChooser().open();
+        tenseMoodChooser_->open();
     else
-        conjugationChoose().open();
+        conjugationChoose_->open();
 }
 
 } // namespace app

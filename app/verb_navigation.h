@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/feedback_windows.h"
+#include "app/common_windows.h"
 #include "verbdrills/windows/conjugation.h"
 #include "verbdrills/windows/conjugation_choose.h"
 #include "verbdrills/windows/tense_mood_chooser.h"
@@ -8,40 +8,24 @@
 
 #include <QObject>
 
-#include <memory>
-
 namespace app {
 
-/// Knows the windows of the verbs and says who shows whom. Each is made when it is first shown.
+/// Knows the windows of the verbs and says who shows whom.
 class VerbNavigation : public QObject {
-    Q_OBJECT
-
 public:
-    explicit VerbNavigation(FeedbackWindows& feedback);
-
-    void showConjugationChoose();
-    void showVerbManager();
-
-Q_SIGNALS:
-    /// The last of these windows was left for the main window.
-    void left();
-    void endRequested();
+    explicit VerbNavigation(CommonWindows& common);
 
 private:
-    verbdrills::ConjugationChoose& conjugationChoose();
-    verbdrills::TenseMoodChooser& tenseMoodChooser();
-    verbdrills::Conjugation& conjugation();
-    verbs::VerbManager& verbManager();
-
+    void beginToChoose();
     void takeConjugation(int row);
     void takeTense(int row);
-    void leaveConjugation();
+    void chooseAgain();
 
-    FeedbackWindows& feedback_;
-    std::unique_ptr<verbdrills::ConjugationChoose> conjugationChoose_;
-    std::unique_ptr<verbdrills::TenseMoodChooser> tenseMoodChooser_;
-    std::unique_ptr<verbdrills::Conjugation> conjugation_;
-    std::unique_ptr<verbs::VerbManager> verbManager_;
+    CommonWindows& common_;
+    OnDemand<verbdrills::ConjugationChoose> conjugationChoose_;
+    OnDemand<verbdrills::TenseMoodChooser> tenseMoodChooser_;
+    OnDemand<verbdrills::Conjugation> conjugation_;
+    OnDemand<verbs::VerbManager> verbManager_;
 };
 
 } // namespace app

@@ -1,168 +1,105 @@
 #include "app/vocabulary_navigation.h"
 
-#include "app/hourglass.h"
-#include "shell/drill.h"
 #include "vocabulary/vocabulary_edits.h"
 
 namespace app {
 
+using shell::MainMenu;
 using vocabulary::FileHandler;
-using vocabulary::VcabLoader;
 using vocabulary::VcabManager;
 using vocabulary::Vcabtester;
 using vocabulary::VcabWarning;
 
-VocabularyNavigation::VocabularyNavigation(FeedbackWindows& feedback) : feedback_(feedback) {}
+namespace file_mode = vocabulary::file_mode;
 
-Vcabtester& VocabularyNavigation::tester()
+VocabularyNavigation::VocabularyNavigation(CommonWindows& common)
+    : common_(common), tester_([this](Vcabtester& window) {
+          common_.joinDrill(window, common_.toMainMenu);
+          connect(&window, &Vcabtester::listRequested, this, [this] {
+              putTesterAside();
+              loader_->open();
+          });
+          connect(&window, &Vcabtester::editorRequested, this, [this] {
+              putTesterAside();
+              manager_->open();
+          });
+      }),
+      loader_(
+          [this](const vocabulary::VcabLoader& window) { whenLeft(window, [this] { returnToTester(); }); }),
+      manager_([this](const VcabManager& window) {
+          connect(&window, &VcabManager::saveRequested, this, [this] { chooseFile(file_mode::Save); });
+          connect(&window, &VcabManager::loadRequested, this,
+                  [this] { goOnWithoutPendingChanges([this] { chooseFile(file_mode::Load); }); });
+          connect(&window, &VcabManager::exitRequested, this,
+                  [this] { goOnWithoutPendingChanges([this] { returnToTester(); }); });
+      }),
+      fileHandler_([this](FileHandler& window) {
+          connect(&window, &FileHandler::loaded, this, [this, &window] {
+              window.hide();
+              manager_->open();
+          });
+          whenLeft(window, [this] { manager_->comeBack(); });
+      }),
+      warning_([this](VcabWarning& window) {
+          hideWhenLeft(window);
+          connect(&window, &VcabWarning::discardRequested, &window, &VcabWarning::hide);
+          connect(&window, &VcabWarning::discardRequested, this, [this] { afterWarning_(); });
+          connect(&window, &VcabWarning::saveRequested, &window, &VcabWarning::hide);
+          connect(&window, &VcabWarning::saveRequested, this, [this] { chooseFile(file_mode::Save); });
+      })
 {
-    if (tester_)
-        return *tester_;
-    tester_ = std::make_unique<Vcabtester>();
-    const Vcabtester* const window = tester_.get();
-    connect(window, &Vcabtester::answerJudged, this, [this](bool right) { feedback_.announce(right); });
-    connect(window, &Vcabtester::listRequested, this, &VocabularyNavigation::showLoader);
-    connect(window, &Vcabtester::editorRequested, this, &VocabularyNavigation::editTestedList);
-    connect(window, &Vcabtester::left, this, &VocabularyNavigation::leaveTester);
-    return *tester_;
+    connect(&common_.mainMenu, &MainMenu::vocabularyRequested, this, &VocabularyNavigation::beginTest);
+    connect(&common_.mainMenu, &MainMenu::vocabularyManagerRequested, this,
+            &VocabularyNavigation::showManager);
 }
 
-VcabLoader& VocabularyNavigation::loader()
-{
-    if (loader_)
-        return *loader_;
-    loader_ = std::make_unique<VcabLoader>();
-    connect(loader_.get(), &VcabLoader::left, this, [this] {
-        loader_->hide();
-        returnToTester();
-    });
-    return *loader_;
-}
-
-VcabManager& VocabularyNavigation::manager()
-{
-    if (manager_)
-        return *manager_;
-    manager_ = std::make_unique<VcabManager>();
-    const VcabManager* const window = manager_.get();
-    connect(window, &VcabManager::saveRequested, this, &VocabularyNavigation::chooseFileToSave);
-    connect(window, &VcabManager::loadRequested, this,
-            [this] { goOnWithoutPendingChanges(&VocabularyNavigation::chooseFileToLoad); });
-    connect(window, &VcabManager::exitRequested, this,
-            [this] { goOnWithoutPendingChanges(&VocabularyNavigation::returnToTester); });
-    return *manager_;
-}
-
-FileHandler& VocabularyNavigation::fileHandler()
-{
-    if (fileHandler_)
-        return *fileHandler_;
-    fileHandler_ = std::make_unique<FileHandler>();
-    const FileHandler* const window = fileHandler_.get();
-    connect(window, &FileHandler::loaded, this, [this] {
-        fileHandler_->hide();
-        manager_->open();
-    });
-    connect(window, &FileHandler::left, this, [this] {
-        fileHandler_->hide();
-        manager_->comeBack();
-    });
-    return *fileHandler_;
-}
-
-VcabWarning& VocabularyNavigation::warning()
-{
-    if (warning_)
-        return *warning_;
-    warning_ = std::make_unique<VcabWarning>();
-    const VcabWarning* const window = warning_.get();
-    connect(window, &VcabWarning::left, warning_.get(), &VcabWarning::hide);
-    connect(window, &VcabWarning::discardRequested, this, &VocabularyNavigation::goOnWithoutSaving);
-    connect(window, &VcabWarning::saveRequested, this, [this] {
-        warning_->hide();
-        chooseFileToSave();
-    });
-    return *warning_;
-}
-
-void VocabularyNavigation::showTester()
-{
-    tester().open();
-}
-
-void VocabularyNavigation::showManager()
-{
-    if (!vocabulary::changesArePending())
-        vocabulary::beginNewList();
-    manager().open();
-}
-
-void VocabularyNavigation::leaveTester()
+void VocabularyNavigation::beginTest()
 {
     const Hourglass hourglass;
-    putTesterAside();
-    testWaits_ = false;
-    Q_EMIT left();
+    common_.mainMenu.hide();
+    tester_->open();
+}
+
+// A list with changes that are not saved is edited further.
+void VocabularyNavigation::showManager()
+{
+    common_.mainMenu.hide();
+    if (!vocabulary::changesArePending())
+        vocabulary::beginNewList();
+    manager_->open();
 }
 
 void VocabularyNavigation::putTesterAside()
 {
-    shell::leaveDrill();
-    feedback_.hide();
-    tester_->hide();
+    common_.leaveDrill(*tester_);
     testWaits_ = true;
-}
-
-void VocabularyNavigation::showLoader()
-{
-    putTesterAside();
-    loader().open();
-}
-
-void VocabularyNavigation::editTestedList()
-{
-    putTesterAside();
-    manager().open();
-}
-
-void VocabularyNavigation::goOnWithoutPendingChanges(Step step)
-{
-    if (!vocabulary::changesArePending()) {
-        (this->*step)();
-        return;
-    }
-    afterWarning_ = step;
-    warning().open();
-}
-
-void VocabularyNavigation::goOnWithoutSaving()
-{
-    warning_->hide();
-    (this->*afterWarning_)();
-}
-
-void VocabularyNavigation::chooseFileToLoad()
-{
-    manager_->hide();
-    fileHandler().open(vocabulary::file_mode::Load);
-}
-
-void VocabularyNavigation::chooseFileToSave()
-{
-    manager_->hide();
-    fileHandler().open(vocabulary::file_mode::Save);
 }
 
 void VocabularyNavigation::returnToTester()
 {
     const Hourglass hourglass;
-    if (manager_)
-        manager_->hide();
+    manager_.hide();
     if (testWaits_)
-        tester().comeBack();
+        tester_->comeBack();
     else
-        tester().open();
+        tester_->open();
     testWaits_ = false;
+}
+
+void VocabularyNavigation::goOnWithoutPendingChanges(const Step& step)
+{
+    if (!vocabulary::changesArePending()) {
+        step();
+        return;
+    }
+    afterWarning_ = step;
+    warning_->open();
+}
+
+void VocabularyNavigation::chooseFile(std::string_view mode)
+{
+    manager_->hide();
+    fileHandler_->open(mode);
 }
 
 } // namespace app

@@ -31,7 +31,6 @@ public:
     float secondsSinceMidnight() const override { return 43200; }
     void waitForEvents(std::chrono::milliseconds) override {}
     void beep() override {}
-    void openSound(const std::string&) override {}
     void playSound(const std::string&) override {}
     bool soundIsPlaying() const override { return false; }
     bool startProgram(const std::string&) override { return false; }

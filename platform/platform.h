@@ -21,14 +21,10 @@ public:
     /// Sleeps until an event comes or `atMost` is over, then lets the windows work off what is pending.
     virtual void waitForEvents(std::chrono::milliseconds atMost) = 0;
 
-    /// The system beep.
     virtual void beep() = 0;
 
-    /// Opens the wave-audio device for a file in the working folder. A file that cannot be played stays
-    /// silent.
-    virtual void openSound(const std::string& waveFile) = 0;
-
-    /// Plays a file that was opened from its start and returns at once; silent when it was not opened.
+    /// Plays a wave file of the working folder from its start, on the audio device that is the default at the
+    /// moment, and returns at once. A file that cannot be played stays silent.
     virtual void playSound(const std::string& waveFile) = 0;
 
     /// True while a sound that was started can still be heard.

@@ -9,7 +9,7 @@ namespace shell {
 
 int scrollAtFirst()
 {
-    return settings.DelaySeconds;
+    return settings.DelaySeconds; // sic: not in tenths
 }
 
 std::string delayText(int scroll)

@@ -10,7 +10,7 @@ inline constexpr int ScrollStep = 1;
 inline constexpr int ScrollPage = 10;
 
 /// Where the scroll bar stands at first: at `DelaySeconds` as it is. The bar counts in tenths of a second all
-/// the same, so that confirming it unmoved divides the delay by ten. This is meant.
+/// the same, so that confirming it unmoved divides the delay by ten.
 int scrollAtFirst();
 
 /// A scroll value as seconds in print form: " 0.2 seconds" for 2.

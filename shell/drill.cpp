@@ -11,7 +11,13 @@ namespace shell {
 namespace {
 
 std::map<std::string, Drill*, std::less<>> drills;
-int session = 0;
+Stay stay = Stay::begun();
+
+void beginStay()
+{
+    stay.end();
+    stay = Stay::begun();
+}
 
 } // namespace
 
@@ -33,19 +39,19 @@ Drill* runningDrill()
 
 void beginDrill(std::string_view exerciseType)
 {
-    ++session;
+    beginStay();
     settings.ExerciseType = exerciseType;
     resetScore();
 }
 
 void leaveDrill()
 {
-    ++session;
+    beginStay();
 }
 
-int drillSession()
+Stay drillStay()
 {
-    return session;
+    return stay;
 }
 
 } // namespace shell

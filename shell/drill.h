@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shell/stay.h"
+
 #include <string>
 #include <string_view>
 
@@ -42,8 +44,7 @@ void beginDrill(std::string_view exerciseType);
 /// Leaves the running drill: every `Pause` that waits for it returns, and it is not moved on afterwards.
 void leaveDrill();
 
-/// A number that is another one after every `beginDrill` and `leaveDrill`. Who pauses compares it before and
-/// after: where it changed, the drill that paused is no longer running.
-int drillSession();
+/// The stay in the running drill: `beginDrill` and `leaveDrill` end it.
+Stay drillStay();
 
 } // namespace shell

@@ -1,11 +1,20 @@
 #include "shell/feedback.h"
 
+#include "platform/platform.h"
 #include "shell/drill.h"
 #include "shell/pause.h"
 #include "shell/score.h"
-#include "shell/sound_control.h"
+#include "shell/settings.h"
+
+#include <string>
 
 namespace shell {
+
+void soundIfOn(std::string_view waveFile)
+{
+    if (settings.SoundOn == platform::FlagTrue)
+        platform::current().playSound(std::string(waveFile));
+}
 
 void giveRightFeedback(FeedbackSurface& surface)
 {
@@ -19,10 +28,10 @@ void giveRightFeedback(FeedbackSurface& surface)
     drill->showScore(scoreText());
     if (!pauseWithDrill())
         return;
-    const int session = drillSession();
+    const Stay stay = drillStay();
     drill->moveOn();
     surface.hideSurface();
-    if (session == drillSession())
+    if (stay.lasts())
         drill->focusQuestion();
 }
 

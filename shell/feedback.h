@@ -1,11 +1,22 @@
 #pragma once
 
+#include "shell/language_texts.h"
+
 #include <string_view>
 
 namespace shell {
 
+// clang-format off
+//                                              English   French    Italian   German      Spanish    Latin
+inline constexpr LanguageTexts RightTexts = {"Right!", "Bon!",   "Right!", "Richtig!", "¡Bien!",  "Verum"};
+inline constexpr LanguageTexts WrongTexts = {"Wrong!", "Wrong!", "Wrong!", "Falsch!",  "¡Mal!",   "Falsum"}; // sic: not "Non!"
+// clang-format on
+
 inline constexpr std::string_view RightSound = "right.wav";
 inline constexpr std::string_view WrongSound = "wrong.wav";
+
+/// Plays a wave file of the working folder when `SoundOn` is true.
+void soundIfOn(std::string_view waveFile);
 
 /// The window that announces an answer while its feedback runs.
 class FeedbackSurface {

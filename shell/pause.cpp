@@ -3,55 +3,74 @@
 #include "platform/platform.h"
 #include "shell/drill.h"
 #include "shell/settings.h"
-#include "shell/wait.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <utility>
 
 namespace shell {
 
 namespace {
 
-// The session of the pause that waits, and how many of that session wait (one within the other).
-struct Waiting {
-    int session = 0;
-    int depth = 0;
-};
-Waiting waiting;
+constexpr double SecondsOfDay = 86400;
 
-// Counts a pause as long as it waits.
+// Never past midnight, where the clock starts again.
+std::chrono::milliseconds untilReached(double time, double now)
+{
+    const double left = (std::min(time, SecondsOfDay) - now) * 1000;
+    return std::chrono::milliseconds(std::max(1L, std::lround(std::ceil(left))));
+}
+
+// The drill of the innermost pause.
+Stay waiting;
+
+// Makes the running drill the one that waits; at its end the drill of the pause around it is that again.
 class Wait {
 public:
-    Wait() : before_(waiting), session_(drillSession())
-    {
-        waiting = {session_, before_.session == session_ ? before_.depth + 1 : 1};
-    }
+    Wait() : around_(std::exchange(waiting, drillStay())) {}
     Wait(const Wait&) = delete;
     Wait& operator=(const Wait&) = delete;
-    ~Wait() { waiting = before_; }
-
-    bool isOff() const { return session_ != drillSession(); }
+    ~Wait() { waiting = around_; }
 
 private:
-    Waiting before_;
-    int session_;
+    Stay around_;
 };
 
 } // namespace
 
+void waitSeconds(const std::function<double()>& seconds, const std::function<bool()>& isOff)
+{
+    platform::Platform& platform = platform::current();
+    const double start = double{platform.secondsSinceMidnight()};
+    bool pastMidnight = false;
+    while (!platform.ending() && !isOff()) {
+        const double now = double{platform.secondsSinceMidnight()};
+        const double end = start + seconds();
+        pastMidnight = pastMidnight || now < start;
+        const bool startComesAgain = pastMidnight && end >= SecondsOfDay; // sic
+        if (now >= end || (startComesAgain && now >= start))
+            return;
+        platform.waitForEvents(untilReached(startComesAgain ? start : end, now));
+    }
+}
+
 void Pause()
 {
     const Wait wait;
-    waitSeconds([] { return settings.DelaySeconds; }, [&wait] { return wait.isOff(); });
+    waitSeconds([] { return settings.DelaySeconds; }, [stay = drillStay()] { return !stay.lasts(); });
 }
 
 bool pauseWithDrill()
 {
-    const int session = drillSession();
+    const Stay stay = drillStay();
     Pause();
-    return session == drillSession() && !platform::current().ending();
+    return stay.lasts() && !platform::current().ending();
 }
 
 bool pausing()
 {
-    return waiting.depth > 0 && waiting.session == drillSession();
+    return waiting.lasts();
 }
 
 } // namespace shell

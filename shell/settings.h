@@ -94,4 +94,14 @@ extern Settings settings;
 /// Raises `SettingsChangeCount` by one, up to the most it can hold.
 void countSettingsChange();
 
+/// What the main window's menus change. The first four raise `SettingsChangeCount`.
+void chooseLanguage(std::string_view language);
+void chooseCaseOrder(std::string_view caseOrder);
+void chooseQuestionOrder(std::string_view questionOrder);
+void switchSound(bool on);
+void switchSaving(bool saved);
+
+/// Sets `ShowVowelLength`, and `VowelMark` with it; the verb list has to be read again afterwards.
+void switchVowelLength(bool shown);
+
 } // namespace shell

@@ -21,7 +21,7 @@ constexpr int LastStoredClass = 7;
 constexpr int LastStoredTense = 20;
 
 constexpr int DelayWhereUnreadable = 2;
-constexpr int DelayAfterWriting = 15;
+constexpr int DelayAfterWriting = 15; // sic
 
 bool delayIsOutOfRange()
 {

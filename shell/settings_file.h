@@ -27,8 +27,9 @@ void mendSettings();
 /// The text of the settings file for `settings` as it stands: 36 lines, each ended by CR LF.
 std::string settingsText();
 
-/// Replaces the settings file. Afterwards a delay out of range becomes 15, which is meant not to reach the
-/// file. Returns the fault that kept the file from being written; the old one is whole then.
+/// Replaces the settings file. Afterwards a delay out of range becomes 15, in memory only: the next start
+/// reads what was out of range, and makes it 2. Returns the fault that kept the file from being written; the
+/// old one is whole then.
 std::optional<platform::Fault> writeSettings(const std::filesystem::path& path);
 
 } // namespace shell

@@ -6,7 +6,7 @@ namespace shell {
 
 namespace {
 
-constexpr platform::Flag MarkingFlagOfDrills = 1;
+constexpr platform::Flag MarkingFlagOfDrills = 1; // sic: the menu stores -1
 
 } // namespace
 
@@ -15,7 +15,7 @@ std::string StripOutColons(std::string_view stem)
     std::string stripped;
     bool afterMark = false;
     for (const char letter : stem) {
-        const bool mark = letter == LengthMark && !afterMark;
+        const bool mark = letter == LengthMark && !afterMark; // sic: of two marks one stays
         if (!mark)
             stripped += letter;
         afterMark = mark;

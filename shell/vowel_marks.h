@@ -9,7 +9,7 @@ namespace shell {
 inline constexpr char LengthMark = ':';
 
 /// Takes the marks out of a stem, in one pass that passes over what follows a mark: of two marks side by side
-/// the second is meant to stay.
+/// the second stays.
 std::string StripOutColons(std::string_view stem);
 
 /// A stem as the lists keep it: with its marks where `ShowVowelLength` is true, else without.
@@ -19,8 +19,7 @@ std::string stemAsShown(std::string_view stem);
 void appendMarked(std::string& form, std::string_view text, std::string_view mark);
 
 /// Sets `VowelMark` before a noun or verb drill: ":" where `ShowVowelLength` is exactly 1, else "". The menu
-/// stores true as -1, so that in normal use the mark is emptied here and the generators set it: this is
-/// meant.
+/// stores true as -1, so that in normal use the mark is emptied here and the generators set it.
 void setVowelMarkForDrill();
 
 /// Sets `VowelMark` before forms are generated: ":" where `ShowVowelLength` is true. It never empties it.

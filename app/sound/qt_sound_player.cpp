@@ -17,18 +17,16 @@ QtSoundPlayer::QtSoundPlayer()
 
 QtSoundPlayer::~QtSoundPlayer() = default;
 
-void QtSoundPlayer::open(const std::string& waveFile)
-{
-    const QFileInfo file(QString::fromStdString(waveFile));
-    if (sounds_.contains(waveFile) || !file.isFile())
-        return;
-    sounds_.emplace(waveFile, std::make_unique<WaveSound>(file.absoluteFilePath()));
-}
-
 void QtSoundPlayer::play(const std::string& waveFile)
 {
-    if (const auto sound = sounds_.find(waveFile); sound != sounds_.end())
-        sound->second->play();
+    auto sound = sounds_.find(waveFile);
+    if (sound == sounds_.end()) {
+        const QString path = QString::fromStdString(waveFile);
+        if (!QFileInfo(path).isFile())
+            return;
+        sound = sounds_.emplace(waveFile, std::make_unique<WaveSound>(path)).first;
+    }
+    sound->second->play();
 }
 
 bool QtSoundPlayer::isPlaying() const

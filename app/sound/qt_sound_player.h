@@ -21,7 +21,6 @@ public:
     QtSoundPlayer();
     ~QtSoundPlayer() override;
 
-    void open(const std::string& waveFile) override;
     void play(const std::string& waveFile) override;
     bool isPlaying() const override;
 

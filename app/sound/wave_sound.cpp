@@ -30,26 +30,26 @@ WaveSound::WaveSound(const QString& path)
     QWaveDecoder decoder(&file);
     if (!file.open(QIODevice::ReadOnly) || !decoder.open(QIODevice::ReadOnly))
         return;
-    const QAudioFormat format = decoder.audioFormat();
-    const QAudioDevice output = QMediaDevices::defaultAudioOutput();
-    if (!format.isValid() || output.isNull())
+    format_ = decoder.audioFormat();
+    if (!format_.isValid())
         return;
     // The header may promise more than the file holds.
-    samples_.setData(decoder.read(std::min(decoder.size(), file.size())) + silence(format));
+    samples_.setData(decoder.read(std::min(decoder.size(), file.size())) + silence(format_));
     samples_.open(QIODevice::ReadOnly);
-    sink_ = std::make_unique<QAudioSink>(output, format);
-    sink_->setBufferSize(format.bytesForDuration(BufferMicroseconds));
-    connect(sink_.get(), &QAudioSink::stateChanged, this, &WaveSound::stopWhenIdle, Qt::QueuedConnection);
 }
 
 WaveSound::~WaveSound() = default;
 
 void WaveSound::play()
 {
-    if (!sink_)
+    sink_.reset();
+    const QAudioDevice output = QMediaDevices::defaultAudioOutput();
+    if (!samples_.isOpen() || output.isNull())
         return;
-    sink_->stop();
     samples_.seek(0);
+    sink_ = std::make_unique<QAudioSink>(output, format_);
+    sink_->setBufferSize(format_.bytesForDuration(BufferMicroseconds));
+    connect(sink_.get(), &QAudioSink::stateChanged, this, &WaveSound::stopWhenIdle, Qt::QueuedConnection);
     sink_->start(&samples_);
 }
 
@@ -58,10 +58,11 @@ bool WaveSound::isPlaying() const
     return sink_ && sink_->state() != QAudio::StoppedState;
 }
 
-// A sink that idles before the end only waits for its turn on a busy machine.
+// A sink that idles before the end only waits for its turn on a busy machine. The change of state may be that
+// of the sink before.
 void WaveSound::stopWhenIdle()
 {
-    if (sink_->state() == QAudio::IdleState && samples_.atEnd())
+    if (sink_ && sink_->state() == QAudio::IdleState && samples_.atEnd())
         sink_->stop();
 }
 

@@ -9,8 +9,8 @@
 
 namespace app {
 
-/// One wave file, read whole, on the default output. A file that is no uncompressed wave stays silent, and so
-/// does every file where there is no output.
+/// One wave file, read whole. A file that is no uncompressed wave stays silent, and so does every file as
+/// long as there is no output.
 class WaveSound : public QObject {
     Q_OBJECT
 
@@ -18,7 +18,7 @@ public:
     explicit WaveSound(const QString& path);
     ~WaveSound() override;
 
-    /// Plays from the start, also while it is playing.
+    /// Plays from the start, also while it is playing, on the output that is the default one now.
     void play();
 
     /// True from `play` until the last sample was heard.
@@ -27,6 +27,7 @@ public:
 private:
     void stopWhenIdle();
 
+    QAudioFormat format_;
     QBuffer samples_;
     std::unique_ptr<QAudioSink> sink_;
 };

@@ -3,7 +3,7 @@
 #include "nouns/noun_question.h"
 #include "nouns/windows/case_names.h"
 #include "shell/drill.h"
-#include "shell/feedback_texts.h"
+#include "shell/feedback.h"
 #include "shell/kit/captions.h"
 #include "shell/kit/controls.h"
 #include "shell/kit/text.h"

@@ -56,7 +56,7 @@ About::About() : Window("About", "About")
     layout->addStretch();
     layout->addWidget(close, 0, Qt::AlignRight);
 
-    connect(close, &QPushButton::clicked, this, &About::hide);
+    connect(close, &QPushButton::clicked, this, &About::left);
     applyDesignedCaptions(*this, AboutCaptions);
 }
 
@@ -64,11 +64,6 @@ void About::open()
 {
     applyCaptions(*this, AboutCaptions);
     showInFront();
-}
-
-void About::closeBoxPressed()
-{
-    hide();
 }
 
 } // namespace shell

@@ -12,9 +12,6 @@ public:
     About();
 
     void open();
-
-protected:
-    void closeBoxPressed() override;
 };
 
 } // namespace shell

@@ -5,7 +5,7 @@
 #include "shell/kit/enter_key.h"
 #include "shell/kit/text.h"
 #include "shell/kit/type.h"
-#include "shell/wait.h"
+#include "shell/pause.h"
 
 #include <QBoxLayout>
 #include <QLabel>
@@ -125,24 +125,23 @@ void DelayInterval::confirm()
 
 void DelayInterval::leave()
 {
-    ++visit_;
-    trying_ = false;
+    trial_.end();
     showTrial(false);
-    hide();
+    Q_EMIT left();
 }
 
 void DelayInterval::tryLength()
 {
-    if (trying_)
+    if (trial_.lasts())
         return;
-    const int visit = visit_;
-    trying_ = true;
+    const Stay trial = Stay::begun();
+    trial_ = trial;
     showTrial(true);
     const double seconds = secondsOfScroll(scroll_->value());
-    waitSeconds([seconds] { return seconds; }, [this, visit] { return visit != visit_; });
-    if (visit != visit_)
+    waitSeconds([seconds] { return seconds; }, [&trial] { return !trial.lasts(); });
+    if (!trial.lasts())
         return;
-    trying_ = false;
+    trial_.end();
     showTrial(false);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shell/kit/window.h"
+#include "shell/stay.h"
 
 class QLabel;
 class QPushButton;
@@ -38,9 +39,7 @@ private:
     QPushButton* cancel_;
     QPushButton* test_;
 
-    /// Counts how often the window was left: a trial that began before goes no further.
-    int visit_ = 0;
-    bool trying_ = false;
+    Stay trial_;
 };
 
 } // namespace shell

@@ -1,6 +1,5 @@
 #include "shell/windows/feedback_window.h"
 
-#include "shell/feedback_texts.h"
 #include "shell/kit/captions.h"
 #include "shell/kit/text.h"
 #include "shell/kit/type.h"

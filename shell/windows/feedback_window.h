@@ -5,8 +5,6 @@
 
 #include <QFrame>
 
-class QLabel;
-
 namespace shell {
 
 /// A small window above all others that tells whether an answer was right. It never takes the focus from the

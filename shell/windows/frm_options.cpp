@@ -6,7 +6,7 @@
 #include "shell/kit/text.h"
 #include "shell/kit/type.h"
 #include "shell/settings.h"
-#include "shell/windows/main_menu_captions.h"
+#include "shell/windows/main_menu_items.h"
 
 #include <QBoxLayout>
 #include <QFormLayout>
@@ -150,7 +150,7 @@ void FrmOptions::connectControls()
     connect(tabs_, &QTabBar::currentChanged, this, &FrmOptions::placeFrames);
     connect(slider_, &QSlider::valueChanged, this, &FrmOptions::showDelay);
     connect(ok_, &QPushButton::clicked, this, &FrmOptions::confirm);
-    connect(cancel_, &QPushButton::clicked, this, &FrmOptions::hide);
+    connect(cancel_, &QPushButton::clicked, this, &FrmOptions::left);
     connect(apply_, &QPushButton::clicked, this, &FrmOptions::apply);
 }
 
@@ -216,13 +216,8 @@ void FrmOptions::confirm()
     platform::current().showMessage("Place code here to set options and close dialog!",
                                     [window = QPointer<FrmOptions>(this)] {
                                         if (window != nullptr)
-                                            window->hide();
+                                            Q_EMIT window->left();
                                     });
-}
-
-void FrmOptions::closeBoxPressed()
-{
-    hide();
 }
 
 void FrmOptions::resizeEvent(QResizeEvent* event)

@@ -23,7 +23,6 @@ public:
     void open();
 
 protected:
-    void closeBoxPressed() override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:

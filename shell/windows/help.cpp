@@ -46,7 +46,7 @@ Help::Help() : Window("Help"), text_(new QTextBrowser)
     resize(QSize(NormalSize.width() * letter.width(), NormalSize.height() * letter.height())
                .boundedTo(screen()->availableSize() * 9 / 10));
 
-    connect(close, &QPushButton::clicked, this, &Help::hide);
+    connect(close, &QPushButton::clicked, this, &Help::left);
     applyDesignedCaptions(*this, HelpCaptions);
 }
 
@@ -63,11 +63,6 @@ void Help::showGuide()
     text_->setAccessibleName(windowTitle());
     showInFront();
     text_->setFocus();
-}
-
-void Help::closeBoxPressed()
-{
-    hide();
 }
 
 } // namespace shell

@@ -19,9 +19,6 @@ public:
     /// read. A text that is shown already is not laid out again.
     void showGuide();
 
-protected:
-    void closeBoxPressed() override;
-
 private:
     QTextBrowser* text_;
     QString shownText_;

@@ -1,10 +1,9 @@
 #include "shell/windows/main_menu.h"
 
 #include "shell/kit/captions.h"
+#include "shell/kit/text.h"
 #include "shell/kit/type.h"
 #include "shell/settings.h"
-#include "shell/settings_changes.h"
-#include "shell/windows/main_menu_captions.h"
 #include "shell/windows/main_menu_items.h"
 
 #include <QAction>
@@ -28,54 +27,41 @@ constexpr QSize LargestBlock{72, 34};
 constexpr int ButtonCharacters = 18;
 constexpr int ButtonLines = 3;
 
-// The buttons as they stand on the window: two columns, read line by line.
-constexpr std::array Buttons = {"ConjugationButton", "DeclensionButton", "PronounButton",
-                                "QuizButton",        "VocabularyButton", "ExitButton"};
+constexpr int ButtonColumns = 2;
 
-template <typename Control>
-Control* named(const QWidget& window, const char* name)
-{
-    auto* const found = window.findChild<Control*>(QLatin1String(name));
-    if (found == nullptr)
-        throw std::logic_error("the main window has no " + std::string(name));
-    return found;
-}
-
-struct LanguageItem {
-    const char* item;
-    std::string_view language;
+// An item of the menus of which one is checked, and the setting that it stands for.
+struct Choice {
+    std::string_view item;
+    void (*choose)(std::string_view);
+    std::string Settings::*setting;
+    std::string_view value;
 };
 
-constexpr std::array<LanguageItem, 6> LanguageItems = {{{"EnglishLang", language::English},
-                                                        {"LatinLang", language::Latin},
-                                                        {"FrenchLang", language::French},
-                                                        {"ItalianLang", language::Italian},
-                                                        {"GermanLang", language::German},
-                                                        {"SpanishLang", language::Spanish}}};
+// clang-format off
+constexpr std::array<Choice, 10> Choices = {{
+    {"RandomOrder",     &chooseQuestionOrder, &Settings::QuestionOrder,   question_order::Random},
+    {"SequentialOrder", &chooseQuestionOrder, &Settings::QuestionOrder,   question_order::Sequential},
+    {"NGDAABOrder",     &chooseCaseOrder,     &Settings::CaseOrder,       case_order::NGDAAb},
+    {"NADGABOrder",     &chooseCaseOrder,     &Settings::CaseOrder,       case_order::NAGDAb},
+    {"EnglishLang",     &chooseLanguage,      &Settings::CurrentLanguage, language::English},
+    {"FrenchLang",      &chooseLanguage,      &Settings::CurrentLanguage, language::French},
+    {"ItalianLang",     &chooseLanguage,      &Settings::CurrentLanguage, language::Italian},
+    {"GermanLang",      &chooseLanguage,      &Settings::CurrentLanguage, language::German},
+    {"SpanishLang",     &chooseLanguage,      &Settings::CurrentLanguage, language::Spanish},
+    {"LatinLang",       &chooseLanguage,      &Settings::CurrentLanguage, language::Latin},
+}};
+// clang-format on
 
 } // namespace
 
 MainMenu::MainMenu() : Window("MainMenu", "main"), menuBar_(new QMenuBar(this))
 {
     setWindowTitle(QStringLiteral("Velmorane"));
-    makeControls();
+    makeMainMenuItems(*menuBar_, *this);
+    for (const std::string_view unavailable : {"ItalianLang", "NorwegianLang"})
+        item(unavailable).setEnabled(false);
     layOut();
-    connectControls();
     connectSettings();
-}
-
-void MainMenu::makeControls()
-{
-    makeMainMenuItems(*menuBar_);
-    for (const char* const name : Buttons) {
-        auto* const made = new QPushButton(this);
-        made->setObjectName(QLatin1String(name));
-        made->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-        made->setAutoDefault(true);
-        setType(*made, FormType);
-        made->setMinimumSize(ButtonCharacters * made->fontMetrics().averageCharWidth(),
-                             ButtonLines * made->fontMetrics().lineSpacing());
-    }
 }
 
 void MainMenu::layOut()
@@ -93,95 +79,61 @@ void MainMenu::layOut()
     rows->addWidget(version, 0, Qt::AlignHCenter);
     rows->addSpacing(WideSpace);
 
-    auto* const grid = new QGridLayout;
-    grid->setSpacing(LargeSpace);
-    constexpr int columns = 2;
-    for (std::size_t i = 0; i < Buttons.size(); ++i)
-        grid->addWidget(button(Buttons.at(i)), static_cast<int>(i) / columns, static_cast<int>(i) % columns);
-    rows->addLayout(grid, 1);
+    rows->addLayout(buttonGrid(), 1);
     layout()->setMenuBar(menuBar_);
 }
 
-void MainMenu::connectControls()
+QGridLayout* MainMenu::buttonGrid()
 {
-    using Request = void (MainMenu::*)();
-    struct Opener {
-        const char* control;
-        Request request;
-    };
-    constexpr std::array<Opener, 6> buttons = {{{"DeclensionButton", &MainMenu::declensionRequested},
-                                                {"ConjugationButton", &MainMenu::conjugationRequested},
-                                                {"PronounButton", &MainMenu::pronounsRequested},
-                                                {"QuizButton", &MainMenu::quizRequested},
-                                                {"VocabularyButton", &MainMenu::vocabularyRequested},
-                                                {"ExitButton", &MainMenu::exitRequested}}};
-    for (const auto& [control, request] : buttons)
-        connect(button(control), &QPushButton::clicked, this, request);
+    auto* const grid = new QGridLayout;
+    grid->setSpacing(LargeSpace);
+    int place = 0;
+    for (const MainMenuButton& row : mainMenuButtons()) {
+        grid->addWidget(makeBigButton(row), place / ButtonColumns, place % ButtonColumns);
+        ++place;
+    }
+    return grid;
+}
 
-    constexpr std::array<Opener, 14> items = {{{"FileDecl", &MainMenu::declensionRequested},
-                                               {"FileConj", &MainMenu::conjugationRequested},
-                                               {"FilePron", &MainMenu::pronounsRequested},
-                                               {"FileNounQuiz", &MainMenu::nounQuizRequested},
-                                               {"FileNounManager", &MainMenu::nounManagerRequested},
-                                               {"FileVerbManager", &MainMenu::verbManagerRequested},
-                                               {"FileVcabManager", &MainMenu::vocabularyManagerRequested},
-                                               {"FileExit", &MainMenu::exitRequested},
-                                               {"SetDelay", &MainMenu::delayRequested},
-                                               {"OptionsOptions", &MainMenu::optionsRequested},
-                                               {"OptionsOptionsForm", &MainMenu::optionsRequested},
-                                               {"MainVocabulary", &MainMenu::vocabularyRequested},
-                                               {"HELPME", &MainMenu::helpRequested},
-                                               {"MainABout", &MainMenu::aboutRequested}}};
-    for (const auto& [control, request] : items)
-        connect(item(control), &QAction::triggered, this, request);
+QPushButton* MainMenu::makeBigButton(const MainMenuButton& row)
+{
+    auto* const made = new QPushButton(this);
+    made->setObjectName(fromUtf8(row.name));
+    made->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    made->setAutoDefault(true);
+    setType(*made, FormType);
+    made->setMinimumSize(ButtonCharacters * made->fontMetrics().averageCharWidth(),
+                         ButtonLines * made->fontMetrics().lineSpacing());
+    connect(made, &QPushButton::clicked, this, row.request);
+    return made;
 }
 
 void MainMenu::connectSettings()
 {
-    connect(item("SaveSettings"), &QAction::triggered, this, &switchSaving);
-    connect(item("SoundStatus"), &QAction::triggered, this, &switchSound);
-    connect(item("VowelLengthVal"), &QAction::triggered, this, [this](bool shown) {
+    connect(&item("SaveSettings"), &QAction::triggered, this, &switchSaving);
+    connect(&item("SoundStatus"), &QAction::triggered, this, &switchSound);
+    connect(&item("VowelLengthVal"), &QAction::triggered, this, [this](bool shown) {
         switchVowelLength(shown);
         Q_EMIT vowelLengthSwitched();
     });
-    connectChoice("NGDAABOrder", &chooseCaseOrder, case_order::NGDAAb);
-    connectChoice("NADGABOrder", &chooseCaseOrder, case_order::NAGDAb);
-    connectChoice("SequentialOrder", &chooseQuestionOrder, question_order::Sequential);
-    connectChoice("RandomOrder", &chooseQuestionOrder, question_order::Random);
-    for (const auto& [languageItem, languageName] : LanguageItems)
-        connectChoice(languageItem, &chooseLanguage, languageName);
-}
-
-void MainMenu::connectChoice(const char* name, void (*choose)(std::string_view), std::string_view value)
-{
-    connect(item(name), &QAction::triggered, this, [this, choose, value] {
-        choose(value);
-        applyCaptions(*this, mainMenuCaptions());
-    });
+    for (const Choice& choice : Choices)
+        connect(&item(choice.item), &QAction::triggered, this, [this, &choice] {
+            choice.choose(choice.value);
+            applyCaptions(*this, mainMenuCaptions());
+        });
 }
 
 void MainMenu::showSettings()
 {
     if (settings.SaveSettingsOnExit == platform::FlagTrue)
-        check("SaveSettings", true);
+        item("SaveSettings").setChecked(true);
     if (settings.ShowVowelLength == platform::FlagTrue || settings.ShowVowelLength == platform::FlagFalse)
-        check("VowelLengthVal", settings.ShowVowelLength == platform::FlagTrue);
-    check("SoundStatus", settings.SoundOn == platform::FlagTrue);
-    for (const auto& [languageItem, languageName] : LanguageItems)
-        if (settings.CurrentLanguage == languageName)
-            check(languageItem, true);
-    check(settings.CaseOrder == case_order::NAGDAb ? "NADGABOrder" : "NGDAABOrder", true);
-    check(settings.QuestionOrder == question_order::Random ? "RandomOrder" : "SequentialOrder", true);
+        item("VowelLengthVal").setChecked(settings.ShowVowelLength == platform::FlagTrue);
+    item("SoundStatus").setChecked(settings.SoundOn == platform::FlagTrue);
+    for (const Choice& choice : Choices)
+        if (settings.*choice.setting == choice.value)
+            item(choice.item).setChecked(true);
     applyCurrentOrDesignedCaptions(*this, mainMenuCaptions());
-    for (const char* const available : {"SpanishLang", "FrenchLang"})
-        item(available)->setEnabled(true);
-    for (const char* const unavailable : {"ItalianLang", "NorwegianLang"})
-        item(unavailable)->setEnabled(false);
-}
-
-void MainMenu::check(const char* name, bool checked)
-{
-    item(name)->setChecked(checked);
 }
 
 // A window manager may turn Alt+F4 into a request to close: the Alt key held at that moment tells it from the
@@ -222,14 +174,12 @@ void MainMenu::recordWindowState()
     settings.MainWindowState = isMaximized() ? window_state::Maximised : window_state::Normal;
 }
 
-QAction* MainMenu::item(const char* name) const
+QAction& MainMenu::item(std::string_view name) const
 {
-    return named<QAction>(*this, name);
-}
-
-QPushButton* MainMenu::button(const char* name) const
-{
-    return named<QPushButton>(*this, name);
+    auto* const found = findChild<QAction*>(fromUtf8(name));
+    if (found == nullptr)
+        throw std::logic_error("the main window has no " + std::string(name));
+    return *found;
 }
 
 } // namespace shell

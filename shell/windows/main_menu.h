@@ -3,10 +3,13 @@
 #include "shell/kit/window.h"
 
 class QAction;
+class QGridLayout;
 class QMenuBar;
 class QPushButton;
 
 namespace shell {
+
+struct MainMenuButton;
 
 /// The start window and hub: large buttons open the drills, a menu bar opens the editors and dialogs and
 /// changes the settings.
@@ -53,14 +56,11 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    void makeControls();
     void layOut();
-    void connectControls();
+    QGridLayout* buttonGrid();
+    QPushButton* makeBigButton(const MainMenuButton& row);
     void connectSettings();
-    void connectChoice(const char* item, void (*choose)(std::string_view), std::string_view value);
-    void check(const char* item, bool checked);
-    QAction* item(const char* name) const;
-    QPushButton* button(const char* name) const;
+    QAction& item(std::string_view name) const;
 
     QMenuBar* menuBar_;
 };

@@ -1,10 +1,29 @@
 #pragma once
 
+#include "shell/language_texts.h"
+
+#include <span>
+
 class QMenuBar;
 
 namespace shell {
 
-/// Fills the main window's menu bar: every menu and item under its object name, still without captions.
-void makeMainMenuItems(QMenuBar& menuBar);
+class MainMenu;
+
+/// A large button of the main window, and what it requests.
+struct MainMenuButton {
+    std::string_view name;
+    void (MainMenu::*request)();
+    LanguageTexts texts;
+};
+
+/// The buttons as they stand on the window: two columns, read line by line.
+std::span<const MainMenuButton> mainMenuButtons();
+
+/// Fills the main window's menu bar, still without captions, and joins each item to what it requests.
+void makeMainMenuItems(QMenuBar& menuBar, MainMenu& window);
+
+/// The captions of the main window's buttons, menus and items.
+std::span<const Caption> mainMenuCaptions();
 
 } // namespace shell

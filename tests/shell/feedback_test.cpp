@@ -50,7 +50,7 @@ TEST_F(Feedback, SoundsOnlyWithSoundOn)
     shell::settings.SoundOn = platform::FlagTrue;
     shell::giveRightFeedback(*this);
     shell::giveWrongFeedback(*this);
-    EXPECT_EQ(fake.sounds, (Log{"open right.wav", "sound right.wav", "open wrong.wav", "sound wrong.wav"}));
+    EXPECT_EQ(fake.sounds, (Log{"sound right.wav", "sound wrong.wav"}));
 }
 
 TEST_F(Feedback, DoesNothingWithoutARunningDrill)

@@ -28,11 +28,6 @@ void FakePlatform::beep()
     ++beeps;
 }
 
-void FakePlatform::openSound(const std::string& waveFile)
-{
-    sounds.push_back("open " + waveFile);
-}
-
 void FakePlatform::playSound(const std::string& waveFile)
 {
     sounds.push_back("sound " + waveFile);

@@ -21,7 +21,7 @@ public:
     int beeps = 0;
     int waits = 0;
 
-    /// "open right.wav", "sound right.wav" and so on.
+    /// "sound right.wav" and so on.
     std::vector<std::string> sounds;
     std::vector<std::string> messages;
     /// Closes the last message, as the learner does.
@@ -33,7 +33,6 @@ public:
     float secondsSinceMidnight() const override;
     void waitForEvents(std::chrono::milliseconds atMost) override;
     void beep() override;
-    void openSound(const std::string& waveFile) override;
     void playSound(const std::string& waveFile) override;
     bool soundIsPlaying() const override;
     bool startProgram(const std::string& commandLine) override;

@@ -82,7 +82,7 @@ TEST_F(StartAndEnd, FindsTheSettingsThatItKept)
          {"GermanLang", "RandomOrder", "NADGABOrder", "VowelLengthVal", "SoundStatus"})
         EXPECT_TRUE(isChecked(menu, item)) << item;
     EXPECT_EQ(settings.VowelMark, ":");
-    EXPECT_EQ(fake.sounds, (Lines{"open VELMOR2.WAV", "sound VELMOR2.WAV"}));
+    EXPECT_EQ(fake.sounds, (Lines{"sound VELMOR2.WAV"}));
 }
 
 TEST_F(StartAndEnd, TakesOddValuesAsTheyAre)
@@ -141,7 +141,7 @@ TEST_F(StartAndEnd, SoundsOnTheWayOut)
     menu.close();
     EXPECT_EQ(fake.exitStatus, 0);
     EXPECT_FALSE(menu.isVisible());
-    EXPECT_EQ(fake.sounds, (Lines{"open VELMOR2.WAV", "sound VELMOR2.WAV"}));
+    EXPECT_EQ(fake.sounds, (Lines{"sound VELMOR2.WAV"}));
     EXPECT_TRUE(std::filesystem::exists("morvanti.ini"));
 }
 

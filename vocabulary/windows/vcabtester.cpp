@@ -30,24 +30,13 @@ namespace {
 constexpr QSize LargestBlock{84, 24};
 constexpr int AnswerCharacters = 44;
 
-// The options of the prompt language say what is asked for: the other side of the word.
 // clang-format off
 constexpr std::array Captions = {
-    //                                           English                   French                         Italian  German                        Spanish                      Latin
-    Caption{"VcabTesterFile",                   {"&List",                 "&Liste",                       {},     "&Liste",                     "&Lista",                    "In&dex"}},
-    Caption{"VcabTesterFileOpen",               {"&Open Another List...", "&Ouvrir une autre liste...",   {},     "&Andere Liste öffnen...",    "&Abrir otra lista...",      "&Alium indicem aperi..."}},
-    Caption{"VcabTesterEdit",                   {"&Edit the List...",     "&Modifier la liste...",        {},     "Liste &bearbeiten...",       "&Editar la lista...",       "Indicem &corrige..."}},
-    Caption{"VcabtesterOptionsOrder",           {"O&rder",                "O&rdre",                       {},     "&Reihenfolge",               "O&rden",                    "O&rdo"}},
-    Caption{"VcabtesterOptionsOrderSequential", {"&Sequential",           "À la &suite",                  {},     "&Der Reihe nach",            "En &secuencia",             "Ex &ordine"}},
-    Caption{"VcabtesterOptionsOrderRandom",     {"&Random",               "Au &hasard",                   {},     "&Zufällig",                  "Al &azar",                  "&Fortuito"}},
-    Caption{"VcabtesterOptionsPrompt",          {"&Question",             "&Question",                    {},     "&Frage",                     "&Pregunta",                 "&Quaestio"}},
-    Caption{"VcabtesterOptionsPromptEnglish",   {"Ask for the &Meaning",  "Demander le &sens",            {},     "Nach der &Bedeutung fragen", "Preguntar el &significado", "&Significationem quaere"}},
-    Caption{"VcabtesterOptionsPromptLatin",     {"Ask for the &Word",     "Demander le &mot",             {},     "Nach dem &Wort fragen",      "Preguntar la &palabra",     "&Verbum quaere"}},
-    Caption{"VcabtesterOptionsPromptMixed",     {"Mi&xed",                "&L'un ou l'autre",             {},     "&Gemischt",                  "&Mezclado",                 "&Mixtim"}},
-    Caption{"AnswerLabel",                      {"Your a&nswer",          "Votre ré&ponse",               {},     "Ihre A&ntwort",              "Su r&espuesta",             "Respo&nsum"}},
-    Caption{"VcabTestOmit",                     {"Leave &this word out",  "Ne plus demander ce &mot",     {},     "Dieses Wort &auslassen",     "&Omitir esta palabra",      "&Hoc verbum omitte"}},
-    Caption{"VcabtesterOK",                     {"&OK",                   "&OK",                          {},     "&OK",                        "&Aceptar",                  "&Ita"}},
-    Caption{"VcabtesterCancel",                 {"Q&uit",                 "Q&uitter",                     {},     "&Beenden",                   "&Salir",                    "R&everte!"}},
+    //                           English                 French                      Italian German                    Spanish                 Latin
+    Caption{"AnswerLabel",      {"Your a&nswer",         "Votre ré&ponse",           {},     "Ihre A&ntwort",          "Su r&espuesta",        "Respo&nsum"}},
+    Caption{"VcabTestOmit",     {"Leave &this word out", "Ne plus demander ce &mot", {},     "Dieses Wort &auslassen", "&Omitir esta palabra", "&Hoc verbum omitte"}},
+    Caption{"VcabtesterOK",     {"&OK",                  "&OK",                      {},     "&OK",                    "&Aceptar",             "&Ita"}},
+    Caption{"VcabtesterCancel", {"Q&uit",                "Q&uitter",                 {},     "&Beenden",               "&Salir",               "R&everte!"}},
 };
 
 constexpr LanguageTexts Title{"Vocabulary",                 "Vocabulaire",                     {}, "Wortschatz",                       "Vocabulario",                           "Verba nostra"};
@@ -72,7 +61,7 @@ Vcabtester::~Vcabtester()
 
 void Vcabtester::makeControls()
 {
-    makeVcabtesterMenus(*menuBar_);
+    makeVcabtesterMenus(*menuBar_, *this);
     question_ = shell::makeControl<WordLabel>(this, "VQuestion");
     hint_ = shell::makeControl<WordLabel>(this, "VHint");
     answer_ = shell::makeControl<WordBox>(this, "VcabAnswer");
@@ -130,10 +119,6 @@ void Vcabtester::connectControls()
     connect(cancel_, &QPushButton::clicked, this, &Vcabtester::left);
     connect(question_, &WordLabel::doubleClicked, this, &Vcabtester::reveal);
     connect(omit_, &QCheckBox::clicked, this, &Vcabtester::omit);
-    connect(findChild<QAction*>(QStringLiteral("VcabTesterFileOpen")), &QAction::triggered, this,
-            &Vcabtester::listRequested);
-    connect(findChild<QAction*>(QStringLiteral("VcabTesterEdit")), &QAction::triggered, this,
-            &Vcabtester::editorRequested);
     connectOrder("VcabtesterOptionsOrderSequential", order::Sequential);
     connectOrder("VcabtesterOptionsOrderRandom", order::Random);
     connectPrompt("VcabtesterOptionsPromptEnglish", prompt::English);
@@ -155,6 +140,7 @@ void Vcabtester::connectPrompt(const char* item, std::string_view promptLanguage
 
 void Vcabtester::setCaptions()
 {
+    shell::applyCurrentOrDesignedCaptions(*this, vcabtesterMenuCaptions());
     shell::applyCurrentOrDesignedCaptions(*this, Captions);
     QString title = shell::fromUtf8(Title.currentOrDesigned());
     if (!vocabularyList.File.empty())

@@ -1,50 +1,60 @@
 #include "vocabulary/windows/vcabtester_menus.h"
 
-#include <QActionGroup>
-#include <QMenuBar>
+#include "shell/kit/menus.h"
+#include "vocabulary/windows/vcabtester.h"
 
-#include <span>
+#include <array>
+#include <vector>
 
 namespace vocabulary {
 
 namespace {
 
-constexpr std::array ListItems = {"VcabTesterFileOpen", "VcabTesterEdit"};
-constexpr std::array OrderItems = {"VcabtesterOptionsOrderSequential", "VcabtesterOptionsOrderRandom"};
-constexpr std::array PromptItems = {"VcabtesterOptionsPromptEnglish", "VcabtesterOptionsPromptLatin",
-                                    "VcabtesterOptionsPromptMixed"};
+using shell::MenuKind;
+using shell::MenuRow;
+using enum MenuKind;
 
-QMenu* addMenu(QMenuBar& menuBar, const char* name)
+using Request = void (Vcabtester::*)();
+
+constexpr Request None = nullptr;
+
+constexpr MenuRow<Vcabtester> row(std::string_view name, std::string_view menu, MenuKind kind,
+                                  Request request, std::string_view english, std::string_view french,
+                                  std::string_view german, std::string_view spanish, std::string_view latin)
 {
-    QMenu* const menu = menuBar.addMenu(QString());
-    menu->setObjectName(QLatin1String(name));
-    return menu;
+    return {{name, menu, kind, {english, french, {}, german, spanish, latin}}, request};
 }
 
-void addItems(QMenu* menu, std::span<const char* const> names)
-{
-    for (const char* const name : names)
-        menu->addAction(QString())->setObjectName(QLatin1String(name));
-}
+// The options of the prompt language say what is asked for: the other side of the word.
+// clang-format off
+constexpr std::array Rows = {
+    //  Name                                Menu                       Kind    Request                       English                  French                        German                        Spanish                      Latin
+    row("VcabTesterFile",                   "",                        Menu,   None,                         "&List",                 "&Liste",                     "&Liste",                     "&Lista",                    "In&dex"),
+    row("VcabTesterFileOpen",               "VcabTesterFile",          Item,   &Vcabtester::listRequested,   "&Open Another List...", "&Ouvrir une autre liste...", "&Andere Liste öffnen...",    "&Abrir otra lista...",      "&Alium indicem aperi..."),
+    row("VcabTesterEdit",                   "VcabTesterFile",          Item,   &Vcabtester::editorRequested, "&Edit the List...",     "&Modifier la liste...",      "Liste &bearbeiten...",       "&Editar la lista...",       "Indicem &corrige..."),
 
-// Of these items always one is checked.
-void addOptions(QMenu* menu, std::span<const char* const> names)
-{
-    addItems(menu, names);
-    auto* const group = new QActionGroup(menu);
-    for (QAction* const item : menu->actions()) {
-        item->setCheckable(true);
-        group->addAction(item);
-    }
-}
+    row("VcabtesterOptionsOrder",           "",                        Menu,   None,                         "O&rder",                "O&rdre",                     "&Reihenfolge",               "O&rden",                    "O&rdo"),
+    row("VcabtesterOptionsOrderSequential", "VcabtesterOptionsOrder",  Choice, None,                         "&Sequential",           "À la &suite",                "&Der Reihe nach",            "En &secuencia",             "Ex &ordine"),
+    row("VcabtesterOptionsOrderRandom",     "VcabtesterOptionsOrder",  Choice, None,                         "&Random",               "Au &hasard",                 "&Zufällig",                  "Al &azar",                  "&Fortuito"),
+
+    row("VcabtesterOptionsPrompt",          "",                        Menu,   None,                         "&Question",             "&Question",                  "&Frage",                     "&Pregunta",                 "&Quaestio"),
+    row("VcabtesterOptionsPromptEnglish",   "VcabtesterOptionsPrompt", Choice, None,                         "Ask for the &Meaning",  "Demander le &sens",          "Nach der &Bedeutung fragen", "Preguntar el &significado", "&Significationem quaere"),
+    row("VcabtesterOptionsPromptLatin",     "VcabtesterOptionsPrompt", Choice, None,                         "Ask for the &Word",     "Demander le &mot",           "Nach dem &Wort fragen",      "Preguntar la &palabra",     "&Verbum quaere"),
+    row("VcabtesterOptionsPromptMixed",     "VcabtesterOptionsPrompt", Choice, None,                         "Mi&xed",                "&L'un ou l'autre",           "&Gemischt",                  "&Mezclado",                 "&Mixtim"),
+};
+// clang-format on
 
 } // namespace
 
-void makeVcabtesterMenus(QMenuBar& menuBar)
+void makeVcabtesterMenus(QMenuBar& menuBar, Vcabtester& tester)
 {
-    addItems(addMenu(menuBar, "VcabTesterFile"), ListItems);
-    addOptions(addMenu(menuBar, "VcabtesterOptionsOrder"), OrderItems);
-    addOptions(addMenu(menuBar, "VcabtesterOptionsPrompt"), PromptItems);
+    shell::makeMenus(menuBar, tester, Rows);
+}
+
+std::span<const shell::Caption> vcabtesterMenuCaptions()
+{
+    static const std::vector<shell::Caption> captions = shell::captionsOf(Rows);
+    return captions;
 }
 
 } // namespace vocabulary

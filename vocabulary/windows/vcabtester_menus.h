@@ -1,10 +1,18 @@
 #pragma once
 
+#include "shell/language_texts.h"
+
+#include <span>
+
 class QMenuBar;
 
 namespace vocabulary {
 
-/// Fills the tester's menu bar: every menu and item under its object name, still without captions.
-void makeVcabtesterMenus(QMenuBar& menuBar);
+class Vcabtester;
+
+/// Fills the tester's menu bar, still without captions, and joins its items to what they request.
+void makeVcabtesterMenus(QMenuBar& menuBar, Vcabtester& tester);
+
+std::span<const shell::Caption> vcabtesterMenuCaptions();
 
 } // namespace vocabulary

@@ -1,12 +1,15 @@
-#include "app/ending.h"
+#include "app/start_and_end.h"
 
 #include "app/application.h"
+#include "nouns/noun_list_file.h"
 #include "platform/platform.h"
 #include "shell/drill.h"
+#include "shell/feedback.h"
 #include "shell/settings.h"
 #include "shell/settings_file.h"
-#include "shell/sound_control.h"
+#include "shell/vowel_marks.h"
 #include "shell/windows/main_menu.h"
+#include "verbs/verb_list_file.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -38,6 +41,19 @@ void waitForSound()
 }
 
 } // namespace
+
+void loadProgram(shell::MainMenu& mainMenu)
+{
+    if (verbs::readVerbList(verbs::VerbListFileName)) // sic: before the settings
+        nouns::readNounList(nouns::NounListFileName);
+    if (!shell::readSettings(shell::SettingsFileName))
+        shell::applyDefaultSettings();
+    shell::mendSettings();
+    shell::setVowelMarkAsShown();
+    mainMenu.showSettings();
+    mainMenu.showInMainWindowState();
+    shell::soundIfOn(ProgramSound);
+}
 
 void exitProgram(shell::MainMenu& mainMenu)
 {

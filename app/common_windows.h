@@ -1,0 +1,79 @@
+#pragma once
+
+#include "app/on_demand.h"
+#include "shell/windows/delay_interval.h"
+#include "shell/windows/feedback_window.h"
+#include "shell/windows/main_menu.h"
+
+#include <QGuiApplication>
+
+#include <functional>
+
+namespace app {
+
+/// Shows the hourglass pointer while one window gives way to another.
+class Hourglass {
+public:
+    Hourglass() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
+    Hourglass(const Hourglass&) = delete;
+    Hourglass& operator=(const Hourglass&) = delete;
+    ~Hourglass() { QGuiApplication::restoreOverrideCursor(); }
+};
+
+/// What comes once a window is left.
+using Step = std::function<void()>;
+
+/// Leaving the window hides it and takes the next step.
+void whenLeft(const shell::Window& window, const Step& next);
+
+/// Leaving the window only hides it.
+void hideWhenLeft(const shell::Window& window);
+
+/// The windows that every subject shares: the main window, from which all start and to which they come back,
+/// the feedback windows and the one that sets the delay.
+class CommonWindows {
+public:
+    shell::MainMenu mainMenu;
+    OnDemand<shell::DelayInterval> delayInterval{&hideWhenLeft};
+    const Step toMainMenu = [this] { mainMenu.showInMainWindowState(); };
+
+    /// At this request the main window gives way to another one, which opens.
+    template <typename Window>
+    void opens(void (shell::MainMenu::*request)(), OnDemand<Window>& window);
+
+    /// Joins a drill's window: its judged answers are announced; leaving it leaves the drill and takes the
+    /// next step.
+    template <typename DrillWindow>
+    void joinDrill(DrillWindow& window, const Step& next);
+
+    /// Leaves the running drill and hides its window, with the feedback that may be up.
+    void leaveDrill(QWidget& window);
+
+private:
+    void announce(bool right);
+
+    OnDemand<shell::Bravo> bravo_;
+    OnDemand<shell::Wrong> wrong_;
+};
+
+template <typename Window>
+void CommonWindows::opens(void (shell::MainMenu::*request)(), OnDemand<Window>& window)
+{
+    QObject::connect(&mainMenu, request, &mainMenu, [this, &window] {
+        mainMenu.hide();
+        window->open();
+    });
+}
+
+template <typename DrillWindow>
+void CommonWindows::joinDrill(DrillWindow& window, const Step& next)
+{
+    QObject::connect(&window, &DrillWindow::answerJudged, &window, [this](bool right) { announce(right); });
+    QObject::connect(&window, &DrillWindow::left, &window, [this, &window, next] {
+        const Hourglass hourglass;
+        leaveDrill(window);
+        next();
+    });
+}
+
+} // namespace app
