@@ -62,19 +62,6 @@ TEST_F(NounListFile, TakesTheSectionsInTheirOrder)
     EXPECT_EQ(nounList.NounListMeaning[4][FirstDeclension][1], "estrella");
 }
 
-TEST_F(NounListFile, KeepsMarksOnlyWhereVowelLengthIsShown)
-{
-    const std::string list = "title\n2\nf. -ae, lu:n, moon,,,\nf. -ae, ro::s, x,,,\n";
-    tests::writeFile("nouns.cfg", list);
-    readNounList("nouns.cfg");
-    EXPECT_EQ(nounList.NounListStem[FirstDeclension][0], "lun");
-    EXPECT_EQ(nounList.NounListStem[FirstDeclension][1], "ro:s");
-    shell::settings.ShowVowelLength = platform::FlagTrue;
-    readNounList("nouns.cfg");
-    EXPECT_EQ(nounList.NounListStem[FirstDeclension][0], "lu:n");
-    EXPECT_EQ(nounList.NounListStem[FirstDeclension][1], "ro::s");
-}
-
 TEST_F(NounListFile, KeepsWholeNounsWhereverTheFileIsCutOff)
 {
     // The field after which each of the eight nouns is whole.
@@ -113,26 +100,6 @@ TEST_F(NounListFile, StopsAtACountThatCannotBe)
         for (int draws = 0; draws < 50; ++draws)
             BuildNounParadigms();
     }
-}
-
-TEST_F(NounListFile, DrawsWithinTheFixedNounsWhateverTheFileCounts)
-{
-    const std::string empty = "title\n0\nh,h\n0\nh,h\n0\nh,h\n0\n0\nh,h\n0\nh,h\n";
-    const std::string noun = "f. -ae, x, y,,,";
-    tests::writeFile("nouns.cfg", empty + "20\n" + records(20, noun) + "h,h\n20\n" + records(20, noun));
-    EXPECT_TRUE(readNounList("nouns.cfg"));
-    EXPECT_EQ(nounList.NounCount[FifthDeclension], 20);
-    for (int draws = 0; draws < 200; ++draws)
-        BuildNounParadigms();
-}
-
-TEST_F(NounListFile, PassesOverAMissingFileAndReadsTheWholeSample)
-{
-    EXPECT_FALSE(readNounList("nouns.cfg"));
-    EXPECT_EQ(nounsRead(), 0);
-    tests::copySample("nouns.cfg");
-    EXPECT_TRUE(readNounList("nouns.cfg"));
-    EXPECT_EQ(nounsRead(), 12 + 10 + 10 + 15 + 2 + 7 + 10 + 8);
 }
 
 } // namespace
