@@ -17,22 +17,16 @@ protected:
             happening();
         };
     }
-
-    // Lets a pause begin at a time of day and returns how long it lasted, in seconds.
-    double lengthFrom(double start)
-    {
-        fake.clock = start;
-        shell::Pause();
-        return fake.clock - start;
-    }
 };
 
-// The clock starts again at 0 there.
+// The clock starts again at 0 at midnight: a pause that begins just before it lasts a day.
 TEST_F(Pause, EndsOnlyWhenTheTimeOfDayComesRoundWhereItMeetsMidnight)
 {
-    EXPECT_NEAR(lengthFrom(43200), 100, 0.02);
-    EXPECT_NEAR(lengthFrom(86299), 100, 0.02);
-    EXPECT_NEAR(lengthFrom(86399), 86400, 2);
+    for (const auto& [start, seconds] : {std::pair{43200, 100}, {86299, 100}, {86399, 86400}}) {
+        fake.clock = start;
+        shell::Pause();
+        EXPECT_NEAR(fake.clock - start, seconds, seconds == 100 ? 0.02 : 2);
+    }
 }
 
 TEST_F(Pause, DoesNotPollAfterTheClockWentBack)
@@ -44,8 +38,6 @@ TEST_F(Pause, DoesNotPollAfterTheClockWentBack)
 
 TEST_F(Pause, EndsAtOnceWhenTheDrillIsLeftOrTheProgramEnds)
 {
-    EXPECT_TRUE(shell::pauseWithDrill());
-    fake.waits = 0;
     once([] {
         EXPECT_TRUE(shell::pausing());
         shell::leaveDrill();

@@ -15,12 +15,13 @@ constexpr std::size_t DelayLine = 3;
 constexpr std::size_t LanguageLine = 4;
 constexpr std::size_t OrderLine = 6;
 
-// A file as the program writes it: nine lines of its own, seven classes and twenty tenses.
-Lines soundLines()
+// A file as the program writes it, nine lines before seven classes and twenty tenses, but for one line.
+Lines linesWith(std::size_t changed = 0, const std::string& value = "6")
 {
     Lines lines = {"6", "-1", "-1", " 5", "Latin", "NAGDAb", "Random", " 0", "-1"};
     while (lines.size() < 36)
         lines.push_back(lines.size() % 2 == 1 ? "-1" : " 0");
+    lines.at(changed) = value;
     return lines;
 }
 
@@ -37,13 +38,6 @@ bool read(const std::string& text)
     settings = {};
     tests::writeFile("morvanti.ini", text);
     return shell::readSettings("morvanti.ini");
-}
-
-bool readWith(std::size_t line, const std::string& value)
-{
-    Lines lines = soundLines();
-    lines.at(line) = value;
-    return read(fileOf(lines));
 }
 
 TEST_F(SettingsFile, IsWrittenByteForByteAndABadDelayMendedOnlyAfterwards)
@@ -65,30 +59,31 @@ TEST_F(SettingsFile, IsWrittenByteForByteAndABadDelayMendedOnlyAfterwards)
 TEST_F(SettingsFile, IsReadBackWhateverTheLanguage)
 {
     for (const std::string language : {"Latin, German", " Latin", "Latin\t", "", "Latin"}) {
-        ASSERT_TRUE(readWith(LanguageLine, '"' + language + '"'));
+        ASSERT_TRUE(read(fileOf(linesWith(LanguageLine, '"' + language + '"'))));
         const std::string text = shell::settingsText();
         ASSERT_TRUE(read(text)) << language;
         EXPECT_EQ(settings.CurrentLanguage, language);
         EXPECT_EQ(shell::settingsText(), text);
     }
-    EXPECT_EQ(shell::settingsText(), fileOf(soundLines()));
+    EXPECT_EQ(shell::settingsText(), fileOf(linesWith()));
 }
 
 TEST_F(SettingsFile, MendsADelayOutOfRangeAsItIsRead)
 {
     for (const auto& [line, seconds] :
          {std::pair{" 0", 2}, {"-3", 2}, {" 101", 2}, {" 100", 100}, {" 1", 1}}) {
-        ASSERT_TRUE(readWith(DelayLine, line));
+        ASSERT_TRUE(read(fileOf(linesWith(DelayLine, line))));
         EXPECT_EQ(settings.DelaySeconds, seconds) << line;
     }
 }
 
 TEST_F(SettingsFile, FailsAtEveryLineThatIsMissingOrNoNumber)
 {
-    Lines lines = soundLines();
+    Lines lines = linesWith();
     for (std::size_t bad = 1; bad < lines.size(); ++bad)
         for (const char* const value : {"", "yes", "32768x", "99999999999"})
-            EXPECT_EQ(readWith(bad, value), LanguageLine <= bad && bad <= OrderLine) << bad << value;
+            EXPECT_EQ(read(fileOf(linesWith(bad, value))), LanguageLine <= bad && bad <= OrderLine)
+                << bad << value;
     while (!lines.empty()) {
         lines.pop_back();
         EXPECT_FALSE(read(fileOf(lines))) << lines.size();
@@ -98,7 +93,7 @@ TEST_F(SettingsFile, FailsAtEveryLineThatIsMissingOrNoNumber)
 
 TEST_F(SettingsFile, KeepsTheQuizEntriesThatWereReadBeforeAFailure)
 {
-    Lines lines = soundLines();
+    Lines lines = linesWith();
     lines.resize(20);
     ASSERT_FALSE(read(fileOf(lines)));
     shell::applyDefaultSettings();

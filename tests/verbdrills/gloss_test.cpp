@@ -60,53 +60,52 @@ TEST_F(Gloss, TranslatesEveryTenseOfFerreIntoEnglish)
     // clang-format on
     const std::vector<std::string> labels = {"I", "you", "he, she, it", "we", "all of you", "they"};
     generate("English");
-    int block = 0;
-    for (const auto& [first, third, others] : page) {
-        ++block;
+    for (int block = 1; block <= verbs::BlockCount; ++block)
         for (int person = 1; person <= verbs::PersonCount; ++person) {
+            const auto& [first, third, others] = page.at(static_cast<std::size_t>(block - 1));
             std::string expected = person == 1 ? first : person == 3 ? third : others;
             if (const auto star = expected.find('*'); star != std::string::npos)
                 expected.replace(star, 1, labels.at(static_cast<std::size_t>(person - 1)));
-            if (block == verbs::Imperative && (person == 4 || person == 6))
+            if (block == verbs::Imperative && person != 2 && person != 5)
                 expected.clear();
             EXPECT_EQ(glossOf(block, verbs::Ferre, person), expected);
         }
-    }
 }
 
 TEST_F(Gloss, HasItsOwnPresentOfEsseAndVelle)
 {
     generate("English");
-    const std::vector<std::string> esse = {"I am",   "you are",        "he, she, it is",
-                                           "we are", "all of you are", "they are"};
-    for (int person = 1; person <= 6; ++person)
-        EXPECT_EQ(glossOf(1, verbs::Esse, person), esse.at(static_cast<std::size_t>(person - 1)));
+    int person = 0;
+    for (const char* const gloss :
+         {"I am", "you are", "he, she, it is", "we are", "all of you are", "they are"})
+        EXPECT_EQ(glossOf(1, verbs::Esse, ++person), gloss);
     EXPECT_EQ(glossOf(1, verbs::Velle, 3), "he, she, it wants");
     EXPECT_EQ(glossOf(1, verbs::Velle, 4), "we want");
 }
 
 TEST_F(Gloss, EndsInSOrEsByTheLastLetters)
 {
-    for (const std::string end : {"love s", "teach es", "kiss es", "waltz es", "want es", // sic
-                                  "read es", "wash s", "c s", " s"}) {                    // sic
-        const auto blank = end.find(' ');
-        EXPECT_EQ(verbdrills::englishGloss(1, 1, 3, {"she", end.substr(0, blank), "", "", ""}),
-                  "she " + end.substr(0, blank) + end.substr(blank + 1));
-    }
+    // sic: "wantes", "reades", and "washs"
+    for (const auto& [base, ending] : {std::pair{"love", "s"},
+                                       {"teach", "es"},
+                                       {"kiss", "es"},
+                                       {"waltz", "es"},
+                                       {"want", "es"},
+                                       {"read", "es"},
+                                       {"wash", "s"},
+                                       {"c", "s"},
+                                       {"", "s"}})
+        EXPECT_EQ(verbdrills::englishGloss(1, 1, 3, {"she", base, "", "", ""}),
+                  std::string("she ") + base + ending);
 }
 
-TEST_F(Gloss, IsShownInNoOtherLanguage)
+// sic: no language of the menu has that name.
+TEST_F(Gloss, SpeaksGermanUnderAnotherNameAndNoOtherLanguage)
 {
-    for (const char* const language : {"German", "French", "Italian", "Spanish", "Latin", "english"}) {
+    for (const char* const language : {"French", "Italian", "Spanish", "Latin", "english", "German"}) {
         generate(language);
-        EXPECT_EQ(glossOf(verbs::PresentIndicative, verbs::Ferre, 2), std::nullopt) << language;
+        EXPECT_EQ(glossOf(verbs::PresentIndicative, verbs::Ferre, 1), std::nullopt) << language;
     }
-}
-
-// sic: under the name of no language of the menu.
-TEST_F(Gloss, SpeaksGermanUnderAnotherName)
-{
-    generate("German");
     shell::settings.CurrentLanguage = "Kraut";
     EXPECT_EQ(glossOf(verbs::PresentIndicative, verbs::Ferre, 1), "ich trage");
     EXPECT_EQ(glossOf(verbs::PresentIndicative, verbs::Velle, 4), "wir wollen");
