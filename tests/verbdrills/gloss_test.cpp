@@ -85,18 +85,13 @@ TEST_F(Gloss, HasItsOwnPresentOfEsseAndVelle)
 
 TEST_F(Gloss, EndsInSOrEsByTheLastLetters)
 {
-    // sic: "wantes", "reades", and "washs"
-    for (const auto& [base, ending] : {std::pair{"love", "s"},
-                                       {"teach", "es"},
-                                       {"kiss", "es"},
-                                       {"waltz", "es"},
-                                       {"want", "es"},
-                                       {"read", "es"},
-                                       {"wash", "s"},
-                                       {"c", "s"},
-                                       {"", "s"}})
-        EXPECT_EQ(verbdrills::englishGloss(1, 1, 3, {"she", base, "", "", ""}),
-                  std::string("she ") + base + ending);
+    const auto glossOfThird = [](const std::string& base) {
+        return verbdrills::englishGloss(1, 1, 3, {"she", base, "", "", ""});
+    };
+    for (const std::string base : {"teach", "kiss", "waltz", "want", "read"}) // sic
+        EXPECT_EQ(glossOfThird(base), "she " + base + "es");
+    for (const std::string base : {"love", "wash", "c", ""}) // sic
+        EXPECT_EQ(glossOfThird(base), "she " + base + "s");
 }
 
 // sic: no language of the menu has that name.

@@ -142,26 +142,6 @@ TEST_F(Generators, ShortenTheImperativeOfThreeStemsOnly)
     }
 }
 
-// By single tense mode, 0 to 2: the tense after a run that began at tense 14.
-TEST_F(Generators, SetTheMarkAndGoBackToTheFirstTenseEachInItsOwnWay)
-{
-    settings.ShowVowelLength = platform::FlagTrue;
-    for (const auto& [build, mark, tenses] :
-         {std::tuple{&verbs::buildRegularConjugations, ":", std::array{1, 14, 1}},
-          {&verbs::buildThirdAndFourthConjugations, ":", {14, 14, 14}},
-          {&verbs::buildIrregularVerbs, "", {1, 14, 1}}}) {
-        std::int16_t mode = 0;
-        for (const int tense : tenses) {
-            settings.VowelMark.clear();
-            verbs::currentParadigm.SingleTenseMode = mode++;
-            verbs::currentParadigm.TenseMoodCode = 14;
-            build();
-            EXPECT_EQ(settings.VowelMark, mark);
-            EXPECT_EQ(verbs::currentParadigm.TenseMoodCode, tense);
-        }
-    }
-}
-
 // The clock stands still here: seeding anew must still lead to new verbs.
 TEST_F(Generators, DrawEveryVerbThatTheListCountsWithItsStemsAndTranslations)
 {
