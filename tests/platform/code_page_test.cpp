@@ -1,27 +1,25 @@
 #include "platform/code_page.h"
 
 #include <gtest/gtest.h>
+#include <vector>
 
 namespace {
 
-TEST(CodePage, ReadsUtf8AsItIsAndSkipsTheByteOrderMark)
+TEST(CodePage, ReadsUtf8AsItIsAndAnythingElseAsWindows1252)
 {
-    EXPECT_EQ(platform::decoded("gr\xC3\xA4"
-                                "be"),
-              "gräbe");
-    EXPECT_EQ(platform::decoded("\xEF\xBB\xBF"
-                                "a"),
-              "a");
-    EXPECT_EQ(platform::decoded(""), "");
-}
-
-TEST(CodePage, ReadsAnythingElseAsWindows1252)
-{
-    EXPECT_EQ(platform::decoded("gr\xE4"
-                                "be"),
-              "gräbe");
-    EXPECT_EQ(platform::decoded("\x80 \x9C \xFF"), "€ œ ÿ");
-    EXPECT_EQ(platform::decoded("\x81"), "\xEF\xBF\xBD");
+    // clang-format off
+    const std::vector<std::pair<std::string_view, std::string_view>> cases = {
+        {"",             ""},
+        {"gr\303\244be", "gräbe"},
+        {"gr\344be",     "gräbe"},
+        {"\xEF\xBB\xBF" "a", "a"},
+        {"\x80\x81\x82\x83\x84\x85\x86\x87\x88\x89\x8A\x8B\x8C\x8D\x8E\x8F", "€\uFFFD‚ƒ„…†‡ˆ‰Š‹Œ\uFFFDŽ\uFFFD"},
+        {"\x90\x91\x92\x93\x94\x95\x96\x97\x98\x99\x9A\x9B\x9C\x9D\x9E\x9F", "\uFFFD‘’“”•–—˜™š›œ\uFFFDžŸ"},
+        {"\xA0\xC4\xFF", "\u00A0Äÿ"},
+    };
+    // clang-format on
+    for (const auto& [bytes, text] : cases)
+        EXPECT_EQ(platform::decoded(bytes), text);
 }
 
 TEST(CodePage, KnowsMalformedUtf8)

@@ -3,52 +3,38 @@
 #include "shell/settings.h"
 #include "tests/support/fresh_state.h"
 
-#include <vector>
-
 namespace {
 
 using Log = std::vector<std::string>;
 
-// A drill and a feedback window that write down what happens to them, in order.
+// A drill and a feedback window that write down what happens to them, and what is heard, in order.
 class Feedback : public tests::FreshState, public shell::Drill, public shell::FeedbackSurface {
 protected:
     Feedback()
     {
         shell::registerDrill("Conjugation", *this);
         shell::beginDrill("Conjugation");
-        fake.whileWaiting = [this] { log.push_back("pause"); };
+        fake.whileWaiting = [this] { note("pause"); };
     }
     ~Feedback() override { shell::unregisterDrill("Conjugation"); }
 
-    void showScore(const std::string& text) override { log.push_back("score" + text); }
-    void greyAnsweredBox() override { log.push_back("grey"); }
-    void moveOn() override { log.push_back("move on"); }
-    void focusQuestion() override { log.push_back("focus"); }
-    void askAgain() override { log.push_back("ask again"); }
-    void showSurface() override { log.push_back("show"); }
-    void hideSurface() override { log.push_back("hide"); }
-
-    Log log;
+    void note(const std::string& event) { fake.sounds.push_back(event); }
+    void showScore(const std::string& text) override { note("score" + text); }
+    void greyAnsweredBox() override { note("grey"); }
+    void moveOn() override { note("move on"); }
+    void focusQuestion() override { note("focus"); }
+    void askAgain() override { note("ask again"); }
+    void showSurface() override { note("show"); }
+    void hideSurface() override { note("hide"); }
 };
 
-TEST_F(Feedback, MovesTheDrillOnAfterARightAnswer)
+TEST_F(Feedback, MovesTheDrillOnAfterARightAnswerAndAsksAgainAfterAWrongOne)
 {
-    shell::giveRightFeedback(*this);
-    EXPECT_EQ(log, (Log{"show", "grey", "score 100% ", "pause", "move on", "hide", "focus"}));
-}
-
-TEST_F(Feedback, AsksAgainAfterAWrongAnswer)
-{
-    shell::giveWrongFeedback(*this);
-    EXPECT_EQ(log, (Log{"show", "score 0% ", "pause", "hide", "ask again"}));
-}
-
-TEST_F(Feedback, SoundsOnlyWithSoundOn)
-{
-    shell::giveRightFeedback(*this);
-    EXPECT_TRUE(fake.sounds.empty());
     shell::settings.SoundOn = platform::FlagTrue;
     shell::giveRightFeedback(*this);
+    EXPECT_EQ(fake.sounds, (Log{"show", "open right.wav", "sound right.wav", "grey", "score 100% ", "pause",
+                                "move on", "hide", "focus"}));
+    fake.sounds.clear();
     shell::giveWrongFeedback(*this);
     EXPECT_EQ(fake.sounds, (Log{"sound right.wav", "sound wrong.wav"}));
 }

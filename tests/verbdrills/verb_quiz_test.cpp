@@ -1,70 +1,190 @@
 #include "shell/settings.h"
 #include "tests/support/fresh_state.h"
+#include "verbdrills/quiz_draw.h"
+#include "verbdrills/quiz_inclusion.h"
 #include "verbdrills/verb_question.h"
-#include "verbs/paradigm.h"
+#include "verbs/verb_list_file.h"
+#include "verbs/verb_tables.h"
 
-#include <array>
+#include <set>
+#include <vector>
 
 namespace {
 
-using verbdrills::Identification;
+using shell::settings;
 using verbdrills::verbQuiz;
-using namespace verbdrills::quiz_number;
+using verbs::verbTables;
 
-class VerbQuizRules : public tests::FreshState {
+// Classes and tenses as sets of bits, the first conjugation and the present indicative first.
+using Bits = unsigned;
+constexpr Bits AllTenses = (1U << 21U) - 1;
+constexpr Bits ActiveTenses = (1U << 11U) - 1;
+constexpr Bits RegularClasses = 0b11111U;
+
+constexpr Bits bit(int number)
+{
+    return 1U << static_cast<unsigned>(number);
+}
+
+constexpr Bits EsseBit = bit(verbs::Esse - 1);
+constexpr Bits VelleBit = bit(verbs::Velle - 1);
+
+verbdrills::QuizTicks ticks(Bits classes, Bits tenses)
+{
+    verbdrills::QuizTicks made;
+    for (int i = 0; i < made.classes.size(); ++i)
+        made.classes[i] = (classes & bit(i)) != 0;
+    for (int t = 0; t < made.tenses.size(); ++t)
+        made.tenses[t] = (tenses & bit(t)) != 0;
+    return made;
+}
+
+class VerbQuiz : public tests::FreshState {
 protected:
-    static Identification identificationOf(int verbClass, int row)
+    VerbQuiz()
     {
-        verbQuiz.QuizConjugation = static_cast<std::int16_t>(verbClass);
-        verbQuiz.QuizRow = static_cast<std::int16_t>(row);
-        verbdrills::identifyForm();
-        return verbdrills::rightIdentification();
+        tests::copySample("verbs.cfg");
+        verbs::readVerbList("verbs.cfg");
+        include(bit(0), AllTenses);
+        verbdrills::askForm();
+        verbQuiz = {};
+    }
+
+    static void include(Bits classes, Bits tenses) { verbdrills::storeTicks(ticks(classes, tenses)); }
+
+    static std::set<int> rowsDrawnIn(int draws)
+    {
+        std::set<int> rows;
+        for (int i = 0; i < draws; ++i) {
+            EXPECT_TRUE(verbdrills::drawForm());
+            rows.insert(verbQuiz.QuizRow);
+        }
+        return rows;
     }
 };
 
-struct Ending {
-    int person;
-    std::string_view number;
-};
-
-// The six forms of a tense as a grammar prints them, one after the other.
-constexpr std::array<Ending, 6> Paradigm = {
-    {{1, Sing}, {2, Sing}, {3, Sing}, {1, Plural}, {2, Plural}, {3, Plural}}};
-
-TEST_F(VerbQuizRules, EveryFormOfEveryClassIsIdentified)
+TEST_F(VerbQuiz, FillsUpAChoiceThatIsTooSmall)
 {
-    for (int classRow = 0; classRow < 8; ++classRow) {
-        int row = 1;
-        for (int tenseRow = 0; tenseRow < 21; ++tenseRow)
-            for (const Ending& ending : Paradigm) {
-                const Identification expected = {classRow, tenseRow, ending.person, ending.number};
-                EXPECT_EQ(identificationOf(classRow + 1, row), expected) << classRow << " " << row;
-                EXPECT_TRUE(verbdrills::judgeIdentification(expected));
-                ++row;
+    // Classes and tenses: ticked, and then included.
+    const std::vector<std::array<Bits, 4>> choices = {{0, 0, 1, 1},
+                                                      {0, 0b11000, 1, 0b11000},
+                                                      {0b100, 1, 0b100, 1},
+                                                      {0b100, 2, 0b100, 3},
+                                                      {0b100, 1U << 20, 0b100, 1 + (1U << 20)},
+                                                      {0b100, 2 + (1U << 20), 0b100, 2 + (1U << 20)},
+                                                      {VelleBit, 3, VelleBit, 3},
+                                                      {0b10000000, 0, 0b10000000, 1}};
+    for (const auto& [classes, tenses, includedClasses, includedTenses] : choices) {
+        verbdrills::takeTicks(ticks(classes, tenses));
+        EXPECT_EQ(verbdrills::ticksOfQuiz(), ticks(includedClasses, includedTenses))
+            << classes << " " << tenses;
+    }
+}
+
+// Ferre alone has no row yet.
+TEST_F(VerbQuiz, AsksAnIncludedFormOrNoneWhateverIsChosen)
+{
+    std::vector<Bits> tenseSets = {0, AllTenses, ActiveTenses, AllTenses & ~ActiveTenses};
+    for (int first = 0; first < 21; ++first)
+        for (int second = first; second < 21; ++second)
+            tenseSets.push_back(bit(first) | bit(second));
+    for (const Bits tenses : tenseSets)
+        for (Bits classes = 0; classes < 256; ++classes) {
+            verbQuiz = {};
+            include(classes, tenses);
+            const bool canBeAsked = ((classes & RegularClasses) != 0 && tenses != 0) ||
+                                    ((classes & EsseBit) != 0 && (tenses & ActiveTenses) != 0) ||
+                                    (classes & VelleBit) != 0;
+            for (int draw = 0; draw < 2; ++draw) {
+                ASSERT_EQ(verbdrills::drawForm(), canBeAsked) << classes << " " << tenses;
+                const int verbClass = canBeAsked ? verbQuiz.QuizConjugation : 0;
+                EXPECT_EQ(verbTables.Forms[verbClass][verbQuiz.QuizRow].empty(), !canBeAsked);
+                EXPECT_TRUE(!canBeAsked || (classes & bit(verbClass - 1)) != 0);
+                EXPECT_TRUE(!canBeAsked || verbClass > verbs::Esse ||
+                            (tenses & bit(verbQuiz.QuizAnswerTense)) != 0);
             }
+        }
+}
+
+TEST_F(VerbQuiz, AsksEveryFormButTheLastOfARegularClassAndVelleInAnyTense)
+{
+    for (const auto& [verbClass, last] :
+         {std::pair{verbs::SecondConjugation, 125}, {verbs::Esse, 65}, {verbs::Velle, 60}}) {
+        include(bit(verbClass - 1), verbClass == verbs::Velle ? bit(15) : AllTenses);
+        std::set<int> expected;
+        for (int row = 1; row <= last; ++row)
+            if (!verbTables.Forms[verbClass][row].empty())
+                expected.insert(row);
+        EXPECT_EQ(rowsDrawnIn(6000), expected);
     }
 }
 
-TEST_F(VerbQuizRules, EachPartOfAnIdentificationCounts)
+TEST_F(VerbQuiz, AsksFerreAtTheRowDrawnBefore)
 {
-    const Identification right = identificationOf(verbs::FourthConjugation, 10);
-    EXPECT_EQ(right, (Identification{3, 1, 1, Plural}));
-    for (const Identification& wrong :
-         {Identification{4, 1, 1, Plural}, Identification{3, 2, 1, Plural}, Identification{3, 1, 2, Plural},
-          Identification{3, 1, 1, Sing}, Identification{-1, 1, 1, Plural}, Identification{3, -1, 1, Plural}})
-        EXPECT_FALSE(verbdrills::judgeIdentification(wrong));
+    include(bit(2), bit(13));
+    const int row = *rowsDrawnIn(1).begin();
+    include(bit(verbs::Ferre - 1), bit(0));
+    EXPECT_EQ(rowsDrawnIn(30), std::set<int>{row});
+    EXPECT_EQ(verbQuiz.QuizConjugation, verbs::Ferre);
 }
 
-TEST_F(VerbQuizRules, CheckingNamesTheExerciseAndKeepsAWrongAnswersForm)
+// esse and velle always have the form drawn, so that every draw is one question.
+TEST_F(VerbQuiz, LetsClassesTakeTurnsUntilItsMemoryStartsAfresh)
 {
-    const Identification right = identificationOf(verbs::Esse, 1);
-    verbQuiz.formIsAsked = true;
-    shell::settings.ExerciseType = shell::exercise::Conjugation;
-    EXPECT_FALSE(verbdrills::judgeIdentification({}));
-    EXPECT_EQ(shell::settings.ExerciseType, "Quiz");
-    EXPECT_TRUE(verbQuiz.formIsAsked);
-    EXPECT_TRUE(verbdrills::judgeIdentification(right));
-    EXPECT_FALSE(verbQuiz.formIsAsked);
+    include(EsseBit | VelleBit, bit(0));
+    bool sameAcrossTheStart = false;
+    for (int round = 0; round < 20; ++round) {
+        verbQuiz = {};
+        std::string drawn;
+        while (drawn.size() < 23) {
+            EXPECT_TRUE(verbdrills::drawForm());
+            drawn += verbQuiz.QuizConjugation == verbs::Esse ? 'e' : 'v';
+        }
+        for (const std::size_t second : {1U, 3U, 5U, 7U, 9U, 11U, 13U, 15U, 17U, 19U, 22U})
+            EXPECT_NE(drawn[second], drawn[second - 1]) << drawn;
+        sameAcrossTheStart = sameAcrossTheStart || drawn[21] == drawn[20];
+    }
+    EXPECT_TRUE(sameAcrossTheStart);
+}
+
+TEST_F(VerbQuiz, MarksItsFormsThoughMarksAreOffAndAnnouncesThemByTwoBeeps)
+{
+    for (const std::string mark : {"", ":"}) {
+        settings.ShowVowelLength = platform::flagOf(!mark.empty());
+        settings.VowelMark = mark;
+        verbTables.Forms = {};
+        fake.beeps = 0;
+        ASSERT_TRUE(verbdrills::askForm());
+        EXPECT_EQ(fake.beeps, 2);
+        EXPECT_EQ(verbTables.Forms[verbs::Velle][2], "vi:s");
+        EXPECT_EQ(settings.VowelMark, mark);
+    }
+}
+
+TEST_F(VerbQuiz, IdentifiesEveryFormOfEveryClassByEachOfItsParts)
+{
+    using verbdrills::judgeIdentification;
+    const std::string_view sing = "Sing";
+    const std::string_view plural = "Plural";
+    for (int classRow = 0; classRow < 8; ++classRow)
+        for (int form = 0; form < 126; ++form) {
+            verbQuiz.QuizConjugation = static_cast<std::int16_t>(classRow + 1);
+            verbQuiz.QuizRow = static_cast<std::int16_t>(form + 1);
+            verbQuiz.formIsAsked = true;
+            verbdrills::identifyForm();
+            // Six forms to a tense, the persons of the singular before those of the plural.
+            const int tense = form / 6;
+            const int person = form % 3 + 1;
+            const auto number = form % 6 < 3 ? sing : plural;
+            EXPECT_FALSE(judgeIdentification({-1, tense, person, number}));
+            EXPECT_FALSE(judgeIdentification({classRow, tense + 1, person, number}));
+            EXPECT_FALSE(judgeIdentification({classRow, tense, person % 3 + 1, number}));
+            EXPECT_FALSE(judgeIdentification({classRow, tense, person, number == sing ? plural : sing}));
+            EXPECT_TRUE(verbQuiz.formIsAsked);
+            EXPECT_TRUE(judgeIdentification({classRow, tense, person, number}));
+            EXPECT_FALSE(verbQuiz.formIsAsked);
+        }
+    EXPECT_EQ(settings.ExerciseType, "Quiz");
 }
 
 } // namespace
