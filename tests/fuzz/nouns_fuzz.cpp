@@ -14,7 +14,7 @@ void fuzz::readFile(const std::filesystem::path& path)
         for (int paradigm = 1; paradigm <= ParadigmCount; ++paradigm)
             for (int number = mostNounsOf(paradigm); number > nounList.NounCount[paradigm]; --number)
                 require(nounAt(paradigm, number) == NounRecord{}, "Past the last noun there is none");
-        for (int draw = 1; draw <= MostNouns; ++draw)
+        for (int draw = 1; draw <= 3; ++draw)
             BuildNounParadigms();
         const NounList before = nounList;
         readNounList(path);
