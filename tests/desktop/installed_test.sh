@@ -31,7 +31,7 @@ end_with alt+x
 
 sed -i $'3s/.*/-1\r/' "$own/morvanti.ini"
 start
-grep -q "$work/usr/lib/morvanti/libmorvanti_sound.so" "/proc/$running/maps" || fail "the installed plugin is not used"
 wait_for "the sound of the start alone" hears VELMOR2.WAV
+grep -q "$work/usr/lib/morvanti/libmorvanti_sound.so" "/proc/$running/maps" || fail "the installed plugin is not used"
 end_with alt+x
 wait_for "the sound of the end" hears VELMOR2.WAV VELMOR2.WAV
