@@ -3,60 +3,16 @@
 #include "platform/random.h"
 #include "tests/support/fake_platform.h"
 
-#include <cstdlib>
 #include <fstream>
 #include <iostream>
-#include <optional>
-#include <stdexcept>
+#include <set>
 #include <string>
 #include <unistd.h>
-
-namespace fuzz {
+#include <vector>
 
 namespace fs = std::filesystem;
 
-namespace {
-
-class ScratchFolder {
-public:
-    ScratchFolder()
-    {
-        std::string pattern = (fs::temp_directory_path() / "morvanti-fuzz-XXXXXX").string();
-        if (::mkdtemp(pattern.data()) == nullptr)
-            throw std::runtime_error("no folder for the file");
-        path_ = pattern;
-    }
-    ScratchFolder(const ScratchFolder&) = delete;
-    ScratchFolder& operator=(const ScratchFolder&) = delete;
-    ~ScratchFolder()
-    {
-        std::error_code ignored;
-        fs::remove_all(path_, ignored);
-    }
-
-    const fs::path& path() const { return path_; }
-
-private:
-    fs::path path_;
-};
-
-} // namespace
-
-fs::path beginWithFile(const std::uint8_t* data, std::size_t size)
-{
-    static const ScratchFolder folder;
-    static std::optional<tests::FakePlatform> fake;
-    platform::use(fake.emplace());
-    platform::seedWith(1);
-    const fs::path path = folder.path() / "file";
-    const std::string bytes(data, data + size);
-    std::ofstream stream(path, std::ios::binary);
-    stream << bytes << std::flush;
-    require(stream.good(), "The file can be written");
-    return path;
-}
-
-void require(bool kept, std::string_view promise)
+void fuzz::require(bool kept, std::string_view promise)
 {
     if (kept)
         return;
@@ -64,4 +20,30 @@ void require(bool kept, std::string_view promise)
     std::abort();
 }
 
-} // namespace fuzz
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    static const struct ScratchFile {
+        const fs::path path = fs::temp_directory_path() / ("morvanti-fuzz-" + std::to_string(::getpid()));
+        ~ScratchFile() { ::unlink(path.c_str()); }
+    } file;
+    std::ofstream(file.path, std::ios::binary) << std::string(data, data + size);
+    fuzz::require(fs::file_size(file.path) == size, "The file can be written");
+    tests::FakePlatform fake;
+    platform::use(fake);
+    platform::seedWith(1);
+    fuzz::readFile(file.path);
+    return 0;
+}
+
+// Reads every file of a folder, each after its name. Gives way to the main of libFuzzer where that is linked.
+[[gnu::weak]] int main(int /*argumentCount*/, char** arguments)
+{
+    const std::set<fs::path> files{fs::directory_iterator(arguments[1]), fs::directory_iterator()};
+    for (const fs::path& path : files) {
+        std::cout << path.filename().string() << std::endl;
+        std::ifstream stream(path, std::ios::binary);
+        const std::vector<std::uint8_t> bytes(std::istreambuf_iterator<char>(stream), {});
+        LLVMFuzzerTestOneInput(bytes.data(), bytes.size());
+    }
+    return files.empty() ? EXIT_FAILURE : EXIT_SUCCESS;
+}
