@@ -46,7 +46,7 @@ QWidget& WindowTest::open(const QString& buttonOrItem, const QString& window)
         start();
     for (int i = 0; i < MostWindowsAboveTheMain && shownWindow("MainMenu") == nullptr; ++i)
         for (QWidget* const above : QApplication::topLevelWidgets())
-            if (above->isVisible())
+            if (above->isVisible() && above->objectName() != "MainMenu")
                 above->close();
     QWidget& menu = shown("MainMenu");
     if (menu.findChild<QAction*>(buttonOrItem) != nullptr)
