@@ -14,15 +14,19 @@ namespace {
 
 namespace fs = std::filesystem;
 
+app::CommandLine read(const std::vector<std::string>& arguments)
+{
+    return app::readCommandLine(arguments);
+}
+
 TEST(CommandLine, TakesOneFolderAndKnowsItsOptions)
 {
-    using app::readCommandLine;
-    EXPECT_FALSE(readCommandLine({}).folder || readCommandLine({}).fault || readCommandLine({}).answer);
-    EXPECT_EQ(readCommandLine({"lists"}).folder, "lists");
-    EXPECT_TRUE(readCommandLine({"--help"}).answer.has_value());
-    EXPECT_EQ(readCommandLine({"--version"}).answer->substr(0, 9), "morvanti ");
-    EXPECT_EQ(readCommandLine({"-x"}).fault, "unknown option -x");
-    EXPECT_TRUE(readCommandLine({"one", "two"}).fault.has_value());
+    EXPECT_FALSE(read({}).folder || read({}).fault || read({}).answer);
+    EXPECT_EQ(read({"lists"}).folder, "lists");
+    EXPECT_TRUE(read({"--help"}).answer.has_value());
+    EXPECT_EQ(read({"--version"}).answer->substr(0, 9), "morvanti ");
+    EXPECT_EQ(read({"-x"}).fault, "unknown option -x");
+    EXPECT_TRUE(read({"one", "two"}).fault.has_value());
 }
 
 // What is thrown while an event is handled, such as an index past a table, ends the program with one line.

@@ -141,6 +141,7 @@ protected:
                     goOn(step);
                 QWidget& window = tests::shown(name);
                 window.showNormal();
+                window.resize(window.sizeHint());
                 QApplication::processEvents();
                 look(window);
             }
@@ -190,9 +191,10 @@ TEST_F(EveryWindow, CutsNothingOffInATypeTwiceAsLarge)
     QApplication::setFont(large);
     inEveryLanguage([](const QWidget& window) {
         for (const QWidget* const widget : window.findChildren<QWidget*>())
-            if (widget->isVisible() && bearsOneLine(*widget))
+            if (widget->isVisible() && bearsOneLine(*widget)) {
                 EXPECT_EQ(widget->size().expandedTo(widget->sizeHint()), widget->size())
                     << widget->objectName().toStdString();
+            }
     });
     QApplication::setFont(before);
 }
