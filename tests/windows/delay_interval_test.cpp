@@ -22,19 +22,14 @@ protected:
     }
 };
 
-TEST_F(DelayInterval, DividesTheDelayByTenWhenItIsConfirmedUnmoved)
+TEST_F(DelayInterval, IsSetWithTheKeysAloneAndDividesTheDelayByTenWhereItIsLeftUnmoved)
 {
     QWidget& window = openWindow();
     EXPECT_EQ(length(window), " 0.2 seconds");
-    click(window, "DelayOK");
+    press(window, Qt::Key_Return);
     EXPECT_FALSE(window.isVisible());
     EXPECT_EQ(settings.DelaySeconds, 0);
-    EXPECT_EQ(settings.SettingsChangeCount, 1);
-}
-
-TEST_F(DelayInterval, IsSetWithTheKeysAlone)
-{
-    QWidget& window = openWindow();
+    openWindow();
     press(window, Qt::Key_End);
     EXPECT_EQ(length(window), " 100 seconds");
     press(window, Qt::Key_Home);
@@ -42,10 +37,10 @@ TEST_F(DelayInterval, IsSetWithTheKeysAlone)
     press(window, Qt::Key_PageUp);
     press(window, Qt::Key_Right, 5);
     EXPECT_EQ(length(window), " 1.5 seconds");
-    press(window, Qt::Key_Return);
+    click(window, "DelayOK");
     EXPECT_FALSE(window.isVisible());
     EXPECT_EQ(settings.DelaySeconds, 2);
-    EXPECT_EQ(settings.SettingsChangeCount, 1);
+    EXPECT_EQ(settings.SettingsChangeCount, 2);
 }
 
 TEST_F(DelayInterval, LeavesTheDelayAloneWhenItIsCancelled)

@@ -256,7 +256,7 @@ TEST_P(TypedDrill, TakesAHeldEnterForOne)
 
 class BoxDrill : public EveryDrill {};
 
-TEST_P(BoxDrill, GreysTheBoxAnsweredRightAndEmptiesTheOneAnsweredWrong)
+TEST_P(BoxDrill, GreysTheBoxAnsweredRightAndAsksTheNext)
 {
     QWidget& window = open();
     QLineEdit& first = askedBox(window);
@@ -267,11 +267,7 @@ TEST_P(BoxDrill, GreysTheBoxAnsweredRightAndEmptiesTheOneAnsweredWrong)
     EXPECT_EQ(first.palette().color(QPalette::Base), QColor(0x80, 0x80, 0x80));
     EXPECT_EQ(first.palette().color(QPalette::Text), QColor(0xC0, 0xC0, 0xC0));
     EXPECT_EQ(tests::label(window, "ScoreLabel"), " 100% ");
-    answer(window, false);
-    press(window, Qt::Key_Return);
-    EXPECT_EQ(askedBox(window).text(), "");
     EXPECT_EQ(window.focusWidget(), &askedBox(window));
-    EXPECT_EQ(tests::label(window, "ScoreLabel"), " 50% ");
 }
 
 TEST_P(BoxDrill, ShowsTheAnswerInRedForOnePauseWithoutCounting)
@@ -323,13 +319,8 @@ TEST_P(BoxDrill, SendsTheFocusBackToTheBoxAsked)
     EXPECT_EQ(askedBox(window).text(), "a");
 }
 
-std::string nameOf(const testing::TestParamInfo<Drill>& info)
-{
-    return info.param.window;
-}
-
-INSTANTIATE_TEST_SUITE_P(Of, EveryDrill, testing::ValuesIn(Drills), nameOf);
-INSTANTIATE_TEST_SUITE_P(Of, TypedDrill, testing::ValuesIn(Drills.begin(), Drills.begin() + 4), nameOf);
-INSTANTIATE_TEST_SUITE_P(Of, BoxDrill, testing::ValuesIn(Drills.begin(), Drills.begin() + 3), nameOf);
+INSTANTIATE_TEST_SUITE_P(Of, EveryDrill, testing::ValuesIn(Drills));
+INSTANTIATE_TEST_SUITE_P(Of, TypedDrill, testing::ValuesIn(Drills.begin(), Drills.begin() + 4));
+INSTANTIATE_TEST_SUITE_P(Of, BoxDrill, testing::ValuesIn(Drills.begin(), Drills.begin() + 3));
 
 } // namespace

@@ -76,7 +76,15 @@ bool hasName(const QWidget& widget)
            std::ranges::any_of(labels, [&](const QLabel* label) { return label->buddy() == &widget; });
 }
 
-// The texts that one press of Alt may mean: what a window shows at once, or one of its menus.
+QStringList textsOf(const QWidget& menuOrBar)
+{
+    QStringList texts;
+    for (const QAction* const item : menuOrBar.actions())
+        texts << item->text();
+    return texts;
+}
+
+// The texts that one press of Alt may mean: what a window shows at once.
 QStringList textsOnAltKeys(const QWidget& window)
 {
     QStringList texts;
@@ -86,8 +94,7 @@ QStringList textsOnAltKeys(const QWidget& window)
         if (const auto* const label = qobject_cast<const QLabel*>(widget); label && label->buddy())
             texts << label->text();
         if (const auto* const menuBar = qobject_cast<const QMenuBar*>(widget))
-            for (const QAction* const menu : menuBar->actions())
-                texts << menu->text();
+            texts << textsOf(*menuBar);
     }
     return texts;
 }
@@ -173,12 +180,8 @@ TEST_F(EveryWindow, HasNoTwoTextsOnOneAltKey)
     QStringList clashes;
     inEveryLanguage([&](const QWidget& window) {
         appendClashes(clashes, window.objectName(), textsOnAltKeys(window));
-        for (const QMenu* const menu : window.findChildren<QMenu*>()) {
-            QStringList items;
-            for (const QAction* const item : menu->actions())
-                items << item->text();
-            appendClashes(clashes, menu->objectName(), items);
-        }
+        for (const QMenu* const menu : window.findChildren<QMenu*>())
+            appendClashes(clashes, menu->objectName(), textsOf(*menu));
     });
     EXPECT_EQ(clashes.join('\n').toStdString(), GivenClashes);
 }

@@ -7,7 +7,6 @@ namespace {
 
 using tests::choose;
 using tests::click;
-using Lines = std::vector<std::string>;
 
 class StartAndEnd : public tests::WindowTest {
 protected:
@@ -41,7 +40,7 @@ TEST_F(StartAndEnd, StartsInAnEmptyFolderAndWritesThirtySixLines)
               "6\r\n 0\r\n 0\r\n 2\r\nEnglish\r\nNGDAAb\r\nSequential\r\n 2\r\n-1\r\n");
 }
 
-TEST_F(StartAndEnd, FindsTheSettingsThatItKept)
+TEST_F(StartAndEnd, FindsTheSettingsThatItKeptAndSoundsOnTheWayOut)
 {
     tests::writeFile("morvanti.ini", keptSettings());
     QWidget& menu = start();
@@ -50,9 +49,16 @@ TEST_F(StartAndEnd, FindsTheSettingsThatItKept)
          {"GermanLang", "RandomOrder", "NADGABOrder", "VowelLengthVal", "SoundStatus"})
         EXPECT_TRUE(isChecked(menu, item)) << item;
     EXPECT_EQ(shell::settings.VowelMark, ":");
-    EXPECT_EQ(fake.sounds, (Lines{"open VELMOR2.WAV", "sound VELMOR2.WAV"}));
-    click(menu, "ExitButton");
+    EXPECT_EQ(fake.sounds, (std::vector<std::string>{"open VELMOR2.WAV", "sound VELMOR2.WAV"}));
+    std::filesystem::remove("morvanti.ini");
+    choose(menu, "EnglishLang");
+    choose(menu, "GermanLang");
+    menu.close();
     EXPECT_EQ(tests::bytesOf("morvanti.ini"), keptSettings());
+    EXPECT_EQ(shell::settings.SettingsChangeCount, 0);
+    EXPECT_FALSE(menu.isVisible());
+    EXPECT_EQ(fake.sounds.size(), 4U);
+    EXPECT_EQ(fake.exitStatus, 0);
 }
 
 TEST_F(StartAndEnd, TakesTheDefaultsForSettingsThatAreCutOff)
@@ -81,18 +87,6 @@ TEST_F(StartAndEnd, StripsTheStemsAtStartWhateverTheSettingsSay)
     choose(menu, "VowelLengthVal");
     choose(menu, "VowelLengthVal");
     EXPECT_EQ(verbs::verbList.SupineStem[verbs::FirstConjugation][1], "ama:t");
-}
-
-TEST_F(StartAndEnd, SoundsOnTheWayOut)
-{
-    QWidget& menu = start();
-    choose(menu, "SoundStatus");
-    menu.close();
-    EXPECT_EQ(fake.exitStatus, 0);
-    EXPECT_EQ(shell::settings.SettingsChangeCount, 0);
-    EXPECT_FALSE(menu.isVisible());
-    EXPECT_EQ(fake.sounds, (Lines{"open VELMOR2.WAV", "sound VELMOR2.WAV"}));
-    EXPECT_TRUE(std::filesystem::exists("morvanti.ini"));
 }
 
 TEST_F(StartAndEnd, EndsWithoutSavingByAltF4AndWhereItIsToldNotToSave)
