@@ -2,9 +2,11 @@
 
 #include "platform/platform.h"
 
+#include <cmath>
 #include <functional>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tests {
@@ -30,15 +32,35 @@ public:
     bool programsStart = false;
     std::optional<int> exitStatus;
 
-    float secondsSinceMidnight() const override;
-    void waitForEvents(std::chrono::milliseconds atMost) override;
-    void beep() override;
-    void playSound(const std::string& waveFile) override;
-    bool soundIsPlaying() const override;
-    bool startProgram(const std::string& commandLine) override;
-    void showMessage(const std::string& text, std::function<void()> dismissed) override;
-    void endProgram(int status) override;
-    bool ending() const override;
+    float secondsSinceMidnight() const override { return static_cast<float>(std::fmod(clock, 86400)); }
+
+    void waitForEvents(std::chrono::milliseconds atMost) override
+    {
+        ++waits;
+        // A copy: what happens may be to set another.
+        if (const auto happening = whileWaiting)
+            happening();
+        clock += static_cast<double>(atMost.count()) / 1000;
+    }
+
+    void beep() override { ++beeps; }
+    void playSound(const std::string& waveFile) override { sounds.push_back("sound " + waveFile); }
+    bool soundIsPlaying() const override { return false; }
+
+    bool startProgram(const std::string& commandLine) override
+    {
+        programs.push_back(commandLine);
+        return programsStart;
+    }
+
+    void showMessage(const std::string& text, std::function<void()> dismissed) override
+    {
+        messages.push_back(text);
+        dismissMessage = std::move(dismissed);
+    }
+
+    void endProgram(int status) override { exitStatus = status; }
+    bool ending() const override { return exitStatus.has_value(); }
 };
 
 } // namespace tests

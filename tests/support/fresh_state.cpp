@@ -26,20 +26,12 @@ namespace tests {
 
 namespace fs = std::filesystem;
 
-namespace {
-
-fs::path freshFolder()
+FreshState::FreshState() : before_(fs::current_path())
 {
-    std::string pattern = (fs::temp_directory_path() / "morvanti-XXXXXX").string();
-    if (::mkdtemp(pattern.data()) == nullptr)
+    std::string folder = (fs::temp_directory_path() / "morvanti-XXXXXX").string();
+    if (::mkdtemp(folder.data()) == nullptr)
         throw std::runtime_error("no folder for the test");
-    return pattern;
-}
-
-} // namespace
-
-FreshState::FreshState() : before_(fs::current_path()), folder_(freshFolder())
-{
+    folder_ = folder;
     fs::current_path(folder_);
     platform::use(fake);
     platform::seedWith(1);

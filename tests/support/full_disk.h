@@ -8,7 +8,7 @@ namespace tests {
 /// As long as it lives, no file can grow past so many bytes: writing fails as on a full disk.
 class FullDisk {
 public:
-    explicit FullDisk(rlim_t bytes = 5) : handler_(std::signal(SIGXFSZ, SIG_IGN))
+    explicit FullDisk(rlim_t bytes = 5)
     {
         ::getrlimit(RLIMIT_FSIZE, &before_);
         const rlimit full{bytes, before_.rlim_max};
@@ -23,7 +23,7 @@ public:
     }
 
 private:
-    void (*handler_)(int);
+    void (*handler_)(int) = std::signal(SIGXFSZ, SIG_IGN);
     rlimit before_{};
 };
 

@@ -2,23 +2,25 @@
 
 #include "app/navigation.h"
 
-#include <QAbstractButton>
-#include <QAction>
-#include <QApplication>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-
 #include <utility>
 
 namespace tests {
 
 namespace {
 
+// A drill, its chooser of tenses, and its chooser of classes.
+constexpr int MostWindowsAboveTheMain = 3;
+
 QWidget& focused(QWidget& window)
 {
     QWidget* const widget = window.focusWidget();
     return widget == nullptr ? window : *widget;
+}
+
+QPoint middleOf(QListWidget& list, int row)
+{
+    list.scrollToItem(list.item(row));
+    return list.visualItemRect(list.item(row)).center();
 }
 
 } // namespace
@@ -40,11 +42,23 @@ QWidget& WindowTest::start()
 
 QWidget& WindowTest::open(const QString& buttonOrItem, const QString& window)
 {
-    QWidget& menu = navigation_ == nullptr ? start() : shown("MainMenu");
+    if (navigation_ == nullptr)
+        start();
+    for (int i = 0; i < MostWindowsAboveTheMain && shownWindow("MainMenu") == nullptr; ++i)
+        for (QWidget* const above : QApplication::topLevelWidgets())
+            if (above->isVisible() && above->objectName() != "MainMenu")
+                above->close();
+    QWidget& menu = shown("MainMenu");
     if (menu.findChild<QAction*>(buttonOrItem) != nullptr)
         choose(menu, buttonOrItem);
     else
         click(menu, buttonOrItem);
+    return shown(window);
+}
+
+QWidget& WindowTest::openRow(const QString& button, const QString& chooser, int row, const QString& window)
+{
+    doubleClickRow(control<QListWidget>(open(button, chooser)), row);
     return shown(window);
 }
 
@@ -73,9 +87,29 @@ QWidget& shown(const QString& name)
     return *window;
 }
 
+QListWidget& list(const QWidget& window, const QString& name)
+{
+    return control<QListWidget>(window, name);
+}
+
+QAbstractButton& button(const QWidget& window, const QString& name)
+{
+    return control<QAbstractButton>(window, name);
+}
+
+QLineEdit& box(const QWidget& window, const QString& name, int number)
+{
+    return control<QLineEdit>(window, name + QString::number(number));
+}
+
 QString label(const QWidget& window, const QString& name)
 {
     return control<QLabel>(window, name).text();
+}
+
+QString field(const QWidget& window, const QString& line)
+{
+    return control<QLineEdit>(window, line).text();
 }
 
 QStringList rows(const QListWidget& list)
@@ -86,9 +120,16 @@ QStringList rows(const QListWidget& list)
     return texts;
 }
 
-void click(QWidget& window, const QString& button)
+void activate(QWidget& window)
 {
-    QTest::mouseClick(&control<QAbstractButton>(window, button), Qt::LeftButton);
+    QApplication::setActiveWindow(&window);
+    QApplication::processEvents();
+}
+
+void click(QWidget& window, const QString& name)
+{
+    QAbstractButton& clicked = button(window, name);
+    QTest::mouseClick(&clicked, Qt::LeftButton, Qt::NoModifier, QPoint(8, clicked.height() / 2));
     QApplication::processEvents();
 }
 
@@ -100,16 +141,14 @@ void choose(QWidget& window, const QString& item)
 
 void clickRow(QListWidget& list, int row)
 {
-    const QPoint middle = list.visualItemRect(list.item(row)).center();
-    QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, middle);
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, middleOf(list, row));
     QApplication::processEvents();
 }
 
 void doubleClickRow(QListWidget& list, int row)
 {
     clickRow(list, row);
-    const QPoint middle = list.visualItemRect(list.item(row)).center();
-    QTest::mouseDClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, middle);
+    QTest::mouseDClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, middleOf(list, row));
     QApplication::processEvents();
 }
 
@@ -120,6 +159,12 @@ void type(QWidget& window, const QString& text)
     QApplication::processEvents();
 }
 
+void answer(QWidget& window, const QString& text)
+{
+    type(window, text);
+    press(window, Qt::Key_Return);
+}
+
 void fill(QWidget& window, const QString& line, const QString& text)
 {
     auto& field = control<QLineEdit>(window, line);
@@ -128,11 +173,12 @@ void fill(QWidget& window, const QString& line, const QString& text)
     type(window, text);
 }
 
-void press(QWidget& window, Qt::Key key)
+void press(QWidget& window, Qt::Key key, int times)
 {
     if (window.isVisible())
         QApplication::setActiveWindow(&window);
-    QTest::keyClick(&focused(window), key);
+    for (int i = 0; i < times; ++i)
+        QTest::keyClick(&focused(window), key);
     QApplication::processEvents();
 }
 
@@ -140,6 +186,12 @@ QString focusIn(const QWidget& window)
 {
     const QWidget* const widget = window.focusWidget();
     return widget == nullptr ? QString() : widget->objectName();
+}
+
+std::vector<std::function<void(QWidget&)>> waysToLeave(const QString& button)
+{
+    return {[button](QWidget& window) { click(window, button); },
+            [](QWidget& window) { press(window, Qt::Key_Escape); }, [](QWidget& window) { window.close(); }};
 }
 
 } // namespace tests

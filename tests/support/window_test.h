@@ -2,15 +2,18 @@
 
 #include "tests/support/fresh_state.h"
 
-#include <QString>
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QTest>
-#include <QWidget>
 
 #include <functional>
 #include <memory>
 #include <stdexcept>
-
-class QListWidget;
+#include <vector>
 
 namespace app {
 class Navigation;
@@ -28,9 +31,12 @@ protected:
     /// Starts the program, anew where it runs already. Returns the main window.
     QWidget& start();
 
-    /// Opens a window by a button or an item of the main window; starts the program where it does not run
-    /// yet.
+    /// Opens a window by a button or an item of the main window: starts the program where it does not run
+    /// yet, and else goes back to the main window, closing what hides it.
     QWidget& open(const QString& buttonOrItem, const QString& window);
+
+    /// Opens a window by a button of the main window and two clicks on a row of its chooser's list.
+    QWidget& openRow(const QString& button, const QString& chooser, int row, const QString& window);
 
     /// Does something once, in the middle of the next pause.
     void duringPause(std::function<void()> action);
@@ -44,9 +50,10 @@ QWidget* shownWindow(const QString& name);
 /// The same; throws std::runtime_error where it is not shown.
 QWidget& shown(const QString& name);
 
-/// A control of a window by its object name. Throws std::runtime_error where there is none.
+/// A control of a window by its object name, or the first of its kind where the name is left out. Throws
+/// std::runtime_error where there is none.
 template <typename Control>
-Control& control(const QWidget& window, const QString& name)
+Control& control(const QWidget& window, const QString& name = {})
 {
     auto* const found = window.findChild<Control*>(name);
     if (found == nullptr)
@@ -54,27 +61,39 @@ Control& control(const QWidget& window, const QString& name)
     return *found;
 }
 
-/// The text of a label, and the texts of a list.
+/// A list, a button or check box, and an answer box by its name and number.
+QListWidget& list(const QWidget& window, const QString& name);
+QAbstractButton& button(const QWidget& window, const QString& name);
+QLineEdit& box(const QWidget& window, const QString& name, int number);
+
+/// The text of a label, of a line, and the texts of a list.
 QString label(const QWidget& window, const QString& name);
+QString field(const QWidget& window, const QString& line);
 QStringList rows(const QListWidget& list);
 
-/// Clicks a button with the mouse.
+/// Makes a window the active one.
+void activate(QWidget& window);
+/// Clicks a button, or the mark of a check box, with the mouse.
 void click(QWidget& window, const QString& button);
 /// Chooses an item of a window's menus.
 void choose(QWidget& window, const QString& item);
-
 /// Clicks a row of a list, or clicks it twice.
 void clickRow(QListWidget& list, int row);
 void doubleClickRow(QListWidget& list, int row);
 
 /// Types into the widget that has the focus in a window, key by key.
 void type(QWidget& window, const QString& text);
+/// The same, and then Enter.
+void answer(QWidget& window, const QString& text);
 /// Selects what a line holds and types over it.
 void fill(QWidget& window, const QString& line, const QString& text);
 /// Presses a key in the window, which becomes the active one.
-void press(QWidget& window, Qt::Key key);
+void press(QWidget& window, Qt::Key key, int times = 1);
 
 /// The object name of the widget that has the focus in a window.
 QString focusIn(const QWidget& window);
+
+/// The three ways to leave a window: with its button, with Escape, with the close box.
+std::vector<std::function<void(QWidget&)>> waysToLeave(const QString& button);
 
 } // namespace tests

@@ -1,4 +1,5 @@
-// What all drills have in common: an answer counts once, a hint does not count, and a pause can be left.
+// What all drills have in common: an answer counts once, a hint does not count, a pause can be left, and
+// boxes are asked in the order that is set.
 
 #include "nouns/declension_drill.h"
 #include "nouns/noun_question.h"
@@ -10,22 +11,17 @@
 #include "vocabulary/vocabulary_list.h"
 #include "vocabulary/vocabulary_tester.h"
 
-#include <QAbstractButton>
-#include <QApplication>
 #include <QCheckBox>
-#include <QKeyEvent>
-#include <QLineEdit>
-#include <QListWidget>
 
-#include <vector>
+#include <algorithm>
+#include <set>
 
 namespace {
 
 using shell::settings;
+using std::to_string;
 using tests::click;
-using tests::control;
 using tests::press;
-using tests::shown;
 using tests::shownWindow;
 using tests::type;
 
@@ -33,7 +29,6 @@ struct Drill {
     const char* window;
     const char* opener;
     const char* back; // where one comes to on leaving
-    const char* list; // of the chooser
     const char* check;
     const char* quit;
     std::vector<const char*> others; // buttons that do nothing in a pause
@@ -52,8 +47,8 @@ void chooseFirstForm(QWidget& quiz)
 {
     verbdrills::verbQuiz.QuizRow = 1;
     verbdrills::identifyForm();
-    tests::clickRow(control<QListWidget>(quiz, "QuizConjList"), 0);
-    tests::clickRow(control<QListWidget>(quiz, "QuizTenseList"), 0);
+    tests::clickRow(tests::list(quiz, "QuizConjList"), 0);
+    tests::clickRow(tests::list(quiz, "QuizTenseList"), 0);
 }
 
 void tickRightCases(QWidget& quiz)
@@ -69,55 +64,115 @@ void typeText(QWidget& drill, const std::string& text)
     type(drill, QString::fromStdString(text));
 }
 
-using std::to_string;
-
 // clang-format off
 // First the drills with a box for each form, then the one with a single line, then the quizzes.
 const std::vector<Drill> Drills = {
-    {"Conjugation", "ConjugationButton", "ConjugationChoose", "ConjugationList", "Ccontinue", "Cquit", {"ConjQuestion"}, "ConjText",
+    {"Conjugation", "ConjugationButton", "ConjugationChoose", "Ccontinue", "Cquit", {"ConjQuestion"}, "ConjText",
         [] { return to_string(verbdrills::conjugationDrill.PersonIndex); },
         [](QWidget& drill) { typeText(drill, verbdrills::conjugationDrill.CorrectForm); }, Qt::blue},
-    {"Declination", "DeclensionButton", "DeclinationChoose", "DeclinationList", "Continue", "DeclQuitButton", {"DeclQuestion"}, "DeclText",
+    {"Declination", "DeclensionButton", "DeclinationChoose", "Continue", "DeclQuitButton", {"DeclQuestion"}, "DeclText",
         [] { return to_string(nouns::declensionDrill.CurrentCaseIndex); },
         [](QWidget& drill) { typeText(drill, nouns::declensionDrill.ExpectedAnswer); }, Qt::black},
-    {"PronounSingular", "PronounButton", "PronounChooser", "PronounList", "PronounOK", "PronounCancel", {}, "Pronoun",
+    {"PronounSingular", "PronounButton", "PronounChooser", "PronounOK", "PronounCancel", {}, "Pronoun",
         [] { return to_string(nouns::pronounDrill.CurrentCell); },
         [](QWidget& drill) { typeText(drill, nouns::pronounDrill.ExpectedAnswer); }, Qt::black},
-    {"Vcabtester", "VocabularyButton", "MainMenu", "", "VcabtesterOK", "VcabtesterCancel", {}, "",
+    {"Vcabtester", "VocabularyButton", "MainMenu", "VcabtesterOK", "VcabtesterCancel", {}, "",
         [] { return to_string(vocabulary::vocabularyList.CurrentWord); },
         [](QWidget& drill) { typeText(drill, vocabulary::expectedAnswer()); }},
-    {"Probatio", "QuizButton", "MainMenu", "", "QuizOK", "QuizCancel", {"QuizQuestion", "QuizSkip"}, "",
+    {"Probatio", "QuizButton", "MainMenu", "QuizOK", "QuizCancel", {"QuizQuestion", "QuizSkip"}, "",
         [] { return to_string(verbdrills::verbQuiz.QuizRow); }, chooseFirstForm},
-    {"NounQuiz", "FileNounQuiz", "MainMenu", "", "NQOK", "NQCancel", {}, "", nouns::drawnIndexes, tickRightCases},
+    {"NounQuiz", "FileNounQuiz", "MainMenu", "NQOK", "NQCancel", {}, "", nouns::drawnIndexes, tickRightCases},
 };
 // clang-format on
 
-class EveryDrill : public tests::WindowTest, public testing::WithParamInterface<Drill> {
+class DrillWindows : public tests::WindowTest {
 protected:
     void SetUp() override
     {
         tests::copySample("verbs.cfg");
         tests::copySample("nouns.cfg");
         tests::writeFile("vr-vcab.lst", "rosa,rose,f.\r\nre:x,king,m.\r\n");
-    }
-
-    QWidget& open()
-    {
         start();
         settings.QuizTenseInclude.fill(platform::FlagTrue);
-        QWidget& window =
-            WindowTest::open(drill().opener, *drill().list == '\0' ? drill().window : drill().back);
-        if (*drill().list != '\0')
-            tests::doubleClickRow(control<QListWidget>(window, drill().list), 0);
-        return shown(drill().window);
     }
 
-    static const Drill& drill() { return GetParam(); }
-    static bool isQuizOfNouns() { return drill().asked == nouns::drawnIndexes; }
-    static QLineEdit& askedBox(QWidget& window)
+    QWidget& open(const Drill& drill, int row = 0)
     {
-        return control<QLineEdit>(window, drill().box + QString::fromStdString(drill().asked()));
+        if (drill.back == std::string("MainMenu"))
+            return WindowTest::open(drill.opener, drill.window);
+        return openRow(drill.opener, drill.back, row, drill.window);
     }
+
+    static QLineEdit& askedBox(QWidget& window, const Drill& drill)
+    {
+        return tests::box(window, drill.box, std::stoi(drill.asked()));
+    }
+};
+
+struct Order {
+    int drill; // in the table above
+    int row;   // of its chooser
+    const char* cases;
+    const char* questions;
+    bool drawn;
+    std::vector<int> boxes;
+};
+
+// clang-format off
+const Order Orders[] = {
+    // Persons.
+    {0, 0, "NGDAAb", "Sequential", false, {0, 1, 2, 3, 4, 5}},
+    {0, 1, "NGDAAb", "Random",     true,  {0, 1, 2, 3, 4, 5}},
+    // Cases of both numbers.
+    {1, 0, "NGDAAb", "Sequential", false, {0, 1, 2, 3, 4, 5, 6, 7, 8, 9}},
+    {1, 3, "NAGDAb", "Sequential", false, {0, 3, 1, 2, 4, 5, 8, 6, 7, 9}},
+    {1, 1, "NGDAAb", "Random",     true,  {0, 1, 2, 3, 4, 5, 6, 7, 8, 9}},
+    // Cases of three persons or genders: the reflexive has no nominative, and the order of the menu draws nothing.
+    {2, 3, "NAGDAb", "Sequential", false, {1, 4, 2, 3, 5, 6, 9, 7, 8, 10, 11, 14, 12, 13, 15}},
+    {2, 0, "NAGDAb", "Sequential", false, {1, 4, 2, 3, 5, 6, 9, 7, 8, 10, 14, 12, 13, 15}},
+    {2, 1, "NGDAAb", "Random",     false, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15}},
+    {2, 0, "NGDAAb", "random",     true,  {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 12, 13, 14, 15}},
+};
+// clang-format on
+
+TEST_F(DrillWindows, AskEachBoxOnceInTheOrderThatIsSetAndThenOtherForms)
+{
+    for (const auto& [number, row, cases, questions, drawn, boxes] : Orders) {
+        const Drill& drill = Drills.at(static_cast<std::size_t>(number));
+        settings.CaseOrder = cases;
+        settings.QuestionOrder = questions;
+        QWidget& window = open(drill, row);
+        std::set<QString> rounds;
+        for (int round = 0; round < 4; ++round) {
+            std::vector<int> asked;
+            QString forms;
+            for (std::size_t i = 0; i < boxes.size(); ++i) {
+                asked.push_back(std::stoi(drill.asked()));
+                QLineEdit& box = askedBox(window, drill);
+                EXPECT_EQ(box.text(), "");
+                EXPECT_TRUE(box.isEnabled());
+                drill.answerRightly(window);
+                forms += box.text() + ' ';
+                press(window, Qt::Key_Return);
+            }
+            EXPECT_EQ(std::ranges::is_sorted(asked), !drawn && std::ranges::is_sorted(boxes));
+            if (drawn)
+                std::ranges::sort(asked);
+            EXPECT_EQ(asked, boxes) << drill.window << ' ' << cases << ' ' << questions;
+            rounds.insert(forms);
+        }
+        EXPECT_GT(rounds.size(), 1U) << drill.window;
+        EXPECT_EQ(settings.RightCount, 4 * static_cast<int>(boxes.size())) << drill.window;
+    }
+}
+
+class EveryDrill : public DrillWindows, public testing::WithParamInterface<Drill> {
+protected:
+    QWidget& open() { return DrillWindows::open(drill()); }
+
+    static const Drill& drill() { return GetParam(); }
+    static bool keepsScore() { return drill().asked != nouns::drawnIndexes; }
+    static QLineEdit& askedBox(QWidget& window) { return DrillWindows::askedBox(window, drill()); }
 
     static void answer(QWidget& window, bool right)
     {
@@ -146,11 +201,8 @@ protected:
 
 TEST_P(EveryDrill, IsLeftAtOnceInAPauseAndDoesNotMoveOn)
 {
-    using Leave = void (*)(QWidget&);
     for (const bool right : {true, false})
-        for (const Leave leave : {Leave([](QWidget& window) { click(window, drill().quit); }),
-                                  Leave([](QWidget& window) { press(window, Qt::Key_Escape); }),
-                                  Leave([](QWidget& window) { window.close(); })}) {
+        for (const auto& leave : tests::waysToLeave(drill().quit)) {
             QWidget& window = open();
             answer(window, right);
             const std::string asked = drill().asked();
@@ -166,48 +218,27 @@ TEST_P(EveryDrill, IsLeftAtOnceInAPauseAndDoesNotMoveOn)
         }
 }
 
-TEST_P(EveryDrill, JudgesOnceWhateverIsPressedInThePause)
+TEST_P(EveryDrill, JudgesOnceWhateverIsPressedInThePauseAndMovesOnAfterARightAnswer)
 {
     QWidget& window = open();
-    answer(window, true);
-    const std::string asked = drill().asked();
-    duringPause([&] {
-        EXPECT_EQ(shownWindow("Bravo") != nullptr, !isQuizOfNouns());
-        pressEverything(window);
-        EXPECT_EQ(drill().asked(), asked);
-    });
-    click(window, drill().check);
-    EXPECT_EQ(fake.waits, 1);
-    EXPECT_EQ(settings.AnsweredCount, isQuizOfNouns() ? 0 : 1);
-    EXPECT_NE(drill().asked(), asked);
-    expectNoFeedback();
-    for (const QLineEdit* const box : window.findChildren<QLineEdit*>())
-        EXPECT_NE(box->text(), "x");
-}
-
-class ScoringDrill : public EveryDrill {};
-
-TEST_P(ScoringDrill, AsksTheSameAgainAfterAWrongAnswer)
-{
-    QWidget& window = open();
-    for (int wrong = 1; wrong <= 2; ++wrong) {
+    int judged = 0;
+    for (const bool right : keepsScore() ? std::vector{false, false, true} : std::vector{true}) {
+        answer(window, right);
         const std::string asked = drill().asked();
-        answer(window, false);
         duringPause([&] {
-            EXPECT_NE(shownWindow("Wrong"), nullptr);
+            EXPECT_EQ(shownWindow(right ? "Bravo" : "Wrong") != nullptr, keepsScore());
             pressEverything(window);
+            EXPECT_EQ(drill().asked(), asked);
         });
         click(window, drill().check);
+        EXPECT_EQ(fake.waits, ++judged);
+        EXPECT_EQ(settings.AnsweredCount, keepsScore() ? judged : 0);
+        EXPECT_EQ(settings.RightCount, keepsScore() && right);
+        EXPECT_EQ(drill().asked() != asked, right);
         expectNoFeedback();
-        EXPECT_EQ(settings.AnsweredCount, wrong);
-        EXPECT_EQ(drill().asked(), asked);
+        for (const QLineEdit* const box : window.findChildren<QLineEdit*>())
+            EXPECT_NE(box->text(), "x");
     }
-    answer(window, true);
-    const std::string asked = drill().asked();
-    click(window, drill().check);
-    EXPECT_EQ(settings.AnsweredCount, 3);
-    EXPECT_EQ(settings.RightCount, 1);
-    EXPECT_NE(drill().asked(), asked);
 }
 
 class TypedDrill : public EveryDrill {};
@@ -236,13 +267,7 @@ TEST_P(BoxDrill, GreysTheBoxAnsweredRightAndAsksTheNext)
     EXPECT_EQ(first.palette().color(QPalette::Base), QColor(0x80, 0x80, 0x80));
     EXPECT_EQ(first.palette().color(QPalette::Text), QColor(0xC0, 0xC0, 0xC0));
     EXPECT_EQ(tests::label(window, "ScoreLabel"), " 100% ");
-    EXPECT_NE(&askedBox(window), &first);
     EXPECT_EQ(window.focusWidget(), &askedBox(window));
-    answer(window, false);
-    press(window, Qt::Key_Return);
-    EXPECT_EQ(askedBox(window).text(), "");
-    EXPECT_EQ(window.focusWidget(), &askedBox(window));
-    EXPECT_EQ(tests::label(window, "ScoreLabel"), " 50% ");
 }
 
 TEST_P(BoxDrill, ShowsTheAnswerInRedForOnePauseWithoutCounting)
@@ -251,8 +276,11 @@ TEST_P(BoxDrill, ShowsTheAnswerInRedForOnePauseWithoutCounting)
     QLineEdit& box = askedBox(window);
     answer(window, true);
     const QString right = box.text();
-    box.clear();
-    const auto expectShownOnce = [&](const std::function<void()>& ask) {
+    std::vector<std::function<void()>> asking = {[&] { type(window, "/"); }, [&] { type(window, "?"); }};
+    for (const char* const button : drill().others)
+        asking.push_back([&, button] { click(window, button); });
+    for (const auto& ask : asking) {
+        box.setText("b");
         fake.waits = 0;
         duringPause([&] {
             EXPECT_EQ(box.text(), right);
@@ -260,17 +288,12 @@ TEST_P(BoxDrill, ShowsTheAnswerInRedForOnePauseWithoutCounting)
             pressEverything(window);
             EXPECT_EQ(box.text(), right);
         });
-        type(window, "b");
         ask();
         EXPECT_EQ(fake.waits, 1);
         EXPECT_EQ(box.text(), "");
         EXPECT_EQ(box.palette().color(QPalette::Text), drill().colour);
         EXPECT_EQ(window.focusWidget(), &box);
-    };
-    expectShownOnce([&] { type(window, "/"); });
-    expectShownOnce([&] { type(window, "?"); });
-    for (const char* const button : drill().others)
-        expectShownOnce([&] { click(window, button); });
+    }
     EXPECT_EQ(settings.AnsweredCount, 0);
     EXPECT_EQ(&askedBox(window), &box);
 }
@@ -280,8 +303,7 @@ TEST_P(BoxDrill, ForgetsTheAnswerShownWhenItIsLeftAndOpenedAnew)
     QWidget& window = open();
     duringPause([&] {
         click(window, drill().quit);
-        tests::doubleClickRow(control<QListWidget>(shown(drill().back), drill().list), 0);
-        EXPECT_EQ(askedBox(window).text(), "");
+        EXPECT_EQ(askedBox(open()).text(), "");
         type(window, "a");
     });
     type(window, "?");
@@ -291,21 +313,14 @@ TEST_P(BoxDrill, ForgetsTheAnswerShownWhenItIsLeftAndOpenedAnew)
 TEST_P(BoxDrill, SendsTheFocusBackToTheBoxAsked)
 {
     QWidget& window = open();
-    QTest::mouseClick(&control<QLineEdit>(window, QLatin1String(drill().box) + "4"), Qt::LeftButton);
+    QTest::mouseClick(&tests::box(window, drill().box, 4), Qt::LeftButton);
     QApplication::processEvents();
-    EXPECT_EQ(window.focusWidget(), &askedBox(window));
     type(window, "a");
     EXPECT_EQ(askedBox(window).text(), "a");
 }
 
-std::string nameOf(const testing::TestParamInfo<Drill>& info)
-{
-    return info.param.window;
-}
-
-INSTANTIATE_TEST_SUITE_P(Of, EveryDrill, testing::ValuesIn(Drills), nameOf);
-INSTANTIATE_TEST_SUITE_P(Of, ScoringDrill, testing::ValuesIn(Drills.begin(), Drills.begin() + 5), nameOf);
-INSTANTIATE_TEST_SUITE_P(Of, TypedDrill, testing::ValuesIn(Drills.begin(), Drills.begin() + 4), nameOf);
-INSTANTIATE_TEST_SUITE_P(Of, BoxDrill, testing::ValuesIn(Drills.begin(), Drills.begin() + 3), nameOf);
+INSTANTIATE_TEST_SUITE_P(Of, EveryDrill, testing::ValuesIn(Drills));
+INSTANTIATE_TEST_SUITE_P(Of, TypedDrill, testing::ValuesIn(Drills.begin(), Drills.begin() + 4));
+INSTANTIATE_TEST_SUITE_P(Of, BoxDrill, testing::ValuesIn(Drills.begin(), Drills.begin() + 3));
 
 } // namespace

@@ -1,128 +1,37 @@
-#include "nouns/windows/declination.h"
-#include "nouns/windows/declination_choose.h"
-#include "nouns/windows/noun_handler.h"
-#include "nouns/windows/noun_quiz.h"
-#include "nouns/windows/pronoun_chooser.h"
-#include "nouns/windows/pronoun_singular.h"
 #include "shell/settings.h"
-#include "shell/windows/about.h"
-#include "shell/windows/delay_interval.h"
-#include "shell/windows/frm_options.h"
-#include "shell/windows/help.h"
-#include "shell/windows/main_menu.h"
 #include "tests/support/window_test.h"
-#include "verbdrills/windows/conjugation.h"
-#include "verbdrills/windows/conjugation_choose.h"
-#include "verbdrills/windows/probatio.h"
-#include "verbdrills/windows/quiz_include.h"
-#include "verbdrills/windows/tense_mood_chooser.h"
-#include "verbs/windows/verb_manager.h"
-#include "vocabulary/windows/file_handler.h"
-#include "vocabulary/windows/vcab_loader.h"
-#include "vocabulary/windows/vcab_manager.h"
-#include "vocabulary/windows/vcab_warning.h"
-#include "vocabulary/windows/vcabtester.h"
 
-#include <QAbstractButton>
-#include <QAction>
 #include <QKeySequence>
-#include <QLabel>
 #include <QMap>
+#include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
 
-#include <array>
-#include <functional>
-#include <memory>
-
 namespace {
 
-using MakeWindow = std::function<std::unique_ptr<QWidget>()>;
-
-template <typename Window>
-std::unique_ptr<QWidget> make()
-{
-    auto window = std::make_unique<Window>();
-    if constexpr (requires { window->open(); })
-        window->open();
-    else if constexpr (requires { window->open("Save"); })
-        window->open("Save");
-    else if constexpr (requires { window->showGuide(); })
-        window->showGuide();
-    else if constexpr (requires { window->showSettings(); })
-        window->showSettings();
-    return window;
-}
+struct Window {
+    const char* name;
+    QStringList way; // from the main window: a button, an item, or a list and its row
+};
 
 // clang-format off
-const std::vector<MakeWindow> AllWindows = {
-    make<shell::MainMenu>, make<shell::About>, make<shell::Help>, make<shell::DelayInterval>, make<verbs::VerbManager>,
-    make<verbdrills::ConjugationChoose>, make<verbdrills::Conjugation>, make<verbdrills::TenseMoodChooser>, make<verbdrills::Probatio>, make<verbdrills::QuizInclude>,
-    make<nouns::DeclinationChoose>, make<nouns::PronounChooser>, make<nouns::Declination>, make<nouns::PronounSingular>, make<nouns::NounQuiz>, make<nouns::NounHandler>,
-    make<vocabulary::Vcabtester>, make<vocabulary::VcabManager>, make<vocabulary::VcabLoader>, make<vocabulary::FileHandler>, make<vocabulary::VcabWarning>, make<shell::FrmOptions>};
-// clang-format on
+const std::vector<Window> Windows = {
+    {"MainMenu", {}},
+    {"About", {"MainABout"}}, {"Help", {"HELPME"}}, {"DelayInterval", {"SetDelay"}}, {"frmOptions", {"OptionsOptions"}},
+    {"VerbManager", {"FileVerbManager"}},
+    {"ConjugationChoose", {"FileConj"}}, {"Conjugation", {"FileConj", "ConjugationList 0"}},
+    {"TenseMoodChooser", {"FileConj", "ConjugationList 8"}},
+    {"Probatio", {"QuizButton"}}, {"QuizInclude", {"QuizButton", "QuizOptions"}},
+    {"DeclinationChoose", {"FileDecl"}}, {"Declination", {"FileDecl", "DeclinationList 0"}},
+    {"PronounChooser", {"FilePron"}}, {"PronounSingular", {"FilePron", "PronounList 0"}},
+    {"NounQuiz", {"FileNounQuiz"}}, {"NounHandler", {"FileNounManager"}},
+    {"Vcabtester", {"MainVocabulary"}}, {"VcabLoader", {"MainVocabulary", "VcabTesterFileOpen"}},
+    {"VcabManager", {"FileVcabManager"}},
+    {"FileHandler", {"FileVcabManager", "VcabManLoad"}}, {"FileHandler", {"FileVcabManager", "VcabManSave"}},
+    {"VcabWarning", {"MainVocabulary", "VcabTesterEdit", "VcabManMainForm 0", "VcabManDelete", "VcabManExit"}},
+};
 
-bool takesTabs(const QWidget& widget)
-{
-    return widget.isVisible() && (widget.focusPolicy() & Qt::TabFocus) != 0 &&
-           !qobject_cast<const QMenuBar*>(&widget);
-}
-
-QRect placeOf(const QWidget& widget)
-{
-    return {widget.mapTo(widget.window(), QPoint(0, 0)), widget.size()};
-}
-
-// The eye goes on to the right, or down: never back up to the left.
-bool followsTheEye(const QRect& from, const QRect& to)
-{
-    return to.left() >= from.center().x() || to.center().y() > from.center().y();
-}
-
-bool hasName(const QWidget& widget)
-{
-    if (const auto* const button = qobject_cast<const QAbstractButton*>(&widget);
-        button && !button->text().isEmpty())
-        return true;
-    if (!widget.accessibleName().isEmpty())
-        return true;
-    for (const QLabel* const label : widget.window()->findChildren<QLabel*>())
-        if (label->buddy() == &widget)
-            return true;
-    return false;
-}
-
-constexpr std::array Languages = {"English", "French", "German", "Spanish", "Latin"};
-
-// The texts that one press of Alt may mean: what a window shows at once, or one of its menus.
-QStringList textsOnAltKeys(const QWidget& window)
-{
-    QStringList texts;
-    for (const QWidget* const widget : window.findChildren<QWidget*>()) {
-        if (const auto* const button = qobject_cast<const QAbstractButton*>(widget))
-            texts << button->text();
-        if (const auto* const label = qobject_cast<const QLabel*>(widget); label && label->buddy())
-            texts << label->text();
-        if (const auto* const menuBar = qobject_cast<const QMenuBar*>(widget))
-            for (const QAction* const menu : menuBar->actions())
-                texts << menu->text();
-    }
-    return texts;
-}
-
-// Lines such as "MainMenu, English: &Verbs, &Vocabulary".
-void appendClashes(QStringList& clashes, const QString& place, const QStringList& texts)
-{
-    QMap<QString, QStringList> onKey;
-    for (const QString& text : texts)
-        if (const QString key = QKeySequence::mnemonic(text).toString(); !key.isEmpty())
-            onKey[key] << text;
-    for (const QStringList& rivals : onKey)
-        if (rivals.size() > 1)
-            clashes << place + QStringLiteral(", ") +
-                           QString::fromStdString(shell::settings.CurrentLanguage) + QStringLiteral(": ") +
-                           rivals.join(QStringLiteral(", "));
-}
+constexpr std::array LanguageItems = {"EnglishLang", "FrenchLang", "GermanLang", "SpanishLang", "LatinLang"};
 
 // The interface's texts stay as they are, and so do these: no others may come to them.
 constexpr auto GivenClashes = R"(MainMenu, English: &Vocabulary, &Verbs
@@ -143,71 +52,64 @@ Conjugation, Spanish: &Si, &Salir
 Probatio, Spanish: &Segunda persona, &Si
 Probatio, Latin: Persona &prima, &Pluralis, O&ptiones
 Probatio, Latin: Persona &tertia, &Transgredire!)";
+// clang-format on
 
-using EveryWindow = tests::WindowTest;
-
-TEST_F(EveryWindow, IsTabbedThroughAsTheEyeGoes)
+bool takesTabs(const QWidget& widget)
 {
-    for (const MakeWindow& makeWindow : AllWindows) {
-        const auto window = makeWindow();
-        window->show();
-        QApplication::processEvents();
-        QWidgetList order;
-        QWidget* next = window.get();
-        do {
-            next = next->nextInFocusChain();
-            if (takesTabs(*next))
-                order << next;
-        } while (next != window.get());
-        for (qsizetype i = 1; i < order.size(); ++i)
-            EXPECT_TRUE(followsTheEye(placeOf(*order.at(i - 1)), placeOf(*order.at(i))))
-                << window->objectName().toStdString() << ": " << order.at(i - 1)->objectName().toStdString()
-                << " to " << order.at(i)->objectName().toStdString();
-    }
+    return widget.isVisible() && (widget.focusPolicy() & Qt::TabFocus) != 0 &&
+           !qobject_cast<const QMenuBar*>(&widget);
 }
 
-TEST_F(EveryWindow, NamesEachControlForProgramsAndForTheEar)
+// The eye goes on to the right, or down: never back up to the left.
+bool followsTheEye(const QWidget& from, const QWidget& to)
 {
-    for (const MakeWindow& makeWindow : AllWindows) {
-        const auto window = makeWindow();
-        window->show();
-        for (const QWidget* const widget : window->findChildren<QWidget*>()) {
-            if (!takesTabs(*widget))
-                continue;
-            EXPECT_FALSE(widget->objectName().isEmpty()) << window->objectName().toStdString();
-            EXPECT_TRUE(hasName(*widget))
-                << window->objectName().toStdString() << ": " << widget->objectName().toStdString();
-        }
-    }
+    const QRect place(from.mapTo(from.window(), QPoint(0, 0)), from.size());
+    const QRect next(to.mapTo(to.window(), QPoint(0, 0)), to.size());
+    return next.left() >= place.center().x() || next.center().y() > place.center().y();
 }
 
-TEST_F(EveryWindow, LetsEnterPressTheButtonThatHasTheFocus)
+bool hasName(const QWidget& widget)
 {
-    for (const MakeWindow& makeWindow : AllWindows) {
-        const auto window = makeWindow();
-        for (const QPushButton* const button : window->findChildren<QPushButton*>())
-            EXPECT_TRUE(button->autoDefault() || button->isDefault())
-                << window->objectName().toStdString() << ": " << button->objectName().toStdString();
-    }
+    const auto* const button = qobject_cast<const QAbstractButton*>(&widget);
+    const auto labels = widget.window()->findChildren<QLabel*>();
+    return (button != nullptr && !button->text().isEmpty()) || !widget.accessibleName().isEmpty() ||
+           std::ranges::any_of(labels, [&](const QLabel* label) { return label->buddy() == &widget; });
 }
 
-TEST_F(EveryWindow, HasNoTwoTextsOnOneAltKey)
+QStringList textsOf(const QWidget& menuOrBar)
 {
-    QStringList clashes;
-    for (const char* const language : Languages) {
-        shell::settings.CurrentLanguage = language;
-        for (const MakeWindow& makeWindow : AllWindows) {
-            const auto window = makeWindow();
-            appendClashes(clashes, window->objectName(), textsOnAltKeys(*window));
-            for (const QMenu* const menu : window->findChildren<QMenu*>()) {
-                QStringList items;
-                for (const QAction* const item : menu->actions())
-                    items << item->text();
-                appendClashes(clashes, menu->objectName(), items);
-            }
-        }
+    QStringList texts;
+    for (const QAction* const item : menuOrBar.actions())
+        texts << item->text();
+    return texts;
+}
+
+// The texts that one press of Alt may mean: what a window shows at once.
+QStringList textsOnAltKeys(const QWidget& window)
+{
+    QStringList texts;
+    for (const QWidget* const widget : window.findChildren<QWidget*>()) {
+        if (const auto* const button = qobject_cast<const QAbstractButton*>(widget))
+            texts << button->text();
+        if (const auto* const label = qobject_cast<const QLabel*>(widget); label && label->buddy())
+            texts << label->text();
+        if (const auto* const menuBar = qobject_cast<const QMenuBar*>(widget))
+            texts << textsOf(*menuBar);
     }
-    EXPECT_EQ(clashes.join(u'\n').toStdString(), GivenClashes);
+    return texts;
+}
+
+// Adds lines such as "MainMenu, English: &Verbs, &Vocabulary".
+void appendClashes(QStringList& clashes, const QString& place, const QStringList& texts)
+{
+    QMap<QString, QStringList> onKey;
+    for (const QString& text : texts)
+        if (const QString key = QKeySequence::mnemonic(text).toString(); !key.isEmpty())
+            onKey[key] << text;
+    for (const QStringList& rivals : onKey)
+        if (rivals.size() > 1)
+            clashes << place + ", " + QString::fromStdString(shell::settings.CurrentLanguage) + ": " +
+                           rivals.join(", ");
 }
 
 // Labels that break their lines, and controls without a text of their own, take the room that there is.
@@ -217,27 +119,86 @@ bool bearsOneLine(const QWidget& widget)
     return label != nullptr ? !label->wordWrap() : qobject_cast<const QAbstractButton*>(&widget) != nullptr;
 }
 
+class EveryWindow : public tests::WindowTest {
+protected:
+    static void goOn(const QString& step)
+    {
+        const QStringList listAndRow = step.split(' ');
+        for (QWidget* const window : QApplication::topLevelWidgets())
+            if (QWidget* const control = window->findChild<QWidget*>(listAndRow.front());
+                control != nullptr && control->isVisible()) {
+                if (auto* const list = qobject_cast<QListWidget*>(control))
+                    return tests::doubleClickRow(*list, listAndRow.back().toInt());
+                return tests::click(*window, step);
+            } else if (window->isVisible() && window->findChild<QAction*>(step) != nullptr)
+                return tests::choose(*window, step);
+        ADD_FAILURE() << "no " << step.toStdString();
+    }
+
+    // Opens each window in each language, and tells of a fault where it was found.
+    void inEveryLanguage(const std::function<void(QWidget&)>& look)
+    {
+        for (const char* const sample : {"verbs.cfg", "nouns.cfg", "morvanti.hlp", "vr-vcab.lst"})
+            tests::copySample(sample);
+        for (const char* const language : LanguageItems)
+            for (const auto& [name, way] : Windows) {
+                SCOPED_TRACE(std::string(language) + ' ' + name);
+                tests::choose(start(), language);
+                for (const QString& step : way)
+                    goOn(step);
+                QWidget& window = tests::shown(name);
+                window.showNormal();
+                window.resize(window.sizeHint());
+                QApplication::processEvents();
+                look(window);
+            }
+    }
+};
+
+TEST_F(EveryWindow, IsTabbedThroughAsTheEyeGoesAndNamesAllForProgramsAndForTheEar)
+{
+    inEveryLanguage([](QWidget& window) {
+        const QWidget* before = nullptr;
+        QWidget* next = &window;
+        do {
+            next = next->nextInFocusChain();
+            if (!takesTabs(*next))
+                continue;
+            const std::string name = next->objectName().toStdString();
+            EXPECT_FALSE(name.empty());
+            EXPECT_TRUE(hasName(*next)) << name;
+            EXPECT_TRUE(before == nullptr || followsTheEye(*before, *next)) << name;
+            before = next;
+        } while (next != &window);
+        for (const QPushButton* const button : window.findChildren<QPushButton*>())
+            EXPECT_TRUE(button->autoDefault() || button->isDefault()) << button->objectName().toStdString();
+    });
+}
+
+TEST_F(EveryWindow, HasNoTwoTextsOnOneAltKey)
+{
+    QStringList clashes;
+    inEveryLanguage([&](const QWidget& window) {
+        appendClashes(clashes, window.objectName(), textsOnAltKeys(window));
+        for (const QMenu* const menu : window.findChildren<QMenu*>())
+            appendClashes(clashes, menu->objectName(), textsOf(*menu));
+    });
+    EXPECT_EQ(clashes.join('\n').toStdString(), GivenClashes);
+}
+
 TEST_F(EveryWindow, CutsNothingOffInATypeTwiceAsLarge)
 {
     const QFont before = QApplication::font();
     QFont large = before;
     large.setPointSizeF(2 * before.pointSizeF());
     QApplication::setFont(large);
-    for (const char* const language : Languages) {
-        shell::settings.CurrentLanguage = language;
-        for (const MakeWindow& makeWindow : AllWindows) {
-            const auto window = makeWindow();
-            window->showNormal();
-            QApplication::processEvents();
-            for (const QWidget* const widget : window->findChildren<QWidget*>()) {
-                if (!widget->isVisible() || !bearsOneLine(*widget))
-                    continue;
+    inEveryLanguage([](const QWidget& window) {
+        for (const QWidget* const widget : window.findChildren<QWidget*>())
+            if (widget->isVisible() && bearsOneLine(*widget)) {
                 EXPECT_EQ(widget->size().expandedTo(widget->sizeHint()), widget->size())
-                    << language << ' ' << window->objectName().toStdString() << ": "
                     << widget->objectName().toStdString();
             }
-        }
-    }
+    });
     QApplication::setFont(before);
 }
 
