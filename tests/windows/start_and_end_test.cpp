@@ -49,7 +49,7 @@ TEST_F(StartAndEnd, FindsTheSettingsThatItKeptAndSoundsOnTheWayOut)
          {"GermanLang", "RandomOrder", "NADGABOrder", "VowelLengthVal", "SoundStatus"})
         EXPECT_TRUE(isChecked(menu, item)) << item;
     EXPECT_EQ(shell::settings.VowelMark, ":");
-    EXPECT_EQ(fake.sounds, (std::vector<std::string>{"open VELMOR2.WAV", "sound VELMOR2.WAV"}));
+    EXPECT_EQ(fake.sounds, (std::vector<std::string>{"sound VELMOR2.WAV"}));
     std::filesystem::remove("morvanti.ini");
     choose(menu, "EnglishLang");
     choose(menu, "GermanLang");
