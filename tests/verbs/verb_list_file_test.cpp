@@ -3,8 +3,7 @@
 #include "verbs/verb_edits.h"
 #include "verbs/verb_list_file.h"
 
-#include <algorithm>
-#include <vector>
+#include <numeric>
 
 namespace {
 
@@ -12,110 +11,92 @@ using shell::settings;
 using verbs::verbList;
 
 using VerbListFile = tests::FreshState;
-using Fields = std::vector<std::string>;
 using Counts = std::array<int, 5>;
 
 // The classes in the order of the file's sections: the -io verbs before the fourth conjugation.
 constexpr Counts ClassOfSection = {1, 2, 3, 5, 4};
 
 // A list with so many verbs in each section. The fields of a verb name its class and number.
-Fields listOf(const Counts& counts)
+std::string listOf(const Counts& counts, const std::string& separator = "\n")
 {
-    Fields fields;
+    std::string text = "heading";
     for (std::size_t section = 0; section < counts.size(); ++section) {
-        fields.insert(fields.end(), section == 0 ? 1 : 2, "heading");
-        fields.push_back(std::to_string(counts.at(section)));
+        text += (section == 0 ? "" : "heading" + separator + "heading") + separator;
+        text += std::to_string(counts.at(section)) + separator;
         for (int number = 1; number <= counts.at(section); ++number)
             for (const char* const field : {"pre:s", "su:p", "pe:rf", "be", "was", "been", "being"})
-                fields.push_back(std::to_string(ClassOfSection.at(section)) + std::to_string(number) + field);
+                text +=
+                    std::to_string(ClassOfSection.at(section)) + std::to_string(number) + field + separator;
     }
-    return fields;
+    return text;
 }
 
-// Writes and reads the first fields of a list.
-bool read(const Fields& fields, std::size_t count, const std::string& separator = "\n")
+bool read(const std::string& text)
 {
-    std::string text = "\xEF\xBB\xBF";
-    for (std::size_t i = 0; i < count; ++i)
-        text += fields.at(i) + separator;
-    tests::writeFile("verbs.cfg", text + (count == fields.size() ? "never read" : ""));
+    tests::writeFile("verbs.cfg", text);
     return verbs::readVerbList("verbs.cfg");
 }
 
-bool read(const Fields& fields)
-{
-    return read(fields, fields.size());
-}
-
-Counts countsByClass()
+// Every verb that is counted stands in the list whole. Returns the counts by class.
+Counts expectEveryVerb()
 {
     Counts counts{};
-    std::copy(verbList.Count.begin() + 1, verbList.Count.end(), counts.begin());
-    return counts;
-}
-
-// Every verb that is counted stands in the list whole. Returns how many there are.
-int expectEveryVerb()
-{
-    int counted = 0;
-    for (int verbClass = 1; verbClass <= verbs::LastRegularClass; ++verbClass)
-        for (int number = 1; number <= verbList.Count[verbClass]; ++number, ++counted) {
+    for (int verbClass = 1; verbClass <= verbs::LastRegularClass; ++verbClass) {
+        counts.at(static_cast<std::size_t>(verbClass - 1)) = verbList.Count[verbClass];
+        for (int number = 1; number <= verbList.Count[verbClass]; ++number) {
             const std::string n = std::to_string(verbClass) + std::to_string(number);
             const verbs::VerbRecord expected = {
                 n + "pres", n + "perf", n + "sup", {n + "be", n + "was", n + "been", n + "being"}};
             EXPECT_EQ(verbs::verbAt(verbClass, number), expected) << n;
         }
-    return counted;
+    }
+    return counts;
 }
 
 TEST_F(VerbListFile, IsReadSectionBySectionWhateverEndsTheFields)
 {
-    const Fields list = listOf({2, 1, 3, 2, 15});
     for (const char* const separator : {"\n", "\r\n", "\r", ",", " , ", "\t\n  "}) {
         verbList = {};
-        EXPECT_TRUE(read(list, list.size(), separator));
-        EXPECT_EQ(countsByClass(), (Counts{2, 1, 3, 15, 2}));
-        expectEveryVerb();
+        EXPECT_TRUE(read("\xEF\xBB\xBF" + listOf({2, 1, 3, 2, 15}, separator) + "never read"));
+        EXPECT_EQ(expectEveryVerb(), (Counts{2, 1, 3, 15, 2}));
     }
 }
 
 TEST_F(VerbListFile, KeepsWhatWasReadBeforeAFaultAndWhatItHadBefore)
 {
-    const Fields list = listOf({2, 1, 2, 2, 2});
-    int whole = 0;
-    for (std::size_t count = 0; count < list.size(); ++count) {
-        // A verb is whole once its last field is there.
-        if (count > 0 && list[count - 1].ends_with("being"))
-            ++whole;
+    const Counts all = {2, 1, 2, 2, 2};
+    const std::string list = listOf(all);
+    long whole = 0;
+    for (std::size_t end = 0; end + 1 < list.size(); end = list.find('\n', end + 1)) {
+        const std::string text = list.substr(0, end);
+        whole += text.ends_with("being") ? 1 : 0;
         verbList = {};
-        EXPECT_FALSE(read(list, count)) << count;
-        EXPECT_EQ(expectEveryVerb(), whole) << count;
+        EXPECT_FALSE(read(text)) << text;
+        const Counts counts = expectEveryVerb();
+        EXPECT_EQ(std::accumulate(counts.begin(), counts.end(), 0), whole) << text;
         read(list);
-        EXPECT_FALSE(read(list, count) || verbs::readVerbListAgain("verbs.cfg")) << count;
-        EXPECT_EQ(countsByClass(), (Counts{2, 1, 2, 2, 2})) << count;
-        expectEveryVerb();
+        EXPECT_FALSE(read(text) || verbs::readVerbListAgain("verbs.cfg")) << text;
+        EXPECT_EQ(expectEveryVerb(), all) << text;
     }
     EXPECT_FALSE(verbs::readVerbList("none.cfg"));
 }
 
 TEST_F(VerbListFile, StopsAtACountThatCannotBe)
 {
-    Fields list = listOf({16, 0, 0, 0, 0});
     for (const auto& [count, counted] : {std::pair{"16", 15}, {"32767", 15}, {"-1", 0}, {"x", 0}}) {
         verbList = {};
-        list.at(1) = count;
-        EXPECT_FALSE(read(list)) << count;
-        EXPECT_EQ(expectEveryVerb(), counted) << count;
+        EXPECT_FALSE(read(listOf({16, 0, 0, 0, 0}).replace(8, 2, count))) << count;
+        EXPECT_EQ(expectEveryVerb(), (Counts{counted, 0, 0, 0, 0})) << count;
     }
 }
 
 TEST_F(VerbListFile, SwapsTwoCountsWhenReadAgain)
 {
     EXPECT_TRUE(read(listOf({1, 1, 1, 2, 3})));
-    EXPECT_EQ(countsByClass(), (Counts{1, 1, 1, 3, 2}));
+    EXPECT_EQ(expectEveryVerb(), (Counts{1, 1, 1, 3, 2}));
     EXPECT_TRUE(verbs::readVerbListAgain("verbs.cfg"));
-    EXPECT_EQ(countsByClass(), (Counts{1, 1, 1, 2, 3}));
-    EXPECT_EQ(verbs::verbAt(verbs::FourthConjugation, 3).presentStem, "43pres");
+    EXPECT_EQ(verbList.Count[verbs::FourthConjugation], 2);
+    EXPECT_EQ(verbList.Count[verbs::ThirdIoConjugation], 3);
     EXPECT_EQ(verbs::verbAt(verbs::ThirdIoConjugation, 3).presentStem, "");
 }
 
@@ -132,16 +113,17 @@ TEST_F(VerbListFile, IsFollowedByTheEditsOfTheLearner)
     EXPECT_EQ(verbs::listedInfinitive(2, 15), "du:cere");
 
     EXPECT_TRUE(verbs::readVerbListAgain("verbs.cfg"));
-    EXPECT_EQ(countsByClass(), (Counts{2, 14, 0, 0, 0}));
+    EXPECT_EQ(verbList.Count[2], 14);
     verbs::repeatVerbEdits();
-    EXPECT_EQ(countsByClass(), (Counts{2, 15, 0, 0, 0}));
+    EXPECT_EQ(verbList.Count[1], 2);
+    EXPECT_EQ(verbList.Count[2], 15);
     EXPECT_EQ(verbs::verbAt(1, 2), leads);
     EXPECT_EQ(verbs::verbAt(2, 15), leads);
 }
 
 TEST_F(VerbListFile, GivesItsMarksBackOnlyToStemsEditedWithoutThem)
 {
-    read({"h", "1", "a:m", "ama:t", "ama:v", "", "", "", ""});
+    read("h,1,a:m,ama:t,ama:v,,,,");
     for (const auto& [shown, perfect] :
          {std::pair{platform::FlagFalse, "ama:v"}, {platform::FlagTrue, "amav"}}) {
         settings.ShowVowelLength = shown;
