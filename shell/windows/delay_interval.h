@@ -32,11 +32,11 @@ private:
     void leave();
     void tryLength();
 
-    QScrollBar* scroll_;
-    QLabel* length_;
-    QPushButton* ok_;
-    QPushButton* cancel_;
-    QPushButton* test_;
+    QScrollBar* scroll_ = nullptr;
+    QLabel* length_ = nullptr;
+    QPushButton* test_ = nullptr;
+    QPushButton* ok_ = nullptr;
+    QPushButton* cancel_ = nullptr;
 
     /// Counts how often the window was left: a trial that began before goes no further.
     int visit_ = 0;

@@ -2,8 +2,7 @@
 
 #include "shell/kit/captions.h"
 #include "shell/kit/controls.h"
-#include "shell/kit/enter_key.h"
-#include "shell/kit/type.h"
+#include "shell/kit/layout.h"
 #include "verbdrills/quiz_texts.h"
 
 #include <QBoxLayout>
@@ -11,6 +10,7 @@
 #include <QFrame>
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 
@@ -19,6 +19,7 @@ namespace verbdrills {
 using shell::Caption;
 using shell::englishToo;
 using shell::makeButton;
+using shell::makeControl;
 
 namespace {
 
@@ -71,18 +72,12 @@ constexpr std::array Captions = {
 };
 // clang-format on
 
-QCheckBox* makeBox(QWidget* parent, const char* name, std::size_t index)
-{
-    auto* const box = new QCheckBox(parent);
-    box->setObjectName(QLatin1String(name) + QString::number(index));
-    return box;
-}
-
 } // namespace
 
 QuizInclude::QuizInclude()
-    : FramedWindow("QuizInclude", "quizinclude", "CIBigFrame"), classFrame_(new QGroupBox(frame())),
-      tenseFrame_(new QGroupBox(frame())), note_(shell::makeLabel(frame(), "InclNote"))
+    : FramedWindow("QuizInclude", "quizinclude", "CIBigFrame"),
+      classFrame_(makeControl<QGroupBox>(frame(), "ConjFrame")),
+      tenseFrame_(makeControl<QGroupBox>(frame(), "TenseFrame")), note_(shell::makeLabel(frame(), "InclNote"))
 {
     makeControls();
     layOut();
@@ -93,50 +88,32 @@ QuizInclude::QuizInclude()
 
 void QuizInclude::makeControls()
 {
-    classFrame_->setObjectName(QStringLiteral("ConjFrame"));
-    tenseFrame_->setObjectName(QStringLiteral("TenseFrame"));
     for (std::size_t i = 0; i < classes_.size(); ++i)
-        classes_.at(i) = makeBox(classFrame_, "InclConj", i);
+        classes_.at(i) = makeControl<QCheckBox>(classFrame_, QStringLiteral("InclConj%1").arg(i));
     for (std::size_t i = 0; i < tenses_.size(); ++i)
-        tenses_.at(i) = makeBox(tenseFrame_, "InclTense", i);
-    ok_ = makeButton(frame(), "InclQuiz");
+        tenses_.at(i) = makeControl<QCheckBox>(tenseFrame_, QStringLiteral("InclTense%1").arg(i));
     all_ = makeButton(frame(), "InclInclude");
     none_ = makeButton(frame(), "InclClear");
+    ok_ = makeButton(frame(), "InclQuiz");
     cancel_ = makeButton(frame(), "InclCancel");
 }
 
 void QuizInclude::layOut()
 {
-    auto* const classes = new QGridLayout(classFrame_);
-    classes->setHorizontalSpacing(shell::LargeSpace);
-    classes->setVerticalSpacing(shell::HairSpace);
+    QGridLayout* const classes = shell::gridOf(shell::LargeSpace, shell::HairSpace);
     for (int i = 0; i < static_cast<int>(classes_.size()); ++i)
         classes->addWidget(classes_.at(static_cast<std::size_t>(i)), i / ClassColumns, i % ClassColumns);
-    auto* const tenses = new QGridLayout(tenseFrame_);
-    tenses->setHorizontalSpacing(shell::WideSpace);
-    tenses->setVerticalSpacing(shell::HairSpace);
+    classFrame_->setLayout(classes);
+    QGridLayout* const tenses = shell::gridOf(shell::WideSpace, shell::HairSpace);
     for (int i = 0; i < static_cast<int>(tenses_.size()); ++i)
         tenses->addWidget(tenses_.at(static_cast<std::size_t>(i)), i % TenseRows, i / TenseRows);
 
-    auto* const buttons = new QHBoxLayout;
-    buttons->setSpacing(shell::SmallSpace);
-    buttons->addWidget(all_);
-    buttons->addWidget(none_);
-    buttons->addStretch();
-    buttons->addWidget(ok_);
-    buttons->addWidget(cancel_);
-    setTabOrder(tenses_.back(), all_);
-    setTabOrder(all_, none_);
-    setTabOrder(none_, ok_);
-    setTabOrder(ok_, cancel_);
-
-    auto* const rows = new QVBoxLayout(frame());
-    rows->setContentsMargins(shell::LargeSpace, shell::LargeSpace, shell::LargeSpace, shell::LargeSpace);
-    rows->setSpacing(shell::MediumSpace);
-    rows->addWidget(note_);
-    rows->addWidget(classFrame_);
-    rows->addWidget(tenseFrame_, 1);
-    rows->addLayout(buttons);
+    tenseFrame_->setLayout(tenses);
+    shell::setContent(
+        frame(), shell::FormMargins,
+        shell::columnOf(
+            shell::MediumSpace,
+            {note_, classFrame_, {tenseFrame_, 1}, shell::buttonRow({all_, none_}, {ok_, cancel_})}));
 }
 
 void QuizInclude::connectControls()
@@ -188,7 +165,7 @@ void QuizInclude::showTicks(const QuizTicks& ticks)
         tenses_.at(static_cast<std::size_t>(t))->setChecked(ticks.tenses[t]);
 }
 
-// A class stores all boxes as soon as it is clicked, a tense does not: this is meant.
+// A class counts as soon as it is clicked, and all tenses that are ticked with it; a tense waits for OK.
 void QuizInclude::storeAtOnce()
 {
     storeTicks(ticks());
