@@ -11,12 +11,11 @@ namespace {
 using shell::Caption;
 using shell::LanguageTexts;
 
-// "Choississez", "déclinasion", "neutro" in French and the uneven blanks around hyphens are meant. Italian
-// keeps the texts that the window is designed with.
+// Italian keeps the texts that the window is designed with.
 // clang-format off
 constexpr std::array Captions = {
     //                            English                French                         Italian  German                        Spanish                   Latin
-    Caption{"DeclinationChoose", {"Choose a Declension", "Choississez une déclinasion", {},      "Eine Deklination Auswählen", "Elegir una declinación", "Declinationem elige!"}},
+    Caption{"DeclinationChoose", {"Choose a Declension", "Choississez une déclinasion", {},      "Eine Deklination Auswählen", "Elegir una declinación", "Declinationem elige!"}}, // sic: French
     Caption{"SdeclOK",           {"&OK",                 "&OK",                         {},      "&OK",                        "&Si",                    "&Ita"}},
     Caption{"DeclinationCancel", {"&Cancel",             "&Cancel",                     {},      "&Abbruch",                   "&Cancelar",              "&Reverte!"}},
 };
@@ -26,12 +25,12 @@ constexpr std::array<LanguageTexts, ParadigmCount> Rows = {{
     LanguageTexts{"1st Declension (fem., puella -ae)",        "1ere déclension (fém., puella -ae)",        {},      "1. Deklination (f., puella -ae)",        "1a declensión (fem., puella -ae)",        "Declinatio Prima (fem., puella -ae)"},
     LanguageTexts{"2nd Declension (masc., hortus -i)",        "2nde déclension (masc., hortus -i)",        {},      "2. Deklination (m., hortus -i)",         "2a declensión (masc., hortus -i)",        "Declinatio Secunda (masc., hortus -i)"},
     LanguageTexts{"2nd Declension (masc., puer -i)",          "2nde déclension (masc., puer -i)",          {},      "2. Deklination (m., puer -i)",           "2a declensión (masc., puer -i)",          "Declinatio Secunda (masc., puer -i)"},
-    LanguageTexts{"2nd Declension (neut. donum -i)",          "2nde déclension (neutro donum -i)",         {},      "2. Deklination (n. donum -i)",           "2a declensión (neutro donum -i)",         "Declinatio Secunda (neut. donum -i)"},
+    LanguageTexts{"2nd Declension (neut. donum -i)",          "2nde déclension (neutro donum -i)",         {},      "2. Deklination (n. donum -i)",           "2a declensión (neutro donum -i)",         "Declinatio Secunda (neut. donum -i)"}, // sic: French
     LanguageTexts{"3rd Declension (fem./masc., sermo -onis)", "3eme déclension (fém./masc., sermo -onis)", {},      "3. Deklination (f./m., sermo -onis)",    "3a declensión (fem./masc., sermo -onis)", "Declinatio Tertia (fem./masc., sermo -onis)"},
-    LanguageTexts{"3rd Declension (neut., corpus-corporis)",  "3eme déclension (neut., corpus-corporis)",  {},      "3. Deklination (n., corpus- corporis)",  "3a declensión (neutro, corpus-corporis)", "Declinatio Tertia (neut., corpus- corporis)"},
+    LanguageTexts{"3rd Declension (neut., corpus-corporis)",  "3eme déclension (neut., corpus-corporis)",  {},      "3. Deklination (n., corpus- corporis)",  "3a declensión (neutro, corpus-corporis)", "Declinatio Tertia (neut., corpus- corporis)"}, // sic: blanks
     LanguageTexts{"4th Declension (fem./masc., fructus -us)", "4eme déclension (fém./masc., fructus -us)", {},      "4. Deklination (f./masc., fructus -us)", "4a declensión (fem./masc., fructus -us)", "Declinatio Quarta (fem./masc., fructus -us)"},
     LanguageTexts{"4th Declension (neut., cornu -us)",        "4eme déclension (neut., cornu -us)",        {},      "4. Deklination (n., cornu -us)",         "4a declensión (neutro, cornu -us)",       "Declinatio Quarta (neut., cornu -us)"},
-    LanguageTexts{"5th Declension (fem., res-rei)",           "5eme déclension (fém., res -rei)",          {},      "5. Deklination (f., res-rei)",           "5a declensión (fem., res-rei)",           "Declinatio Quinta (fem., res-rei)"},
+    LanguageTexts{"5th Declension (fem., res-rei)",           "5eme déclension (fém., res -rei)",          {},      "5. Deklination (f., res-rei)",           "5a declensión (fem., res-rei)",           "Declinatio Quinta (fem., res-rei)"}, // sic: blanks
 }};
 // clang-format on
 

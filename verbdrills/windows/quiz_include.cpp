@@ -26,14 +26,12 @@ namespace {
 constexpr int ClassColumns = 4;
 constexpr int TenseRows = 7;
 
-// The German "Öbung" is meant, and so are the English "Future Perfect" and "Present" and the "Futuro de
-// subjuntivo" among the Spanish tenses.
 // clang-format off
 constexpr std::array Captions = {
     //                                English, French, Italian      German                                            Spanish                              Latin
     Caption{"QuizInclude", QuizTitle},
-    Caption{"ConjFrame",   englishToo("Conjugations to Include:",   "Konjugationen, die in der Öbung gelten sollen:", "Conjugaciones que incluir:",        "Conjugationes comprehendae in Probatione")},
-    Caption{"TenseFrame",  englishToo("Tenses to Include in Quiz:", "Zeitformen, die in der Öbung gelten sollen:",    "Tiempos que incluir en la Prueba:", "Tempora comprehendae in Probatione")},
+    Caption{"ConjFrame",   englishToo("Conjugations to Include:",   "Konjugationen, die in der Öbung gelten sollen:", "Conjugaciones que incluir:",        "Conjugationes comprehendae in Probatione")}, // sic: German
+    Caption{"TenseFrame",  englishToo("Tenses to Include in Quiz:", "Zeitformen, die in der Öbung gelten sollen:",    "Tiempos que incluir en la Prueba:", "Tempora comprehendae in Probatione")}, // sic: German
     Caption{"InclQuiz",    englishToo("&OK",                        "&OK",                                            "&Si",                               "&Ita")},
     Caption{"InclInclude", englishToo("&Include All",               "&Alle",                                          "&Incluir todos",                    "&Omnia")},
     Caption{"InclClear",   englishToo("C&lear All",                 "Aus&räumen",                                     "&Borrar todos",                     "Pur&ga!")},
@@ -51,18 +49,18 @@ constexpr std::array Captions = {
     Caption{"InclTense2",  englishToo("Future",                     "Futur",                                          "Futuro",                            "Futurum")},
     Caption{"InclTense3",  englishToo("Perfect",                    "Perfekt",                                        "Perfecto",                          "Perfectum")},
     Caption{"InclTense4",  englishToo("Pluperfect",                 "Plusquamperfekt",                                "Pluscuamperfecto",                  "Plusquam perfectum")},
-    Caption{"InclTense5",  englishToo("Future Perfect",             "Futur Perfekt",                                  "Future Perfect",                    "Futurum perfectum")},
+    Caption{"InclTense5",  englishToo("Future Perfect",             "Futur Perfekt",                                  "Future Perfect",                    "Futurum perfectum")}, // sic: Spanish
     Caption{"InclTense6",  englishToo("Subjunctive Pres.",          "Präsens Konj.",                                  "Pres. subjuntivo",                  "Praesens Subj.")},
     Caption{"InclTense7",  englishToo("Subjunctive Impf.",          "Imperfekt Konj.",                                "Imperf. subjuntivo",                "Imperfectum Subj.")},
     Caption{"InclTense8",  englishToo("Subjunctive Perf.",          "Perfekt Konj.",                                  "Perf. subjuntivo",                  "Perfectum Subj.")},
     Caption{"InclTense9",  englishToo("Subjunctive Pluperf.",       "Plusquamperf. Konj.",                            "Pluscuamperf. subjuntivo",          "Plusquam perf. Subj.")},
     Caption{"InclTense10", englishToo("Imperative",                 "Imperativ",                                      "Imperativo",                        "Imperativus Modus")},
-    Caption{"InclTense11", englishToo("Passive Present",            "Passiv Präsens",                                 "Present pasivo",                    "Passivum Praesens")},
+    Caption{"InclTense11", englishToo("Passive Present",            "Passiv Präsens",                                 "Present pasivo",                    "Passivum Praesens")}, // sic: Spanish
     Caption{"InclTense12", englishToo("Passive Imperfect",          "Passiv Imperfekt",                               "Imperfecto pasivo",                 "Passivum Imperfectum")},
     Caption{"InclTense13", englishToo("Passive Future",             "Passiv Futur",                                   "Futuro pasivo",                     "Passivum Futurum")},
     Caption{"InclTense14", englishToo("Passive Perfect",            "Passiv Perfekt",                                 "Perfecto pasivo",                   "Passivum Perfectum")},
     Caption{"InclTense15", englishToo("Passive Pluperfect",         "Passiv Plusquamperf.",                           "Pluscuamperf. pasivo",              "Passivum Plusquam perf.")},
-    Caption{"InclTense16", englishToo("Passive Future Perf.",       "Passiv Futur Perf.",                             "Futuro de subjuntivo pasivo",       "Passivum Futurum Perf.")},
+    Caption{"InclTense16", englishToo("Passive Future Perf.",       "Passiv Futur Perf.",                             "Futuro de subjuntivo pasivo",       "Passivum Futurum Perf.")}, // sic: Spanish
     Caption{"InclTense17", englishToo("Passive Pres. Subj.",        "Passiv Präs. Konj.",                             "Presente de subj. pasivo",          "Passivum Praes. Subj.")},
     Caption{"InclTense18", englishToo("Passive Imperf. Subj.",      "Passiv Imperf. Konj.",                           "Imperfecto de subj. pasivo",        "Passivum Imperf. Subj.")},
     Caption{"InclTense19", englishToo("Passive Perf. Subj.",        "Passiv Perf. Konj.",                             "Perfecto de subj. pasivo",          "Passivum Perf. Subj.")},

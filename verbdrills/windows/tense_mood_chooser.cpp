@@ -16,12 +16,11 @@ using shell::LanguageTexts;
 // clang-format off
 constexpr std::array Captions = {
     //                                     English, French, Italian    German                         Spanish                   Latin
-    Caption{"TenseMoodChooser", englishToo("Select a Tense/Mood",      "Eine Zeitform Auswählen",     "Elegir un timpo o modo", "Tempus et Modum elige!")},
+    Caption{"TenseMoodChooser", englishToo("Select a Tense/Mood",      "Eine Zeitform Auswählen",     "Elegir un timpo o modo", "Tempus et Modum elige!")}, // sic: Spanish
     Caption{"TenseMoodOK",      englishToo("&OK",                      "&OK",                         "&Si",                    "&Sic")},
     Caption{"TenseMoodCancel",  englishToo("&Cancel",                  "&Abbruch",                    "&Cancelar",              "&Reverte!")},
 };
 
-// The Spanish name of the passive future perfect is meant.
 constexpr std::array<LanguageTexts, verbs::BlockCount> Rows = {{
     //         English, French, Italian       German                                Spanish                                 Latin
     englishToo("Present Indicative",             "Präsens Indikativ",                 "Presente de indicativo",                "Praesens Indicativum"),
@@ -40,7 +39,7 @@ constexpr std::array<LanguageTexts, verbs::BlockCount> Rows = {{
     englishToo("Passive Future Indicative",      "Passiv Futur Indikativ",            "Futuro pasivo",                         "Passivum Futurum"),
     englishToo("Passive Perfect Indicative",     "Passiv Perfekt Indikativ",          "Perfecto pasivo",                       "Passivum Perfectum"),
     englishToo("Passive Pluperfect Indicative",  "Passiv Plusquamperfekt Indikativ",  "Pluscuamperfecto pasivo",               "Passivum Plusquamperfectum"),
-    englishToo("Passive Future Perfect",         "Passiv Futur Perfekt",              "Futuro de subjuntivo pasivo",           "Passivum Futurum Perfectum"),
+    englishToo("Passive Future Perfect",         "Passiv Futur Perfekt",              "Futuro de subjuntivo pasivo",           "Passivum Futurum Perfectum"), // sic: Spanish
     englishToo("Passive Present Subjunctive",    "Passiv Präsens Konjunktiv",         "Presente de subjuntivo pasivo",         "Passivum Praesens Subjunctivum"),
     englishToo("Passive Imperfect Subjunctive",  "Passiv Imperfekt Konjunktiv",       "Imperfecto de subjuntivo pasivo",       "Passivum Imperfectum Subjunctivum"),
     englishToo("Passive Perfect Subjunctive",    "Passiv Perfekt Konjunktiv",         "Perfecto de subjuntivo pasivo",         "Passivum Perfectum Subjunctivum"),

@@ -8,7 +8,7 @@
 #include "shell/kit/text.h"
 #include "vocabulary/vocabulary_edits.h"
 #include "vocabulary/windows/list_files.h"
-#include "vocabulary/windows/word_label.h"
+#include "vocabulary/windows/word_controls.h"
 
 #include <QBoxLayout>
 #include <QLabel>

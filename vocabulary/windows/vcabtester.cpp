@@ -12,8 +12,7 @@
 #include "vocabulary/vocabulary_list.h"
 #include "vocabulary/vocabulary_tester.h"
 #include "vocabulary/windows/vcabtester_menus.h"
-#include "vocabulary/windows/word_box.h"
-#include "vocabulary/windows/word_label.h"
+#include "vocabulary/windows/word_controls.h"
 
 #include <QAction>
 #include <QBoxLayout>
