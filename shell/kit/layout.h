@@ -21,13 +21,11 @@ inline constexpr QMargins DrillMargins{WideSpace, LargeSpace, WideSpace, LargeSp
 /// What stands in a row or a column: a control, a layout within it, or empty space.
 class Part {
 public:
-    // NOLINTBEGIN(google-explicit-constructor): a row is written as the list of what stands in it
     Part(QWidget* control, int stretch = 0, Qt::Alignment place = {})
         : control_(control), stretch_(stretch), place_(place)
     {
     }
     Part(QLayout* inner, int stretch = 0) : inner_(inner), stretch_(stretch) {}
-    // NOLINTEND(google-explicit-constructor)
 
     /// Space that grows with the window, and space of so many pixels.
     static Part gap(int stretch = 0) { return {stretch, 0}; }

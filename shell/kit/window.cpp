@@ -22,7 +22,7 @@ constexpr int BlockStretch = 1000;
 // What the frame and the title of a window leave it of the screen.
 constexpr double ShareOfScreen = 0.9;
 
-// Qt hangs where windows stand above each other in a circle: the one below loses the window below it then.
+// Qt hangs where windows stand above each other in a circle: the lower one then lets go of the one below it.
 void putAbove(QWindow& window, QWindow* below)
 {
     if (below != nullptr && window.isAncestorOf(below))

@@ -163,7 +163,7 @@ void QuizInclude::showTicks(const QuizTicks& ticks)
         tenses_.at(static_cast<std::size_t>(t))->setChecked(ticks.tenses[t]);
 }
 
-// A class counts as soon as it is clicked, and all tenses that are ticked with it; a tense waits for OK.
+// A click on a class takes all ticks over at once; a click on a tense waits for OK.
 void QuizInclude::storeAtOnce()
 {
     storeTicks(ticks());
