@@ -1,9 +1,9 @@
 #include "app/key_filter.h"
 
-#include "shell/kit/enter_key.h"
 #include "shell/kit/window.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 
 namespace app {
 

@@ -1,11 +1,10 @@
 #pragma once
 
 #include "app/common_windows.h"
+#include "nouns/windows/choosers.h"
 #include "nouns/windows/declination.h"
-#include "nouns/windows/declination_choose.h"
 #include "nouns/windows/noun_handler.h"
 #include "nouns/windows/noun_quiz.h"
-#include "nouns/windows/pronoun_chooser.h"
 #include "nouns/windows/pronoun_singular.h"
 
 #include <QObject>

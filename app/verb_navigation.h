@@ -1,9 +1,8 @@
 #pragma once
 
 #include "app/common_windows.h"
+#include "verbdrills/windows/choosers.h"
 #include "verbdrills/windows/conjugation.h"
-#include "verbdrills/windows/conjugation_choose.h"
-#include "verbdrills/windows/tense_mood_chooser.h"
 #include "verbs/windows/verb_manager.h"
 
 #include <QObject>

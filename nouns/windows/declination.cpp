@@ -21,6 +21,7 @@
 namespace nouns {
 
 using shell::Caption;
+using shell::Part;
 
 namespace {
 
@@ -35,16 +36,25 @@ constexpr int RowHeight = 600 / TwipsOfPixel;
 constexpr int LabelColumn = 0;
 constexpr int BoxColumn = 1;
 
+QGridLayout* layOutFrame(QGroupBox& frame)
+{
+    QGridLayout* const rows = shell::gridOf(shell::MediumSpace, 0);
+    rows->setColumnStretch(BoxColumn, 1);
+    for (int row = 0; row < CasesOfNumber; ++row)
+        rows->setRowMinimumHeight(row, RowHeight);
+    frame.setLayout(rows);
+    return rows;
+}
+
 constexpr std::array CaseLabels = {"DeclNom", "DeclGen", "DeclDat", "DeclAcc", "DeclAbl"};
 
-// The French title "Nomes" and the Latin "Auxilium=F1" are meant.
 // clang-format off
 constexpr std::array Captions = {
     //                         English        French         Italian        German          Spanish        Latin
-    Caption{"HelpLabel",      {"Help = F1",   "Aide = F1",   "Help = F1",   "Hilfe = F1",   "Ayuda = F1",  "Auxilium=F1"}},
+    Caption{"HelpLabel",      {"Help = F1",   "Aide = F1",   "Help = F1",   "Hilfe = F1",   "Ayuda = F1",  "Auxilium=F1"}}, // sic: Latin
     Caption{"Continue",       {"&OK",         "&OK",         "&OK",         "&OK",          "&Si",         "&Ita"}},
     Caption{"DeclQuitButton", {"&Quit",       "&Cancel",     "&Quit",       "&Abbruch",     "&Cancelar",   "&Reverte!"}},
-    Caption{"Declination",    {"Nouns",       "Nomes",       "Nouns",       "Substantive",  "Nombres",     "Nomina"}},
+    Caption{"Declination",    {"Nouns",       "Nomes",       "Nouns",       "Substantive",  "Nombres",     "Nomina"}},      // sic: French
     Caption{"Frame1",         {"Singular",    "Singulier",   "Singular",    "Einzahl",      "Singular",    "numerus singularis"}},
     Caption{"Frame2",         {"Plural",      "Pluriel",     "Plural",      "Mehrzahl",     "Plural",      "numerus pluralis"}},
 };
@@ -62,16 +72,12 @@ Declination::Declination() : BoxDrill("Declination", "declination", shell::exerc
 
 void Declination::makeControls()
 {
-    heading_ = shell::makeLabel(this, "HeadingLabel");
-    noun_ = shell::makeLabel(this, "NounLabel");
-    shell::setType(*heading_, shell::FormType);
-    shell::setBoldType(*noun_, shell::HeadingType);
-    noun_->setWordWrap(true);
-    noun_->setMinimumSize(1, noun_->fontMetrics().lineSpacing());
+    heading_ = shell::makeLabel(this, "HeadingLabel", shell::FormType);
+    noun_ = shell::makeHeading(this, "NounLabel", shell::HeadingType);
+    shell::wrapText(*noun_, 1);
     singular_ = shell::makeControl<QGroupBox>(this, "Frame1");
     plural_ = shell::makeControl<QGroupBox>(this, "Frame2");
-    dummy_ = new QWidget(this);
-    dummy_->setObjectName(QStringLiteral("DDummy"));
+    dummy_ = shell::makeControl<QWidget>(this, "DDummy");
     dummy_->resize(1, 1);
 }
 
@@ -80,57 +86,25 @@ void Declination::makeBoxes()
     for (int i = 0; i < CaseCount; ++i)
         addBox(i < CasesOfNumber ? singular_ : plural_, QStringLiteral("DeclText%1").arg(i));
     for (std::size_t i = 0; i < cases_.size(); ++i) {
-        cases_.at(i) = shell::makeLabel(singular_, CaseLabels.at(i));
+        cases_.at(i) = shell::makeLabelOf(boxes().at(i), CaseLabels.at(i));
         cases_.at(i)->setText(QLatin1String(CaseNames.at(i)));
-        cases_.at(i)->setBuddy(boxes().at(i));
         cases_.at(i)->setMinimumHeight(boxes().at(i)->sizeHint().height());
     }
 }
 
 void Declination::layOut()
 {
-    auto* const rows = new QGridLayout(centredBlock(LargestBlock));
-    rows->setContentsMargins(shell::WideSpace, shell::LargeSpace, shell::WideSpace, shell::LargeSpace);
-    rows->setVerticalSpacing(shell::MediumSpace);
-    rows->addLayout(headingRow(), 0, 0);
-    rows->addLayout(frameRow(), 1, 0);
-    rows->setRowStretch(2, 1);
-    rows->addLayout(helpAndButtons({makeCheckButton("Continue"), makeHintButton("DeclQuestion"),
-                                    makeQuitButton("DeclQuitButton")}),
-                    3, 0);
-}
-
-QBoxLayout* Declination::headingRow()
-{
-    auto* const names = new QVBoxLayout;
-    names->setSpacing(shell::HairSpace);
-    names->addWidget(heading_);
-    names->addWidget(noun_, 1, Qt::AlignTop);
-    auto* const row = new QHBoxLayout;
-    row->addLayout(names, 1);
-    row->addWidget(scoreLabel(), 0, Qt::AlignRight | Qt::AlignTop);
+    QBoxLayout* const heading =
+        withScore({shell::columnOf(shell::HairSpace, {heading_, {noun_, 1, Qt::AlignTop}}), 1});
     // Gives way on a small screen, where the buttons matter more than the frames' place.
-    row->addSpacerItem(new QSpacerItem(0, FrameTop - shell::LargeSpace - shell::MediumSpace,
-                                       QSizePolicy::Fixed, QSizePolicy::Maximum));
-    return row;
-}
-
-QBoxLayout* Declination::frameRow()
-{
-    singularRows_ = new QGridLayout(singular_);
-    pluralRows_ = new QGridLayout(plural_);
-    for (QGridLayout* const rows : {singularRows_, pluralRows_}) {
-        rows->setHorizontalSpacing(shell::MediumSpace);
-        rows->setVerticalSpacing(0);
-        rows->setColumnStretch(BoxColumn, 1);
-        for (int row = 0; row < CasesOfNumber; ++row)
-            rows->setRowMinimumHeight(row, RowHeight);
-    }
-    auto* const row = new QHBoxLayout;
-    row->setSpacing(shell::LargeSpace);
-    row->addWidget(singular_, 4);
-    row->addWidget(plural_, 3);
-    return row;
+    heading->addSpacerItem(new QSpacerItem(0, FrameTop - shell::LargeSpace - shell::MediumSpace,
+                                           QSizePolicy::Fixed, QSizePolicy::Maximum));
+    singularRows_ = layOutFrame(*singular_);
+    pluralRows_ = layOutFrame(*plural_);
+    layOutLines(LargestBlock, shell::DrillMargins,
+                {heading, shell::rowOf(shell::LargeSpace, {{singular_, 4}, {plural_, 3}}), Part::gap(),
+                 helpAndButtons({makeCheckButton("Continue"), makeQuestionButton("DeclQuestion"),
+                                 makeQuitButton("DeclQuitButton")})});
 }
 
 void Declination::placeRows()

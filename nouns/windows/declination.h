@@ -39,8 +39,6 @@ private:
     void makeControls();
     void makeBoxes();
     void layOut();
-    QBoxLayout* headingRow();
-    QBoxLayout* frameRow();
     void placeRows();
     void showNoun();
 

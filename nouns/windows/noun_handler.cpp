@@ -2,14 +2,13 @@
 
 #include "platform/platform.h"
 #include "shell/kit/controls.h"
+#include "shell/kit/layout.h"
+#include "shell/kit/record_form.h"
 #include "shell/kit/text.h"
-#include "shell/kit/type.h"
 #include "shell/settings.h"
 
 #include <QBoxLayout>
 #include <QComboBox>
-#include <QGridLayout>
-#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
@@ -19,6 +18,8 @@
 
 namespace nouns {
 
+using shell::FieldNames;
+
 namespace {
 
 constexpr QSize LargestBlock{110, 40};
@@ -27,8 +28,19 @@ constexpr int CharactersOfField = 16;
 constexpr std::array<const char*, DeclensionCount> Declensions = {
     "First Declension", "Second Declension", "Third Declension", "Fourth Declension", "Fifth Declension"};
 
-constexpr std::array<const char*, MeaningCount> MeaningLabels = {"&English", "&German", "&French",
-                                                                 "Spanis&h"};
+constexpr std::array Fields = {FieldNames{"NHStem", "&Stem"},
+                               FieldNames{"NHObliqueStem", "O&blique stem"},
+                               FieldNames{"NHNote", "Gender and geni&tive"},
+                               FieldNames{"NHMeaning0", "&English"},
+                               FieldNames{"NHMeaning1", "&German"},
+                               FieldNames{"NHMeaning2", "&French"},
+                               FieldNames{"NHMeaning3", "Spanis&h"}};
+
+std::array<std::string*, Fields.size()> textsOf(NounRecord& noun)
+{
+    auto& [english, german, french, spanish] = noun.meanings;
+    return {&noun.stem, &noun.obliqueStem, &noun.note, &english, &german, &french, &spanish};
+}
 
 constexpr auto NewItem = "** Add New Item Here **";
 
@@ -51,62 +63,28 @@ void NounHandler::makeControls()
     nouns_ = shell::makeControl<QListWidget>(this, "NHNounList");
     nouns_->setAccessibleName(QStringLiteral("Nouns"));
     paradigms_ = shell::makeControl<QComboBox>(this, "NHParadigm");
-    stem_ = shell::makeControl<QLineEdit>(this, "NHStem");
-    obliqueStem_ = shell::makeControl<QLineEdit>(this, "NHObliqueStem");
-    note_ = shell::makeControl<QLineEdit>(this, "NHNote");
-    for (std::size_t i = 0; i < meanings_.size(); ++i) {
-        meanings_.at(i) = new QLineEdit(this);
-        meanings_.at(i)->setObjectName(QStringLiteral("NHMeaning%1").arg(i));
-    }
-    add_ = shell::makeButton(this, "NHAdd");
-    add_->setText(QStringLiteral("&Add"));
-    close_ = shell::makeButton(this, "NHClose");
-    close_->setText(QStringLiteral("&Close"));
+    form_ = new shell::RecordForm;
+    form_->addControl({.box = "NHParadigm", .caption = "&Paradigm"}, paradigms_);
+    form_->addBoxes(this, Fields);
+    stem_ = form_->box(0);
+    obliqueStem_ = form_->box(1);
+    add_ = shell::makeButton(this, "NHAdd", "&Add");
+    close_ = shell::makeButton(this, "NHClose", "&Close");
     nouns_->setMinimumWidth(nouns_->fontMetrics().horizontalAdvance(QLatin1String(NewItem)) +
                             2 * nouns_->verticalScrollBar()->sizeHint().width());
     for (const char* const name : Declensions)
         declensions_->addItem(QLatin1String(name));
     declensions_->setMinimumWidth(declensions_->sizeHintForColumn(0) +
                                   declensions_->verticalScrollBar()->sizeHint().width());
-    stem_->setMinimumWidth(CharactersOfField * stem_->fontMetrics().averageCharWidth());
+    shell::setLeastWidth(*stem_, CharactersOfField);
 }
 
 void NounHandler::layOut()
 {
-    auto* const right = new QVBoxLayout;
-    right->addLayout(fieldGrid());
-    right->addStretch();
-    right->addLayout(buttonRow());
-
-    auto* const columns = new QHBoxLayout(centredBlock(LargestBlock));
-    columns->setSpacing(shell::LargeSpace);
-    columns->addWidget(declensions_, 2);
-    columns->addWidget(nouns_, 2);
-    columns->addLayout(right, 4);
-}
-
-QGridLayout* NounHandler::fieldGrid()
-{
-    auto* const grid = new QGridLayout;
-    grid->setHorizontalSpacing(shell::MediumSpace);
-    grid->setVerticalSpacing(shell::SmallSpace);
-    int row = 0;
-    shell::addField(*grid, row++, "&Paradigm", paradigms_);
-    shell::addField(*grid, row++, "&Stem", stem_);
-    shell::addField(*grid, row++, "O&blique stem", obliqueStem_);
-    shell::addField(*grid, row++, "Gender and geni&tive", note_);
-    for (std::size_t i = 0; i < meanings_.size(); ++i)
-        shell::addField(*grid, row++, MeaningLabels.at(i), meanings_.at(i));
-    return grid;
-}
-
-QBoxLayout* NounHandler::buttonRow()
-{
-    auto* const row = new QHBoxLayout;
-    row->addWidget(add_);
-    row->addStretch();
-    row->addWidget(close_);
-    return row;
+    QBoxLayout* const record =
+        shell::columnOf(shell::LargeSpace, {form_, shell::Part::gap(), shell::buttonRow({add_}, {close_})});
+    shell::setContent(centredBlock(LargestBlock), shell::FormMargins,
+                      shell::rowOf(shell::LargeSpace, {{declensions_, 2}, {nouns_, 2}, {record, 4}}));
 }
 
 void NounHandler::connectControls()
@@ -115,10 +93,7 @@ void NounHandler::connectControls()
     connect(nouns_, &QListWidget::currentRowChanged, this, &NounHandler::showNoun);
     connect(paradigms_, &QComboBox::currentIndexChanged, this, &NounHandler::chooseParadigm);
     connect(paradigms_, &QComboBox::activated, this, &NounHandler::keepDraft);
-    for (const QLineEdit* const field : {stem_, obliqueStem_, note_})
-        connect(field, &QLineEdit::textEdited, this, &NounHandler::keepDraft);
-    for (const QLineEdit* const field : meanings_)
-        connect(field, &QLineEdit::textEdited, this, &NounHandler::keepDraft);
+    connect(form_, &shell::RecordForm::edited, this, &NounHandler::keepDraft);
     connect(add_, &QPushButton::clicked, this, &NounHandler::add);
     connect(close_, &QPushButton::clicked, this, &NounHandler::left);
 }
@@ -174,23 +149,16 @@ void NounHandler::showNoun(int row)
     allowTyping(isNewRow(row));
 }
 
-void NounHandler::showRecord(const NounRecord& noun)
+void NounHandler::showRecord(NounRecord noun)
 {
-    stem_->setText(shell::fromUtf8(noun.stem));
-    obliqueStem_->setText(shell::fromUtf8(noun.obliqueStem));
-    note_->setText(shell::fromUtf8(noun.note));
-    for (std::size_t i = 0; i < meanings_.size(); ++i)
-        meanings_.at(i)->setText(shell::fromUtf8(noun.meanings.at(i)));
+    form_->show(textsOf(noun));
 }
 
 void NounHandler::allowTyping(bool allowed)
 {
     paradigms_->setEnabled(allowed);
-    for (QLineEdit* const field : {stem_, note_})
-        field->setReadOnly(!allowed);
-    for (QLineEdit* const field : meanings_)
-        field->setReadOnly(!allowed);
-    obliqueStem_->setReadOnly(!allowed);
+    for (QLineEdit* const box : form_->boxes())
+        box->setReadOnly(!allowed);
     obliqueStem_->setEnabled(chosenParadigm() == ThirdDeclension);
 }
 
@@ -214,12 +182,8 @@ void NounHandler::showDraft()
 
 NounRecord NounHandler::typedNoun() const
 {
-    NounRecord noun{.note = note_->text().toStdString(),
-                    .stem = stem_->text().toStdString(),
-                    .obliqueStem = obliqueStem_->text().toStdString(),
-                    .meanings = {}};
-    for (std::size_t i = 0; i < meanings_.size(); ++i)
-        noun.meanings.at(i) = meanings_.at(i)->text().toStdString();
+    NounRecord noun;
+    form_->take(textsOf(noun));
     return noun;
 }
 

@@ -6,12 +6,14 @@
 #include <array>
 #include <vector>
 
-class QBoxLayout;
 class QComboBox;
-class QGridLayout;
 class QLineEdit;
 class QListWidget;
 class QPushButton;
+
+namespace shell {
+class RecordForm;
+}
 
 namespace nouns {
 
@@ -32,8 +34,6 @@ public:
 private:
     void makeControls();
     void layOut();
-    QGridLayout* fieldGrid();
-    QBoxLayout* buttonRow();
     void connectControls();
 
     struct ListRow {
@@ -44,7 +44,7 @@ private:
     void listNouns();
     void chooseParadigm(int row);
     void showNoun(int row);
-    void showRecord(const NounRecord& noun);
+    void showRecord(NounRecord noun);
     void allowTyping(bool allowed);
     void keepDraft();
     void showDraft();
@@ -59,10 +59,9 @@ private:
     QListWidget* declensions_;
     QListWidget* nouns_;
     QComboBox* paradigms_;
+    shell::RecordForm* form_;
     QLineEdit* stem_;
     QLineEdit* obliqueStem_;
-    QLineEdit* note_;
-    std::array<QLineEdit*, MeaningCount> meanings_{};
     QPushButton* add_;
     QPushButton* close_;
 

@@ -6,6 +6,7 @@
 #include "shell/feedback.h"
 #include "shell/kit/captions.h"
 #include "shell/kit/controls.h"
+#include "shell/kit/layout.h"
 #include "shell/kit/text.h"
 #include "shell/kit/type.h"
 #include "shell/pause.h"
@@ -20,6 +21,11 @@
 namespace nouns {
 
 using shell::Caption;
+using shell::makeButton;
+using shell::makeHeading;
+using shell::makeLabel;
+using shell::Part;
+using shell::rowOf;
 
 namespace {
 
@@ -62,25 +68,18 @@ NounQuiz::NounQuiz() : Window("NounQuiz")
 
 void NounQuiz::makeControls()
 {
-    form_ = shell::makeLabel(this, "NounQuizForm");
-    info_ = shell::makeLabel(this, "NounQuizInfo");
-    indices_ = shell::makeLabel(this, "NounQuizIndices");
-    verdict_ = shell::makeLabel(this, "NounQuizVerdict");
-    answer_ = shell::makeLabel(this, "NounRightAnswer");
-    shell::setBoldType(*form_, shell::TitleType);
-    shell::setType(*info_, shell::FormType);
-    shell::setType(*indices_, shell::NoteType);
-    shell::setBoldType(*verdict_, shell::HeadingType);
-    shell::setType(*answer_, shell::FormType);
+    form_ = makeHeading(this, "NounQuizForm", shell::TitleType);
+    info_ = makeLabel(this, "NounQuizInfo", shell::FormType);
+    indices_ = makeLabel(this, "NounQuizIndices", shell::NoteType);
+    verdict_ = makeHeading(this, "NounQuizVerdict", shell::HeadingType);
+    answer_ = makeLabel(this, "NounRightAnswer", shell::FormType);
     answer_->setAlignment(Qt::AlignTop);
-    info_->setWordWrap(true);
-    info_->setMinimumSize(1, info_->fontMetrics().lineSpacing());
-    answer_->setWordWrap(true);
-    answer_->setMinimumSize(1, LinesOfAnswer * answer_->fontMetrics().lineSpacing());
+    shell::wrapText(*info_, 1);
+    shell::wrapText(*answer_, LinesOfAnswer);
     verdict_->setMinimumHeight(verdict_->fontMetrics().lineSpacing());
     for (std::size_t i = 0; i < declensions_.size(); ++i) {
-        declensions_.at(i) = new QLabel(QLatin1String(Declensions.at(i)));
-        declensions_.at(i)->setObjectName(QStringLiteral("NounQuizDeclension%1").arg(i));
+        declensions_.at(i) = makeLabel(this, QStringLiteral("NounQuizDeclension%1").arg(i));
+        declensions_.at(i)->setText(QLatin1String(Declensions.at(i)));
     }
 }
 
@@ -90,73 +89,39 @@ void NounQuiz::makeChecks()
     plural_ = shell::makeControl<QGroupBox>(this, "QuizPlural");
     for (std::size_t i = 0; i < checks_.size(); ++i) {
         QGroupBox* const frame = i < CasesOfNumber ? singular_ : plural_;
-        checks_.at(i) = new QCheckBox(QLatin1String(CaseNames.at(i % CasesOfNumber)), frame);
-        checks_.at(i)->setObjectName(QLatin1String(CheckNames.at(i)));
+        checks_.at(i) = shell::makeControl<QCheckBox>(frame, CheckNames.at(i));
+        checks_.at(i)->setText(QLatin1String(CaseNames.at(i % CasesOfNumber)));
     }
 }
 
 void NounQuiz::makeButtons()
 {
-    options_ = shell::makeButton(this, "NQOptions");
-    ok_ = shell::makeButton(this, "NQOK");
-    skip_ = shell::makeButton(this, "NQSkip");
-    cancel_ = shell::makeButton(this, "NQCancel");
-    skip_->setText(QStringLiteral("S&kip"));
-    options_->setText(QStringLiteral("O&ptions..."));
+    options_ = makeButton(this, "NQOptions", "O&ptions...");
+    ok_ = makeButton(this, "NQOK");
+    skip_ = makeButton(this, "NQSkip", "S&kip");
+    cancel_ = makeButton(this, "NQCancel");
 }
 
 void NounQuiz::layOut()
 {
-    auto* const noun = new QHBoxLayout;
-    noun->addWidget(info_, 1);
-    noun->addWidget(indices_, 0, Qt::AlignRight | Qt::AlignTop);
-
-    auto* const judgement = new QHBoxLayout;
-    judgement->setSpacing(shell::LargeSpace);
-    judgement->addWidget(verdict_, 0, Qt::AlignTop);
-    judgement->addWidget(answer_, 1);
-
-    auto* const rows = new QVBoxLayout(centredBlock(LargestBlock));
-    rows->setContentsMargins(shell::WideSpace, shell::LargeSpace, shell::WideSpace, shell::LargeSpace);
-    rows->setSpacing(shell::MediumSpace);
-    rows->addWidget(form_);
-    rows->addLayout(noun);
-    rows->addLayout(checkRow());
-    rows->addLayout(judgement);
-    rows->addStretch();
-    rows->addLayout(buttonRow());
+    layOutLines(LargestBlock, shell::DrillMargins,
+                {form_, rowOf(shell::MediumSpace, {{info_, 1}, {indices_, 0, Qt::AlignRight | Qt::AlignTop}}),
+                 checkRow(), rowOf(shell::LargeSpace, {{verdict_, 0, Qt::AlignTop}, {answer_, 1}}),
+                 Part::gap(), shell::buttonRow({options_}, {ok_, skip_, cancel_})});
 }
 
 QBoxLayout* NounQuiz::checkRow()
 {
     for (QGroupBox* const frame : {singular_, plural_}) {
-        auto* const column = new QVBoxLayout(frame);
-        column->setSpacing(shell::SmallSpace);
+        QBoxLayout* const column = shell::columnOf(shell::SmallSpace, {});
         for (QCheckBox* const box : frame->findChildren<QCheckBox*>())
             column->addWidget(box, 0, Qt::AlignLeft);
+        frame->setLayout(column);
     }
-    auto* const row = new QHBoxLayout;
-    row->setSpacing(shell::LargeSpace);
-    row->addWidget(singular_, 1);
-    row->addWidget(plural_, 1);
-    auto* const declensions = new QVBoxLayout;
-    declensions->addStretch();
+    QBoxLayout* const declensions = shell::columnOf(shell::LargeSpace, {Part::gap()});
     for (QLabel* const label : declensions_)
         declensions->addWidget(label);
-    row->addLayout(declensions);
-    return row;
-}
-
-QBoxLayout* NounQuiz::buttonRow()
-{
-    auto* const row = new QHBoxLayout;
-    row->setSpacing(shell::SmallSpace);
-    row->addWidget(options_);
-    row->addStretch();
-    row->addWidget(ok_);
-    row->addWidget(skip_);
-    row->addWidget(cancel_);
-    return row;
+    return rowOf(shell::LargeSpace, {{singular_, 1}, {plural_, 1}, declensions});
 }
 
 void NounQuiz::connectControls()

@@ -36,7 +36,6 @@ private:
     void makeButtons();
     void layOut();
     QBoxLayout* checkRow();
-    QBoxLayout* buttonRow();
     void connectControls();
 
     void ask();

@@ -17,13 +17,13 @@ namespace nouns {
 
 using shell::Caption;
 using shell::LanguageTexts;
+using shell::Part;
 
 namespace {
 
 constexpr QSize LargestBlock{100, 34};
 
-// The Spanish heading of is-ea-id is meant to keep the English "(this/that)". French and Italian keep the
-// texts that the window is designed with.
+// French and Italian keep the texts that the window is designed with.
 // clang-format off
 constexpr std::array Captions = {
     //                          English      French  Italian  German        Spanish       Latin
@@ -36,7 +36,7 @@ constexpr std::array Captions = {
 constexpr std::array<LanguageTexts, PronounGroupCount> Headings = {{
     //            English                                   French  Italian  German                                             Spanish                                                Latin
     LanguageTexts{"Personal Pronouns: ego, tu, ***",        {},     {},      "Persönliche Pronomen: ego, tu, ***",              "Pronombres personales: ego, tu, ***",                 "Pronomina Personalia: ego, tu, ***"},
-    LanguageTexts{"Demonstratives: is-ea-id (this/that)",   {},     {},      "Demonstrative Pronomen: is-ea-id (dieser/jener)", "Pronombres demostrativos: is-ea-id (this/that)",      "Pronomina Demonstrativa: is-ea-id"},
+    LanguageTexts{"Demonstratives: is-ea-id (this/that)",   {},     {},      "Demonstrative Pronomen: is-ea-id (dieser/jener)", "Pronombres demostrativos: is-ea-id (this/that)",      "Pronomina Demonstrativa: is-ea-id"}, // sic: Spanish
     LanguageTexts{"Demonstratives: hic-haec-hoc (this)",    {},     {},      "Demonstrative Pronomen: hic-haec-hoc (dieser)",   "Pronombres demostrativos: hic-haec-hoc (este)",       "Pronomina Demonstrativa: hic-haec-hoc"},
     LanguageTexts{"Demonstratives: ille-illa-illud (that)", {},     {},      "Demonstrative Pronomen: ille-illa-illud (jener)", "Pronombres demostrativos: ille-illa-illud (aquél)",   "Pronomina Demonstrativa: ille-illa-illud"},
     LanguageTexts{"Relatives: qui-quae-quod (who/which)",   {},     {},      "Relative Pronomen: qui-quae-quod (derjeniger)",   "Pronombres relativos: qui-quae-quod (quien/el cual)", "Pronomina Relativa: qui-quae-quod"},
@@ -74,10 +74,8 @@ PronounSingular::PronounSingular() : BoxDrill("PronounSingular", "pronoun", shel
 
 void PronounSingular::makeControls()
 {
-    heading_ = shell::makeLabel(this, "HeadingLabel");
-    shell::setBoldType(*heading_, shell::HeadingType);
-    heading_->setWordWrap(true);
-    heading_->setMinimumSize(1, heading_->fontMetrics().lineSpacing());
+    heading_ = shell::makeHeading(this, "HeadingLabel", shell::HeadingType);
+    shell::wrapText(*heading_, 1);
     for (std::size_t i = 0; i < columns_.size(); ++i)
         columns_.at(i) = shell::makeLabel(this, ColumnLabels.at(i));
 }
@@ -87,37 +85,21 @@ void PronounSingular::makeBoxes()
     for (int cell = 1; cell <= CellCount; ++cell)
         addBox(this, QStringLiteral("Pronoun%1").arg(cell));
     for (std::size_t i = 0; i < cases_.size(); ++i) {
-        cases_.at(i) = shell::makeLabel(this, CaseLabels.at(i));
+        cases_.at(i) = shell::makeLabelOf(boxes().at(i), CaseLabels.at(i));
         cases_.at(i)->setText(QLatin1String(CaseNames.at(i)));
-        cases_.at(i)->setBuddy(boxes().at(i));
     }
 }
 
 void PronounSingular::layOut()
 {
-    auto* const rows = new QVBoxLayout(centredBlock(LargestBlock));
-    rows->setContentsMargins(shell::WideSpace, shell::LargeSpace, shell::WideSpace, shell::LargeSpace);
-    rows->setSpacing(shell::MediumSpace);
-    rows->addLayout(headingRow());
-    rows->addSpacing(shell::SmallSpace);
-    rows_ = new QGridLayout;
-    rows_->setHorizontalSpacing(shell::LargeSpace);
-    rows_->setVerticalSpacing(shell::SmallSpace);
+    rows_ = shell::gridOf(shell::LargeSpace, shell::SmallSpace);
     for (int column = 0; column < ColumnsOfGroup; ++column) {
         rows_->addWidget(columns_.at(static_cast<std::size_t>(column)), 0, column + 1);
         rows_->setColumnStretch(column + 1, 1);
     }
-    rows->addLayout(rows_);
-    rows->addStretch();
-    rows->addLayout(helpAndButtons({makeCheckButton("PronounOK"), makeQuitButton("PronounCancel")}));
-}
-
-QBoxLayout* PronounSingular::headingRow()
-{
-    auto* const row = new QHBoxLayout;
-    row->addWidget(heading_, 1);
-    row->addWidget(scoreLabel(), 0, Qt::AlignRight | Qt::AlignTop);
-    return row;
+    layOutLines(LargestBlock, shell::DrillMargins,
+                {withScore({heading_, 1}), Part::space(shell::SmallSpace), rows_, Part::gap(),
+                 helpAndButtons({makeCheckButton("PronounOK"), makeQuitButton("PronounCancel")})});
 }
 
 void PronounSingular::placeRows()

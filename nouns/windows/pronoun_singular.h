@@ -33,7 +33,6 @@ private:
     void makeControls();
     void makeBoxes();
     void layOut();
-    QBoxLayout* headingRow();
     void placeRows();
     void showNumber();
 

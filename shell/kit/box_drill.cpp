@@ -1,10 +1,9 @@
 #include "shell/kit/box_drill.h"
 
-#include "shell/pause.h"
 #include "shell/kit/answer_box.h"
 #include "shell/kit/controls.h"
 #include "shell/kit/text.h"
-#include "shell/kit/type.h"
+#include "shell/pause.h"
 
 #include <QBoxLayout>
 #include <QLabel>
@@ -13,9 +12,9 @@
 namespace shell {
 
 BoxDrill::BoxDrill(std::string_view name, std::string_view activeName, std::string_view exerciseType)
-    : Window(name, activeName), exerciseType_(exerciseType), score_(makeLabel(this, "ScoreLabel"))
+    : Window(name, activeName), exerciseType_(exerciseType),
+      score_(makeHeading(this, "ScoreLabel", HeadingType))
 {
-    setBoldType(*score_, HeadingType);
     closeOnEscape();
     registerDrill(exerciseType_, *this);
 }
@@ -27,14 +26,18 @@ BoxDrill::~BoxDrill()
 
 AnswerBox* BoxDrill::addBox(QWidget* parent, const QString& name)
 {
-    auto* const box = new AnswerBox(parent);
-    box->setObjectName(name);
+    auto* const box = makeControl<AnswerBox>(parent, name);
     const auto number = static_cast<int>(boxes_.size());
     connect(box, &AnswerBox::focusReceived, this, [this, number] { boxReceivedFocus(number); });
     connect(box, &AnswerBox::hintRequested, this, &BoxDrill::hint);
     connect(box, &AnswerBox::returnPressed, this, &BoxDrill::check);
     boxes_.push_back(box);
     return box;
+}
+
+QBoxLayout* BoxDrill::withScore(const Part& heading)
+{
+    return rowOf(MediumSpace, {heading, {score_, 0, Qt::AlignRight | Qt::AlignTop}});
 }
 
 QPushButton* BoxDrill::makeCheckButton(const char* name)
@@ -44,11 +47,9 @@ QPushButton* BoxDrill::makeCheckButton(const char* name)
     return button;
 }
 
-QPushButton* BoxDrill::makeHintButton(const char* name)
+QPushButton* BoxDrill::makeQuestionButton(const char* name)
 {
-    QPushButton* const button = makeButton(this, name);
-    button->setText(QStringLiteral("?"));
-    button->setAccessibleName(QStringLiteral("Show the answer"));
+    QPushButton* const button = makeHintButton(this, name);
     connect(button, &QPushButton::clicked, this, &BoxDrill::hint);
     return button;
 }
@@ -60,15 +61,9 @@ QPushButton* BoxDrill::makeQuitButton(const char* name)
     return button;
 }
 
-QBoxLayout* BoxDrill::helpAndButtons(std::initializer_list<QPushButton*> buttons)
+QBoxLayout* BoxDrill::helpAndButtons(std::initializer_list<QWidget*> buttons)
 {
-    auto* const row = new QHBoxLayout;
-    row->setSpacing(SmallSpace);
-    row->addWidget(makeLabel(this, "HelpLabel"));
-    row->addStretch();
-    for (QPushButton* const button : buttons)
-        row->addWidget(button);
-    return row;
+    return buttonRow({makeLabel(this, "HelpLabel")}, buttons);
 }
 
 AnswerBox& BoxDrill::box(int number) const

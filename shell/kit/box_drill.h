@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shell/drill.h"
+#include "shell/kit/layout.h"
 #include "shell/kit/window.h"
 
 #include <initializer_list>
@@ -8,7 +9,6 @@
 #include <string>
 #include <vector>
 
-class QBoxLayout;
 class QLabel;
 class QPushButton;
 
@@ -67,13 +67,16 @@ protected:
 
     QLabel* scoreLabel() const { return score_; }
 
+    /// The uppermost row of the window: what names the question, and the score.
+    QBoxLayout* withScore(const Part& heading);
+
     /// The button that checks, the one that shows the answer, and the one that leaves.
     QPushButton* makeCheckButton(const char* name);
-    QPushButton* makeHintButton(const char* name);
+    QPushButton* makeQuestionButton(const char* name);
     QPushButton* makeQuitButton(const char* name);
 
     /// The lowest row of the window: the help label, and the buttons.
-    QBoxLayout* helpAndButtons(std::initializer_list<QPushButton*> buttons);
+    QBoxLayout* helpAndButtons(std::initializer_list<QWidget*> buttons);
 
     /// Sets the question, and gives its look to every box that is not asked.
     void showQuestion();

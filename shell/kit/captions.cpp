@@ -1,7 +1,7 @@
 #include "shell/kit/captions.h"
 
-#include "shell/settings.h"
 #include "shell/kit/text.h"
+#include "shell/settings.h"
 
 #include <QAbstractButton>
 #include <QAction>

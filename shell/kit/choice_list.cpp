@@ -1,6 +1,8 @@
 #include "shell/kit/choice_list.h"
 
-#include "shell/kit/enter_key.h"
+#include "shell/kit/window.h"
+
+#include <QKeyEvent>
 
 namespace shell {
 

@@ -2,7 +2,8 @@
 
 #include "shell/kit/captions.h"
 #include "shell/kit/choice_list.h"
-#include "shell/kit/text.h"
+#include "shell/kit/controls.h"
+#include "shell/kit/layout.h"
 #include "shell/kit/type.h"
 
 #include <QBoxLayout>
@@ -34,39 +35,20 @@ QSize roomForRows(const ChoiceList& list)
 Chooser::Chooser(const ChooserNames& names, std::span<const Caption> captions,
                  std::span<const LanguageTexts> rows)
     : FramedWindow(names.window, names.active, names.frame), captions_(captions), rows_(rows),
-      list_(new ChoiceList), ok_(new QPushButton), cancel_(new QPushButton)
+      list_(makeControl<ChoiceList>(frame(), names.list)), ok_(makeButton(frame(), names.ok)),
+      cancel_(makeButton(frame(), names.cancel))
 {
-    makeControls(names);
+    setType(*list_, RowType);
+    list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    list_->setSpacing(RowSpace);
     layOut();
     connectControls();
     closeOnEscape();
 }
 
-void Chooser::makeControls(const ChooserNames& names)
-{
-    list_->setObjectName(fromUtf8(names.list));
-    ok_->setObjectName(fromUtf8(names.ok));
-    cancel_->setObjectName(fromUtf8(names.cancel));
-    ok_->setAutoDefault(true);
-    cancel_->setAutoDefault(true);
-    setType(*list_, RowType);
-    list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    list_->setSpacing(RowSpace);
-}
-
 void Chooser::layOut()
 {
-    auto* const buttons = new QHBoxLayout;
-    buttons->setSpacing(SmallSpace);
-    buttons->addStretch();
-    buttons->addWidget(ok_);
-    buttons->addWidget(cancel_);
-
-    auto* const rows = new QVBoxLayout(frame());
-    rows->setContentsMargins(LargeSpace, LargeSpace, LargeSpace, LargeSpace);
-    rows->setSpacing(MediumSpace);
-    rows->addWidget(list_);
-    rows->addLayout(buttons);
+    setContent(frame(), FormMargins, columnOf(MediumSpace, {list_, buttonRow({}, {ok_, cancel_})}));
 }
 
 void Chooser::connectControls()

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "shell/language_texts.h"
 #include "shell/kit/framed_window.h"
+#include "shell/language_texts.h"
 
 #include <span>
 #include <string_view>
@@ -49,7 +49,6 @@ protected:
     void fill();
 
 private:
-    void makeControls(const ChooserNames& names);
     void layOut();
     void connectControls();
     void choose();

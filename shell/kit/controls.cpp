@@ -1,30 +1,72 @@
 #include "shell/kit/controls.h"
 
-#include <QGridLayout>
+#include "shell/kit/choice_list.h"
+#include "shell/kit/type.h"
+
 #include <QLabel>
 #include <QPushButton>
 
 namespace shell {
 
-QLabel* makeLabel(QWidget* parent, const char* name)
+namespace {
+
+constexpr double ListType = 1.15;
+
+} // namespace
+
+QLabel* makeLabel(QWidget* parent, QAnyStringView name)
 {
     auto* const label = makeControl<QLabel>(parent, name);
     label->setTextFormat(Qt::PlainText);
     return label;
 }
 
-void addField(QGridLayout& grid, int row, const char* caption, QWidget* control)
+QLabel* makeLabel(QWidget* parent, QAnyStringView name, double type)
 {
-    auto* const label = new QLabel(QLatin1String(caption));
-    label->setBuddy(control);
-    grid.addWidget(label, row, 0);
-    grid.addWidget(control, row, 1);
+    QLabel* const label = makeLabel(parent, name);
+    setType(*label, type);
+    return label;
 }
 
-QPushButton* makeButton(QWidget* parent, const char* name)
+QLabel* makeHeading(QWidget* parent, QAnyStringView name, double type)
+{
+    QLabel* const label = makeLabel(parent, name);
+    setBoldType(*label, type);
+    return label;
+}
+
+QLabel* makeLabelOf(QWidget* control, QAnyStringView name)
+{
+    QLabel* const label = makeLabel(control->parentWidget(), name);
+    label->setBuddy(control);
+    return label;
+}
+
+void wrapText(QLabel& label, int lines)
+{
+    label.setWordWrap(true);
+    label.setMinimumSize(1, lines * label.fontMetrics().lineSpacing());
+}
+
+ChoiceList* makeChoiceList(QWidget* parent, QAnyStringView name)
+{
+    auto* const list = makeControl<ChoiceList>(parent, name);
+    setType(*list, ListType);
+    return list;
+}
+
+QPushButton* makeButton(QWidget* parent, QAnyStringView name, const char* text)
 {
     auto* const button = makeControl<QPushButton>(parent, name);
     button->setAutoDefault(true);
+    button->setText(QLatin1String(text));
+    return button;
+}
+
+QPushButton* makeHintButton(QWidget* parent, QAnyStringView name)
+{
+    QPushButton* const button = makeButton(parent, name, "?");
+    button->setAccessibleName(QStringLiteral("Show the answer"));
     return button;
 }
 

@@ -1,30 +1,44 @@
 #pragma once
 
-#include <QLatin1String>
+#include <QAnyStringView>
 
-class QGridLayout;
 class QLabel;
 class QPushButton;
 class QWidget;
 
 namespace shell {
 
+class ChoiceList;
+
 /// A control with this object name.
 template <typename Control>
-Control* makeControl(QWidget* parent, const char* name)
+Control* makeControl(QWidget* parent, QAnyStringView name)
 {
     auto* const control = new Control(parent);
-    control->setObjectName(QLatin1String(name));
+    control->setObjectName(name);
     return control;
 }
 
 /// A label with this object name. Its text is shown as it stands.
-QLabel* makeLabel(QWidget* parent, const char* name);
+QLabel* makeLabel(QWidget* parent, QAnyStringView name);
 
-/// Puts a control into the second column of a grid, and its label, with an access key, into the first.
-void addField(QGridLayout& grid, int row, const char* caption, QWidget* control);
+/// The same in a multiple of the desktop's size of type, and such a one in bold type.
+QLabel* makeLabel(QWidget* parent, QAnyStringView name, double type);
+QLabel* makeHeading(QWidget* parent, QAnyStringView name, double type);
+
+/// The label of a control, to which its access key leads.
+QLabel* makeLabelOf(QWidget* control, QAnyStringView name);
+
+/// Breaks a label's text into lines, where it would widen the window, and keeps room for so many lines.
+void wrapText(QLabel& label, int lines);
+
+/// A list of the words or files that a window is about.
+ChoiceList* makeChoiceList(QWidget* parent, QAnyStringView name);
 
 /// A button with this object name, which Enter presses as the space bar does.
-QPushButton* makeButton(QWidget* parent, const char* name);
+QPushButton* makeButton(QWidget* parent, QAnyStringView name, const char* text = "");
+
+/// The "?" button of a drill, which shows the answer.
+QPushButton* makeHintButton(QWidget* parent, QAnyStringView name);
 
 } // namespace shell

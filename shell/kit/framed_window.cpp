@@ -35,7 +35,7 @@ void FramedWindow::resizeEvent(QResizeEvent* event)
     placeFrame();
 }
 
-// The divisor of the width is meant. A frame nearly as large as the window is kept inside it.
+// A frame nearly as large as the window is kept inside it.
 void FramedWindow::placeFrame()
 {
     if (!isMaximized()) {
@@ -44,7 +44,7 @@ void FramedWindow::placeFrame()
     }
     const QSize screenSize = screen()->geometry().size();
     const QSize frameSize = frame_->sizeHint().boundedTo(size());
-    const auto left = static_cast<int>(screenSize.width() / 2.0 - frameSize.width() / 1.9);
+    const auto left = static_cast<int>(screenSize.width() / 2.0 - frameSize.width() / 1.9); // sic
     const auto top = static_cast<int>(screenSize.height() / 2.0 - frameSize.height() / 2.0);
     frame_->setGeometry(std::clamp(left, 0, width() - frameSize.width()),
                         std::clamp(top, 0, height() - frameSize.height()), frameSize.width(),

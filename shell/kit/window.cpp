@@ -1,12 +1,13 @@
 #include "shell/kit/window.h"
 
-#include "shell/settings.h"
 #include "shell/kit/text.h"
+#include "shell/settings.h"
 
 #include <QApplication>
 #include <QBoxLayout>
 #include <QCloseEvent>
 #include <QFontMetrics>
+#include <QKeyEvent>
 #include <QScreen>
 #include <QShortcut>
 #include <QWindow>
@@ -15,13 +16,13 @@ namespace shell {
 
 namespace {
 
-// So much more than a spacer's stretch that spacers grow only once the block has its greatest size.
+// Beside it the spacers' stretch is so little that they grow only once the block has its greatest size.
 constexpr int BlockStretch = 1000;
 
 // What the frame and the title of a window leave it of the screen.
 constexpr double ShareOfScreen = 0.9;
 
-// Qt hangs where windows stand above each other in a circle: the one below loses the window below it then.
+// Qt hangs where windows stand above each other in a circle: the lower one then lets go of the one below it.
 void putAbove(QWindow& window, QWindow* below)
 {
     if (below != nullptr && window.isAncestorOf(below))
@@ -30,6 +31,11 @@ void putAbove(QWindow& window, QWindow* below)
 }
 
 } // namespace
+
+bool isEnter(const QKeyEvent& key)
+{
+    return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+}
 
 Window::Window(std::string_view name, std::string_view activeName) : activeName_(activeName)
 {
@@ -43,7 +49,7 @@ void Window::closeOnEscape()
     connect(escape, &QShortcut::activated, this, [this] { closeBoxPressed(); });
 }
 
-// A window that were larger than the screen at first would hide its buttons.
+// A window larger than the screen would hide its buttons.
 void Window::fitScreenAtFirst()
 {
     if (!testAttribute(Qt::WA_Resized))
@@ -83,15 +89,14 @@ QWidget* Window::centredBlock(QSize charactersAndLines)
     block->setMaximumSize(charactersAndLines.width() * metrics.averageCharWidth(),
                           charactersAndLines.height() * metrics.lineSpacing());
 
-    auto* const row = new QHBoxLayout;
-    row->addStretch(1);
-    row->addWidget(block, BlockStretch);
-    row->addStretch(1);
-    auto* const column = new QVBoxLayout(this);
-    column->addStretch(1);
-    column->addLayout(row, BlockStretch);
-    column->addStretch(1);
+    auto* const row = rowOf(0, {Part::gap(1), {block, BlockStretch}, Part::gap(1)});
+    setLayout(columnOf(0, {Part::gap(1), {row, BlockStretch}, Part::gap(1)}));
     return block;
+}
+
+void Window::layOutLines(QSize charactersAndLines, const QMargins& margins, std::initializer_list<Part> lines)
+{
+    setContent(centredBlock(charactersAndLines), margins, columnOf(MediumSpace, lines));
 }
 
 void Window::changeEvent(QEvent* event)

@@ -1,11 +1,18 @@
 #pragma once
 
+#include "shell/kit/layout.h"
+
 #include <QSize>
 #include <QWidget>
 
 #include <string_view>
 
+class QKeyEvent;
+
 namespace shell {
+
+/// Whether a key is one of the two Enter keys.
+bool isEnter(const QKeyEvent& key);
 
 /// What all windows of the program share: the object name, `ActiveWindowName` on activation, the close box
 /// and Escape, the state that `MainWindowState` asks for, and a block that keeps a large window's content
@@ -34,6 +41,9 @@ protected:
     /// A widget for the window's content. It fills the window up to so many characters and lines of the
     /// window's font; a larger window keeps it in its middle.
     QWidget* centredBlock(QSize charactersAndLines);
+
+    /// Makes such a block of parts from top to bottom, with these margins.
+    void layOutLines(QSize charactersAndLines, const QMargins& margins, std::initializer_list<Part> lines);
 
     /// Makes Escape do what the close box does, wherever the focus is.
     void closeOnEscape();

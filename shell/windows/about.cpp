@@ -1,8 +1,8 @@
 #include "shell/windows/about.h"
 
 #include "shell/kit/captions.h"
-#include "shell/kit/text.h"
-#include "shell/kit/type.h"
+#include "shell/kit/controls.h"
+#include "shell/kit/layout.h"
 
 #include <QBoxLayout>
 #include <QCoreApplication>
@@ -37,24 +37,16 @@ About::About() : Window("About", "About")
 {
     auto* const title = new QLabel(QStringLiteral("Velmorane"));
     setBoldType(*title, TitleType);
-    auto* const text = new QLabel;
-    text->setObjectName(QStringLiteral("AboutText"));
+    auto* const text = makeLabel(this, "AboutText");
     text->setWordWrap(true);
-    auto* const version =
-        new QLabel(QStringLiteral("Morvanti %1  ·  MIT").arg(QCoreApplication::applicationVersion()));
-    version->setObjectName(QStringLiteral("AboutVersion"));
-    auto* const close = new QPushButton;
-    close->setObjectName(QStringLiteral("Command1"));
+    auto* const version = makeLabel(this, "AboutVersion");
+    version->setText(QStringLiteral("Morvanti %1  ·  MIT").arg(QCoreApplication::applicationVersion()));
+    auto* const close = makeButton(this, "Command1");
     close->setDefault(true);
     closeOnEscape();
 
-    auto* const layout = new QVBoxLayout(centredBlock(LargestBlock));
-    layout->setSpacing(LargeSpace);
-    layout->addWidget(title);
-    layout->addWidget(text);
-    layout->addWidget(version);
-    layout->addStretch();
-    layout->addWidget(close, 0, Qt::AlignRight);
+    centredBlock(LargestBlock)
+        ->setLayout(columnOf(LargeSpace, {title, text, version, Part::gap(), buttonRow({}, {close})}));
 
     connect(close, &QPushButton::clicked, this, &About::left);
     applyDesignedCaptions(*this, AboutCaptions);

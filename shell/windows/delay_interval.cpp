@@ -2,12 +2,14 @@
 
 #include "shell/delay.h"
 #include "shell/kit/captions.h"
-#include "shell/kit/enter_key.h"
+#include "shell/kit/controls.h"
+#include "shell/kit/layout.h"
 #include "shell/kit/text.h"
 #include "shell/kit/type.h"
 #include "shell/pause.h"
 
 #include <QBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollBar>
@@ -32,9 +34,7 @@ constexpr std::array Captions = {
 
 } // namespace
 
-DelayInterval::DelayInterval()
-    : Window("DelayInterval", "delay"), scroll_(new QScrollBar(Qt::Horizontal)), length_(new QLabel),
-      ok_(new QPushButton), cancel_(new QPushButton), test_(new QPushButton)
+DelayInterval::DelayInterval() : Window("DelayInterval", "delay")
 {
     setWindowModality(Qt::ApplicationModal);
     makeControls();
@@ -45,44 +45,31 @@ DelayInterval::DelayInterval()
 
 void DelayInterval::makeControls()
 {
-    scroll_->setObjectName(QStringLiteral("DelayScroll"));
+    scroll_ = makeControl<QScrollBar>(this, "DelayScroll");
+    scroll_->setOrientation(Qt::Horizontal);
     scroll_->setRange(0, LongestScroll);
     scroll_->setSingleStep(ScrollStep);
     scroll_->setPageStep(ScrollPage);
     // A scroll bar's arrow keys go the other way by default: the right one must make the pause longer.
     scroll_->setInvertedControls(false);
     scroll_->setFocusPolicy(Qt::StrongFocus);
-    scroll_->setMinimumWidth(ScrollCharacters * fontMetrics().averageCharWidth());
+    setLeastWidth(*scroll_, ScrollCharacters);
 
-    length_->setObjectName(QStringLiteral("DelayLabel"));
+    length_ = makeLabelOf(scroll_, "DelayLabel");
     length_->setAlignment(Qt::AlignCenter);
     length_->setMargin(SmallSpace);
-    length_->setBuddy(scroll_);
     setType(*length_, HeadingType);
 
-    ok_->setObjectName(QStringLiteral("DelayOK"));
-    cancel_->setObjectName(QStringLiteral("DelayCancel"));
-    test_->setObjectName(QStringLiteral("DelayTest"));
-    for (QPushButton* const button : {ok_, cancel_, test_})
-        button->setAutoDefault(true);
+    test_ = makeButton(this, "DelayTest");
+    ok_ = makeButton(this, "DelayOK");
+    cancel_ = makeButton(this, "DelayCancel");
 }
 
 void DelayInterval::layOut()
 {
-    auto* const buttons = new QHBoxLayout;
-    buttons->setSpacing(SmallSpace);
-    buttons->addWidget(test_);
-    buttons->addStretch();
-    buttons->addWidget(ok_);
-    buttons->addWidget(cancel_);
-
-    auto* const rows = new QVBoxLayout(this);
-    rows->setContentsMargins(WideSpace, WideSpace, WideSpace, WideSpace);
-    rows->setSpacing(LargeSpace);
-    rows->addWidget(length_);
-    rows->addWidget(scroll_);
-    rows->addStretch();
-    rows->addLayout(buttons);
+    constexpr QMargins margins{WideSpace, WideSpace, WideSpace, WideSpace};
+    setContent(this, margins,
+               columnOf(LargeSpace, {length_, scroll_, Part::gap(), buttonRow({test_}, {ok_, cancel_})}));
 }
 
 void DelayInterval::connectControls()

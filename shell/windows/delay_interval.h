@@ -33,11 +33,11 @@ private:
     void leave();
     void tryLength();
 
-    QScrollBar* scroll_;
-    QLabel* length_;
-    QPushButton* ok_;
-    QPushButton* cancel_;
-    QPushButton* test_;
+    QScrollBar* scroll_ = nullptr;
+    QLabel* length_ = nullptr;
+    QPushButton* test_ = nullptr;
+    QPushButton* ok_ = nullptr;
+    QPushButton* cancel_ = nullptr;
 
     Stay trial_;
 };

@@ -3,8 +3,9 @@
 #include "platform/platform.h"
 #include "platform/printed_number.h"
 #include "shell/kit/captions.h"
+#include "shell/kit/controls.h"
+#include "shell/kit/layout.h"
 #include "shell/kit/text.h"
-#include "shell/kit/type.h"
 #include "shell/settings.h"
 #include "shell/windows/main_menu_items.h"
 
@@ -60,10 +61,7 @@ QString mainMenuText(std::string_view control)
 
 } // namespace
 
-FrmOptions::FrmOptions()
-    : Window("frmOptions"), tabs_(new QTabBar), space_(new QWidget), delay_(new QLabel),
-      slider_(new QSlider(Qt::Horizontal)), ok_(new QPushButton), cancel_(new QPushButton),
-      apply_(new QPushButton)
+FrmOptions::FrmOptions() : Window("frmOptions"), space_(new QWidget(this))
 {
     setWindowModality(Qt::ApplicationModal);
     makeControls();
@@ -74,75 +72,50 @@ FrmOptions::FrmOptions()
 
 void FrmOptions::makeControls()
 {
-    tabs_->setObjectName(QStringLiteral("tbsOptions"));
+    tabs_ = makeControl<QTabBar>(this, "tbsOptions");
     tabs_->setExpanding(false);
     for (std::size_t tab = 0; tab < Tabs.size(); ++tab) {
         tabs_->addTab(QString());
-        frames_.push_back(new QFrame(this));
-        frames_.back()->setObjectName(QStringLiteral("picOptions%1").arg(tab));
+        frames_.push_back(makeControl<QFrame>(this, QStringLiteral("picOptions%1").arg(tab)));
         frames_.back()->setFrameStyle(QFrame::StyledPanel | QFrame::Plain);
     }
     fillDelayFrame(*frames_.front());
     fillOrderFrame(*frames_.back());
-    ok_->setObjectName(QStringLiteral("cmdOK"));
-    cancel_->setObjectName(QStringLiteral("cmdCancel"));
-    apply_->setObjectName(QStringLiteral("cmdApply"));
-    for (QPushButton* const button : {ok_, cancel_, apply_})
-        button->setAutoDefault(true);
+    ok_ = makeButton(this, "cmdOK");
+    cancel_ = makeButton(this, "cmdCancel");
+    apply_ = makeButton(this, "cmdApply");
 }
 
 void FrmOptions::fillDelayFrame(QFrame& frame)
 {
-    auto* const page = new QWidget;
-    page->setObjectName(QStringLiteral("OptionsTab"));
-    slider_->setObjectName(QStringLiteral("GODelaySlider"));
+    auto* const page = makeControl<QWidget>(&frame, "OptionsTab");
+    slider_ = makeControl<QSlider>(page, "GODelaySlider");
+    slider_->setOrientation(Qt::Horizontal);
     slider_->setRange(0, LongestDelay);
-    auto* const label = new QLabel;
-    label->setObjectName(QStringLiteral("GODelayLabel"));
-    label->setBuddy(slider_);
-    setType(*delay_, HeadingType);
-
-    auto* const rows = new QVBoxLayout(page);
-    rows->setSpacing(MediumSpace);
-    rows->addWidget(label);
-    rows->addWidget(delay_);
-    rows->addWidget(slider_);
-    rows->addStretch();
-    auto* const whole = new QVBoxLayout(&frame);
-    whole->addWidget(page);
+    delay_ = makeLabel(page, {}, HeadingType);
+    page->setLayout(
+        columnOf(MediumSpace, {makeLabelOf(slider_, "GODelayLabel"), delay_, slider_, Part::gap()}));
+    frame.setLayout(columnOf(0, {page}));
 }
 
 void FrmOptions::fillOrderFrame(QFrame& frame)
 {
-    auto* const rows = new QFormLayout(&frame);
-    rows->setContentsMargins(LargeSpace, LargeSpace, LargeSpace, LargeSpace);
+    auto* const rows = new QFormLayout;
     rows->setSpacing(MediumSpace);
     for (int row = 0; row < 2; ++row) {
         orders_.push_back(new QLabel);
         orders_.push_back(new QLabel);
         rows->addRow(orders_.at(orders_.size() - 2), orders_.back());
     }
+    setContent(&frame, FormMargins, rows);
 }
 
 void FrmOptions::layOut()
 {
-    auto* const buttons = new QHBoxLayout;
-    buttons->setSpacing(SmallSpace);
-    buttons->addStretch();
-    buttons->addWidget(ok_);
-    buttons->addWidget(cancel_);
-    buttons->addWidget(apply_);
-
-    auto* const rows = new QVBoxLayout(this);
-    rows->setContentsMargins(LeftOfChosenFrame, MediumSpace, LeftOfChosenFrame, LargeSpace);
-    rows->setSpacing(0);
-    rows->addWidget(tabs_);
-    rows->addWidget(space_, 1);
-    rows->addSpacing(LargeSpace);
-    rows->addLayout(buttons);
-
-    setTabOrder(tabs_, slider_);
-    setTabOrder(slider_, ok_);
+    constexpr QMargins margins{LeftOfChosenFrame, MediumSpace, LeftOfChosenFrame, LargeSpace};
+    setContent(
+        this, margins,
+        columnOf(0, {tabs_, {space_, 1}, Part::space(LargeSpace), buttonRow({}, {ok_, cancel_, apply_})}));
 }
 
 void FrmOptions::connectControls()

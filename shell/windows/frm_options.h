@@ -41,15 +41,15 @@ private:
     void apply();
     void confirm();
 
-    QTabBar* tabs_;
+    QTabBar* tabs_ = nullptr;
     std::vector<QFrame*> frames_;
     QWidget* space_;
-    QLabel* delay_;
-    QSlider* slider_;
+    QLabel* delay_ = nullptr;
+    QSlider* slider_ = nullptr;
     std::vector<QLabel*> orders_;
-    QPushButton* ok_;
-    QPushButton* cancel_;
-    QPushButton* apply_;
+    QPushButton* ok_ = nullptr;
+    QPushButton* cancel_ = nullptr;
+    QPushButton* apply_ = nullptr;
 };
 
 } // namespace shell

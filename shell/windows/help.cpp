@@ -2,8 +2,9 @@
 
 #include "platform/text_file.h"
 #include "shell/kit/captions.h"
+#include "shell/kit/controls.h"
+#include "shell/kit/layout.h"
 #include "shell/kit/text.h"
-#include "shell/kit/type.h"
 #include "shell/windows/guide_text.h"
 
 #include <QBoxLayout>
@@ -29,19 +30,14 @@ constexpr std::array HelpCaptions = {
 
 } // namespace
 
-Help::Help() : Window("Help"), text_(new QTextBrowser)
+Help::Help() : Window("Help"), text_(makeControl<QTextBrowser>(this, "HelpText"))
 {
-    text_->setObjectName(QStringLiteral("HelpText"));
     text_->document()->setDocumentMargin(WideSpace);
-    auto* const close = new QPushButton;
-    close->setObjectName(QStringLiteral("Command1"));
+    auto* const close = makeButton(this, "Command1");
     close->setDefault(true);
     closeOnEscape();
 
-    auto* const layout = new QVBoxLayout(centredBlock(LargestBlock));
-    layout->setSpacing(MediumSpace);
-    layout->addWidget(text_);
-    layout->addWidget(close, 0, Qt::AlignRight);
+    centredBlock(LargestBlock)->setLayout(columnOf(MediumSpace, {text_, buttonRow({}, {close})}));
     const QSize letter(fontMetrics().averageCharWidth(), fontMetrics().lineSpacing());
     resize(QSize(NormalSize.width() * letter.width(), NormalSize.height() * letter.height())
                .boundedTo(screen()->availableSize() * 9 / 10));

@@ -18,6 +18,7 @@ namespace verbdrills {
 
 using shell::Caption;
 using shell::makeLabel;
+using shell::Part;
 using verbs::currentParadigm;
 
 namespace {
@@ -26,7 +27,6 @@ constexpr QSize LargestBlock{96, 30};
 constexpr int PersonsOfNumber = 3;
 constexpr std::array PersonRows = {"FirstPerson", "SecondPerson", "ThirdPerson"};
 
-// French has the Latin names of the numbers, and the German "Merhzahl" is meant.
 // clang-format off
 constexpr std::array Captions = {
     //                        English     French                Italian  German    Spanish     Latin
@@ -35,8 +35,8 @@ constexpr std::array Captions = {
     Caption{"FirstPerson",   {"1st",      "1",                  {}, "1.",       "1a",       "i"}},
     Caption{"SecondPerson",  {"2nd",      "2",                  {}, "2.",       "2a",       "ii"}},
     Caption{"ThirdPerson",   {"3rd",      "3",                  {}, "3.",       "3a",       "iii"}},
-    Caption{"Singular",      {"Singular", "Numerus Singularis", {}, "Einzahl",  "Singular", "Numerus Singularis"}},
-    Caption{"Plural",        {"Plural",   "Numerus Pluralis",   {}, "Merhzahl", "Plural",   "Numerus Pluralis"}},
+    Caption{"Singular",      {"Singular", "Numerus Singularis", {}, "Einzahl",  "Singular", "Numerus Singularis"}}, // sic: French
+    Caption{"Plural",        {"Plural",   "Numerus Pluralis",   {}, "Merhzahl", "Plural",   "Numerus Pluralis"}},   // sic: French and German
     Caption{"HelpLabel",     {"Help=F1",  "Assistance=F1",      {}, "Hilfe=F1", "Ayuda=F1", "Auxilium=F1"}},
 };
 // clang-format on
@@ -51,52 +51,28 @@ Conjugation::Conjugation() : BoxDrill("Conjugation", "conjugation", shell::exerc
 
 void Conjugation::makeControls()
 {
-    title_ = makeLabel(this, "TitleLabel");
-    tense_ = makeLabel(this, "TenseLabel");
-    verb_ = makeLabel(this, "VerbLabel");
-    shell::setType(*title_, shell::FormType);
-    shell::setType(*tense_, shell::FormType);
-    shell::setBoldType(*verb_, shell::TitleType);
-    for (int i = 0; i < BoxCount; ++i) {
-        const auto index = static_cast<std::size_t>(i);
+    title_ = makeLabel(this, "TitleLabel", shell::FormType);
+    tense_ = makeLabel(this, "TenseLabel", shell::FormType);
+    verb_ = shell::makeHeading(this, "VerbLabel", shell::TitleType);
+    for (std::size_t i = 0; i < glosses_.size(); ++i) {
         addBox(this, QStringLiteral("ConjText%1").arg(i));
-        glosses_.at(index) = makeLabel(this, qPrintable(QStringLiteral("Ctransl%1").arg(i)));
-        glosses_.at(index)->setWordWrap(true);
-        shell::setType(*glosses_.at(index), shell::NoteType);
+        glosses_.at(i) = makeLabel(this, QStringLiteral("Ctransl%1").arg(i), shell::NoteType);
+        glosses_.at(i)->setWordWrap(true);
     }
 }
 
 void Conjugation::layOut()
 {
-    auto* const rows = new QVBoxLayout(centredBlock(LargestBlock));
-    rows->setContentsMargins(shell::WideSpace, shell::LargeSpace, shell::WideSpace, shell::LargeSpace);
-    rows->setSpacing(shell::MediumSpace);
-    rows->addLayout(headingRows());
-    rows->addSpacing(shell::SmallSpace);
-    rows->addLayout(answerGrid());
-    rows->addStretch();
-    rows->addLayout(helpAndButtons(
-        {makeCheckButton("Ccontinue"), makeHintButton("ConjQuestion"), makeQuitButton("Cquit")}));
-}
-
-QBoxLayout* Conjugation::headingRows()
-{
-    auto* const names = new QVBoxLayout;
-    names->setSpacing(shell::HairSpace);
-    names->addWidget(title_);
-    names->addWidget(verb_);
-    names->addWidget(tense_);
-    auto* const heading = new QHBoxLayout;
-    heading->addLayout(names, 1);
-    heading->addWidget(scoreLabel(), 0, Qt::AlignRight | Qt::AlignTop);
-    return heading;
+    QBoxLayout* const names = shell::columnOf(shell::HairSpace, {title_, verb_, tense_});
+    layOutLines(LargestBlock, shell::DrillMargins,
+                {withScore({names, 1}), Part::space(shell::SmallSpace), answerGrid(), Part::gap(),
+                 helpAndButtons({makeCheckButton("Ccontinue"), makeQuestionButton("ConjQuestion"),
+                                 makeQuitButton("Cquit")})});
 }
 
 QGridLayout* Conjugation::answerGrid()
 {
-    auto* const grid = new QGridLayout;
-    grid->setHorizontalSpacing(shell::LargeSpace);
-    grid->setVerticalSpacing(shell::SmallSpace);
+    QGridLayout* const grid = shell::gridOf(shell::LargeSpace, shell::SmallSpace);
     grid->setColumnStretch(1, 1);
     grid->setColumnStretch(2, 1);
     grid->addWidget(makeLabel(this, "Singular"), 0, 1);
@@ -104,9 +80,7 @@ QGridLayout* Conjugation::answerGrid()
     for (int person = 0; person < PersonsOfNumber; ++person) {
         const int row = 1 + 2 * person;
         const auto singular = static_cast<std::size_t>(person);
-        QLabel* const label = makeLabel(this, PersonRows.at(singular));
-        label->setBuddy(&box(person));
-        grid->addWidget(label, row, 0);
+        grid->addWidget(shell::makeLabelOf(&box(person), PersonRows.at(singular)), row, 0);
         grid->addWidget(&box(person), row, 1);
         grid->addWidget(&box(person + PersonsOfNumber), row, 2);
         grid->addWidget(glosses_.at(singular), row + 1, 1);

@@ -35,7 +35,6 @@ protected:
 private:
     void makeControls();
     void layOut();
-    QBoxLayout* headingRows();
     QGridLayout* answerGrid();
     void showGloss(int number);
     void emptyRound();

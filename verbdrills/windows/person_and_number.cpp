@@ -1,7 +1,7 @@
 #include "verbdrills/windows/person_and_number.h"
 
 #include "shell/kit/controls.h"
-#include "shell/kit/type.h"
+#include "shell/kit/layout.h"
 #include "verbdrills/verb_question.h"
 
 #include <QButtonGroup>
@@ -28,10 +28,8 @@ constexpr int Plural = 1;
 PersonAndNumber::PersonAndNumber(QWidget* parent)
     : QWidget(parent), persons_(new QButtonGroup(this)), numbers_(new QButtonGroup(this))
 {
-    auto* const grid = new QGridLayout(this);
-    grid->setContentsMargins(0, 0, 0, 0);
-    grid->setHorizontalSpacing(shell::LargeSpace);
-    grid->setVerticalSpacing(shell::HairSpace);
+    QGridLayout* const grid = shell::gridOf(shell::LargeSpace, shell::HairSpace);
+    shell::setContent(this, {}, grid);
     grid->setColumnStretch(1, 1);
     const auto addOptions = [&](QButtonGroup* group, std::span<const char* const> names, int first,
                                 int column) {

@@ -2,14 +2,13 @@
 
 #include "shell/kit/captions.h"
 #include "shell/kit/controls.h"
+#include "shell/kit/layout.h"
 #include "shell/kit/text.h"
-#include "shell/kit/type.h"
 #include "shell/pause.h"
 #include "shell/settings.h"
 #include "verbdrills/quiz_draw.h"
 #include "verbdrills/quiz_texts.h"
 #include "verbdrills/windows/person_and_number.h"
-#include "verbdrills/windows/probatio_captions.h"
 #include "verbdrills/windows/quiz_list.h"
 
 #include <QBoxLayout>
@@ -20,15 +19,42 @@
 
 namespace verbdrills {
 
+using shell::Caption;
+using shell::columnOf;
+using shell::englishToo;
+using shell::LanguageTexts;
 using shell::makeButton;
 using shell::makeLabel;
+using shell::Part;
+using shell::rowOf;
 
 namespace {
 
 constexpr QSize LargestBlock{120, 43};
 
-// So much more than a spacer's stretch that a list grows first.
+// Beside it a spacer's stretch is so little that a list grows first.
 constexpr int FillsColumn = 1000;
+
+// clang-format off
+constexpr std::array Captions = {
+    //                                    English, French, Italian              German                                                             Spanish                              Latin
+    Caption{"Probatio",        QuizTitle},
+    Caption{"YourAnswerLabel", englishToo("Your Answer",                        "Ihre Antwort",                                                    "Tu respuesta",                      "Responsum Tuum")},
+    Caption{"HelpLabel",       englishToo("Help=F1",                            "Hilfe=F1",                                                        "Ayuda=F1",                          "Auxilium=F1")},
+    Caption{"IdentifyLabel",   englishToo("Identify the grammar of this form:", "Geben Sie die grammatischen Einzelheiten der folgenden Form an!", "Analiza la forma de esta palabra:", "Dona grammaticam sequentis verbi:")},
+    Caption{"QuizOK",          englishToo("&OK",                                "&OK",                                                             "&Si",                               "&Ita")},
+    Caption{"QuizCancel",      englishToo("&Cancel",                            "&Abbruch",                                                        "&Cancelar",                         "&Reverte!")},
+    Caption{"QuizSkip",        englishToo("&Skip",                              "Aus&lassen",                                                      "S&altar",                           "&Transgredire!")},
+    Caption{"QuizOptions",     englishToo("O&ptions",                           "O&ptionen",                                                       "&Opciones",                         "O&ptiones")},
+    Caption{"QuizFirst",       englishToo("&First Person",                      "&Erste Person",                                                   "Pri&mera persona",                  "Persona &prima")},
+    Caption{"QuizSecond",      englishToo("&Second Person",                     "&Zweite Person",                                                  "&Segunda persona",                  "Persona se&cunda")},
+    Caption{"QuizThird",       englishToo("&Third Person",                      "&Dritte Person",                                                  "&Tercera persona",                  "Persona &tertia")},
+    Caption{"QuizSing",        englishToo("Sin&gular",                          "Ein&zahl",                                                        "Sin&gular",                         "Sin&gularis")},
+    Caption{"QuizPlural",      englishToo("&Plural",                            "&Mehrzahl",                                                       "&Plural",                           "&Pluralis")},
+};
+
+constexpr LanguageTexts CorrectHeading = englishToo("Correct Answer", "Korrekte Antwort", "Correct Answer", "Responsum rectum"); // sic: Spanish
+// clang-format on
 
 } // namespace
 
@@ -38,7 +64,7 @@ Probatio::Probatio() : Window("Probatio", "quiz")
     layOut();
     connectControls();
     closeOnEscape();
-    shell::applyDesignedCaptions(*this, probatioCaptions());
+    shell::applyDesignedCaptions(*this, Captions);
     shell::registerDrill(shell::exercise::Quiz, *this);
 }
 
@@ -49,97 +75,56 @@ Probatio::~Probatio()
 
 void Probatio::makeControls()
 {
-    item_ = makeLabel(this, "QuizItem");
-    baseForm_ = makeLabel(this, "QuizBaseForm");
-    shell::setBoldType(*item_, shell::TitleType);
-    shell::setType(*baseForm_, shell::FormType);
+    item_ = shell::makeHeading(this, "QuizItem", shell::TitleType);
+    baseForm_ = makeLabel(this, "QuizBaseForm", shell::FormType);
     classes_ = new QuizList("QuizConjList", QStringLiteral("Conjugations"), this);
     tenses_ = new QuizList("QuizTenseList", QStringLiteral("Tenses"), this);
     personAndNumber_ = new PersonAndNumber(this);
     yourAnswer_ = makeLabel(this, "QuizYourAnswer");
-    correctHeading_ = makeLabel(this, "QuizHeading");
+    correctHeading_ = shell::makeHeading(this, "QuizHeading", 1);
     correct_ = makeLabel(this, "QuizCorrect");
     yourAnswer_->setWordWrap(true);
     correct_->setWordWrap(true);
     ok_ = makeButton(this, "QuizOK");
-    question_ = makeButton(this, "QuizQuestion");
+    question_ = shell::makeHintButton(this, "QuizQuestion");
     skip_ = makeButton(this, "QuizSkip");
     options_ = makeButton(this, "QuizOptions");
     cancel_ = makeButton(this, "QuizCancel");
-    question_->setText(QStringLiteral("?"));
-    question_->setAccessibleName(QStringLiteral("Show the answer"));
 }
 
 void Probatio::layOut()
 {
-    auto* const rows = new QVBoxLayout(centredBlock(LargestBlock));
-    rows->setContentsMargins(shell::WideSpace, shell::LargeSpace, shell::WideSpace, shell::LargeSpace);
-    rows->setSpacing(shell::MediumSpace);
-    rows->addLayout(questionRows());
-    rows->addLayout(answerColumns(), 1);
-    rows->addLayout(answersInWords());
-    rows->addLayout(buttonRow());
-}
-
-QBoxLayout* Probatio::questionRows()
-{
     QLabel* const identify = makeLabel(this, "IdentifyLabel");
     identify->setWordWrap(true);
-    auto* const form = new QHBoxLayout;
-    form->setSpacing(shell::WideSpace);
-    form->addWidget(item_);
-    form->addWidget(baseForm_, 1, Qt::AlignRight | Qt::AlignBottom);
-    auto* const rows = new QVBoxLayout;
-    rows->setSpacing(shell::HairSpace);
-    rows->addWidget(identify);
-    rows->addLayout(form);
-    return rows;
+    QBoxLayout* const form =
+        rowOf(shell::WideSpace, {item_, {baseForm_, 1, Qt::AlignRight | Qt::AlignBottom}});
+    layOutLines(
+        LargestBlock, shell::DrillMargins,
+        {columnOf(shell::HairSpace, {identify, form}),
+         {answerColumns(), 1},
+         answersInWords(),
+         shell::buttonRow({makeLabel(this, "HelpLabel")}, {ok_, question_, skip_, options_, cancel_})});
 }
 
 QBoxLayout* Probatio::answerColumns()
 {
-    auto* const left = new QVBoxLayout;
-    left->setSpacing(shell::MediumSpace);
-    left->addWidget(classes_, FillsColumn);
-    left->addWidget(personAndNumber_);
-    left->addStretch(1);
-    auto* const right = new QVBoxLayout;
-    right->addWidget(tenses_, FillsColumn);
-    right->addStretch(1);
-    auto* const columns = new QHBoxLayout;
-    columns->setSpacing(shell::LargeSpace);
-    columns->addLayout(left, 1);
-    columns->addLayout(right, 1);
-    return columns;
+    auto* const left =
+        columnOf(shell::MediumSpace, {{classes_, FillsColumn}, personAndNumber_, Part::gap(1)});
+    auto* const right = columnOf(shell::MediumSpace, {{tenses_, FillsColumn}, Part::gap(1)});
+    return rowOf(shell::LargeSpace, {{left, 1}, {right, 1}});
 }
 
 QGridLayout* Probatio::answersInWords()
 {
-    QLabel* const yourHeading = makeLabel(this, "YourAnswerLabel");
-    shell::setBoldType(*yourHeading, 1);
-    shell::setBoldType(*correctHeading_, 1);
-    auto* const grid = new QGridLayout;
-    grid->setHorizontalSpacing(shell::LargeSpace);
-    grid->setVerticalSpacing(shell::HairSpace);
+    QGridLayout* const grid = shell::gridOf(shell::LargeSpace, shell::HairSpace);
     grid->setColumnStretch(0, 1);
     grid->setColumnStretch(1, 1);
-    grid->addWidget(yourHeading, 0, 0);
+    grid->addWidget(shell::makeHeading(this, "YourAnswerLabel", 1), 0, 0);
     grid->addWidget(correctHeading_, 0, 1);
     grid->addWidget(yourAnswer_, 1, 0, Qt::AlignTop);
     grid->addWidget(correct_, 1, 1, Qt::AlignTop);
     grid->setRowMinimumHeight(1, 2 * QFontMetrics(font()).lineSpacing());
     return grid;
-}
-
-QBoxLayout* Probatio::buttonRow()
-{
-    auto* const row = new QHBoxLayout;
-    row->setSpacing(shell::SmallSpace);
-    row->addWidget(makeLabel(this, "HelpLabel"));
-    row->addStretch();
-    for (QPushButton* const button : {ok_, question_, skip_, options_, cancel_})
-        row->addWidget(button);
-    return row;
 }
 
 void Probatio::connectControls()
@@ -169,7 +154,7 @@ void Probatio::checkOnEnter(QWidget* control)
 
 void Probatio::open()
 {
-    shell::applyCaptions(*this, probatioCaptions());
+    shell::applyCaptions(*this, Captions);
     classes_->fill(quizClassNames());
     tenses_->fill(quizTenseNames());
     verbQuiz.formIsAsked = false;
@@ -258,7 +243,7 @@ void Probatio::showRightAnswer()
     if (shell::pausing() || !verbQuiz.formIsAsked)
         return;
     showChosenAnswer();
-    correctHeading_->setText(shell::fromUtf8(correctHeading()));
+    correctHeading_->setText(shell::fromUtf8(CorrectHeading.currentOrDesigned()));
     correct_->setText(shell::fromUtf8(describe(rightIdentification())));
 }
 

@@ -50,10 +50,8 @@ Q_SIGNALS:
 private:
     void makeControls();
     void layOut();
-    QBoxLayout* questionRows();
     QBoxLayout* answerColumns();
     QGridLayout* answersInWords();
-    QBoxLayout* buttonRow();
     void connectControls();
     void checkOnEnter(QWidget* control);
 

@@ -2,8 +2,7 @@
 
 #include "shell/kit/captions.h"
 #include "shell/kit/controls.h"
-#include "shell/kit/enter_key.h"
-#include "shell/kit/type.h"
+#include "shell/kit/layout.h"
 #include "verbdrills/quiz_texts.h"
 
 #include <QBoxLayout>
@@ -11,6 +10,7 @@
 #include <QFrame>
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 
@@ -19,20 +19,19 @@ namespace verbdrills {
 using shell::Caption;
 using shell::englishToo;
 using shell::makeButton;
+using shell::makeControl;
 
 namespace {
 
 constexpr int ClassColumns = 4;
 constexpr int TenseRows = 7;
 
-// The German "Öbung" is meant, and so are the English "Future Perfect" and "Present" and the "Futuro de
-// subjuntivo" among the Spanish tenses.
 // clang-format off
 constexpr std::array Captions = {
     //                                English, French, Italian      German                                            Spanish                              Latin
     Caption{"QuizInclude", QuizTitle},
-    Caption{"ConjFrame",   englishToo("Conjugations to Include:",   "Konjugationen, die in der Öbung gelten sollen:", "Conjugaciones que incluir:",        "Conjugationes comprehendae in Probatione")},
-    Caption{"TenseFrame",  englishToo("Tenses to Include in Quiz:", "Zeitformen, die in der Öbung gelten sollen:",    "Tiempos que incluir en la Prueba:", "Tempora comprehendae in Probatione")},
+    Caption{"ConjFrame",   englishToo("Conjugations to Include:",   "Konjugationen, die in der Öbung gelten sollen:", "Conjugaciones que incluir:",        "Conjugationes comprehendae in Probatione")}, // sic: German
+    Caption{"TenseFrame",  englishToo("Tenses to Include in Quiz:", "Zeitformen, die in der Öbung gelten sollen:",    "Tiempos que incluir en la Prueba:", "Tempora comprehendae in Probatione")}, // sic: German
     Caption{"InclQuiz",    englishToo("&OK",                        "&OK",                                            "&Si",                               "&Ita")},
     Caption{"InclInclude", englishToo("&Include All",               "&Alle",                                          "&Incluir todos",                    "&Omnia")},
     Caption{"InclClear",   englishToo("C&lear All",                 "Aus&räumen",                                     "&Borrar todos",                     "Pur&ga!")},
@@ -50,18 +49,18 @@ constexpr std::array Captions = {
     Caption{"InclTense2",  englishToo("Future",                     "Futur",                                          "Futuro",                            "Futurum")},
     Caption{"InclTense3",  englishToo("Perfect",                    "Perfekt",                                        "Perfecto",                          "Perfectum")},
     Caption{"InclTense4",  englishToo("Pluperfect",                 "Plusquamperfekt",                                "Pluscuamperfecto",                  "Plusquam perfectum")},
-    Caption{"InclTense5",  englishToo("Future Perfect",             "Futur Perfekt",                                  "Future Perfect",                    "Futurum perfectum")},
+    Caption{"InclTense5",  englishToo("Future Perfect",             "Futur Perfekt",                                  "Future Perfect",                    "Futurum perfectum")}, // sic: Spanish
     Caption{"InclTense6",  englishToo("Subjunctive Pres.",          "Präsens Konj.",                                  "Pres. subjuntivo",                  "Praesens Subj.")},
     Caption{"InclTense7",  englishToo("Subjunctive Impf.",          "Imperfekt Konj.",                                "Imperf. subjuntivo",                "Imperfectum Subj.")},
     Caption{"InclTense8",  englishToo("Subjunctive Perf.",          "Perfekt Konj.",                                  "Perf. subjuntivo",                  "Perfectum Subj.")},
     Caption{"InclTense9",  englishToo("Subjunctive Pluperf.",       "Plusquamperf. Konj.",                            "Pluscuamperf. subjuntivo",          "Plusquam perf. Subj.")},
     Caption{"InclTense10", englishToo("Imperative",                 "Imperativ",                                      "Imperativo",                        "Imperativus Modus")},
-    Caption{"InclTense11", englishToo("Passive Present",            "Passiv Präsens",                                 "Present pasivo",                    "Passivum Praesens")},
+    Caption{"InclTense11", englishToo("Passive Present",            "Passiv Präsens",                                 "Present pasivo",                    "Passivum Praesens")}, // sic: Spanish
     Caption{"InclTense12", englishToo("Passive Imperfect",          "Passiv Imperfekt",                               "Imperfecto pasivo",                 "Passivum Imperfectum")},
     Caption{"InclTense13", englishToo("Passive Future",             "Passiv Futur",                                   "Futuro pasivo",                     "Passivum Futurum")},
     Caption{"InclTense14", englishToo("Passive Perfect",            "Passiv Perfekt",                                 "Perfecto pasivo",                   "Passivum Perfectum")},
     Caption{"InclTense15", englishToo("Passive Pluperfect",         "Passiv Plusquamperf.",                           "Pluscuamperf. pasivo",              "Passivum Plusquam perf.")},
-    Caption{"InclTense16", englishToo("Passive Future Perf.",       "Passiv Futur Perf.",                             "Futuro de subjuntivo pasivo",       "Passivum Futurum Perf.")},
+    Caption{"InclTense16", englishToo("Passive Future Perf.",       "Passiv Futur Perf.",                             "Futuro de subjuntivo pasivo",       "Passivum Futurum Perf.")}, // sic: Spanish
     Caption{"InclTense17", englishToo("Passive Pres. Subj.",        "Passiv Präs. Konj.",                             "Presente de subj. pasivo",          "Passivum Praes. Subj.")},
     Caption{"InclTense18", englishToo("Passive Imperf. Subj.",      "Passiv Imperf. Konj.",                           "Imperfecto de subj. pasivo",        "Passivum Imperf. Subj.")},
     Caption{"InclTense19", englishToo("Passive Perf. Subj.",        "Passiv Perf. Konj.",                             "Perfecto de subj. pasivo",          "Passivum Perf. Subj.")},
@@ -71,18 +70,12 @@ constexpr std::array Captions = {
 };
 // clang-format on
 
-QCheckBox* makeBox(QWidget* parent, const char* name, std::size_t index)
-{
-    auto* const box = new QCheckBox(parent);
-    box->setObjectName(QLatin1String(name) + QString::number(index));
-    return box;
-}
-
 } // namespace
 
 QuizInclude::QuizInclude()
-    : FramedWindow("QuizInclude", "quizinclude", "CIBigFrame"), classFrame_(new QGroupBox(frame())),
-      tenseFrame_(new QGroupBox(frame())), note_(shell::makeLabel(frame(), "InclNote"))
+    : FramedWindow("QuizInclude", "quizinclude", "CIBigFrame"),
+      classFrame_(makeControl<QGroupBox>(frame(), "ConjFrame")),
+      tenseFrame_(makeControl<QGroupBox>(frame(), "TenseFrame")), note_(shell::makeLabel(frame(), "InclNote"))
 {
     makeControls();
     layOut();
@@ -93,50 +86,32 @@ QuizInclude::QuizInclude()
 
 void QuizInclude::makeControls()
 {
-    classFrame_->setObjectName(QStringLiteral("ConjFrame"));
-    tenseFrame_->setObjectName(QStringLiteral("TenseFrame"));
     for (std::size_t i = 0; i < classes_.size(); ++i)
-        classes_.at(i) = makeBox(classFrame_, "InclConj", i);
+        classes_.at(i) = makeControl<QCheckBox>(classFrame_, QStringLiteral("InclConj%1").arg(i));
     for (std::size_t i = 0; i < tenses_.size(); ++i)
-        tenses_.at(i) = makeBox(tenseFrame_, "InclTense", i);
-    ok_ = makeButton(frame(), "InclQuiz");
+        tenses_.at(i) = makeControl<QCheckBox>(tenseFrame_, QStringLiteral("InclTense%1").arg(i));
     all_ = makeButton(frame(), "InclInclude");
     none_ = makeButton(frame(), "InclClear");
+    ok_ = makeButton(frame(), "InclQuiz");
     cancel_ = makeButton(frame(), "InclCancel");
 }
 
 void QuizInclude::layOut()
 {
-    auto* const classes = new QGridLayout(classFrame_);
-    classes->setHorizontalSpacing(shell::LargeSpace);
-    classes->setVerticalSpacing(shell::HairSpace);
+    QGridLayout* const classes = shell::gridOf(shell::LargeSpace, shell::HairSpace);
     for (int i = 0; i < static_cast<int>(classes_.size()); ++i)
         classes->addWidget(classes_.at(static_cast<std::size_t>(i)), i / ClassColumns, i % ClassColumns);
-    auto* const tenses = new QGridLayout(tenseFrame_);
-    tenses->setHorizontalSpacing(shell::WideSpace);
-    tenses->setVerticalSpacing(shell::HairSpace);
+    classFrame_->setLayout(classes);
+    QGridLayout* const tenses = shell::gridOf(shell::WideSpace, shell::HairSpace);
     for (int i = 0; i < static_cast<int>(tenses_.size()); ++i)
         tenses->addWidget(tenses_.at(static_cast<std::size_t>(i)), i % TenseRows, i / TenseRows);
 
-    auto* const buttons = new QHBoxLayout;
-    buttons->setSpacing(shell::SmallSpace);
-    buttons->addWidget(all_);
-    buttons->addWidget(none_);
-    buttons->addStretch();
-    buttons->addWidget(ok_);
-    buttons->addWidget(cancel_);
-    setTabOrder(tenses_.back(), all_);
-    setTabOrder(all_, none_);
-    setTabOrder(none_, ok_);
-    setTabOrder(ok_, cancel_);
-
-    auto* const rows = new QVBoxLayout(frame());
-    rows->setContentsMargins(shell::LargeSpace, shell::LargeSpace, shell::LargeSpace, shell::LargeSpace);
-    rows->setSpacing(shell::MediumSpace);
-    rows->addWidget(note_);
-    rows->addWidget(classFrame_);
-    rows->addWidget(tenseFrame_, 1);
-    rows->addLayout(buttons);
+    tenseFrame_->setLayout(tenses);
+    shell::setContent(
+        frame(), shell::FormMargins,
+        shell::columnOf(
+            shell::MediumSpace,
+            {note_, classFrame_, {tenseFrame_, 1}, shell::buttonRow({all_, none_}, {ok_, cancel_})}));
 }
 
 void QuizInclude::connectControls()
@@ -188,7 +163,7 @@ void QuizInclude::showTicks(const QuizTicks& ticks)
         tenses_.at(static_cast<std::size_t>(t))->setChecked(ticks.tenses[t]);
 }
 
-// A class stores all boxes as soon as it is clicked, a tense does not: this is meant.
+// A click on a class takes all ticks over at once; a click on a tense waits for OK.
 void QuizInclude::storeAtOnce()
 {
     storeTicks(ticks());

@@ -2,18 +2,20 @@
 
 #include "platform/platform.h"
 #include "shell/kit/controls.h"
+#include "shell/kit/layout.h"
+#include "shell/kit/record_form.h"
 #include "shell/kit/text.h"
-#include "shell/kit/type.h"
 #include "verbs/verb_edits.h"
 
 #include <QBoxLayout>
-#include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 
 namespace verbs {
+
+using shell::FieldNames;
 
 namespace {
 
@@ -34,27 +36,34 @@ constexpr std::array<ClassRow, LastRegularClass> Classes = {{{FirstConjugation, 
                                                              {ThirdIoConjugation, "Third -io Conjugation"},
                                                              {FourthConjugation, "Fourth Conjugation"}}};
 
-// The stems of a verb, the label that previews a form, and that form's ending. The infinitive is meant to end
-// in "are" whatever class is chosen.
-struct StemField {
-    const char* caption;
-    const char* preview;
+// The stems of a verb, then its translations.
+constexpr std::array Fields = {FieldNames{"VerbManagerLatinForms0", "&Present stem"},
+                               FieldNames{"VerbManagerLatinForms1", "P&erfect stem"},
+                               FieldNames{"VerbManagerLatinForms2", "&Supine stem"},
+                               FieldNames{"VerbManagerGermanForms0", "&Base form"},
+                               FieldNames{"VerbManagerGermanForms1", "Pas&t"},
+                               FieldNames{"VerbManagerGermanForms2", "Past pa&rticiple"},
+                               FieldNames{"VerbManagerGermanForms3", "Prese&nt participle"}};
+
+std::array<std::string*, Fields.size()> textsOf(VerbRecord& verb)
+{
+    auto& [baseForm, past, pastParticiple, presentParticiple] = verb.translations;
+    return {&verb.presentStem, &verb.perfectStem, &verb.supineStem, &baseForm, &past,
+            &pastParticiple,   &presentParticiple};
+}
+
+// The label behind a stem that shows a form of it, and that form's ending.
+struct Preview {
+    const char* label;
     const char* ending;
 };
 
-constexpr std::array<StemField, 3> StemFields = {{{"&Present stem", "LatInfinitive", "are"},
-                                                  {"P&erfect stem", "LatPerfect", "i"},
-                                                  {"&Supine stem", "LatPastParticiple", "us"}}};
-
-constexpr std::array TranslationCaptions = {"&Base form", "Pas&t", "Past pa&rticiple", "Prese&nt participle"};
+constexpr std::array<Preview, 3> Previews = {{{"LatInfinitive", "are"}, // sic: whatever class is chosen
+                                              {"LatPerfect", "i"},
+                                              {"LatPastParticiple", "us"}}};
 
 constexpr auto NewItem = "** Add New Item Here **";
 constexpr int NewVerb = -1;
-
-std::string textOf(const QLineEdit* field)
-{
-    return field->text().toStdString();
-}
 
 } // namespace
 
@@ -74,21 +83,15 @@ void VerbManager::makeControls()
     classes_->setAccessibleName(QStringLiteral("Conjugations"));
     verbs_ = shell::makeControl<QListWidget>(this, "VMFormsList");
     verbs_->setAccessibleName(QStringLiteral("Verbs"));
-    for (std::size_t i = 0; i < latin_.size(); ++i) {
-        latin_.at(i) = new QLineEdit(this);
-        latin_.at(i)->setObjectName(QStringLiteral("VerbManagerLatinForms%1").arg(i));
-        previews_.at(i) = shell::makeLabel(this, StemFields.at(i).preview);
-        shell::setLeastWidth(*latin_.at(i), StemCharacters);
-        shell::setLeastWidth(*previews_.at(i), PreviewCharacters);
+    form_ = new shell::RecordForm;
+    form_->addBoxes(this, Fields);
+    for (std::size_t stem = 0; stem < previews_.size(); ++stem) {
+        previews_.at(stem) = shell::makeLabel(this, Previews.at(stem).label);
+        shell::setLeastWidth(*form_->box(stem), StemCharacters);
+        shell::setLeastWidth(*previews_.at(stem), PreviewCharacters);
     }
-    for (std::size_t i = 0; i < translations_.size(); ++i) {
-        translations_.at(i) = new QLineEdit(this);
-        translations_.at(i)->setObjectName(QStringLiteral("VerbManagerGermanForms%1").arg(i));
-    }
-    add_ = shell::makeButton(this, "VerbManagerAdd");
-    add_->setText(QStringLiteral("&Add"));
-    cancel_ = shell::makeButton(this, "VerbMangerCancel");
-    cancel_->setText(QStringLiteral("En&d Program"));
+    add_ = shell::makeButton(this, "VerbManagerAdd", "&Add");
+    cancel_ = shell::makeButton(this, "VerbMangerCancel", "En&d Program");
     for (QListWidget* const list : {classes_, verbs_})
         shell::setLeastWidth(*list, ListCharacters);
     for (const ClassRow& row : Classes)
@@ -97,55 +100,23 @@ void VerbManager::makeControls()
 
 void VerbManager::layOut()
 {
-    auto* const right = new QVBoxLayout;
-    right->addLayout(fieldGrid());
-    right->addStretch();
-    right->addLayout(buttonRow());
-
-    auto* const columns = new QHBoxLayout(centredBlock(LargestBlock));
-    columns->setContentsMargins(shell::LargeSpace, shell::LargeSpace, shell::LargeSpace, shell::LargeSpace);
-    columns->setSpacing(shell::LargeSpace);
-    columns->addWidget(classes_, 2);
-    columns->addWidget(verbs_, 2);
-    columns->addLayout(right, 5);
-}
-
-QGridLayout* VerbManager::fieldGrid()
-{
-    auto* const grid = new QGridLayout;
-    grid->setHorizontalSpacing(shell::MediumSpace);
-    grid->setVerticalSpacing(shell::SmallSpace);
-    int row = 0;
-    for (std::size_t i = 0; i < latin_.size(); ++i, ++row) {
-        shell::addField(*grid, row, StemFields.at(i).caption, latin_.at(i));
-        grid->addWidget(previews_.at(i), row, 2);
-    }
-    for (std::size_t i = 0; i < translations_.size(); ++i, ++row)
-        shell::addField(*grid, row, TranslationCaptions.at(i), translations_.at(i));
-    grid->setColumnStretch(1, 2);
-    grid->setColumnStretch(2, 1);
-    return grid;
-}
-
-QBoxLayout* VerbManager::buttonRow()
-{
-    auto* const row = new QHBoxLayout;
-    row->addWidget(add_);
-    row->addStretch();
-    row->addWidget(cancel_);
-    return row;
+    for (std::size_t stem = 0; stem < previews_.size(); ++stem)
+        form_->addWidget(previews_.at(stem), static_cast<int>(stem), 2);
+    form_->setColumnStretch(1, 2);
+    form_->setColumnStretch(2, 1);
+    QBoxLayout* const record =
+        shell::columnOf(shell::LargeSpace, {form_, shell::Part::gap(), shell::buttonRow({add_}, {cancel_})});
+    shell::setContent(centredBlock(LargestBlock), shell::FormMargins,
+                      shell::rowOf(shell::LargeSpace, {{classes_, 2}, {verbs_, 2}, {record, 5}}));
 }
 
 void VerbManager::connectControls()
 {
     connect(classes_, &QListWidget::currentRowChanged, this, &VerbManager::listVerbs);
     connect(verbs_, &QListWidget::currentRowChanged, this, &VerbManager::showVerb);
-    for (const QLineEdit* const field : latin_) {
-        connect(field, &QLineEdit::textChanged, this, &VerbManager::showPreviews);
-        connect(field, &QLineEdit::textEdited, this, &VerbManager::keepDraft);
-    }
-    for (const QLineEdit* const field : translations_)
-        connect(field, &QLineEdit::textEdited, this, &VerbManager::keepDraft);
+    for (std::size_t stem = 0; stem < previews_.size(); ++stem)
+        connect(form_->box(stem), &QLineEdit::textChanged, this, &VerbManager::showPreviews);
+    connect(form_, &shell::RecordForm::edited, this, &VerbManager::keepDraft);
     connect(add_, &QPushButton::clicked, this, &VerbManager::addVerb);
     connect(cancel_, &QPushButton::clicked, this, &VerbManager::endRequested);
 }
@@ -172,9 +143,8 @@ VerbManager::DraftPlace VerbManager::chosenPlace() const
 
 VerbRecord VerbManager::typedVerb() const
 {
-    VerbRecord verb{textOf(latin_[0]), textOf(latin_[1]), textOf(latin_[2]), {}};
-    for (std::size_t i = 0; i < translations_.size(); ++i)
-        verb.translations.at(i) = textOf(translations_.at(i));
+    VerbRecord verb;
+    form_->take(textsOf(verb));
     return verb;
 }
 
@@ -195,19 +165,15 @@ void VerbManager::showVerb(int row)
     const auto [verbClass, place] = chosenPlace();
     const VerbRecord listed = place == NewVerb ? VerbRecord{} : verbAt(verbClass, row + 1);
     const auto draft = drafts_.find({verbClass, place});
-    const VerbRecord& verb = draft == drafts_.end() ? listed : draft->second;
-    latin_[0]->setText(shell::fromUtf8(verb.presentStem));
-    latin_[1]->setText(shell::fromUtf8(verb.perfectStem));
-    latin_[2]->setText(shell::fromUtf8(verb.supineStem));
-    for (std::size_t i = 0; i < translations_.size(); ++i)
-        translations_.at(i)->setText(shell::fromUtf8(verb.translations.at(i)));
+    VerbRecord verb = draft == drafts_.end() ? listed : draft->second;
+    form_->show(textsOf(verb));
     showPreviews();
 }
 
 void VerbManager::showPreviews()
 {
-    for (std::size_t i = 0; i < latin_.size(); ++i)
-        previews_.at(i)->setText(latin_.at(i)->text() + QLatin1String(StemFields.at(i).ending));
+    for (std::size_t stem = 0; stem < previews_.size(); ++stem)
+        previews_.at(stem)->setText(form_->box(stem)->text() + QLatin1String(Previews.at(stem).ending));
 }
 
 void VerbManager::keepDraft()

@@ -7,12 +7,13 @@
 #include <map>
 #include <utility>
 
-class QBoxLayout;
-class QGridLayout;
 class QLabel;
-class QLineEdit;
 class QListWidget;
 class QPushButton;
+
+namespace shell {
+class RecordForm;
+}
 
 namespace verbs {
 
@@ -29,15 +30,12 @@ public:
     void open();
 
 Q_SIGNALS:
-
     /// The cancel button, which ends the whole program at once.
     void endRequested();
 
 private:
     void makeControls();
     void layOut();
-    QGridLayout* fieldGrid();
-    QBoxLayout* buttonRow();
     void connectControls();
     void listVerbs();
     void showVerb(int row);
@@ -53,9 +51,8 @@ private:
 
     QListWidget* classes_;
     QListWidget* verbs_;
-    std::array<QLineEdit*, 3> latin_{};
+    shell::RecordForm* form_;
     std::array<QLabel*, 3> previews_{};
-    std::array<QLineEdit*, 4> translations_{};
     QPushButton* add_;
     QPushButton* cancel_;
 

@@ -4,14 +4,14 @@
 #include "shell/kit/captions.h"
 #include "shell/kit/choice_list.h"
 #include "shell/kit/controls.h"
+#include "shell/kit/layout.h"
 #include "shell/kit/text.h"
-#include "shell/kit/type.h"
 #include "vocabulary/vocabulary_edits.h"
 #include "vocabulary/windows/list_files.h"
-#include "vocabulary/windows/word_label.h"
+#include "vocabulary/windows/word_controls.h"
 
 #include <QBoxLayout>
-#include <QGridLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 
@@ -19,12 +19,15 @@ namespace vocabulary {
 
 using shell::Caption;
 using shell::ChoiceList;
+using shell::columnOf;
 using shell::LanguageTexts;
+using shell::makeLabelOf;
+using shell::Part;
+using shell::rowOf;
 
 namespace {
 
 constexpr QSize LargestBlock{84, 30};
-constexpr double ListType = 1.15;
 
 // clang-format off
 constexpr std::array Captions = {
@@ -65,54 +68,22 @@ FileHandler::FileHandler() : Window("FileHandler")
 void FileHandler::makeControls()
 {
     folderName_ = shell::makeControl<WordLabel>(this, "FHFolder");
-    folders_ = shell::makeControl<ChoiceList>(this, "FHDirBox");
-    files_ = shell::makeControl<ChoiceList>(this, "FHFileBox");
+    folders_ = shell::makeChoiceList(this, "FHDirBox");
+    files_ = shell::makeChoiceList(this, "FHFileBox");
     name_ = shell::makeControl<QLineEdit>(this, "FHFileName");
-    for (ChoiceList* const list : {folders_, files_})
-        shell::setType(*list, ListType);
-    action_ = shell::makeButton(this, "LoadSaveFH");
-    action_->setText(QLatin1String(LoadAction));
+    action_ = shell::makeButton(this, "LoadSaveFH", LoadAction);
     cancel_ = shell::makeButton(this, "CancelFH");
 }
 
 void FileHandler::layOut()
 {
-    auto* const rows = new QVBoxLayout(centredBlock(LargestBlock));
-    rows->setContentsMargins(shell::LargeSpace, shell::LargeSpace, shell::LargeSpace, shell::LargeSpace);
-    rows->setSpacing(shell::MediumSpace);
-    rows->addWidget(folderName_);
-    rows->addLayout(lists(), 1);
-    rows->addLayout(nameRow());
-}
-
-QGridLayout* FileHandler::lists()
-{
-    auto* const foldersLabel = shell::makeLabel(this, "FHDirLabel");
-    auto* const filesLabel = shell::makeLabel(this, "FHFileLabel");
-    foldersLabel->setBuddy(folders_);
-    filesLabel->setBuddy(files_);
-    auto* const grid = new QGridLayout;
-    grid->setHorizontalSpacing(shell::LargeSpace);
-    grid->setVerticalSpacing(shell::HairSpace);
-    grid->addWidget(foldersLabel, 0, 0);
-    grid->addWidget(filesLabel, 0, 1);
-    grid->addWidget(folders_, 1, 0);
-    grid->addWidget(files_, 1, 1);
-    return grid;
-}
-
-QBoxLayout* FileHandler::nameRow()
-{
-    auto* const nameLabel = shell::makeLabel(this, "FHNameLabel");
-    nameLabel->setBuddy(name_);
-    auto* const row = new QHBoxLayout;
-    row->setSpacing(shell::SmallSpace);
-    row->addWidget(nameLabel);
-    row->addWidget(name_, 1);
-    row->addSpacing(shell::SmallSpace);
-    row->addWidget(action_);
-    row->addWidget(cancel_);
-    return row;
+    QBoxLayout* const folders = columnOf(shell::HairSpace, {makeLabelOf(folders_, "FHDirLabel"), folders_});
+    QBoxLayout* const files = columnOf(shell::HairSpace, {makeLabelOf(files_, "FHFileLabel"), files_});
+    QBoxLayout* const name = rowOf(
+        shell::SmallSpace,
+        {makeLabelOf(name_, "FHNameLabel"), {name_, 1}, Part::space(shell::SmallSpace), action_, cancel_});
+    layOutLines(LargestBlock, shell::FormMargins,
+                {folderName_, {rowOf(shell::LargeSpace, {folders, files}), 1}, name});
 }
 
 void FileHandler::connectControls()

@@ -7,8 +7,6 @@
 #include <filesystem>
 #include <string_view>
 
-class QBoxLayout;
-class QGridLayout;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -36,8 +34,6 @@ Q_SIGNALS:
 private:
     void makeControls();
     void layOut();
-    QGridLayout* lists();
-    QBoxLayout* nameRow();
     void connectControls();
     void setCaptions();
 

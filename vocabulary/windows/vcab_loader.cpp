@@ -4,7 +4,7 @@
 #include "shell/kit/captions.h"
 #include "shell/kit/choice_list.h"
 #include "shell/kit/controls.h"
-#include "shell/kit/type.h"
+#include "shell/kit/layout.h"
 #include "vocabulary/vocabulary_edits.h"
 #include "vocabulary/windows/list_files.h"
 
@@ -19,7 +19,6 @@ using shell::ChoiceList;
 namespace {
 
 constexpr QSize LargestBlock{56, 26};
-constexpr double ListType = 1.15;
 
 // clang-format off
 constexpr std::array Captions = {
@@ -42,8 +41,7 @@ VcabLoader::VcabLoader() : Window("VcabLoader")
 
 void VcabLoader::makeControls()
 {
-    files_ = shell::makeControl<ChoiceList>(this, "VcabFile");
-    shell::setType(*files_, ListType);
+    files_ = shell::makeChoiceList(this, "VcabFile");
     files_->setSpacing(2);
     open_ = shell::makeButton(this, "VcabLoaderOpen");
     cancel_ = shell::makeButton(this, "VcabLoaderCancel");
@@ -51,17 +49,7 @@ void VcabLoader::makeControls()
 
 void VcabLoader::layOut()
 {
-    auto* const buttons = new QHBoxLayout;
-    buttons->setSpacing(shell::SmallSpace);
-    buttons->addStretch();
-    buttons->addWidget(open_);
-    buttons->addWidget(cancel_);
-
-    auto* const rows = new QVBoxLayout(centredBlock(LargestBlock));
-    rows->setContentsMargins(shell::LargeSpace, shell::LargeSpace, shell::LargeSpace, shell::LargeSpace);
-    rows->setSpacing(shell::MediumSpace);
-    rows->addWidget(files_);
-    rows->addLayout(buttons);
+    layOutLines(LargestBlock, shell::FormMargins, {files_, shell::buttonRow({}, {open_, cancel_})});
 }
 
 void VcabLoader::connectControls()

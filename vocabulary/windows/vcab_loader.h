@@ -2,7 +2,6 @@
 
 #include "shell/kit/window.h"
 
-class QBoxLayout;
 class QPushButton;
 
 namespace shell {

@@ -5,13 +5,13 @@
 #include "shell/kit/captions.h"
 #include "shell/kit/choice_list.h"
 #include "shell/kit/controls.h"
+#include "shell/kit/layout.h"
+#include "shell/kit/record_form.h"
 #include "shell/kit/text.h"
 #include "shell/kit/type.h"
 #include "vocabulary/vocabulary_edits.h"
 
 #include <QBoxLayout>
-#include <QGridLayout>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
@@ -23,22 +23,22 @@ namespace vocabulary {
 
 using shell::Caption;
 using shell::ChoiceList;
+using shell::FieldNames;
 
 namespace {
 
 constexpr QSize LargestBlock{100, 32};
-constexpr double ListType = 1.15;
 constexpr int WordCharacters = 22;
 
-struct Field {
-    const char* box;
-    const char* label;
-    std::string WordRecord::*text;
-};
+// The labels get their texts with the captions.
+constexpr std::array Fields = {FieldNames{"VcabManWord", "", "WordLabel"},
+                               FieldNames{"VcabManTrans", "", "TranslationLabel"},
+                               FieldNames{"VcabManHint", "", "HintLabel"}};
 
-constexpr std::array<Field, 3> Fields = {{{"VcabManWord", "WordLabel", &WordRecord::word},
-                                          {"VcabManTrans", "TranslationLabel", &WordRecord::translation},
-                                          {"VcabManHint", "HintLabel", &WordRecord::hint}}};
+std::array<std::string*, Fields.size()> textsOf(WordRecord& record)
+{
+    return {&record.word, &record.translation, &record.hint};
+}
 
 // clang-format off
 constexpr std::array Captions = {
@@ -68,13 +68,13 @@ VcabManager::VcabManager() : Window("VcabManager")
 
 void VcabManager::makeControls()
 {
-    words_ = shell::makeControl<ChoiceList>(this, "VcabManMainForm");
-    shell::setType(*words_, ListType);
-    words_->setMinimumWidth(WordCharacters * words_->fontMetrics().averageCharWidth());
-    for (std::size_t i = 0; i < boxes_.size(); ++i) {
-        boxes_.at(i) = shell::makeControl<QLineEdit>(this, Fields.at(i).box);
-        boxes_.at(i)->setMaxLength(platform::LongestFile);
-        shell::setType(*boxes_.at(i), shell::FormType);
+    words_ = shell::makeChoiceList(this, "VcabManMainForm");
+    shell::setLeastWidth(*words_, WordCharacters);
+    form_ = new shell::RecordForm;
+    form_->addBoxes(this, Fields);
+    for (QLineEdit* const box : form_->boxes()) {
+        box->setMaxLength(platform::LongestFile);
+        shell::setType(*box, shell::FormType);
     }
     accept_ = shell::makeButton(this, "VcabManAccept");
     add_ = shell::makeButton(this, "VcabManAdd");
@@ -86,62 +86,19 @@ void VcabManager::makeControls()
 
 void VcabManager::layOut()
 {
-    auto* const right = new QVBoxLayout;
-    right->setSpacing(shell::MediumSpace);
-    right->addLayout(fields());
-    right->addLayout(recordButtons());
-    right->addStretch();
-    right->addLayout(listButtons());
-
-    auto* const columns = new QHBoxLayout(centredBlock(LargestBlock));
-    columns->setContentsMargins(shell::LargeSpace, shell::LargeSpace, shell::LargeSpace, shell::LargeSpace);
-    columns->setSpacing(shell::WideSpace);
-    columns->addWidget(words_, 2);
-    columns->addLayout(right, 3);
-}
-
-QGridLayout* VcabManager::fields()
-{
-    auto* const grid = new QGridLayout;
-    grid->setHorizontalSpacing(shell::MediumSpace);
-    grid->setVerticalSpacing(shell::SmallSpace);
-    grid->setColumnStretch(1, 1);
-    for (std::size_t i = 0; i < boxes_.size(); ++i) {
-        auto* const label = shell::makeLabel(this, Fields.at(i).label);
-        label->setBuddy(boxes_.at(i));
-        grid->addWidget(label, static_cast<int>(i), 0);
-        grid->addWidget(boxes_.at(i), static_cast<int>(i), 1);
-    }
-    return grid;
-}
-
-QBoxLayout* VcabManager::recordButtons()
-{
-    auto* const row = new QHBoxLayout;
-    row->setSpacing(shell::SmallSpace);
-    row->addWidget(accept_);
-    row->addWidget(add_);
-    row->addStretch();
-    row->addWidget(delete_);
-    return row;
-}
-
-QBoxLayout* VcabManager::listButtons()
-{
-    auto* const row = new QHBoxLayout;
-    row->setSpacing(shell::SmallSpace);
-    row->addWidget(load_);
-    row->addWidget(save_);
-    row->addStretch();
-    row->addWidget(exit_);
-    return row;
+    form_->setColumnStretch(1, 1);
+    QBoxLayout* const record =
+        shell::columnOf(shell::MediumSpace, {form_, shell::buttonRow({accept_, add_}, {delete_}),
+                                             shell::Part::gap(), shell::buttonRow({load_, save_}, {exit_})});
+    shell::setContent(centredBlock(LargestBlock), shell::FormMargins,
+                      shell::rowOf(shell::WideSpace, {{words_, 2}, {record, 3}}));
 }
 
 void VcabManager::connectControls()
 {
     connect(words_, &ChoiceList::rowChosen, this, [this](int row) { moveTo(row + 1); });
-    connect(words_, &ChoiceList::rowActivated, this, [this] { boxes_.front()->setFocus(); });
-    for (const QLineEdit* const box : boxes_)
+    connect(words_, &ChoiceList::rowActivated, this, [this] { form_->box(0)->setFocus(); });
+    for (const QLineEdit* const box : form_->boxes())
         connect(box, &QLineEdit::returnPressed, this, &VcabManager::enterRecord);
     connect(accept_, &QPushButton::clicked, this, &VcabManager::accept);
     connect(add_, &QPushButton::clicked, this, &VcabManager::add);
@@ -158,7 +115,7 @@ void VcabManager::open()
     if (vocabularyList.WordCount > 0)
         words_->setFocus();
     else
-        boxes_.front()->setFocus();
+        form_->box(0)->setFocus();
 }
 
 void VcabManager::comeBack()
@@ -194,27 +151,25 @@ void VcabManager::markChosen(int number)
 void VcabManager::showRecord(int number)
 {
     markChosen(number);
-    const WordRecord record = number > 0 ? vocabularyList.Working[number] : WordRecord{};
-    for (std::size_t i = 0; i < boxes_.size(); ++i)
-        boxes_.at(i)->setText(shell::fromUtf8(record.*Fields.at(i).text));
+    WordRecord record = number > 0 ? vocabularyList.Working[number] : WordRecord{};
+    form_->show(textsOf(record));
 }
 
 bool VcabManager::boxesAreEdited() const
 {
-    return std::ranges::any_of(boxes_, [](const QLineEdit* box) { return box->isModified(); });
+    return std::ranges::any_of(form_->boxes(), [](const QLineEdit* box) { return box->isModified(); });
 }
 
 bool VcabManager::boxesAreEmpty() const
 {
-    return std::ranges::all_of(boxes_, [](const QLineEdit* box) { return box->text().isEmpty(); });
+    return std::ranges::all_of(form_->boxes(), [](const QLineEdit* box) { return box->text().isEmpty(); });
 }
 
 // A ">" that stands for a comma since the last save becomes one again when the record is stored.
 WordRecord VcabManager::recordInBoxes() const
 {
     WordRecord record;
-    for (std::size_t i = 0; i < boxes_.size(); ++i)
-        record.*Fields.at(i).text = boxes_.at(i)->text().toStdString();
+    form_->take(textsOf(record));
     return record;
 }
 
@@ -263,7 +218,7 @@ void VcabManager::add()
         showRecord(0);
         words_->scrollToBottom();
     }
-    boxes_.front()->setFocus();
+    form_->box(0)->setFocus();
 }
 
 // A text that was typed and not yet accepted outlives the record: it can still be added, but only by Add.
@@ -278,7 +233,7 @@ void VcabManager::deleteChosen()
         return;
     }
     markChosen(0);
-    for (QLineEdit* const box : boxes_)
+    for (QLineEdit* const box : form_->boxes())
         box->setModified(false);
 }
 

@@ -3,16 +3,12 @@
 #include "shell/kit/window.h"
 #include "vocabulary/vocabulary_list.h"
 
-#include <array>
-
-class QBoxLayout;
-class QGridLayout;
-class QLineEdit;
 class QPushButton;
 
 namespace shell {
 class ChoiceList;
-}
+class RecordForm;
+} // namespace shell
 
 namespace vocabulary {
 
@@ -43,9 +39,6 @@ protected:
 private:
     void makeControls();
     void layOut();
-    QGridLayout* fields();
-    QBoxLayout* recordButtons();
-    QBoxLayout* listButtons();
     void connectControls();
 
     void accept();
@@ -68,7 +61,7 @@ private:
     int shown_ = 0;
 
     shell::ChoiceList* words_;
-    std::array<QLineEdit*, 3> boxes_{};
+    shell::RecordForm* form_;
     QPushButton* accept_;
     QPushButton* add_;
     QPushButton* delete_;

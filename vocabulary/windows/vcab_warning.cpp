@@ -2,7 +2,7 @@
 
 #include "shell/kit/captions.h"
 #include "shell/kit/controls.h"
-#include "shell/kit/type.h"
+#include "shell/kit/layout.h"
 
 #include <QBoxLayout>
 #include <QLabel>
@@ -51,18 +51,10 @@ void VcabWarning::makeControls()
 
 void VcabWarning::layOut()
 {
-    auto* const buttons = new QHBoxLayout;
-    buttons->setSpacing(shell::SmallSpace);
-    buttons->addStretch();
-    buttons->addWidget(save_);
-    buttons->addWidget(discard_);
-    buttons->addWidget(cancel_);
-
-    auto* const rows = new QVBoxLayout(this);
-    rows->setContentsMargins(shell::WideSpace, shell::WideSpace, shell::WideSpace, shell::LargeSpace);
-    rows->setSpacing(shell::WideSpace);
-    rows->addWidget(text_);
-    rows->addLayout(buttons);
+    constexpr QMargins margins{shell::WideSpace, shell::WideSpace, shell::WideSpace, shell::LargeSpace};
+    shell::setContent(
+        this, margins,
+        shell::columnOf(shell::WideSpace, {text_, shell::buttonRow({}, {save_, discard_, cancel_})}));
 }
 
 void VcabWarning::connectControls()

@@ -3,6 +3,7 @@
 #include "platform/platform.h"
 #include "shell/kit/captions.h"
 #include "shell/kit/controls.h"
+#include "shell/kit/layout.h"
 #include "shell/kit/text.h"
 #include "shell/kit/type.h"
 #include "shell/language_texts.h"
@@ -11,8 +12,7 @@
 #include "vocabulary/vocabulary_list.h"
 #include "vocabulary/vocabulary_tester.h"
 #include "vocabulary/windows/vcabtester_menus.h"
-#include "vocabulary/windows/word_box.h"
-#include "vocabulary/windows/word_label.h"
+#include "vocabulary/windows/word_controls.h"
 
 #include <QAction>
 #include <QBoxLayout>
@@ -24,6 +24,7 @@ namespace vocabulary {
 
 using shell::Caption;
 using shell::LanguageTexts;
+using shell::Part;
 
 namespace {
 
@@ -70,46 +71,23 @@ void Vcabtester::makeControls()
     cancel_ = shell::makeButton(this, "VcabtesterCancel");
     shell::setBoldType(*question_, shell::TitleType);
     shell::setType(*hint_, shell::FormType);
-    answer_->setMinimumWidth(AnswerCharacters * answer_->fontMetrics().averageCharWidth());
+    shell::setLeastWidth(*answer_, AnswerCharacters);
     question_->setAlignment(Qt::AlignLeft | Qt::AlignBottom);
     hint_->setAlignment(Qt::AlignLeft | Qt::AlignBottom);
 }
 
 void Vcabtester::layOut()
 {
-    auto* const rows = new QVBoxLayout(centredBlock(LargestBlock));
-    rows->setContentsMargins(shell::WideSpace, shell::LargeSpace, shell::WideSpace, shell::LargeSpace);
-    rows->setSpacing(shell::MediumSpace);
-    rows->addStretch(1);
-    rows->addLayout(questionRow());
-    rows->addSpacing(shell::LargeSpace);
-    auto* const answerLabel = shell::makeLabel(this, "AnswerLabel");
-    answerLabel->setBuddy(answer_);
-    rows->addWidget(answerLabel);
-    rows->addWidget(answer_);
-    rows->addWidget(omit_, 0, Qt::AlignLeft);
-    rows->addStretch(2);
-    rows->addLayout(buttonRow());
+    layOutLines(LargestBlock, shell::DrillMargins,
+                {Part::gap(1),
+                 shell::rowOf(shell::WideSpace, {{question_, 3}, {hint_, 2}}),
+                 Part::space(shell::LargeSpace),
+                 shell::makeLabelOf(answer_, "AnswerLabel"),
+                 answer_,
+                 {omit_, 0, Qt::AlignLeft},
+                 Part::gap(2),
+                 shell::buttonRow({}, {ok_, cancel_})});
     layout()->setMenuBar(menuBar_);
-}
-
-QBoxLayout* Vcabtester::questionRow()
-{
-    auto* const row = new QHBoxLayout;
-    row->setSpacing(shell::WideSpace);
-    row->addWidget(question_, 3);
-    row->addWidget(hint_, 2);
-    return row;
-}
-
-QBoxLayout* Vcabtester::buttonRow()
-{
-    auto* const row = new QHBoxLayout;
-    row->setSpacing(shell::SmallSpace);
-    row->addStretch();
-    row->addWidget(ok_);
-    row->addWidget(cancel_);
-    return row;
 }
 
 void Vcabtester::connectControls()

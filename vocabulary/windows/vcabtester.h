@@ -5,7 +5,6 @@
 
 #include <string_view>
 
-class QBoxLayout;
 class QCheckBox;
 class QMenuBar;
 class QPushButton;
@@ -44,8 +43,6 @@ Q_SIGNALS:
 private:
     void makeControls();
     void layOut();
-    QBoxLayout* questionRow();
-    QBoxLayout* buttonRow();
     void connectControls();
     void connectOrder(const char* item, std::string_view order);
     void connectPrompt(const char* item, std::string_view promptLanguage);

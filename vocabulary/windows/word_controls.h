@@ -1,10 +1,23 @@
 #pragma once
 
+#include "shell/kit/answer_box.h"
+
 #include <QLabel>
 
 #include <algorithm>
 
 namespace vocabulary {
+
+/// The box for a meaning. "/" and "?" are part of an answer here.
+class WordBox : public shell::AnswerBox {
+    Q_OBJECT
+
+public:
+    using AnswerBox::AnswerBox;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override { QLineEdit::keyPressEvent(event); }
+};
 
 /// A label for a text of a list, shown letter by letter as it stands, in as many lines as it takes. It asks
 /// for room for its longest word and for all its lines, within reason.

@@ -16,4 +16,12 @@ protected:
     bool beginsAtOk() const override;
 };
 
+/// Chooses the group of pronouns that is drilled.
+class PronounChooser : public shell::Chooser {
+    Q_OBJECT
+
+public:
+    PronounChooser();
+};
+
 } // namespace nouns

@@ -18,4 +18,15 @@ protected:
     void becameActive() override;
 };
 
+/// Chooses one tense, which is drilled through the regular conjugations.
+class TenseMoodChooser : public shell::Chooser {
+    Q_OBJECT
+
+public:
+    TenseMoodChooser();
+
+protected:
+    void beginChoice() override;
+};
+
 } // namespace verbdrills

@@ -1,0 +1,67 @@
+#include "shell/kit/layout.h"
+
+#include <QBoxLayout>
+#include <QGridLayout>
+
+namespace shell {
+
+namespace {
+
+QBoxLayout* filled(QBoxLayout* layout, int space, std::initializer_list<Part> parts)
+{
+    layout->setSpacing(space);
+    for (const Part& part : parts)
+        part.addTo(*layout);
+    return layout;
+}
+
+} // namespace
+
+void Part::addTo(QBoxLayout& layout) const
+{
+    if (control_ != nullptr)
+        layout.addWidget(control_, stretch_, place_);
+    else if (inner_ != nullptr)
+        layout.addLayout(inner_, stretch_);
+    else if (pixels_ > 0)
+        layout.addSpacing(pixels_);
+    else
+        layout.addStretch(stretch_);
+}
+
+QBoxLayout* rowOf(int space, std::initializer_list<Part> parts)
+{
+    return filled(new QHBoxLayout, space, parts);
+}
+
+QBoxLayout* columnOf(int space, std::initializer_list<Part> parts)
+{
+    return filled(new QVBoxLayout, space, parts);
+}
+
+QBoxLayout* buttonRow(std::initializer_list<QWidget*> left, std::initializer_list<QWidget*> right)
+{
+    auto* const row = rowOf(SmallSpace, {});
+    for (QWidget* const control : left)
+        row->addWidget(control);
+    row->addStretch();
+    for (QWidget* const control : right)
+        row->addWidget(control);
+    return row;
+}
+
+QGridLayout* gridOf(int betweenColumns, int betweenRows)
+{
+    auto* const grid = new QGridLayout;
+    grid->setHorizontalSpacing(betweenColumns);
+    grid->setVerticalSpacing(betweenRows);
+    return grid;
+}
+
+void setContent(QWidget* whole, const QMargins& margins, QLayout* content)
+{
+    content->setContentsMargins(margins);
+    whole->setLayout(content);
+}
+
+} // namespace shell

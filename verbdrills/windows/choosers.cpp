@@ -1,0 +1,101 @@
+#include "verbdrills/windows/choosers.h"
+
+#include "verbdrills/conjugation_choice.h"
+#include "verbs/paradigm.h"
+
+#include <array>
+
+namespace verbdrills {
+
+namespace {
+
+using shell::Caption;
+using shell::ChooserNames;
+using shell::englishToo;
+using shell::LanguageTexts;
+
+// Italian keeps the texts that the window is designed with.
+// clang-format off
+constexpr ChooserNames ConjugationNames = {
+    .window = "ConjugationChoose", .active = "conjchoose", .list = "ConjugationList",
+    .ok = "cchok", .cancel = "Command2", .frame = "CCBigFrame"};
+
+constexpr std::array ConjugationCaptions = {
+    //                             English                 French                           Italian  German                   Spanish                   Latin
+    Caption{"ConjugationChoose",   {"Choose a Conjugation", "Choisez Vous une conjugation!", {}, "Eine Konjugation Auswählen", "Elegir una conjugatión", "Conjugationem elige!"}}, // sic: French and Spanish
+    Caption{"cchok",               {"&OK",                  "&Oui",                          {}, "&OK",                        "&Si",                    "&Ita"}},
+    Caption{"Command2",            {"&Cancel",              "&Annule",                       {}, "&Abbruch",                   "&Cancelar",              "&Reverte!"}},
+};
+
+constexpr std::array<LanguageTexts, ConjugationRowCount> ConjugationRows = {{
+    //            English                                 French                                 Italian  German                              Spanish                                 Latin
+    LanguageTexts{"1st Conjugation (amo - ama:re)",       "Conjugation 1º (amo - ama:re)",       {}, "1. Konjugation (amo - ama:re)",       "1a Conjugatión (amo - ama:re)",        "Conjugatio Prima (amo - ama:re)"}, // sic: French and Spanish
+    LanguageTexts{"2nd Conjugation (moneo - mone:re)",    "Conjugation 2º (moneo - mone:re)",    {}, "2. Konjugation (moneo - mone:re)",    "2a Conjugatión (moneo - mone:re)",     "Conjugatio Secunda (moneo - mone:re)"}, // sic: French and Spanish
+    LanguageTexts{"3rd Conjugation (tendo -tendere)",     "Conjugation 3º (tendo -tendere)",     {}, "3. Konjugation (tendo -tendere)",     "3a Conjugatión (tendo -tendere)",      "Conjugatio Tertia (tendo -tendere)"}, // sic: French and Spanish
+    LanguageTexts{"3rd Conjugation -io (jacio - jacere)", "Conjugation 3º -io (jacio - jacere)", {}, "3. Konjugation -io (jacio - jacere)", "3a Conjugatión -io (jacio - jacere)",  "Conjugatio Tertia -io (jacio - jacere)"}, // sic: French and Spanish
+    LanguageTexts{"4th Conjugation (audio - audi:re)",    "Conjugation 4º (audio - audi:re)",    {}, "4. Konjugation (audio - audi:re)",    "4a Conjugatión (audio - audi:re)",     "Conjugatio Quarta (audio - audi:re)"}, // sic: French and Spanish
+    LanguageTexts{"Esse (to be)",                         "Esse",                                {}, "Esse (sein)",                         "Esse (ser)",                           "Esse"},
+    LanguageTexts{"Velle (wish, want)",                   "Velle",                               {}, "Velle (wollen)",                      "Velle (querer, desear)",               "Velle"},
+    LanguageTexts{"Ferre (bear, carry)",                  "Ferre",                               {}, "Ferre (tragen)",                      "Ferre (llevar, sportar)",              "Ferre"}, // sic: Spanish
+    LanguageTexts{"A PARTICULAR TENSE or MOOD",           "Tempus et Modum elige!",              {}, "EINE BESONDERE ZEITFORM",             "Elegir un timpo o modo en particular", "Tempus et Modum elige!"}, // sic: Spanish
+}};
+
+constexpr ChooserNames TenseNames = {
+    .window = "TenseMoodChooser", .active = "tensemood", .list = "TenseMood",
+    .ok = "TenseMoodOK", .cancel = "TenseMoodCancel", .frame = "TenseMoodFrame"};
+
+constexpr std::array TenseCaptions = {
+    //                                     English, French, Italian    German                         Spanish                   Latin
+    Caption{"TenseMoodChooser", englishToo("Select a Tense/Mood",      "Eine Zeitform Auswählen",     "Elegir un timpo o modo", "Tempus et Modum elige!")}, // sic: Spanish
+    Caption{"TenseMoodOK",      englishToo("&OK",                      "&OK",                         "&Si",                    "&Sic")},
+    Caption{"TenseMoodCancel",  englishToo("&Cancel",                  "&Abbruch",                    "&Cancelar",              "&Reverte!")},
+};
+
+constexpr std::array<LanguageTexts, verbs::BlockCount> TenseRows = {{
+    //         English, French, Italian       German                                Spanish                                 Latin
+    englishToo("Present Indicative",             "Präsens Indikativ",                 "Presente de indicativo",                "Praesens Indicativum"),
+    englishToo("Imperfect Indicative",           "Imperfekt Indikativ",               "Imperfecto de indicativo",              "Imperfectum Indicativum"),
+    englishToo("Future Indicative",              "Futur Indikativ",                   "Futuro de indicativo",                  "Futurum Indicativum"),
+    englishToo("Perfect Indicative",             "Perfekt Indikativ",                 "Perfecto de indicativo",                "Praeteritum Perfectum Indicativum"),
+    englishToo("Pluperfect Indicative",          "Plusquamperfekt Indikativ",         "Pluscuamperfecto de indicativo",        "Plusquam Perfectum Indicativum"),
+    englishToo("Future Perfect Indicative",      "Futur Perfekt Indikativ",           "Futuro perfecto de indicativo",         "Futurum Perfectum Indicativum"),
+    englishToo("Present Subjunctive",            "Präsens Konjunktiv",                "Presente subjuntivo",                   "Praesens Subjunctivum"),
+    englishToo("Imperfect Subjunctive",          "Imperfekt Konjunktiv",              "Imperfecto de subjuntivo",              "Imperfectum Subjunctivum"),
+    englishToo("Perfect Subjunctive",            "Perfekt Konjunktiv",                "Perfecto de subjuntivo",                "Perfectum Subjunctivum"),
+    englishToo("Pluperfect Subjunctive",         "Plusquamperfekt Konjunktiv",        "Pluscuamperfecto de subjuntivo",        "Plusquamperfectum Subjunctivum"),
+    englishToo("Imperative",                     "Imperativ",                         "Imperativo",                            "Imperativus Modus"),
+    englishToo("Passive Present Indicative",     "Passiv Präsens Indikativ",          "Presente pasivo",                       "Passivum Praesens"),
+    englishToo("Passive Imperfect Indicative",   "Passiv Imperfekt Indikativ",        "Imperfecto pasivo",                     "Passivum Imperfectum"),
+    englishToo("Passive Future Indicative",      "Passiv Futur Indikativ",            "Futuro pasivo",                         "Passivum Futurum"),
+    englishToo("Passive Perfect Indicative",     "Passiv Perfekt Indikativ",          "Perfecto pasivo",                       "Passivum Perfectum"),
+    englishToo("Passive Pluperfect Indicative",  "Passiv Plusquamperfekt Indikativ",  "Pluscuamperfecto pasivo",               "Passivum Plusquamperfectum"),
+    englishToo("Passive Future Perfect",         "Passiv Futur Perfekt",              "Futuro de subjuntivo pasivo",           "Passivum Futurum Perfectum"), // sic: Spanish
+    englishToo("Passive Present Subjunctive",    "Passiv Präsens Konjunktiv",         "Presente de subjuntivo pasivo",         "Passivum Praesens Subjunctivum"),
+    englishToo("Passive Imperfect Subjunctive",  "Passiv Imperfekt Konjunktiv",       "Imperfecto de subjuntivo pasivo",       "Passivum Imperfectum Subjunctivum"),
+    englishToo("Passive Perfect Subjunctive",    "Passiv Perfekt Konjunktiv",         "Perfecto de subjuntivo pasivo",         "Passivum Perfectum Subjunctivum"),
+    englishToo("Passive Pluperfect Subjunctive", "Passiv Plusquamperfekt Konjunktiv", "Pluscuamperfecto de subjuntivo pasivo", "Passivum Plusquamperfectum Subjunctivum"),
+}};
+// clang-format on
+
+} // namespace
+
+ConjugationChoose::ConjugationChoose() : Chooser(ConjugationNames, ConjugationCaptions, ConjugationRows) {}
+
+void ConjugationChoose::beginChoice()
+{
+    beginConjugationChoice();
+}
+
+void ConjugationChoose::becameActive()
+{
+    fill();
+}
+
+TenseMoodChooser::TenseMoodChooser() : Chooser(TenseNames, TenseCaptions, TenseRows) {}
+
+void TenseMoodChooser::beginChoice()
+{
+    beginTenseChoice();
+}
+
+} // namespace verbdrills
