@@ -1,5 +1,5 @@
 #include "tests/fuzz/one_file.h"
-#include "vocabulary/vocabulary_list.h"
+#include "vocabulary/vocabulary_edits.h"
 #include "vocabulary/vocabulary_tester.h"
 
 #include <algorithm>
