@@ -13,7 +13,6 @@
 
 #include <QBoxLayout>
 #include <QCheckBox>
-#include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>

@@ -21,6 +21,7 @@ inline constexpr QMargins DrillMargins{WideSpace, LargeSpace, WideSpace, LargeSp
 /// What stands in a row or a column: a control, a layout within it, or empty space.
 class Part {
 public:
+    /// One that is not stretched is written as the bare control or layout.
     Part(QWidget* control, int stretch = 0, Qt::Alignment place = {})
         : control_(control), stretch_(stretch), place_(place)
     {
@@ -49,8 +50,8 @@ QBoxLayout* rowOf(int space, std::initializer_list<Part> parts);
 /// Parts from top to bottom, so many pixels apart.
 QBoxLayout* columnOf(int space, std::initializer_list<Part> parts);
 
-/// The row of buttons at the foot of a window: what stands at its left, a button or a note, and the buttons
-/// at its right.
+/// The row at the foot of a window: buttons or a note at its left, and the buttons at its right. Buttons are
+/// made in this order, in which Tab goes through them.
 QBoxLayout* buttonRow(std::initializer_list<QWidget*> left, std::initializer_list<QWidget*> right);
 
 /// An empty grid whose columns and rows stand so many pixels apart.
