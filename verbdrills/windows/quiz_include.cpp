@@ -66,7 +66,7 @@ constexpr std::array Captions = {
     Caption{"InclTense19", englishToo("Passive Perf. Subj.",        "Passiv Perf. Konj.",                             "Perfecto de subj. pasivo",          "Passivum Perf. Subj.")},
     Caption{"InclTense20", englishToo("Passive Pluperf. Subj.",     "Passiv Plusq. Konj.",                            "Pluscuamperfecto de subj. pasivo",  "Passivum Plusq. Subj.")},
 
-    Caption{"InclNote",    englishToo("None of this can be asked. Choose more:", "Davon lässt sich nichts fragen. Bitte mehr auswählen:", "De esto no se puede preguntar nada. Elija más:", "Nihil horum rogari potest. Elige plura:")},
+    Caption{"InclNote",    englishToo("None of this can be asked. Choose more:", "Davon kann nichts abgefragt werden.", "De esto no se puede preguntar nada. Elija más:", "Nihil horum rogari potest. Elige plura:")},
 };
 // clang-format on
 
