@@ -61,16 +61,18 @@ TEST_F(NounListFile, KeepsWholeNounsWhereverTheFileIsCutOff)
 TEST_F(NounListFile, StopsAtACountThatCannotBe)
 {
     const std::string noun = "f. -ae,stell,star,,,\n";
-    std::string manyNouns = "21\n";
-    std::string manyOfTheThird = "title\n0\nh,h\n0\nh,h\n11\n";
-    for (int i = 0; i < 21; ++i) {
-        manyNouns += noun;
+    std::string many;
+    std::string manyOfTheThird;
+    while (many.size() < 21 * noun.size()) {
+        many += noun;
         manyOfTheThird += "m. -is,rex,reg,king,,,\n";
     }
     const std::vector<std::tuple<std::string, int, int>> cases = {
-        {"title\nmany\n" + noun, FirstDeclension, 0},  {"title\n-3\n" + noun, FirstDeclension, 0},
-        {"title\n70000\n" + noun, FirstDeclension, 0}, {"title\n5\n" + noun + noun, FirstDeclension, 2},
-        {"title\n" + manyNouns, FirstDeclension, 20},  {manyOfTheThird, ThirdDeclension, 10}};
+        {"title\nmany\n" + many, FirstDeclension, 0},
+        {"title\n-3\n" + many, FirstDeclension, 0},
+        {"title\n21\n" + many, FirstDeclension, 20},
+        {"title\n5\n" + noun + noun, FirstDeclension, 2},
+        {"title\n0\nh,h\n0\nh,h\n11\n" + manyOfTheThird, ThirdDeclension, 10}};
     for (const auto& [list, paradigm, counted] : cases) {
         EXPECT_FALSE(read(list)) << list;
         EXPECT_EQ(nounList.NounCount[paradigm], counted) << list;

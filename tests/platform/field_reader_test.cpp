@@ -31,7 +31,7 @@ TEST(FieldReader, EndsFieldsAtCommasAndLineEnds)
         {"\"Rome, Italy\",x", {"Rome, Italy", "x"}},
         {"\" a \" trailing,x", {" a ", "x"}},
         {"\"never closed\nb", {"never closed", "b"}},
-        {"\"\"", {""}},
+        {" , \"\"", {"", ""}},
     };
     // clang-format on
     for (const auto& [text, expected] : cases)

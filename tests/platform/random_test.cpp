@@ -2,21 +2,10 @@
 #include "tests/support/fresh_state.h"
 
 #include <map>
-#include <set>
 
 namespace {
 
 using Random = tests::FreshState;
-
-TEST_F(Random, GoesOnToNewNumbersWhenSeededTwiceWithinATick)
-{
-    std::set<double> seen;
-    for (int i = 0; i < 1000; ++i) {
-        platform::seedFromClock();
-        seen.insert(platform::randomFraction());
-    }
-    EXPECT_EQ(seen.size(), 1000U);
-}
 
 TEST_F(Random, DrawsEveryNumberBelowTheCountEvenlyWhenSeededBeforeEachDraw)
 {

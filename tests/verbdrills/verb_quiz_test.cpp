@@ -66,14 +66,12 @@ protected:
 TEST_F(VerbQuiz, FillsUpAChoiceThatIsTooSmall)
 {
     // Classes and tenses: ticked, and then included.
-    const std::vector<std::array<Bits, 4>> choices = {{0, 0, 1, 1},
-                                                      {0, 0b11000, 1, 0b11000},
-                                                      {0b100, 1, 0b100, 1},
-                                                      {0b100, 2, 0b100, 3},
-                                                      {0b100, 1U << 20, 0b100, 1 + (1U << 20)},
-                                                      {0b100, 2 + (1U << 20), 0b100, 2 + (1U << 20)},
-                                                      {VelleBit, 3, VelleBit, 3},
-                                                      {0b10000000, 0, 0b10000000, 1}};
+    constexpr Bits last = bit(20);
+    // clang-format off
+    const std::vector<std::array<Bits, 4>> choices = {
+        {0, 0, 1, 1}, {0, 6, 1, 6}, {4, 1, 4, 1}, {4, 2, 4, 3}, {4, last, 4, last + 1}, {4, last + 2, 4, last + 2},
+        {128, 3, 128, 3}, {128, 0, 128, 1}};
+    // clang-format on
     for (const auto& [classes, tenses, includedClasses, includedTenses] : choices) {
         verbdrills::takeTicks(ticks(classes, tenses));
         EXPECT_EQ(verbdrills::ticksOfQuiz(), ticks(includedClasses, includedTenses))

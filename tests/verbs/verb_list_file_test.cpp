@@ -107,7 +107,8 @@ TEST_F(VerbListFile, IsFollowedByTheEditsOfTheLearner)
     settings.ShowVowelLength = platform::FlagTrue;
     const verbs::VerbRecord leads = {"du:c", "du:x", "duct", {"lead", "led", "led", "leading"}};
     EXPECT_EQ(verbs::editVerb(1, 2, leads), VerbEdit::Stored); // in place of the second verb
-    EXPECT_EQ(verbs::editVerb(2, 15, leads), VerbEdit::Stored);
+    for (const auto& added : {verbs::VerbRecord{"du:", "", "", {}}, leads})
+        EXPECT_EQ(verbs::editVerb(2, 15, added), VerbEdit::Stored);
     EXPECT_EQ(verbs::editVerb(2, 16, leads), VerbEdit::ListFull);
     EXPECT_EQ(verbs::editVerb(3, 1, {"", "x", "x", {}}), VerbEdit::NoPresentStem);
     EXPECT_EQ(verbs::listedInfinitive(2, 15), "du:cere");
