@@ -1,7 +1,5 @@
 #include "tests/support/window_test.h"
 
-#include "app/navigation.h"
-
 #include <utility>
 
 namespace tests {
@@ -24,13 +22,6 @@ QPoint middleOf(QListWidget& list, int row)
 }
 
 } // namespace
-
-WindowTest::WindowTest()
-{
-    fake.whileWaiting = [] { QApplication::processEvents(); };
-}
-
-WindowTest::~WindowTest() = default;
 
 QWidget& WindowTest::start()
 {
@@ -92,6 +83,11 @@ QListWidget& list(const QWidget& window, const QString& name)
     return control<QListWidget>(window, name);
 }
 
+QLineEdit& line(const QWidget& window, const QString& name)
+{
+    return control<QLineEdit>(window, name);
+}
+
 QAbstractButton& button(const QWidget& window, const QString& name)
 {
     return control<QAbstractButton>(window, name);
@@ -99,17 +95,12 @@ QAbstractButton& button(const QWidget& window, const QString& name)
 
 QLineEdit& box(const QWidget& window, const QString& name, int number)
 {
-    return control<QLineEdit>(window, name + QString::number(number));
+    return line(window, name + QString::number(number));
 }
 
 QString label(const QWidget& window, const QString& name)
 {
     return control<QLabel>(window, name).text();
-}
-
-QString field(const QWidget& window, const QString& line)
-{
-    return control<QLineEdit>(window, line).text();
 }
 
 QStringList rows(const QListWidget& list)
@@ -165,12 +156,12 @@ void answer(QWidget& window, const QString& text)
     press(window, Qt::Key_Return);
 }
 
-void fill(QWidget& window, const QString& line, const QString& text)
+void fill(QLineEdit& line, const QString& text)
 {
-    auto& field = control<QLineEdit>(window, line);
-    field.setFocus();
-    field.selectAll();
-    type(window, text);
+    line.setFocus();
+    line.selectAll();
+    QTest::keyClick(&line, Qt::Key_Delete);
+    type(*line.window(), text);
 }
 
 void press(QWidget& window, Qt::Key key, int times)

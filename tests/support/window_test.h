@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/navigation.h"
 #include "tests/support/fresh_state.h"
 
 #include <QAbstractButton>
@@ -15,18 +16,16 @@
 #include <stdexcept>
 #include <vector>
 
-namespace app {
-class Navigation;
-}
-
 namespace tests {
 
 /// Drives windows as a learner does: controls are found by their object names, and get real key and mouse
 /// events. While the program pauses, events are worked off.
 class WindowTest : public FreshState {
 protected:
-    WindowTest();
-    ~WindowTest() override;
+    WindowTest()
+    {
+        fake.whileWaiting = [] { QApplication::processEvents(); };
+    }
 
     /// Starts the program, anew where it runs already. Returns the main window.
     QWidget& start();
@@ -61,14 +60,14 @@ Control& control(const QWidget& window, const QString& name = {})
     return *found;
 }
 
-/// A list, a button or check box, and an answer box by its name and number.
+/// A list, a line, a button or check box by its name, and an answer box by its name and number.
 QListWidget& list(const QWidget& window, const QString& name);
+QLineEdit& line(const QWidget& window, const QString& name);
 QAbstractButton& button(const QWidget& window, const QString& name);
 QLineEdit& box(const QWidget& window, const QString& name, int number);
 
-/// The text of a label, of a line, and the texts of a list.
+/// The text of a label, and the texts of a list.
 QString label(const QWidget& window, const QString& name);
-QString field(const QWidget& window, const QString& line);
 QStringList rows(const QListWidget& list);
 
 /// Makes a window the active one.
@@ -85,8 +84,8 @@ void doubleClickRow(QListWidget& list, int row);
 void type(QWidget& window, const QString& text);
 /// The same, and then Enter.
 void answer(QWidget& window, const QString& text);
-/// Selects what a line holds and types over it.
-void fill(QWidget& window, const QString& line, const QString& text);
+/// Deletes what a line holds and types into it.
+void fill(QLineEdit& line, const QString& text);
 /// Presses a key in the window, which becomes the active one.
 void press(QWidget& window, Qt::Key key, int times = 1);
 
