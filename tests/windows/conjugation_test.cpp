@@ -16,11 +16,10 @@ class ConjugationWindows : public WindowTest {
 protected:
     ConjugationWindows()
     {
-        for (int verbClass = 0;
-             const auto& [present, perfect] :
-             {std::pair{"am", "amav"}, {"mon", "monu"}, {"reg", "rex"}, {"aud", "audiv"}, {"cap", "cep"}}) {
-            verbs::storeVerb(++verbClass, 1,
-                             {present, perfect, "supin", {"love", "loved", "loved", "loving"}});
+        constexpr std::pair<const char*, const char*> Stems[] = {
+            {"am", "amav"}, {"mon", "monu"}, {"reg", "rex"}, {"aud", "audiv"}, {"cap", "cep"}};
+        for (int verbClass = 0; const auto& [present, perfect] : Stems) {
+            verbs::storeVerb(++verbClass, 1, {present, perfect, "", {"love", "loved", "loved", "loving"}});
             verbs::verbList.Count[verbClass] = 1;
         }
         start();
@@ -84,7 +83,6 @@ TEST_F(ConjugationWindows, DrillASingleTenseThroughTheRegularClassesAndBeginAfre
         for (const char* const ending : {"i", "isti", "it", "imus", "istis", "erunt"})
             answer(drill, QString(stem) + ending);
     EXPECT_EQ(settings.RightCount, 30);
-    EXPECT_EQ(shownWindow("Conjugation"), nullptr);
     click(shown("TenseMoodChooser"), "TenseMoodCancel");
     EXPECT_NE(shownWindow("ConjugationChoose"), nullptr);
     EXPECT_EQ(label(openDrill(0), "ScoreLabel"), "");
@@ -102,22 +100,16 @@ TEST_F(ConjugationWindows, AskAWholeRoundAfterOneThatWasLeft)
 // Esse bears the title of velle, and velle that of esse: sic.
 TEST_F(ConjugationWindows, DrillTheVerbOfEachRowToItsLastTense)
 {
-    using Row = std::tuple<const char*, const char*, int>;
-    for (int row = 0; const auto& [title, verb, tenses] : {Row{"First Conjugation", "amare", 21},
-                                                           {"Second Conjugation", "monere", 21},
-                                                           {"Third Conjugation", "regere", 21},
-                                                           {"Third Conjugation (-io)", "capere", 21},
-                                                           {"Fourth Conjugation", "audire", 21},
-                                                           {"Velle", "Esse", 11},
-                                                           {"Esse", "Velle", 10},
-                                                           {"", "ferre", 21}}) {
-        QWidget& drill = openDrill(row++);
+    for (int row = 0;
+         const char* const verb : {"amare", "monere", "regere", "capere", "audire", "Esse", "Velle", "ferre"})
+        EXPECT_EQ(label(openDrill(row++), "VerbLabel"), verb);
+    for (const auto& [row, title, tenses] : {std::tuple{5, "Velle", 11}, {6, "Esse", 10}}) {
+        QWidget& drill = openDrill(row);
         EXPECT_EQ(label(drill, "TitleLabel"), title);
-        EXPECT_EQ(label(drill, "VerbLabel"), verb);
         answerRightly(drill, tenses * 6 - 1);
-        EXPECT_TRUE(drill.isVisible()) << verb;
+        EXPECT_TRUE(drill.isVisible()) << title;
         answerRightly(drill, 1);
-        EXPECT_FALSE(drill.isVisible()) << verb;
+        EXPECT_NE(shownWindow("ConjugationChoose"), nullptr) << title;
     }
 }
 
@@ -135,8 +127,8 @@ TEST_F(ConjugationWindows, StandInTheirPlacesWithTheJudgementBesideThem)
         duringPause([&, name = window, text = caption] {
             const QWidget& feedback = shown(name);
             EXPECT_EQ(control<QLabel>(feedback).text(), text);
-            EXPECT_EQ(feedback.x(), screen.width() - feedback.width() - feedback.width() / 10);
-            EXPECT_EQ(feedback.y(), static_cast<int>(screen.height() / 1.5));
+            EXPECT_EQ(feedback.pos(), QPoint(screen.width() - feedback.width() - feedback.width() / 10,
+                                             static_cast<int>(screen.height() / 1.5)));
         });
         answer(openDrill(0), typed);
     }

@@ -16,9 +16,9 @@ protected:
     }
 
     // Of a learner who saw marks, heard sounds, and went by the rarer orders, in German.
-    static std::string keptSettings()
+    static std::string keptSettings(const std::string& order = "Random")
     {
-        std::string text = "6\r\n-1\r\n-1\r\n 5\r\nGerman\r\nNAGDAb\r\nRandom\r\n 0\r\n-1\r\n";
+        std::string text = "6\r\n-1\r\n-1\r\n 5\r\nGerman\r\nNAGDAb\r\n" + order + "\r\n 0\r\n-1\r\n";
         for (int entry = 0; entry < 7 + 20; ++entry)
             text += "-1\r\n";
         return text;
@@ -69,12 +69,13 @@ TEST_F(StartAndEnd, TakesTheDefaultsForSettingsThatAreCutOff)
     EXPECT_FALSE(isChecked(menu, "SoundStatus"));
 }
 
-TEST_F(StartAndEnd, ReadsTheSettingsAfterABrokenVerbListButNoNouns)
+TEST_F(StartAndEnd, ReadsAndMendsTheSettingsAfterABrokenVerbListButReadsNoNouns)
 {
     tests::writeFile("verbs.cfg", "h\nmany\n");
     tests::copySample("nouns.cfg");
-    tests::writeFile("morvanti.ini", keptSettings());
+    tests::writeFile("morvanti.ini", keptSettings("at will"));
     EXPECT_TRUE(isChecked(start(), "GermanLang"));
+    EXPECT_EQ(shell::settings.QuestionOrder, "Sequential");
     EXPECT_EQ(nouns::nounList.NounCount, nouns::NounList().NounCount);
 }
 
