@@ -69,6 +69,7 @@ TEST_F(VerbManager, AddsAVerbOnTheLastRowAndRefusesASixteenth)
     EXPECT_EQ(verbs::verbAt(FirstConjugation, 15), (verbs::VerbRecord{"cant", "", "", {"sing", "", "", ""}}));
     EXPECT_EQ(listed().mid(14), QStringList({"cantare", "** Add New Item Here **"}));
     chooseVerb(0, 15);
+    EXPECT_EQ(latin(0), "");
     fillLatin(0, "salt");
     click(*manager, "VerbManagerAdd");
     EXPECT_EQ(fake.messages.back(), "A conjugation holds fifteen verbs at the most.");
