@@ -10,14 +10,16 @@ void fuzz::readFile(const std::filesystem::path& path)
     for (const auto showVowelLength : {platform::FlagTrue, platform::FlagFalse}) {
         shell::settings.ShowVowelLength = showVowelLength;
         nounList = {};
-        readNounList(path);
-        for (int paradigm = 1; paradigm <= ParadigmCount; ++paradigm)
+        const bool whole = readNounList(path);
+        for (int paradigm = 1; paradigm <= ParadigmCount; ++paradigm) {
+            require(nounList.NounCount[paradigm] <= mostNounsOf(paradigm), "No list holds more than it can");
             for (int number = mostNounsOf(paradigm); number > nounList.NounCount[paradigm]; --number)
                 require(nounAt(paradigm, number) == NounRecord{}, "Past the last noun there is none");
+        }
         for (int draw = 1; draw <= 3; ++draw)
             BuildNounParadigms();
         const NounList before = nounList;
-        readNounList(path);
+        require(readNounList(path) == whole, "The list is read again as far as it was read");
         require(nounList.NounCount == before.NounCount && nounList.NounListStem == before.NounListStem &&
                     nounList.NounListMeaning == before.NounListMeaning,
                 "The same nouns are read again");
