@@ -2,7 +2,6 @@
 #include "tests/support/fresh_state.h"
 #include "verbs/paradigm.h"
 #include "verbs/paradigm_titles.h"
-#include "verbs/person_labels.h"
 #include "verbs/verb_tables.h"
 
 #include <tuple>
