@@ -9,7 +9,7 @@
 #include "shell/settings.h"
 #include "verbs/generators.h"
 #include "verbs/paradigm.h"
-#include "verbs/person_labels.h"
+#include "verbs/paradigm_titles.h"
 #include "verbs/verb_list_file.h"
 #include "verbs/verb_tables.h"
 

@@ -17,7 +17,7 @@ using shell::settings;
 
 namespace {
 
-// The mixed nouns and the i-stem among the third declension's are meant never to be drawn.
+// The mixed nouns and the i-stem among the third declension's: no learner is asked them.
 constexpr int FirstNeverDrawn = 6;
 constexpr int LastNeverDrawn = 9;
 
@@ -32,12 +32,11 @@ struct ListedCaption {
     std::optional<std::string_view> insteadOfMeaning;
 };
 
-// The neuter's caption is meant: it looks up no meaning.
 // clang-format off
 constexpr ListedCaption FirstCaption        = {FirstDeclension,        "a ",  {}};
 constexpr ListedCaption SecondUsCaption     = {SecondDeclensionUs,     "us ", {}};
 constexpr ListedCaption SecondErCaption     = {SecondDeclensionEr,     "er ", {}};
-constexpr ListedCaption SecondNeuterCaption = {SecondDeclensionNeuter, "um ", " + EnglNTrans4(X)"};
+constexpr ListedCaption SecondNeuterCaption = {SecondDeclensionNeuter, "um ", " + EnglNTrans4(X)"}; // sic
 constexpr ListedCaption ThirdCaption        = {ThirdDeclension,        "",    {}};
 constexpr ListedCaption ThirdNeuterCaption  = {ThirdDeclensionNeuter,  "",    {}};
 // clang-format on
@@ -112,7 +111,7 @@ void setExceptions(int paradigm, int number)
                 setMarked(nounTables.NounEndings[paradigm][inCase], ending);
 }
 
-// The infix goes by the number of the noun drawn for the second declension in -us: this is meant.
+// The infix goes by the number of the noun drawn for the second declension in -us, sic.
 void setErEndings(int numberOfUs)
 {
     setEndings(SecondDeclensionEr);
@@ -239,7 +238,7 @@ void buildFixed(int paradigm)
     const int count = std::min<int>(nounList.NounCount[paradigm], fixed.slots);
     int number = drawNumber(count);
     if (paradigm == FifthDeclension)
-        number = drawNumber(count); // the second of two draws is meant to count
+        number = drawNumber(count); // sic: the second of two draws counts
     takeFixedNoun(paradigm, fixed, number);
 }
 

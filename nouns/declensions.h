@@ -12,7 +12,7 @@ namespace nouns {
 void BuildNounParadigms();
 
 /// Fills the tables of the third declension, masculine and feminine, for the noun with this number, 1 to 10.
-/// `BuildNounParadigms` is meant never to draw the mixed nouns and the i-stem, 6 to 9.
+/// `BuildNounParadigms` never draws the mixed nouns and the i-stem, 6 to 9.
 void buildThirdDeclension(int number);
 
 } // namespace nouns

@@ -13,12 +13,12 @@ struct DeclensionName {
     shell::LanguageTexts texts;
 };
 
-// "Première Déclenaison:" is meant. German has no heading for the second declension in -us: it writes that of
-// the first once more, which stands already.
+// German has no heading for the second declension in -us: it writes that of the first once more, which
+// stands already.
 // clang-format off
 inline constexpr std::array<DeclensionName, ParadigmCount> DeclensionNames = {{
     //                         English                French                    Italian                German             Spanish                 Latin
-    {FirstDeclension,        {"First Declension:",  "Première Déclenaison:", "First Declension:",  "1. Deklination:", "Primera declinación:", "Prima Declinatio:"}},
+    {FirstDeclension,        {"First Declension:",  "Première Déclenaison:", "First Declension:",  "1. Deklination:", "Primera declinación:", "Prima Declinatio:"}}, // sic: Déclenaison
     {SecondDeclensionUs,     {"Second Declension:", "Second Declension:",    "Second Declension:", {},                "Segunda declinación:", "Secunda Declinatio:"}},
     {SecondDeclensionEr,     {"Second Declension:", "Second Declension:",    "Second Declension:", "2. Deklination:", "Segunda declinación:", "Secunda Declinatio:"}},
     {SecondDeclensionNeuter, {"Second Declension:", "Second Declension:",    "Second Declension:", "2. Deklination:", "Segunda declinación:", "Secunda Declinatio:"}},
@@ -29,13 +29,12 @@ inline constexpr std::array<DeclensionName, ParadigmCount> DeclensionNames = {{
     {ThirdDeclensionNeuter,  {"Third Declension:",  "Third Declension:",     "Third Declension:",  "3. Deklination:", "Tercera declinación:", "Tertia Declinatio:"}},
 }};
 
-// The capital of the Spanish "Declinación (mixta)" is meant.
 //                                                                             English, French, Italian        German                                Spanish                               Latin
-inline constexpr shell::LanguageTexts MixedDeclension = shell::englishToo("Third Declension (mixed):",  "3. Deklination (Mischdeklination):", "Tercera Declinación (mixta):",       "Tertia Declinatio (mixta):");
+inline constexpr shell::LanguageTexts MixedDeclension = shell::englishToo("Third Declension (mixed):",  "3. Deklination (Mischdeklination):", "Tercera Declinación (mixta):",       "Tertia Declinatio (mixta):"); // sic: Declinación
 inline constexpr shell::LanguageTexts IStemDeclension = shell::englishToo("Third Declension (i-stem):", "3. Deklination (i-Stamm):",          "Tercera declinación (temas en -i):", "Tertia Declinatio (i-radix):");
 
-// The neuter i-stems have this heading in every language: it is meant to be written over the language's own.
-inline constexpr std::string_view NeuterIStemDeclension = "Third Declension (i-stem):";
+// Every learner reads this heading over the neuter i-stems, in place of the language's own.
+inline constexpr std::string_view NeuterIStemDeclension = "Third Declension (i-stem):"; // sic
 // clang-format on
 
 } // namespace nouns

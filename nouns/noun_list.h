@@ -39,7 +39,8 @@ struct NounList {
     /// Noun number minus one.
     ByParadigm<platform::Table<std::string, MostNouns>> NounListStem;
 
-    /// Noun number minus one. Filled for paradigm 8 alone; that of paradigm 9 is meant to stay empty.
+    /// Noun number minus one. Filled for paradigm 8 alone: the neuters of paradigm 9 are declined without
+    /// one.
     ByParadigm<platform::Table<std::string, MostObliqueStems>> NounListObliqueStem;
 
     /// Noun number 1 to 50.

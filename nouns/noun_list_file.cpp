@@ -24,7 +24,7 @@ constexpr std::array<Section, 8> Sections = {{
     {2, SecondDeclensionUs},
     {2, ThirdDeclension},
     {2, SecondDeclensionEr},
-    {0, SecondDeclensionNeuter},
+    {0, SecondDeclensionNeuter}, // sic
     {2, ThirdDeclensionNeuter},
     {2, FourthDeclensionNeuter},
     {2, FifthDeclension},

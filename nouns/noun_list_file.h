@@ -11,7 +11,7 @@ inline constexpr std::string_view NounListFileName = "nouns.cfg";
 /// feminine; second in -er; second neuter; third neuter; fourth neuter; fifth. A section is a heading, the
 /// count of its nouns, and so many nouns of six fields: note, stem, and four meanings. Those of the third
 /// declension, masculine and feminine, have a seventh field, the oblique stem, after the stem. The second
-/// neuter has no heading: this is meant. Stems lose their marks where `ShowVowelLength` is not true.
+/// neuter has no heading. Stems lose their marks where `ShowVowelLength` is not true.
 ///
 /// Returns false at the first fault: no file, a field that is missing, a count that is not a number or is
 /// negative, a noun more than the list can hold. What was read before stays, and the section with the fault

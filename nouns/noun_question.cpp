@@ -22,8 +22,8 @@ NounQuestion nounQuestion;
 
 namespace {
 
-constexpr int DrawnParadigms = 8;
-constexpr int DrawnCases = 9;
+constexpr int DrawnParadigms = ParadigmCount - 1; // sic: not the neuter of the third declension
+constexpr int DrawnCases = CaseCount - 1;         // sic: not the ablative plural
 
 constexpr int NominativeIndex = NominativeSingular - 1;
 
@@ -96,11 +96,10 @@ bool ticksAreRight()
     return nounQuestion.QuizTickedCases == nounQuestion.QuizRightCases;
 }
 
-// The small letter of "singular" beside the capital of " Plural" is meant.
 std::string rightCasesInWords()
 {
     std::string text;
-    appendCases(text, "singular", NominativeIndex);
+    appendCases(text, "singular", NominativeIndex); // sic: a small letter
     appendCases(text, " Plural", CasesOfNumber);
     return text;
 }

@@ -28,13 +28,14 @@ struct NounQuestion {
 
 extern NounQuestion nounQuestion;
 
-/// The cases that are marked together with a case, by the index of the paradigm, 0 to 8. They are fixed
-/// groups of the grammar, not found by comparing forms. The fourth declension in -us alone goes by
+/// The cases that are marked together with a case, by the index of the paradigm, 0 to 8: those in which the
+/// paradigm has the same ending, long vowels or short. The endings that single nouns have in its place do not
+/// count. The fourth declension in -us alone goes by
 /// `ShowVowelLength`: with marks its nominative singular is never marked, not even where it was drawn.
 CaseSet casesOfOneForm(int paradigmIndex, int caseIndex);
 
 /// Draws the next question, generates the nouns, and unticks all cases. The neuter of the third declension
-/// and the ablative plural are meant never to be drawn.
+/// and the ablative plural are never drawn.
 void drawNounQuestion();
 
 /// The form that is asked about, and the caption of its noun.

@@ -35,10 +35,14 @@ struct NounTables {
     ByParadigm<ByCase> NounForms;
 };
 
-extern NounTables nounTables;
+inline NounTables nounTables;
 
 /// How a window names the noun that was drawn for a paradigm, 1 to 9: by its caption; in a language that
 /// builds none, by its nominative, since nobody can decline a noun that is not named.
-const std::string& nounName(int paradigm);
+inline const std::string& nounName(int paradigm)
+{
+    const std::string& caption = nounTables.NounCaption[paradigm];
+    return caption.empty() ? nounTables.NounForms[paradigm][NominativeSingular] : caption;
+}
 
 } // namespace nouns

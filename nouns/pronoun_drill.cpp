@@ -13,7 +13,7 @@ PronounDrill pronounDrill;
 
 namespace {
 
-constexpr std::string_view RandomInSmallLetters = "random";
+constexpr std::string_view RandomInSmallLetters = "random"; // sic
 
 bool hasForm(int cell)
 {

@@ -64,8 +64,8 @@ enum class PronounAdvance {
     NextNumber, ///< all boxes were asked: the plural follows the singular, and the singular the plural
 };
 
-/// Moves on after a right answer, in the order of `CaseOrder`, column by column. `QuestionOrder` is compared
-/// with "random" in small letters, which no menu sets: this is meant.
+/// Moves on after a right answer, in the order of `CaseOrder`, column by column. At random only where
+/// `QuestionOrder` is "random" in small letters: no menu sets it, only a settings file edited by hand.
 PronounAdvance advancePronouns();
 
 } // namespace nouns

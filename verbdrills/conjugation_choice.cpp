@@ -3,7 +3,7 @@
 #include "shell/score.h"
 #include "verbdrills/conjugation_drill.h"
 #include "verbs/generators.h"
-#include "verbs/person_labels.h"
+#include "verbs/paradigm_titles.h"
 #include "verbs/verb_tables.h"
 
 #include <array>

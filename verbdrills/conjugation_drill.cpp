@@ -18,8 +18,7 @@ ConjugationDrill conjugationDrill;
 
 namespace {
 
-// A tense that is drilled alone goes through the regular classes; esse and the other irregular verbs are
-// meant never to come.
+// A tense that is drilled alone goes through the regular classes: the irregular verbs never come.
 constexpr int FirstClassAfterTense = verbs::Esse;
 
 bool inRandomOrder()

@@ -29,7 +29,7 @@ constexpr Part Participle = &GlossParts::participle;
 constexpr Part Present = &GlossParts::presentParticiple;
 
 // clang-format off
-// The active subjunctive is meant to open with a capital, the passive one with a small letter.
+// The active subjunctive opens with a capital, the passive one with a small letter, sic.
 constexpr std::array<GlossRow, 19> Rows = {{
     //                               opening  1sg                   3sg                   others                translation
     {ImperfectIndicative,            "",      " was ",              " was ",              " were ",             Present},
@@ -53,7 +53,7 @@ constexpr std::array<GlossRow, 19> Rows = {{
     {PassivePluperfectSubjunctive,   "if ",   " had been ",         " had been ",         " had been ",         Participle},
 }};
 
-// The perfects have a second half without a label of its own: "I loved,  have loved". Its blanks are meant.
+// The perfects have a second half without a label of its own: "I loved,  have loved".
 struct SecondHalf {
     TenseBlock block;
     std::string_view third;
@@ -63,7 +63,7 @@ struct SecondHalf {
 constexpr std::array<SecondHalf, 2> SecondHalves = {{
     //                         3sg            others
     {PerfectIndicative,        " has ",       " have "},
-    {PassivePerfectIndicative, " has been  ", " have been "},
+    {PassivePerfectIndicative, " has been  ", " have been "}, // sic: the blanks
 }};
 
 // The present of "be".

@@ -7,7 +7,7 @@ namespace verbdrills {
 
 namespace {
 
-constexpr std::string_view LanguageOfGermanGlosses = "Kraut";
+constexpr std::string_view LanguageOfGermanGlosses = "Kraut"; // sic
 
 GlossParts partsOf(int verbClass, int person)
 {

@@ -23,8 +23,8 @@ std::string englishGloss(int block, int verbClass, int person, const GlossParts&
 std::string germanGloss(int block, int verbClass, int person, const GlossParts& parts);
 
 /// The gloss of a person, 1 to 6, of the current paradigm in the language of the interface; none where the
-/// language leaves the gloss as it is. German learners are meant to see none: the German glosses belong to a
-/// language with another name.
+/// language leaves the gloss as it is. German learners see none: the German glosses belong to a language of
+/// another name, which only a settings file edited by hand sets.
 std::optional<std::string> glossOfPerson(int person);
 
 } // namespace verbdrills

@@ -28,8 +28,8 @@ struct RowRange {
     int pastLast() const { return first + count; }
 };
 
-// Row 0 holds no form and is drawn again; the last row of a regular class is never reached. Both are meant.
-constexpr RowRange RegularRows{0, verbs::FormCount};
+// Row 0 of a regular class holds no form and is drawn again; its last row is never reached.
+constexpr RowRange RegularRows{0, verbs::FormCount}; // sic
 constexpr RowRange EsseRows{1, verbs::formNumber(verbs::Imperative, verbs::ThirdPlural)};
 constexpr RowRange VelleRows{1, verbs::formNumber(verbs::PluperfectSubjunctive, verbs::ThirdPlural)};
 

@@ -9,9 +9,8 @@ bool someFormCanBeAsked();
 /// Draws a form of the generated paradigms, and sets all of `verbQuiz`. Where none can be asked it draws
 /// nothing, leaves the form that was asked before, and returns false.
 ///
-/// A class is not drawn again before the other included ones; after 21 draws all are free again. The ranges
-/// are meant: the last form of a regular class is never asked, and neither velle nor ferre is bound to the
-/// tenses that are included.
+/// A class is not drawn again before the other included ones; after 21 draws all are free again. The last
+/// form of a regular class is never asked, and neither velle nor ferre is bound to the included tenses.
 bool drawForm();
 
 /// Generates the paradigms anew, with length marks even where `ShowVowelLength` is off, draws a form, and

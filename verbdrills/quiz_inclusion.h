@@ -28,8 +28,8 @@ QuizTicks noTick();
 void storeTicks(const QuizTicks& ticks);
 
 /// Takes the choice: stores it and sets `QuizIncludeSet`. Where no class is ticked, the first conjugation is
-/// included. Where at most one tense is ticked, the present indicative is included as well: that even one
-/// tense does not stand alone is meant.
+/// included. Where at most one tense is ticked, the present indicative is included as well: no other tense is
+/// asked alone.
 void takeTicks(const QuizTicks& ticks);
 
 } // namespace verbdrills

@@ -11,11 +11,10 @@ using shell::LanguageTexts;
 
 namespace {
 
-// The first Latin name is meant to be English.
 // clang-format off
 constexpr std::array<LanguageTexts, verbs::LastClass> ClassNames = {{
     //         English, French, Italian   German                  Spanish                            Latin
-    englishToo("First Conjugation",       "1. Konjugation",       "Primera conjugatión",             "Conjugation I"),
+    englishToo("First Conjugation",       "1. Konjugation",       "Primera conjugatión",             "Conjugation I"), // sic: English
     englishToo("Second Conjugation",      "2. Konjugation",       "Segunda conjugatión",             "Conjugatio II"),
     englishToo("Third Conjugation",       "3. Konjugation",       "Tercera conjugatión",             "Conjugatio III"),
     englishToo("Fourth Conjugation",      "4. Konjugation",       "Cuarta conjugatión",              "Conjugatio IV"),
@@ -25,7 +24,7 @@ constexpr std::array<LanguageTexts, verbs::LastClass> ClassNames = {{
     englishToo("Ferre",                   "Ferre (tragen)",       "Ferre",                           "Ferre"),
 }};
 
-// Apart from some names these are the tenses of the chooser. The Spanish passive future perfect is meant.
+// Apart from some names these are the tenses of the chooser.
 constexpr std::array<LanguageTexts, verbs::BlockCount> TenseNames = {{
     //         English, French, Italian             German                               Spanish                                  Latin
     englishToo("Present Indicative",                "Präsens Indikativ",                 "Presente de indicativo",                "Praesens Indicativum"),
@@ -44,7 +43,7 @@ constexpr std::array<LanguageTexts, verbs::BlockCount> TenseNames = {{
     englishToo("Passive Future Indicative",         "Passiv Futur Indikativ",            "Futuro pasivo",                         "Passivum Futurum Indicativum"),
     englishToo("Passive Perfect Indicative",        "Passiv Perfekt Indikativ",          "Perfecto pasivo",                       "Passivum Perfectum Indicativum"),
     englishToo("Passive Pluperfect Indicative",     "Passiv Plusquamperfekt Indikativ",  "Pluscuamperfecto pasivo",               "Passivum Plusquamperfectum Indicativum"),
-    englishToo("Passive Future Perfect Indicative", "Passiv Futur Perfekt Indikativ",    "Futuro de subjuntivo pasivo",           "Passivum Futurum Perfectum Indicativum"),
+    englishToo("Passive Future Perfect Indicative", "Passiv Futur Perfekt Indikativ",    "Futuro de subjuntivo pasivo",           "Passivum Futurum Perfectum Indicativum"), // sic: subjuntivo
     englishToo("Passive Present Subjunctive",       "Passiv Präsens Konjunktiv",         "Presente de subjuntivo pasivo",         "Passivum Praesens Subjunctivum"),
     englishToo("Passive Imperfect Subjunctive",     "Passiv Imperfekt Konjunktiv",       "Imperfecto de subjuntivo pasivo",       "Passivum Imperfectum Subjunctivum"),
     englishToo("Passive Perfect Subjunctive",       "Passiv Perfekt Konjunktiv",         "Perfecto de subjuntivo pasivo",         "Passivum Perfectum Subjunctivum"),

@@ -31,7 +31,6 @@ inline constexpr std::array<EndingRow, 6> VelleForms = {{
 }};
 
 // ferre: fero:, ferre, tuli:, la:tum. Joined by `PerfectSystem` with tul- and `MasculineCompounds` with la:t-.
-// The imperfect passive is meant to have no mark in ferebar and ferebantur.
 inline constexpr std::array<EndingRow, 11> FerreForms = {{
     {PresentIndicative,              Stem::None,    {"fero:",    "fers",       "fert",       "ferimus",     "fertis",       "ferunt"}},
     {ImperfectIndicative,            Stem::None,    {"fere:bam", "fere:ba:s",  "fere:bat",   "fere:ba:mus", "fere:ba:tis",  "fere:bant"}},
@@ -40,7 +39,7 @@ inline constexpr std::array<EndingRow, 11> FerreForms = {{
     {ImperfectSubjunctive,           Stem::None,    {"ferrem",   "ferre:s",    "ferret",     "ferre:mus",   "ferre:tis",    "ferrent"}},
     {Imperative,                     Stem::None,    {"",         "fer",        "",           "",            "ferte",        ""}},
     {PassivePresentIndicative,       Stem::None,    {"feror",    "ferris",     "fertur",     "ferimur",     "ferimini:",    "feruntur"}},
-    {PassiveImperfectIndicative,     Stem::None,    {"ferebar",  "fereba:ris", "fereba:tur", "fereba:mur",  "fereba:mini:", "ferebantur"}},
+    {PassiveImperfectIndicative,     Stem::None,    {"ferebar",  "fereba:ris", "fereba:tur", "fereba:mur",  "fereba:mini:", "ferebantur"}}, // sic: ferebar, ferebantur
     {PassiveFutureIndicative,        Stem::None,    {"ferar",    "fere:ris",   "fere:tur",   "fere:mur",    "fere:mini:",   "ferentur"}},
     {PassivePresentSubjunctive,      Stem::None,    {"ferar",    "fera:ris",   "fera:tur",   "fera:mur",    "fera:mini:",   "ferantur"}},
     {PassiveImperfectSubjunctive,    Stem::None,    {"ferrer",   "ferre:ris",  "ferre:tur",  "ferre:mur",   "ferre:mini:",  "ferrentur"}},

@@ -34,6 +34,7 @@ struct IrregularVerb {
 
 // clang-format off
 constexpr std::array<IrregularVerb, 3> Verbs = {{
+    //               perfect supine  present system  compounds       last tense
     {Esse,  "esse",  "fu",   "",     EsseForms,  {},                 Imperative,
      {"be",   "was",    "been",   "being",   {}}, {"bin",  "war",    "gewesen",  {},      {}}},
     {Velle, "velle", "volu", "",     VelleForms, {},                 PluperfectSubjunctive,

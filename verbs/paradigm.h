@@ -5,7 +5,7 @@
 namespace verbs {
 
 /// Conjugation classes. The number is also the column of the forms table. The -io verbs of the third
-/// conjugation come after the fourth conjugation: this order is meant.
+/// conjugation come after the fourth conjugation, sic.
 enum VerbClass : std::int16_t {
     FirstConjugation = 1,
     SecondConjugation = 2,

@@ -14,8 +14,7 @@ namespace {
 using shell::englishToo;
 using shell::LanguageTexts;
 
-// Classes 1 to 7; ferre has no title. The last two are meant to stand in this order, though esse is class 6
-// and velle class 7.
+// Classes 1 to 7; ferre has no title.
 // clang-format off
 constexpr std::array<LanguageTexts, 7> TitlesOfClasses = {{
     //         English, French, Italian   German                   Spanish                            Latin
@@ -24,8 +23,8 @@ constexpr std::array<LanguageTexts, 7> TitlesOfClasses = {{
     englishToo("Third Conjugation",       "3. Konjugation",       "Tercera Conjugatión",            "Conjugatio III"),
     englishToo("Fourth Conjugation",      "4. Konjugation",       "Cuarta Conjugatión",             "Conjugatio IV"),
     englishToo("Third Conjugation (-io)", "3. Konjugation (-io)", "Cuarta Conjugatión mixta (-io)", "Conjugatio III (-io)"),
-    englishToo("Velle",                   "Velle (wollen)",       "Velle",                          "Velle"),
-    englishToo("Esse",                    "Esse (sein)",          "Esse",                           "Esse"),
+    englishToo("Velle",                   "Velle (wollen)",       "Velle",                          "Velle"), // sic: class 6 is esse
+    englishToo("Esse",                    "Esse (sein)",          "Esse",                           "Esse"),  // sic: class 7 is velle
 }};
 
 constexpr std::array<LanguageTexts, BlockCount> TitlesOfTenses = {{
@@ -53,6 +52,11 @@ constexpr std::array<LanguageTexts, BlockCount> TitlesOfTenses = {{
     englishToo("Passive Pluperfect Subjunctive", "Passiv Plusquamperfekt Konjunktiv", "Pluscuamperfecto de subjuntivo pasivo", "Passivum Plusquamperfectum Subjunctivum"),
 }};
 // clang-format on
+
+using PersonLabels = std::array<std::string_view, PersonCount>;
+
+constexpr PersonLabels EnglishPersons = {"I", "you", "he, she, it", "we", "all of you", "they"};
+constexpr PersonLabels GermanPersons = {"ich", "du", "er/ sie/ es", "wir", "ihr", "sie"};
 
 void setClassTitle(int verbClass)
 {
@@ -93,6 +97,20 @@ void setParadigmTitles()
         showIrregularVerb("Esse");
     if (verbClass == Velle)
         showIrregularVerb("Velle");
+}
+
+void setPersonLabels()
+{
+    const bool german = shell::settings.CurrentLanguage == shell::language::German;
+    int person = FirstSingular;
+    for (const std::string_view label : german ? GermanPersons : EnglishPersons)
+        verbTables.PersonLabels[person++] = label;
+
+    setParadigmTitles();
+    const int verbClass = currentParadigm.ConjugationCode;
+    currentParadigm.TenseLabel =
+        verbTables.ClassTitles[verbClass] + verbTables.TenseTitles[currentParadigm.TenseMoodCode];
+    currentParadigm.VerbLabel = verbTables.Infinitive[verbClass];
 }
 
 } // namespace verbs

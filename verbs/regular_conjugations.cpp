@@ -35,7 +35,7 @@ struct RegularClass {
     void (*besides)(int number);
 };
 
-void setNothing(int) {}
+void setNothing(int /*number*/) {}
 
 void noteVerb(int number)
 {
@@ -50,7 +50,7 @@ void shortenImperative(int number)
 }
 
 // The fourth verb of the list has this German translation, whichever verb it is.
-void correctGermanList(int)
+void correctGermanList(int /*number*/)
 {
     constexpr int fourthVerb = 3;
     verbList.German[FourthConjugation][fourthVerb] = "gräbe"; // sic
@@ -59,7 +59,7 @@ void correctGermanList(int)
 // clang-format off
 // In the order in which their verbs are drawn.
 constexpr std::array<RegularClass, LastRegularClass> Classes = {{
-    // class            infinitive endings                    compounds           draw          gloss          counted            besides
+    //                   infinitive                         compounds           draw          gloss          counted            besides
     {FirstConjugation,   "a:re", FirstConjugationEndings,   {},                 Draw::Seeded, Gloss::None,   FirstConjugation,  setNothing},
     {SecondConjugation,  "e:re", SecondConjugationEndings,  {},                 Draw::Seeded, Gloss::German, SecondConjugation, noteVerb},
     {ThirdConjugation,   "ere",  ThirdConjugationEndings,   MasculineCompounds, Draw::Seeded, Gloss::German, ThirdConjugation,  shortenImperative},

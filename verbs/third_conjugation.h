@@ -9,10 +9,9 @@ namespace verbs {
 // clang-format off
 
 // Third conjugation: rego:, regere, re:xi:, re:ctum. Present stem reg-.
-// The mark on the short i of regi:mus and regi:tis is meant.
 // Joined by `PerfectSystem` and `MasculineCompounds`.
 inline constexpr std::array<EndingRow, 11> ThirdConjugationEndings = {{
-    {PresentIndicative,              Stem::Present, {"o:",    "is",       "it",       "i:mus",    "i:tis",      "unt"}},
+    {PresentIndicative,              Stem::Present, {"o:",    "is",       "it",       "i:mus",    "i:tis",      "unt"}}, // sic: a mark on the short i
     {ImperfectIndicative,            Stem::Present, {"e:bam", "e:ba:s",   "e:bat",    "e:ba:mus", "e:ba:tis",   "e:bant"}},
     {FutureIndicative,               Stem::Present, {"am",    "e:s",      "et",       "e:mus",    "e:tis",      "ent"}},
     {PresentSubjunctive,             Stem::Present, {"am",    "a:s",      "at",       "a:mus",    "a:tis",      "ant"}},
@@ -25,8 +24,7 @@ inline constexpr std::array<EndingRow, 11> ThirdConjugationEndings = {{
     {PassiveImperfectSubjunctive,    Stem::Present, {"erer",  "ere:ris",  "ere:tur",  "ere:mur",  "ere:mini:",  "erentur"}},
 }};
 
-// These stems are the singular of the imperative by themselves; all others take an e. The list is meant to be
-// as short as this.
+// These stems are the singular of the imperative by themselves; all others take an e, sic.
 inline constexpr std::array<std::string_view, 3> StemsWithBareImperative = {"dic", "duc", "du:c"};
 
 // clang-format on

@@ -25,7 +25,8 @@ struct Edit {
 std::vector<Edit> edits;
 
 // By class: first, second, third, fourth conjugation, -io verbs.
-constexpr std::array<std::string_view, LastRegularClass> ListedEndings = {"are", "ere", "ere", "ire", "ire"};
+constexpr std::array<std::string_view, LastRegularClass> ListedEndings = {"are", "ere", "ere", "ire",
+                                                                          "ire"}; // sic: capire
 
 void store(const Edit& edit)
 {

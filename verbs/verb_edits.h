@@ -20,8 +20,7 @@ void repeatVerbEdits();
 /// Forgets all edits.
 void forgetVerbEdits();
 
-/// How the verb manager names a verb: its present stem with the infinitive's ending without marks. The -io
-/// verbs are meant to end in "ire" there, as those of the fourth conjugation do.
+/// How the verb manager names a verb: its present stem with the infinitive's ending without marks.
 std::string listedInfinitive(int verbClass, int number);
 
 } // namespace verbs

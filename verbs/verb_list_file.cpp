@@ -34,8 +34,8 @@ constexpr std::array<Section, 5> SectionsAfterSwitch = {{
     {1, FirstConjugation,   FirstConjugation},
     {2, SecondConjugation,  SecondConjugation},
     {2, ThirdConjugation,   ThirdConjugation},
-    {2, ThirdIoConjugation, FourthConjugation},
-    {2, FourthConjugation,  ThirdIoConjugation},
+    {2, ThirdIoConjugation, FourthConjugation},  // sic
+    {2, FourthConjugation,  ThirdIoConjugation}, // sic
 }};
 // clang-format on
 

@@ -20,7 +20,7 @@ inline constexpr std::string_view VerbListFileName = "verbs.cfg";
 bool readVerbList(const std::filesystem::path& path);
 
 /// Reads the list again after `ShowVowelLength` was switched. Here the count of the -io verbs becomes that of
-/// the fourth conjugation and the other way round: this difference between the readers is meant.
+/// the fourth conjugation and the other way round.
 bool readVerbListAgain(const std::filesystem::path& path);
 
 } // namespace verbs

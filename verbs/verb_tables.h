@@ -21,7 +21,7 @@ struct VerbTables {
     /// The infinitive of the verb that was generated.
     ByClass<std::string> Infinitive;
 
-    /// How many blocks a class has, counted from the first. The entry of the -io class is meant to stay 0, as
+    /// How many blocks a class has, counted from the first. That of the -io class stays 0:
     /// nothing reads it.
     ByClass<std::int16_t> TenseCount;
 

