@@ -198,6 +198,8 @@ TEST_F(NounManager, AddsANounThatIsDrawnAfterwards)
     EXPECT_EQ(listed().back(), "stella");
     EXPECT_EQ(nounList.NounCount[FirstDeclension], 13);
     EXPECT_EQ(nounAt(FirstDeclension, 13), (NounRecord{"f. -ae", "stell", "", {"star", "", "", ""}}));
+    clickAdd();
+    EXPECT_EQ(shownNoun().join(""), "");
 }
 
 TEST_F(NounManager, AddsToTheParadigmThatIsChosen)
