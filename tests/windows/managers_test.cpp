@@ -69,6 +69,7 @@ TEST_F(VerbManager, AddsAVerbOnTheLastRowAndRefusesASixteenth)
     EXPECT_EQ(verbs::verbAt(FirstConjugation, 15), (verbs::VerbRecord{"cant", "", "", {"sing", "", "", ""}}));
     EXPECT_EQ(listed().mid(14), QStringList({"cantare", "** Add New Item Here **"}));
     chooseVerb(0, 15);
+    EXPECT_EQ(latin(0), "");
     fillLatin(0, "salt");
     click(*manager, "VerbManagerAdd");
     EXPECT_EQ(fake.messages.back(), "A conjugation holds fifteen verbs at the most.");
@@ -197,6 +198,8 @@ TEST_F(NounManager, AddsANounThatIsDrawnAfterwards)
     EXPECT_EQ(listed().back(), "stella");
     EXPECT_EQ(nounList.NounCount[FirstDeclension], 13);
     EXPECT_EQ(nounAt(FirstDeclension, 13), (NounRecord{"f. -ae", "stell", "", {"star", "", "", ""}}));
+    clickAdd();
+    EXPECT_EQ(shownNoun().join(""), "");
 }
 
 TEST_F(NounManager, AddsToTheParadigmThatIsChosen)

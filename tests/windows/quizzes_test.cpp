@@ -190,6 +190,8 @@ TEST_F(VerbQuizWindows, LeadsToTheChoiceWhereNothingCanBeAsked)
     click(choice(), "InclQuiz");
     EXPECT_EQ(verbQuiz.QuizConjugation, verbs::Esse);
     expectQuestion();
+    click(quiz(), "QuizOptions");
+    EXPECT_FALSE(control<QLabel>(choice(), "InclNote").isVisible());
 }
 
 class NounQuizWindow : public WindowTest {

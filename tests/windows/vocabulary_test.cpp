@@ -94,6 +94,7 @@ TEST_F(VcabManagerWindow, LeadsAListThroughItsWholeLife)
 
     choose(tester, "VcabTesterEdit");
     clickIn("VcabManLoad");
+    EXPECT_EQ(line(files(), "FHFileName").text(), "");
     clickRow(fileList(), 0);
     EXPECT_EQ(line(files(), "FHFileName").text(), "mine.lst");
     click(files(), "LoadSaveFH");
@@ -125,6 +126,8 @@ TEST_F(VcabManagerWindow, TakesOverWhatWasTypedBeforeAnythingElseComes)
     EXPECT_EQ(bytesOf("rome.lst"), RomeInAFile);
     fillIn(Rose);
     press(*manager, Qt::Key_Escape);
+    press(shown("VcabWarning"), Qt::Key_Escape);
+    clickIn("VcabManExit");
     EXPECT_NE(shownWindow("VcabWarning"), nullptr);
     EXPECT_EQ(words(), QStringList({"Ro:ma", "rosa"}));
 }
@@ -275,7 +278,8 @@ TEST_F(VcabManagerWindow, ChangesTheListThatIsTestedAndHasItTestedAnew)
     open("VocabularyButton", "Vcabtester");
     openManager();
     EXPECT_TRUE(words().empty());
-    QWidget& tester = open("VocabularyButton", "Vcabtester");
+    clickIn("VcabManExit");
+    QWidget& tester = shown("Vcabtester");
     answer(tester, "rose");
     choose(tester, "VcabTesterEdit");
     clickIn("VcabManExit");
