@@ -262,6 +262,7 @@ TEST_P(BoxDrill, GreysTheBoxAnsweredRightAndAsksTheNext)
     QLineEdit& first = askedBox(window);
     answer(window, true);
     const QString typed = first.text();
+    duringPause([&] { pressEverything(window); });
     press(window, Qt::Key_Return);
     EXPECT_EQ(first.text(), typed);
     EXPECT_EQ(first.palette().color(QPalette::Base), QColor(0x80, 0x80, 0x80));

@@ -150,9 +150,13 @@ TEST_F(FrmOptions, BringsTheFrameOfTheChosenTabInAndSendsTheOthersOff)
 
 TEST_F(FrmOptions, ShowsTheDelayAndSetsNothingAndSaysWhatIsMissing)
 {
-    start();
+    tests::choose(start(), "RandomOrder");
     settings.DelaySeconds = 7;
     QWidget& window = openWindow();
+    QStringList orders;
+    for (const QLabel* const text : tests::control<QWidget>(window, "picOptions1").findChildren<QLabel*>())
+        orders << text->text();
+    EXPECT_EQ(orders.join(", "), "Order, Random Order, Case Order, Nom. Gen. Dat. Acc. Abl.");
     auto& slider = tests::control<QSlider>(window, "GODelaySlider");
     EXPECT_EQ(slider.value(), 7);
     slider.setFocus();
@@ -167,7 +171,7 @@ TEST_F(FrmOptions, ShowsTheDelayAndSetsNothingAndSaysWhatIsMissing)
     EXPECT_FALSE(window.isVisible());
     openWindow();
     EXPECT_EQ(slider.value(), 7);
-    EXPECT_EQ(settings.SettingsChangeCount, 0);
+    EXPECT_EQ(settings.SettingsChangeCount, 1);
 }
 
 class Help : public tests::WindowTest {
