@@ -57,7 +57,7 @@ TEST_F(StartAndEnd, FindsTheSettingsThatItKeptAndSoundsOnTheWayOut)
     EXPECT_EQ(tests::bytesOf("morvanti.ini"), keptSettings());
     EXPECT_EQ(shell::settings.SettingsChangeCount, 0);
     EXPECT_FALSE(menu.isVisible());
-    EXPECT_EQ(fake.sounds.size(), 4U);
+    EXPECT_EQ(fake.sounds.size(), 2U);
     EXPECT_EQ(fake.exitStatus, 0);
 }
 
