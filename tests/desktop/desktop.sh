@@ -25,7 +25,7 @@ within() {
 }
 # wait_for WHAT CONDITION...: at most a minute; Xvfb may start slowly.
 wait_for() { within 60 "${@:2}" || fail "never came: $1"; }
-# press_for "KEY..." CONDITION...: presses the keys until it comes true: a window that was just shown may lack the keyboard.
+# press_for "KEY..." CONDITION...: presses the keys until it comes true: a window just shown may still lack the keyboard.
 press_for() {
     for _ in {1..12}; do
         xdotool key $1
@@ -38,18 +38,16 @@ press_for() {
 open_display() {
     Xvfb -displayfd 3 -noreset -screen 0 1280x800x24 3>"$work/display" 2>/dev/null &
     wait_for "the display" test -s "$work/display"
-    DISPLAY=:$(cat "$work/display")
-    export DISPLAY
+    export DISPLAY=:$(cat "$work/display")
     openbox >/dev/null 2>&1 &
     wait_for "the window manager" xdotool get_desktop
 }
 active() { [ "$(xdotool getactivewindow getwindowname)" = "$1" ]; }
-wait_for_window() { wait_for "the window \"$1\"" active "$1"; }
 # start [FOLDER]: starts the program and waits for its main window.
 start() {
     (cd "$HOME" && exec "$program" "$@" 2>"$work/errors") &
     running=$!
-    wait_for_window Velmorane
+    wait_for "the main window" active Velmorane
 }
 # go WINDOW KEY...: presses the keys until the window comes.
 go() { press_for "${*:2}" active "$1"; }

@@ -28,7 +28,7 @@ for form in amo amas amat amamus amatis amant; do
     within 2 windows 2 || true
     wait_for "the end of the feedback on $form" windows 1
 done
-wait_for_window "2. Konjugation"
+wait_for "the same tense of the next class" active "2. Konjugation"
 go "Eine Zeitform Auswählen" Escape
 go "Eine Konjugation Auswählen" Escape
 go Velmorane Escape
