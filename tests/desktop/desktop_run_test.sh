@@ -3,12 +3,13 @@
 # its time.
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
 . "$root/tests/desktop/desktop.sh"
-unset DISPLAY
 mkdir "$work/folder" "$work/slow"
 printf '#!/bin/sh\nsleep 1\nexec %s "$@"\n' "$(command -v openbox)" >"$work/slow/openbox"
 chmod +x "$work/slow/openbox"
 export PATH=$work/slow:$PATH
 for _ in 1 2 3; do
+    unset DISPLAY
+    rm -f "$work/said"
     MORVANTI_PRESET=$(basename "$2") "$root/run" "$work/folder" >"$work/said" 2>"$work/errors" &
     running=$!
     wait_for "the display" grep -q 'DISPLAY=' "$work/said"
@@ -17,5 +18,4 @@ for _ in 1 2 3; do
     wait_for "the main window" xdotool search --onlyvisible --name '^Velmorane$'
     xdotool get_desktop >/dev/null 2>&1 || fail "the program did not wait for the window manager"
     end_with alt+x
-    unset DISPLAY
 done
