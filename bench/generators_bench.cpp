@@ -42,7 +42,7 @@ public:
 void generate()
 {
     verbs::setPersonLabels();
-    verbs::buildRegularConjugations();
+    verbs::buildFirstAndSecondConjugations();
     verbs::buildIrregularVerbs();
     verbs::buildThirdAndFourthConjugations();
 }

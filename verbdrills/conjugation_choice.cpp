@@ -66,7 +66,7 @@ bool chooseTense(int row)
 void generateParadigms()
 {
     verbs::setPersonLabels();
-    verbs::buildRegularConjugations();
+    verbs::buildFirstAndSecondConjugations();
     verbs::buildIrregularVerbs();
     verbs::buildThirdAndFourthConjugations();
 }

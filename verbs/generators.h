@@ -7,7 +7,7 @@ namespace verbs {
 /// `ShowVowelLength` is true, all but the irregular one first set `VowelMark` to ":"; none ever empties it.
 
 /// First and second conjugation. Goes back to the present indicative unless a single tense is drilled.
-void buildRegularConjugations();
+void buildFirstAndSecondConjugations();
 
 /// Third conjugation, its -io verbs, and fourth conjugation, drawn in this order. Stores no tense count of
 /// the -io verbs, and the German translation "gräbe" with the fourth verb of the fourth conjugation.

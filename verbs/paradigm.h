@@ -4,14 +4,13 @@
 
 namespace verbs {
 
-/// Conjugation classes. The number is also the column of the forms table. The -io verbs of the third
-/// conjugation come after the fourth conjugation, sic.
+/// Conjugation classes. The number is also the column of the forms table.
 enum VerbClass : std::int16_t {
     FirstConjugation = 1,
     SecondConjugation = 2,
     ThirdConjugation = 3,
     FourthConjugation = 4,
-    ThirdIoConjugation = 5,
+    ThirdIoConjugation = 5, // sic: after the fourth
     Esse = 6,
     Velle = 7,
     Ferre = 8,

@@ -31,7 +31,8 @@ struct RegularClass {
     /// The class whose tenses are counted.
     VerbClass counted;
 
-    /// What the verb with this number sets besides.
+    /// What the verb with this number sets besides, once its forms are built and before its German
+    /// translation is taken.
     void (*besides)(int number);
 };
 
@@ -123,7 +124,7 @@ void buildClasses(std::span<const RegularClass> classes)
 
 } // namespace
 
-void buildRegularConjugations()
+void buildFirstAndSecondConjugations()
 {
     resetTense();
     buildClasses(std::span(Classes).first(FirstTwo));

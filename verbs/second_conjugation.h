@@ -9,7 +9,7 @@ namespace verbs {
 // clang-format off
 
 // Second conjugation: moneo:, mone:re, monui:, monitum. Present stem mon-, supine stem monit-.
-// Only the perfect singular and the first person of the pluperfect name all three genders, sic.
+// The perfect singular and the first person of the pluperfect name all three genders, the rest the masculine alone.
 // Joined by `PerfectSystem`.
 inline constexpr std::array<EndingRow, 16> SecondConjugationEndings = {{
     {PresentIndicative,              Stem::Present, {"eo:",            "e:s",          "et",            "e:mus",       "e:tis",       "ent"}},

@@ -24,7 +24,7 @@ inline constexpr std::array<EndingRow, 11> ThirdConjugationEndings = {{
     {PassiveImperfectSubjunctive,    Stem::Present, {"erer",  "ere:ris",  "ere:tur",  "ere:mur",  "ere:mini:",  "erentur"}},
 }};
 
-// These stems are the singular of the imperative by themselves; all others take an e, sic.
+// The singular of the imperative is the bare stem of these; all others, di:c with its mark among them, take an e.
 inline constexpr std::array<std::string_view, 3> StemsWithBareImperative = {"dic", "duc", "du:c"};
 
 // clang-format on

@@ -21,8 +21,7 @@ struct VerbTables {
     /// The infinitive of the verb that was generated.
     ByClass<std::string> Infinitive;
 
-    /// How many blocks a class has, counted from the first. That of the -io class stays 0:
-    /// nothing reads it.
+    /// How many blocks a class has, counted from the first; 0 for the -io class. Nothing reads it.
     ByClass<std::int16_t> TenseCount;
 
     /// The verb's translations: base form, past, past participle, present participle.

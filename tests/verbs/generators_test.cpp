@@ -66,7 +66,7 @@ std::string shown(std::string text)
 
 void buildAll()
 {
-    verbs::buildRegularConjugations();
+    verbs::buildFirstAndSecondConjugations();
     verbs::buildIrregularVerbs();
     verbs::buildThirdAndFourthConjugations();
 }
