@@ -4,13 +4,13 @@
 
 namespace app {
 
-void whenLeft(const shell::Window& window, const Step& next)
+void whenLeft(shell::Window& window, const Step& next)
 {
     hideWhenLeft(window);
     QObject::connect(&window, &shell::Window::left, &window, next);
 }
 
-void hideWhenLeft(const shell::Window& window)
+void hideWhenLeft(shell::Window& window)
 {
     QObject::connect(&window, &shell::Window::left, &window, &QWidget::hide);
 }

@@ -24,10 +24,10 @@ public:
 using Step = std::function<void()>;
 
 /// Leaving the window hides it and takes the next step.
-void whenLeft(const shell::Window& window, const Step& next);
+void whenLeft(shell::Window& window, const Step& next);
 
 /// Leaving the window only hides it.
-void hideWhenLeft(const shell::Window& window);
+void hideWhenLeft(shell::Window& window);
 
 /// The windows that every subject shares: the main window, from which all start and to which they come back,
 /// the feedback windows and the one that sets the delay.
@@ -38,8 +38,8 @@ public:
     const Step toMainMenu = [this] { mainMenu.showInMainWindowState(); };
 
     /// At this request the main window gives way to another one, which opens.
-    template <typename Window>
-    void opens(void (shell::MainMenu::*request)(), OnDemand<Window>& window);
+    template <typename Shown>
+    void opens(void (shell::MainMenu::*request)(), OnDemand<Shown>& window);
 
     /// Joins a drill's window: its judged answers are announced; leaving it leaves the drill and takes the
     /// next step.
@@ -56,8 +56,8 @@ private:
     OnDemand<shell::Wrong> wrong_;
 };
 
-template <typename Window>
-void CommonWindows::opens(void (shell::MainMenu::*request)(), OnDemand<Window>& window)
+template <typename Shown>
+void CommonWindows::opens(void (shell::MainMenu::*request)(), OnDemand<Shown>& window)
 {
     QObject::connect(&mainMenu, request, &mainMenu, [this, &window] {
         mainMenu.hide();

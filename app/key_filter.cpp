@@ -24,7 +24,8 @@ bool KeyFilter::eventFilter(QObject* /*receiver*/, QEvent* event)
         return false;
     const auto& key = *static_cast<QKeyEvent*>(event);
     if (key.key() == Qt::Key_F1 && key.modifiers() == Qt::NoModifier && windowHasTheKeys()) {
-        Q_EMIT helpRequested();
+        if (!key.isAutoRepeat())
+            Q_EMIT helpRequested();
         return true;
     }
     return key.isAutoRepeat() && (shell::isEnter(key) || key.key() == Qt::Key_Escape);

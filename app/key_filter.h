@@ -4,9 +4,9 @@
 
 namespace app {
 
-/// Sees every key before the windows do. F1 asks for the guide in each window of the program. Enter and
-/// Escape count once however long they are held: a key that is still down when a pause ends must not answer
-/// the next question.
+/// Sees every key before the windows do. F1 asks for the guide in each window of the program, though not
+/// in an open menu or a message. F1, Enter and Escape count once however long they are held: a key that is
+/// still down when a pause ends must not answer the next question.
 class KeyFilter : public QObject {
     Q_OBJECT
 

@@ -8,37 +8,54 @@
 
 namespace app {
 
+using nouns::Declination;
 using nouns::DeclinationChoose;
+using nouns::NounHandler;
 using nouns::NounQuiz;
 using nouns::PronounChooser;
+using nouns::PronounSingular;
 using shell::MainMenu;
 
-NounNavigation::NounNavigation(CommonWindows& common)
-    : common_(common), declinationChoose_([this](const DeclinationChoose& window) {
-          connect(&window, &DeclinationChoose::chosen, this, &NounNavigation::takeDeclension);
-          whenLeft(window, common_.toMainMenu);
-      }),
-      declination_([this](nouns::Declination& window) {
-          common_.joinDrill(window, [this] { declinationChoose_->open(); });
-      }),
-      pronounChooser_([this](const PronounChooser& window) {
-          connect(&window, &PronounChooser::chosen, this, &NounNavigation::takePronouns);
-          whenLeft(window, common_.toMainMenu);
-      }),
-      pronounSingular_([this](nouns::PronounSingular& window) {
-          common_.joinDrill(window, [this] { pronounChooser_->open(); });
-      }),
-      nounQuiz_([this](const NounQuiz& window) {
-          connect(&window, &NounQuiz::optionsRequested, this, [this] { common_.delayInterval->open(); });
-          connect(&window, &NounQuiz::left, this, &shell::leaveDrill);
-          whenLeft(window, common_.toMainMenu);
-      }),
-      nounHandler_([this](const nouns::NounHandler& window) { whenLeft(window, common_.toMainMenu); })
+NounNavigation::NounNavigation(CommonWindows& common) : common_(common)
 {
     connect(&common_.mainMenu, &MainMenu::declensionRequested, this, &NounNavigation::beginToChooseNouns);
     connect(&common_.mainMenu, &MainMenu::pronounsRequested, this, &NounNavigation::beginToChoosePronouns);
     common_.opens(&MainMenu::nounQuizRequested, nounQuiz_);
     common_.opens(&MainMenu::nounManagerRequested, nounHandler_);
+}
+
+void NounNavigation::joinDeclinationChoose(DeclinationChoose& window)
+{
+    connect(&window, &DeclinationChoose::chosen, this, &NounNavigation::takeDeclension);
+    whenLeft(window, common_.toMainMenu);
+}
+
+void NounNavigation::joinDeclination(Declination& window)
+{
+    common_.joinDrill(window, [this] { declinationChoose_->open(); });
+}
+
+void NounNavigation::joinPronounChooser(PronounChooser& window)
+{
+    connect(&window, &PronounChooser::chosen, this, &NounNavigation::takePronouns);
+    whenLeft(window, common_.toMainMenu);
+}
+
+void NounNavigation::joinPronounSingular(PronounSingular& window)
+{
+    common_.joinDrill(window, [this] { pronounChooser_->open(); });
+}
+
+void NounNavigation::joinNounQuiz(NounQuiz& window)
+{
+    connect(&window, &NounQuiz::optionsRequested, this, [this] { common_.delayInterval->open(); });
+    connect(&window, &NounQuiz::left, this, &shell::leaveDrill);
+    whenLeft(window, common_.toMainMenu);
+}
+
+void NounNavigation::joinNounHandler(NounHandler& window)
+{
+    whenLeft(window, common_.toMainMenu);
 }
 
 void NounNavigation::beginToChooseNouns()

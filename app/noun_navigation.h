@@ -17,18 +17,25 @@ public:
     explicit NounNavigation(CommonWindows& common);
 
 private:
+    void joinDeclinationChoose(nouns::DeclinationChoose& window);
+    void joinDeclination(nouns::Declination& window);
+    void joinPronounChooser(nouns::PronounChooser& window);
+    void joinPronounSingular(nouns::PronounSingular& window);
+    void joinNounQuiz(nouns::NounQuiz& window);
+    void joinNounHandler(nouns::NounHandler& window);
+
     void beginToChooseNouns();
     void takeDeclension(int row);
     void beginToChoosePronouns();
     void takePronouns(int row);
 
     CommonWindows& common_;
-    OnDemand<nouns::DeclinationChoose> declinationChoose_;
-    OnDemand<nouns::Declination> declination_;
-    OnDemand<nouns::PronounChooser> pronounChooser_;
-    OnDemand<nouns::PronounSingular> pronounSingular_;
-    OnDemand<nouns::NounQuiz> nounQuiz_;
-    OnDemand<nouns::NounHandler> nounHandler_;
+    OnDemand<nouns::DeclinationChoose> declinationChoose_{this, &NounNavigation::joinDeclinationChoose};
+    OnDemand<nouns::Declination> declination_{this, &NounNavigation::joinDeclination};
+    OnDemand<nouns::PronounChooser> pronounChooser_{this, &NounNavigation::joinPronounChooser};
+    OnDemand<nouns::PronounSingular> pronounSingular_{this, &NounNavigation::joinPronounSingular};
+    OnDemand<nouns::NounQuiz> nounQuiz_{this, &NounNavigation::joinNounQuiz};
+    OnDemand<nouns::NounHandler> nounHandler_{this, &NounNavigation::joinNounHandler};
 };
 
 } // namespace app

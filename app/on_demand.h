@@ -7,23 +7,28 @@
 namespace app {
 
 /// A window that is made when it is first asked for, and lives until the program ends.
-template <typename Window>
+template <typename Shown>
 class OnDemand {
 public:
-    using Join = std::function<void(Window&)>;
-
     /// `join` connects the window with the others as soon as it is made.
-    explicit OnDemand(Join join = [](Window&) {}) : join_(std::move(join)) {}
+    explicit OnDemand(std::function<void(Shown&)> join = [](Shown&) {}) : join_(std::move(join)) {}
 
-    Window& operator*()
+    /// The same, where a navigation's own procedure joins the window.
+    template <typename Navigation>
+    OnDemand(Navigation* navigation, void (Navigation::*join)(Shown&))
+        : OnDemand([navigation, join](Shown& window) { (navigation->*join)(window); })
+    {
+    }
+
+    Shown& operator*()
     {
         if (!window_) {
-            window_ = std::make_unique<Window>();
+            window_ = std::make_unique<Shown>();
             join_(*window_);
         }
         return *window_;
     }
-    Window* operator->() { return &**this; }
+    Shown* operator->() { return &**this; }
 
     /// Hides the window where it was made already.
     void hide()
@@ -33,8 +38,8 @@ public:
     }
 
 private:
-    Join join_;
-    std::unique_ptr<Window> window_;
+    std::function<void(Shown&)> join_;
+    std::unique_ptr<Shown> window_;
 };
 
 } // namespace app

@@ -8,27 +8,31 @@ namespace app {
 using verbdrills::Probatio;
 using verbdrills::QuizInclude;
 
-QuizNavigation::QuizNavigation(CommonWindows& common)
-    : common_(common), probatio_([this](Probatio& window) {
-          common_.joinDrill(window, common_.toMainMenu);
-          connect(&window, &Probatio::optionsRequested, this, [this, &window] {
-              common_.leaveDrill(window);
-              quizInclude_->open();
-          });
-          connect(&window, &Probatio::nothingToAsk, this, [this, &window] {
-              common_.leaveDrill(window);
-              quizInclude_->openAsNothingCanBeAsked();
-          });
-      }),
-      quizInclude_([this](QuizInclude& window) {
-          connect(&window, &QuizInclude::chosen, this, [this, &window] {
-              window.hide();
-              probatio_->resume();
-          });
-          whenLeft(window, [this] { probatio_->comeBack(); });
-      })
+QuizNavigation::QuizNavigation(CommonWindows& common) : common_(common)
 {
     connect(&common_.mainMenu, &shell::MainMenu::quizRequested, this, &QuizNavigation::beginQuiz);
+}
+
+void QuizNavigation::joinProbatio(Probatio& window)
+{
+    common_.joinDrill(window, common_.toMainMenu);
+    connect(&window, &Probatio::optionsRequested, this, [this, &window] {
+        common_.leaveDrill(window);
+        quizInclude_->open();
+    });
+    connect(&window, &Probatio::nothingToAsk, this, [this, &window] {
+        common_.leaveDrill(window);
+        quizInclude_->openAsNothingCanBeAsked();
+    });
+}
+
+void QuizNavigation::joinQuizInclude(QuizInclude& window)
+{
+    connect(&window, &QuizInclude::chosen, this, [this, &window] {
+        window.hide();
+        probatio_->resume();
+    });
+    whenLeft(window, [this] { probatio_->comeBack(); });
 }
 
 void QuizNavigation::beginQuiz()

@@ -8,17 +8,20 @@
 
 namespace app {
 
-/// Knows the windows of the verb quiz and says who shows whom.
+/// Knows the windows of the quiz on verbs and says who shows whom.
 class QuizNavigation : public QObject {
 public:
     explicit QuizNavigation(CommonWindows& common);
 
 private:
+    void joinProbatio(verbdrills::Probatio& window);
+    void joinQuizInclude(verbdrills::QuizInclude& window);
+
     void beginQuiz();
 
     CommonWindows& common_;
-    OnDemand<verbdrills::Probatio> probatio_;
-    OnDemand<verbdrills::QuizInclude> quizInclude_;
+    OnDemand<verbdrills::Probatio> probatio_{this, &QuizNavigation::joinProbatio};
+    OnDemand<verbdrills::QuizInclude> quizInclude_{this, &QuizNavigation::joinQuizInclude};
 };
 
 } // namespace app

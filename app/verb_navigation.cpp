@@ -10,31 +10,41 @@
 namespace app {
 
 using shell::MainMenu;
+using verbdrills::Conjugation;
 using verbdrills::ConjugationChoose;
 using verbdrills::TenseMoodChooser;
 using verbs::VerbManager;
 
-VerbNavigation::VerbNavigation(CommonWindows& common)
-    : common_(common), conjugationChoose_([this](const ConjugationChoose& window) {
-          connect(&window, &ConjugationChoose::chosen, this, &VerbNavigation::takeConjugation);
-          whenLeft(window, [this] {
-              const Hourglass hourglass;
-              common_.toMainMenu();
-          });
-      }),
-      tenseMoodChooser_([this](const TenseMoodChooser& window) {
-          connect(&window, &TenseMoodChooser::chosen, this, &VerbNavigation::takeTense);
-          whenLeft(window, [this] { conjugationChoose_->open(); });
-      }),
-      conjugation_(
-          [this](verbdrills::Conjugation& window) { common_.joinDrill(window, [this] { chooseAgain(); }); }),
-      verbManager_([this](const VerbManager& window) {
-          connect(&window, &VerbManager::endRequested, this, &endProgramQuietly);
-          whenLeft(window, common_.toMainMenu);
-      })
+VerbNavigation::VerbNavigation(CommonWindows& common) : common_(common)
 {
     connect(&common_.mainMenu, &MainMenu::conjugationRequested, this, &VerbNavigation::beginToChoose);
     common_.opens(&MainMenu::verbManagerRequested, verbManager_);
+}
+
+void VerbNavigation::joinConjugationChoose(ConjugationChoose& window)
+{
+    connect(&window, &ConjugationChoose::chosen, this, &VerbNavigation::takeConjugation);
+    whenLeft(window, [this] {
+        const Hourglass hourglass;
+        common_.toMainMenu();
+    });
+}
+
+void VerbNavigation::joinTenseMoodChooser(TenseMoodChooser& window)
+{
+    connect(&window, &TenseMoodChooser::chosen, this, &VerbNavigation::takeTense);
+    whenLeft(window, [this] { conjugationChoose_->open(); });
+}
+
+void VerbNavigation::joinConjugation(Conjugation& window)
+{
+    common_.joinDrill(window, [this] { chooseAgain(); });
+}
+
+void VerbNavigation::joinVerbManager(VerbManager& window)
+{
+    connect(&window, &VerbManager::endRequested, this, &endProgramQuietly);
+    whenLeft(window, common_.toMainMenu);
 }
 
 void VerbNavigation::beginToChoose()

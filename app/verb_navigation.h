@@ -15,16 +15,21 @@ public:
     explicit VerbNavigation(CommonWindows& common);
 
 private:
+    void joinConjugationChoose(verbdrills::ConjugationChoose& window);
+    void joinTenseMoodChooser(verbdrills::TenseMoodChooser& window);
+    void joinConjugation(verbdrills::Conjugation& window);
+    void joinVerbManager(verbs::VerbManager& window);
+
     void beginToChoose();
     void takeConjugation(int row);
     void takeTense(int row);
     void chooseAgain();
 
     CommonWindows& common_;
-    OnDemand<verbdrills::ConjugationChoose> conjugationChoose_;
-    OnDemand<verbdrills::TenseMoodChooser> tenseMoodChooser_;
-    OnDemand<verbdrills::Conjugation> conjugation_;
-    OnDemand<verbs::VerbManager> verbManager_;
+    OnDemand<verbdrills::ConjugationChoose> conjugationChoose_{this, &VerbNavigation::joinConjugationChoose};
+    OnDemand<verbdrills::TenseMoodChooser> tenseMoodChooser_{this, &VerbNavigation::joinTenseMoodChooser};
+    OnDemand<verbdrills::Conjugation> conjugation_{this, &VerbNavigation::joinConjugation};
+    OnDemand<verbs::VerbManager> verbManager_{this, &VerbNavigation::joinVerbManager};
 };
 
 } // namespace app

@@ -25,8 +25,8 @@ VocabularyNavigation::VocabularyNavigation(CommonWindows& common)
           });
       }),
       loader_(
-          [this](const vocabulary::VcabLoader& window) { whenLeft(window, [this] { returnToTester(); }); }),
-      manager_([this](const VcabManager& window) {
+          [this](vocabulary::VcabLoader& window) { whenLeft(window, [this] { returnToTester(); }); }),
+      manager_([this](VcabManager& window) {
           connect(&window, &VcabManager::saveRequested, this, [this] { chooseFile(file_mode::Save); });
           connect(&window, &VcabManager::loadRequested, this,
                   [this] { goOnWithoutPendingChanges([this] { chooseFile(file_mode::Load); }); });
