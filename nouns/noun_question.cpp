@@ -1,15 +1,12 @@
 #include "nouns/noun_question.h"
 
 #include "nouns/declensions.h"
-#include "nouns/noun_endings.h"
 #include "nouns/noun_tables.h"
 #include "platform/random.h"
 #include "shell/settings.h"
-#include "shell/vowel_marks.h"
 
 #include <algorithm>
 #include <array>
-#include <ranges>
 #include <string_view>
 
 namespace nouns {
@@ -27,14 +24,33 @@ constexpr int DrawnCases = CaseCount - 1;         // sic: not the ablative plura
 
 constexpr int NominativeIndex = NominativeSingular - 1;
 
-// True for endings that differ in the length of their vowels alone: puella, puella:.
-constexpr bool areAlike(std::string_view ending, std::string_view other)
-{
-    const auto isLetter = [](char sign) { return sign != shell::LengthMark; };
-    return std::ranges::equal(ending | std::views::filter(isLetter), other | std::views::filter(isLetter));
-}
+// The cases that have one form, each group under a letter; a case with a form of its own has a dot. They are
+// fixed: a noun that departs from its paradigm is asked by them as well.
+struct OneForm {
+    std::string_view singular;
+    std::string_view plural;
 
-static_assert(areAlike("a", "a:") && areAlike("i:s", "i:s") && !areAlike("i:", "i:s"));
+    constexpr char letterOf(int caseIndex) const
+    {
+        const auto index = static_cast<std::size_t>(caseIndex % CasesOfNumber);
+        return caseIndex < CasesOfNumber ? singular.at(index) : plural.at(index);
+    }
+};
+
+// clang-format off
+constexpr std::array<OneForm, ParadigmCount> OneFormTable = {{
+    // nominative, genitive, dative, accusative, ablative: singular, plural
+    {"abb.a", "b.c.c"}, // puella
+    {".ab.b", "a.c.c"}, // hortus
+    {".ab.b", "a.c.c"}, // ager
+    {"a.bab", "c.dcd"}, // do:num
+    {"aa...", "a.bab"}, // fru:ctus
+    {"a.aaa", "b.cbc"}, // cornu:
+    {"abb..", "a.cac"}, // die:s
+    {".....", "a.bab"}, // re:x
+    {"a..a.", "b.cbc"}, // no:men
+}};
+// clang-format on
 
 constexpr std::array CaseWords = {" Nominative", " Genitive", " Dative", " Accusative", " Ablative"};
 
@@ -56,11 +72,11 @@ void appendCases(std::string& text, std::string_view number, int first)
 
 CaseSet casesOfOneForm(int paradigmIndex, int caseIndex)
 {
-    const Endings& endings = EndingTable.at(static_cast<std::size_t>(paradigmIndex)).endings;
-    const std::string_view drawn = endings.at(static_cast<std::size_t>(caseIndex));
+    const OneForm& forms = OneFormTable.at(static_cast<std::size_t>(paradigmIndex));
+    const char drawn = forms.letterOf(caseIndex);
     CaseSet cases;
     for (int i = 0; i < CaseCount; ++i)
-        cases[i] = platform::flagOf(areAlike(endings.at(static_cast<std::size_t>(i)), drawn));
+        cases[i] = platform::flagOf(i == caseIndex || (drawn != '.' && forms.letterOf(i) == drawn));
     if (paradigmIndex + 1 == FourthDeclension && settings.ShowVowelLength == FlagTrue)
         cases[NominativeIndex] = FlagFalse;
     return cases;

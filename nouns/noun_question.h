@@ -28,10 +28,10 @@ struct NounQuestion {
 
 extern NounQuestion nounQuestion;
 
-/// The cases that are marked together with a case, by the index of the paradigm, 0 to 8: those in which the
-/// paradigm has the same ending, long vowels or short. The endings that single nouns have in its place do not
-/// count. The fourth declension in -us alone goes by
-/// `ShowVowelLength`: with marks its nominative singular is never marked, not even where it was drawn.
+/// The cases that are marked together with a case, by the index of the paradigm, 0 to 8: fixed groups of the
+/// grammar, those in which the paradigm has one ending, long vowels or short. The fourth declension in -us
+/// alone goes by `ShowVowelLength`: with marks its nominative singular is never marked, not even where it was
+/// drawn.
 CaseSet casesOfOneForm(int paradigmIndex, int caseIndex);
 
 /// Draws the next question, generates the nouns, and unticks all cases. The neuter of the third declension
