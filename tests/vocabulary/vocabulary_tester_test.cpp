@@ -92,13 +92,14 @@ TEST_F(VocabularyTest, BringsTheMostMissedWordBackAtEveryFifthDraw)
 TEST_F(VocabularyTest, StopsAtTheFirstWordThatIsNotKeptCountOf)
 {
     for (const auto order : {Sequential, Random}) {
-        test(151);
+        test(order == Random ? 300 : 151);
         EXPECT_EQ(nextWords(Sequential, 149).back(), 150);
         try {
             nextWords(order, 50);
             ADD_FAILURE() << order;
         } catch (const std::out_of_range& end) {
-            EXPECT_STREQ(end.what(), "the test counts 150 words: word 151 ends it");
+            EXPECT_TRUE(std::string(end.what()).starts_with("the test counts 150 words: word "))
+                << end.what();
         }
     }
 }

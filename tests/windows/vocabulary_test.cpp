@@ -5,7 +5,6 @@
 namespace {
 
 using namespace tests;
-using shell::settings;
 
 // Records stand as "word/meaning/hint".
 constexpr auto Rose = "rosa/rose/f.";
@@ -190,7 +189,8 @@ TEST_F(VcabWindows, WarnOnlyWhereALoadWouldReplaceChangesAndGoOnAsIsWished)
     expectWords({"rosa"}, "rose.lst");
     add(Rose);
     click(*load("rome"), "VcabWarningDiscard");
-    expectWords({"Ro:ma", "rosa"}, "rome.lst");
+    saveAs("both");
+    expectWords({"Ro:ma", "rosa"}, "both.lst");
     EXPECT_EQ(bytesOf("rose.lst"), RoseInAFile);
 }
 
@@ -249,9 +249,9 @@ TEST_F(VcabWindows, ShowTheAnswerInRedForOnePause)
         EXPECT_EQ(box.palette().color(QPalette::Text), QColor(Qt::black));
         choose(tester, "VcabtesterOptionsPromptEnglish");
     }
-    EXPECT_EQ(fake.waits + settings.AnsweredCount, 2);
+    EXPECT_EQ(fake.waits + shell::settings.AnsweredCount, 2);
     answer(tester, "who?/what?");
-    EXPECT_EQ(settings.RightCount, 1);
+    EXPECT_EQ(shell::settings.RightCount, 1);
 }
 
 TEST_F(VcabWindows, WaitWhereNoWordIsLeftAndStartAfreshEachTime)
@@ -265,7 +265,7 @@ TEST_F(VcabWindows, WaitWhereNoWordIsLeftAndStartAfreshEachTime)
         EXPECT_EQ(question(tester) + label(tester, "VHint"), "There is no word to ask.");
         answer(tester, attempt);
     }
-    EXPECT_EQ(settings.AnsweredCount, 1);
+    EXPECT_EQ(shell::settings.AnsweredCount, 1);
     click(tester, "VcabTestOmit");
     EXPECT_EQ(question(tester), "rose");
     openTester();
