@@ -7,6 +7,7 @@ namespace app {
 using shell::MainMenu;
 using vocabulary::FileHandler;
 using vocabulary::VcabManager;
+using vocabulary::VcabReplace;
 using vocabulary::Vcabtester;
 using vocabulary::VcabWarning;
 
@@ -28,24 +29,32 @@ VocabularyNavigation::VocabularyNavigation(CommonWindows& common)
           [this](vocabulary::VcabLoader& window) { whenLeft(window, [this] { returnToTester(); }); }),
       manager_([this](VcabManager& window) {
           connect(&window, &VcabManager::saveRequested, this, [this] { chooseFile(file_mode::Save); });
-          connect(&window, &VcabManager::loadRequested, this,
-                  [this] { goOnWithoutPendingChanges([this] { chooseFile(file_mode::Load); }); });
-          connect(&window, &VcabManager::exitRequested, this,
-                  [this] { goOnWithoutPendingChanges([this] { returnToTester(); }); });
+          connect(&window, &VcabManager::loadRequested, this, [this] { chooseFile(file_mode::Load); });
+          connect(&window, &VcabManager::exitRequested, this, &VocabularyNavigation::leaveManager);
       }),
       fileHandler_([this](FileHandler& window) {
           connect(&window, &FileHandler::loaded, this, [this, &window] {
               window.hide();
               manager_->open();
           });
+          connect(&window, &FileHandler::warningRequested, this, [this, &window] {
+              warn([&window] { window.saveBeforeLoad(); }, [&window] { window.replaceList(); });
+          });
+          connect(&window, &FileHandler::replacementRequested, this,
+                  [this](const std::filesystem::path& file) { replace_->open(file); });
           whenLeft(window, [this] { manager_->comeBack(); });
       }),
       warning_([this](VcabWarning& window) {
           hideWhenLeft(window);
           connect(&window, &VcabWarning::discardRequested, &window, &VcabWarning::hide);
-          connect(&window, &VcabWarning::discardRequested, this, [this] { afterWarning_(); });
+          connect(&window, &VcabWarning::discardRequested, this, [this] { toDiscard_(); });
           connect(&window, &VcabWarning::saveRequested, &window, &VcabWarning::hide);
-          connect(&window, &VcabWarning::saveRequested, this, [this] { chooseFile(file_mode::Save); });
+          connect(&window, &VcabWarning::saveRequested, this, [this] { toSave_(); });
+      }),
+      replace_([this](VcabReplace& window) {
+          hideWhenLeft(window);
+          connect(&window, &VcabReplace::replacementAllowed, &window, &VcabReplace::hide);
+          connect(&window, &VcabReplace::replacementAllowed, this, [this] { fileHandler_->replaceFile(); });
       })
 {
     connect(&common_.mainMenu, &MainMenu::vocabularyRequested, this, &VocabularyNavigation::beginTest);
@@ -60,12 +69,10 @@ void VocabularyNavigation::beginTest()
     tester_->open();
 }
 
-// A list with changes that are not saved is edited further.
 void VocabularyNavigation::showManager()
 {
     common_.mainMenu.hide();
-    if (!vocabulary::changesArePending())
-        vocabulary::beginNewList();
+    vocabulary::beginNewList();
     manager_->open();
 }
 
@@ -86,13 +93,23 @@ void VocabularyNavigation::returnToTester()
     testWaits_ = false;
 }
 
-void VocabularyNavigation::goOnWithoutPendingChanges(const Step& step)
+void VocabularyNavigation::leaveManager()
 {
     if (!vocabulary::changesArePending()) {
-        step();
+        returnToTester();
         return;
     }
-    afterWarning_ = step;
+    const auto discard = [this] {
+        vocabulary::discardChanges();
+        returnToTester();
+    };
+    warn([this] { chooseFile(file_mode::Save); }, discard);
+}
+
+void VocabularyNavigation::warn(const Step& toSave, const Step& toDiscard)
+{
+    toSave_ = toSave;
+    toDiscard_ = toDiscard;
     warning_->open();
 }
 

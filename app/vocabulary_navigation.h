@@ -4,6 +4,7 @@
 #include "vocabulary/windows/file_handler.h"
 #include "vocabulary/windows/vcab_loader.h"
 #include "vocabulary/windows/vcab_manager.h"
+#include "vocabulary/windows/vcab_replace.h"
 #include "vocabulary/windows/vcab_warning.h"
 #include "vocabulary/windows/vcabtester.h"
 
@@ -24,8 +25,11 @@ private:
     void putTesterAside();
     void returnToTester();
 
-    /// Takes the step, where changes wait to be saved once the learner has given them up.
-    void goOnWithoutPendingChanges(const Step& step);
+    /// Leaves the editor, where changes wait to be saved once the learner has given them up.
+    void leaveManager();
+
+    /// Warns of pending changes; one of the steps comes next, or none.
+    void warn(const Step& toSave, const Step& toDiscard);
 
     /// Lets the learner choose a file, for one of the values of `FileMode`.
     void chooseFile(std::string_view mode);
@@ -36,12 +40,14 @@ private:
     OnDemand<vocabulary::VcabManager> manager_;
     OnDemand<vocabulary::FileHandler> fileHandler_;
     OnDemand<vocabulary::VcabWarning> warning_;
+    OnDemand<vocabulary::VcabReplace> replace_;
 
     /// A test was put aside for another window and goes on when that is left.
     bool testWaits_ = false;
 
-    /// Where the editor goes once its changes need not be saved.
-    Step afterWarning_;
+    /// What the warning leads to.
+    Step toSave_;
+    Step toDiscard_;
 };
 
 } // namespace app

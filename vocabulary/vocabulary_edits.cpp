@@ -2,15 +2,17 @@
 
 #include <algorithm>
 #include <span>
+#include <system_error>
+#include <tuple>
 #include <vector>
 
 namespace vocabulary {
 
 namespace {
 
-WordRecord storable(const WordRecord& record)
+void forgetPendingChanges()
 {
-    return {storableText(record.word), storableText(record.translation), storableText(record.hint)};
+    vocabularyEditor.SavedChangeCount = vocabularyEditor.ChangeCount;
 }
 
 void takeList(const std::vector<WordRecord>& records, const std::filesystem::path& path)
@@ -20,6 +22,7 @@ void takeList(const std::vector<WordRecord>& records, const std::filesystem::pat
         vocabularyList.Loaded[++vocabularyList.WordCount] = record;
     vocabularyList.Working = vocabularyList.Loaded;
     vocabularyList.File = path;
+    clearCounts();
     forgetPendingChanges();
 }
 
@@ -29,16 +32,22 @@ std::span<WordRecord> workingWords()
         .subspan(1, static_cast<std::size_t>(vocabularyList.WordCount));
 }
 
+// Comes before a change, so that all that are pending can be taken back.
 void countChange()
 {
+    if (!changesArePending())
+        vocabularyEditor.Unchanged = {vocabularyList, vocabularyTester};
     ++vocabularyEditor.ChangeCount;
-    vocabularyList.CurrentWord = 0;
 }
 
-void closeGap(VocabularyList::Words& words, int number)
+// A table may keep only the first words of the list.
+template <typename Value, std::size_t Size>
+void closeGap(platform::Table<Value, Size>& table, int number)
 {
-    std::move(words.begin() + number + 1, words.end(), words.begin() + number);
-    words[MostWords] = {};
+    if (number >= table.size())
+        return;
+    std::move(table.begin() + number + 1, table.end(), table.begin() + number);
+    table[table.size() - 1] = {};
 }
 
 } // namespace
@@ -48,9 +57,12 @@ bool changesArePending()
     return vocabularyEditor.ChangeCount > vocabularyEditor.SavedChangeCount;
 }
 
-void forgetPendingChanges()
+void discardChanges()
 {
-    vocabularyEditor.SavedChangeCount = vocabularyEditor.ChangeCount;
+    if (!changesArePending())
+        return;
+    std::tie(vocabularyList, vocabularyTester) = vocabularyEditor.Unchanged;
+    forgetPendingChanges();
 }
 
 void beginNewList()
@@ -67,12 +79,19 @@ std::optional<LoadFault> loadList(const std::filesystem::path& path)
     return file.fault;
 }
 
+bool wouldReplaceAnotherFile(const std::filesystem::path& path)
+{
+    std::error_code error;
+    return std::filesystem::exists(path, error) && !std::filesystem::is_directory(path, error) &&
+           !std::filesystem::equivalent(path, vocabularyList.File, error);
+}
+
 std::optional<platform::Fault> saveList(const std::filesystem::path& path)
 {
     const std::span words = workingWords();
     if (const auto fault = writeVocabularyFile(path, words))
         return fault;
-    std::ranges::transform(words, words.begin(), withoutCommas);
+    std::ranges::transform(words, words.begin(), asWritten);
     vocabularyList.CurrentWord = 0;
     vocabularyList.File = path;
     forgetPendingChanges();
@@ -81,29 +100,35 @@ std::optional<platform::Fault> saveList(const std::filesystem::path& path)
 
 void acceptWord(int number, const WordRecord& record)
 {
-    vocabularyList.Loaded[number] = storable(record);
-    std::copy_n(vocabularyList.Loaded.begin() + 1, vocabularyList.WordCount,
-                vocabularyList.Working.begin() + 1);
+    if (record == vocabularyList.Working[number])
+        return;
     countChange();
+    for (const WordField field : WordFields)
+        if (record.*field != vocabularyList.Working[number].*field)
+            vocabularyList.Loaded[number].*field = record.*field;
+    vocabularyList.Working[number] = record;
 }
 
 bool addWord(const WordRecord& record)
 {
     if (vocabularyList.WordCount == MostWords)
         return false;
-    const int number = ++vocabularyList.WordCount;
-    vocabularyList.Loaded[number] = storable(record);
-    vocabularyList.Working[number] = vocabularyList.Loaded[number];
     countChange();
+    const int number = ++vocabularyList.WordCount;
+    vocabularyList.Loaded[number] = record;
+    vocabularyList.Working[number] = record;
     return true;
 }
 
 void deleteWord(int number)
 {
+    countChange();
     closeGap(vocabularyList.Loaded, number);
     closeGap(vocabularyList.Working, number);
+    closeGap(vocabularyTester.RightAnswers, number);
+    closeGap(vocabularyTester.Misses, number);
+    closeGap(vocabularyTester.Omitted, number);
     --vocabularyList.WordCount;
-    countChange();
 }
 
 } // namespace vocabulary

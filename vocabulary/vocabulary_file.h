@@ -7,7 +7,6 @@
 #include <optional>
 #include <span>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace vocabulary {
@@ -31,7 +30,9 @@ struct LoadFault {
 };
 
 /// What a file holds: three fields a word, of which each ends at a comma or at the end of its line, and in
-/// which ">" stands for a comma. A file that is refused has no records.
+/// which ">" stands for a comma. Blanks around a field are not part of it, but those in double quotes are,
+/// and so are commas there: a field that begins with a double quote ends at the first one that has only
+/// blanks between itself and a comma or the line's end. A file that is refused has no records.
 struct VocabularyFile {
     std::vector<WordRecord> records;
     std::optional<LoadFault> fault;
@@ -39,16 +40,12 @@ struct VocabularyFile {
 
 VocabularyFile readVocabularyFile(const std::filesystem::path& path);
 
-/// Replaces a file with these records, each `withoutCommas`. Where that fails, the file is as it was, and the
-/// fault is returned.
+/// Replaces a file with these records, each `asWritten`; each reads back as it was, but that ">" reads back
+/// as a comma and a line end as a blank. Where that fails, the file is as it was, and the fault is returned.
 std::optional<platform::Fault> writeVocabularyFile(const std::filesystem::path& path,
                                                    std::span<const WordRecord> records);
 
-/// A text as a field of a file can give it back. A ">" reads back as a comma, no field goes on in a second
-/// line, and a field that has to stand in double quotes can hold none itself: they become apostrophes.
-std::string storableText(std::string_view text);
-
-/// The record with ">" in the place of every comma, as it is written.
-WordRecord withoutCommas(WordRecord record);
+/// The record with ">" in the place of every comma, and a blank in that of every line end.
+WordRecord asWritten(WordRecord record);
 
 } // namespace vocabulary

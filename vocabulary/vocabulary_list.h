@@ -2,6 +2,7 @@
 
 #include "platform/table.h"
 
+#include <array>
 #include <cstdint>
 #include <filesystem>
 #include <string>
@@ -20,6 +21,11 @@ struct WordRecord {
     bool operator==(const WordRecord&) const = default;
 };
 
+/// The fields in the order of a file.
+using WordField = std::string WordRecord::*;
+inline constexpr std::array<WordField, 3> WordFields = {&WordRecord::word, &WordRecord::translation,
+                                                        &WordRecord::hint};
+
 /// The list in memory, by word number 1 to `WordCount`. There is one, `vocabularyList`; assigning `{}`
 /// empties it.
 struct VocabularyList {
@@ -28,13 +34,13 @@ struct VocabularyList {
     /// The words as they were read or last edited; the tester asks these.
     Words Loaded;
 
-    /// The editor's copies. From a save until they are next copied, ">" stands in them where commas were.
+    /// The editor's copies. Where commas were at a save, ">" stands in them until a list is read.
     Words Working;
 
     std::int16_t WordCount = 0;
 
-    /// The word that the tester asks, 1 to `WordCount`. 0 where the list has changed since it was last
-    /// tested: it is then to be tested from its beginning.
+    /// The word that the tester asks, 1 to `WordCount`. 0 since the list was read or saved: the test then
+    /// goes on at its beginning.
     std::int16_t CurrentWord = 0;
 
     /// The file that the list was read from or saved to; empty for a new list.

@@ -9,6 +9,8 @@
 #include <cstdlib>
 #include <filesystem>
 #include <limits>
+#include <stdexcept>
+#include <string>
 
 namespace vocabulary {
 
@@ -29,9 +31,17 @@ void raise(std::int16_t& count)
         ++count;
 }
 
+int counted(int number)
+{
+    if (number <= LastCountedWord)
+        return number;
+    throw std::out_of_range("the test counts " + std::to_string(LastCountedWord) + " words: word " +
+                            std::to_string(number) + " ends it");
+}
+
 bool canBeAsked(int number)
 {
-    return vocabularyTester.Omitted[number] != platform::FlagTrue &&
+    return vocabularyTester.Omitted[counted(number)] != platform::FlagTrue &&
            !vocabularyList.Loaded[number].word.empty();
 }
 
@@ -61,7 +71,7 @@ bool everythingIsLearned()
 {
     int learned = 0;
     for (int number = 1; number <= vocabularyList.WordCount; ++number)
-        if (vocabularyTester.RightAnswers[vocabularyList.CurrentWord] > RightAnswersToLearn) // sic
+        if (vocabularyTester.RightAnswers[counted(vocabularyList.CurrentWord)] > RightAnswersToLearn) // sic
             ++learned;
     return learned == vocabularyList.WordCount;
 }
@@ -150,13 +160,17 @@ std::string openDefaultList()
 
 void beginTest()
 {
+    vocabularyList.CurrentWord = 1;
+    askCurrentWord(vocabularyList.WordCount > 0 && (canBeAsked(1) || findNextWord()));
+}
+
+void clearCounts()
+{
     const std::string order = vocabularyTester.Order;
     const std::string promptLanguage = vocabularyTester.PromptLanguage;
     vocabularyTester = {};
     vocabularyTester.Order = order;
     vocabularyTester.PromptLanguage = promptLanguage;
-    vocabularyList.CurrentWord = 1;
-    askCurrentWord(vocabularyList.WordCount > 0 && (canBeAsked(1) || findNextWord()));
 }
 
 void chooseSide()

@@ -25,7 +25,8 @@ inline constexpr std::string_view Latin = "Latin";
 
 inline constexpr std::string_view DefaultListName = "vr-vcab.lst";
 
-/// The last word that is kept count of. A list may be longer: the word after this one ends the program.
+/// The last word that is kept count of. A list may be longer: the word after this one ends the program, by a
+/// std::out_of_range that says so.
 inline constexpr int LastCountedWord = 150;
 
 /// A word that was answered right more often than this is learned.
@@ -66,9 +67,12 @@ extern VocabularyTester vocabularyTester;
 /// the list in memory is tested.
 std::string openDefaultList();
 
-/// Begins to test the list in memory at its first word, or the first after it that can be asked: clears the
-/// counts, misses and omissions and keeps the order and the prompt language.
+/// Begins to test the list in memory at its first word, or the first after it that can be asked. The counts,
+/// misses and omissions stay.
 void beginTest();
+
+/// Clears the counts, misses and omissions, for another list; keeps the order and the prompt language.
+void clearCounts();
 
 /// Chooses which side of the current word is asked, as the prompt language says. A word without a translation
 /// is always asked with the word.

@@ -28,6 +28,7 @@ const std::vector<Window> Windows = {
     {"Vcabtester", {"MainVocabulary"}}, {"VcabLoader", {"MainVocabulary", "VcabTesterFileOpen"}},
     {"VcabManager", {"FileVcabManager"}},
     {"FileHandler", {"FileVcabManager", "VcabManLoad"}}, {"FileHandler", {"FileVcabManager", "VcabManSave"}},
+    {"VcabReplace", {"FileVcabManager", "VcabManSave", "FHFileBox 0", "LoadSaveFH"}},
     {"VcabWarning", {"MainVocabulary", "VcabTesterEdit", "VcabManMainForm 0", "VcabManDelete", "VcabManExit"}},
 };
 

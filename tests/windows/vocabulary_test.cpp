@@ -5,27 +5,20 @@
 namespace {
 
 using namespace tests;
-using shell::settings;
 
 // Records stand as "word/meaning/hint".
 constexpr auto Rose = "rosa/rose/f.";
 constexpr auto Rome = "Ro:ma/Rome, Italy/Romae, f.";
+constexpr auto RoseInAFile = "rosa,rose,f.\r\n";
 constexpr auto RomeInAFile = "Ro:ma,Rome> Italy,Romae> f.\r\n";
+constexpr auto ThreeWords = "rosa,rose,f.\r\nRo:ma,Rome> Italy,Romae> f.\r\nre:x,king,m.\r\n";
 
-class VcabManagerWindow : public WindowTest {
+class VcabWindows : public WindowTest {
 protected:
     void openManager() { manager = &open("FileVcabManager", "VcabManager"); }
     void clickIn(const char* name) { click(*manager, name); }
     void chooseWord(int row) { clickRow(list(*manager, "VcabManMainForm"), row); }
-    QStringList words() { return rows(list(*manager, "VcabManMainForm")); }
-
-    QString record()
-    {
-        QStringList texts;
-        for (const char* const name : {"VcabManWord", "VcabManTrans", "VcabManHint"})
-            texts << line(*manager, name).text();
-        return texts.join('/');
-    }
+    QString shownIn(const char* box) { return line(*manager, box).text(); }
 
     void fillIn(const QString& record)
     {
@@ -40,397 +33,272 @@ protected:
     }
 
     static QWidget& files() { return shown("FileHandler"); }
-    static QListWidget& fileList() { return list(files(), "FHFileBox"); }
-
-    void saveAs(const QString& name)
+    static void confirm(const QString& name)
     {
-        clickIn("VcabManSave");
         fill(line(files(), "FHFileName"), name);
         click(files(), "LoadSaveFH");
     }
 
-    // Goes on without saving the changes.
-    void discardWith(const char* name)
+    void saveAs(const QString& name)
     {
-        clickIn(name);
-        click(shown("VcabWarning"), "VcabWarningDiscard");
+        clickIn("VcabManSave");
+        confirm(name);
     }
 
-    QWidget* manager = nullptr;
-};
-
-TEST_F(VcabManagerWindow, LeadsAListThroughItsWholeLife)
-{
-    openManager();
-    EXPECT_EQ(focusIn(*manager), "VcabManWord");
-    press(*manager, Qt::Key_Return);
-    fillIn(Rose);
-    press(*manager, Qt::Key_Return);
-    EXPECT_EQ(focusIn(*manager), "VcabManWord");
-    add(Rome);
-    add("re:x/king/m.");
-    EXPECT_EQ(focusIn(*manager), "VcabManWord");
-    chooseWord(2);
-    EXPECT_EQ(record(), "re:x/king/m.");
-    clickIn("VcabManDelete");
-    chooseWord(0);
-    press(*manager, Qt::Key_Return);
-    EXPECT_EQ(focusIn(*manager), "VcabManWord");
-    fill(line(*manager, "VcabManTrans"), "a rose");
-    press(*manager, Qt::Key_Return);
-    EXPECT_EQ(words(), QStringList({"rosa", "Ro:ma"}));
-    saveAs("mine.lst");
-    EXPECT_EQ(bytesOf("mine.lst"), std::string("rosa,a rose,f.\r\n") + RomeInAFile);
-    EXPECT_TRUE(manager->isVisible());
-    chooseWord(1);
-    EXPECT_EQ(record(), "Ro:ma/Rome> Italy/Romae> f.");
-    clickIn("VcabManExit");
-
-    QWidget& tester = shown("Vcabtester");
-    choose(tester, "VcabTesterFileOpen");
-    doubleClickRow(list(shown("VcabLoader"), "VcabFile"), 0);
-    answer(tester, "a rose");
-    EXPECT_EQ(label(tester, "VQuestion"), "Ro:ma");
-
-    choose(tester, "VcabTesterEdit");
-    clickIn("VcabManLoad");
-    EXPECT_EQ(line(files(), "FHFileName").text(), "");
-    clickRow(fileList(), 0);
-    EXPECT_EQ(line(files(), "FHFileName").text(), "mine.lst");
-    click(files(), "LoadSaveFH");
-    chooseWord(1);
-    EXPECT_EQ(record(), Rome);
-    EXPECT_TRUE(fake.messages.empty());
-}
-
-TEST_F(VcabManagerWindow, TakesOverWhatWasTypedBeforeAnythingElseComes)
-{
-    openManager();
-    add(Rose);
-    fillIn(Rome);
-    chooseWord(0);
-    EXPECT_EQ(words(), QStringList({"rosa", "Ro:ma"}));
-    fill(line(*manager, "VcabManHint"), "rosae, f.");
-    chooseWord(1);
-    EXPECT_EQ(record(), Rome);
-    press(*manager, Qt::Key_Up);
-    EXPECT_EQ(record(), "rosa/rose/rosae, f.");
-    fill(line(*manager, "VcabManWord"), "rosula");
-    clickIn("VcabManAccept");
-    EXPECT_EQ(words(), QStringList({"rosula", "Ro:ma"}));
-    clickIn("VcabManDelete");
-    clickIn("VcabManDelete");
-    EXPECT_TRUE(words().empty());
-    fillIn(Rome);
-    saveAs("rome");
-    EXPECT_EQ(bytesOf("rome.lst"), RomeInAFile);
-    fillIn(Rose);
-    press(*manager, Qt::Key_Escape);
-    press(shown("VcabWarning"), Qt::Key_Escape);
-    clickIn("VcabManExit");
-    EXPECT_NE(shownWindow("VcabWarning"), nullptr);
-    EXPECT_EQ(words(), QStringList({"Ro:ma", "rosa"}));
-}
-
-TEST_F(VcabManagerWindow, KeepsWhatWasTypedWhenTheRecordIsDeleted)
-{
-    openManager();
-    for (const char* const next : {"VcabManAdd", "VcabManSave"}) {
-        add(Rose);
-        chooseWord(static_cast<int>(words().size()) - 1);
-        fill(line(*manager, "VcabManWord"), "rosula");
-        clickIn("VcabManDelete");
-        EXPECT_EQ(record(), "rosula/rose/f.");
-        EXPECT_FALSE(button(*manager, "VcabManDelete").isEnabled());
-        clickIn(next);
-        EXPECT_EQ(words(), QStringList{"rosula"});
-    }
-}
-
-TEST_F(VcabManagerWindow, RefusesTheThreeHundredAndFirstWordAndKeepsItsText)
-{
-    writeFile("full.lst", QByteArray("rosa,rose,f.\r\n").repeated(300).toStdString());
-    openManager();
-    clickIn("VcabManLoad");
-    doubleClickRow(fileList(), 0);
-    fillIn(Rome);
-    for (const char* const way : {"VcabManAdd", "VcabManSave", "VcabManLoad", "VcabManExit"}) {
-        clickIn(way);
-        EXPECT_TRUE(manager->isVisible()) << way;
-    }
-    chooseWord(0);
-    EXPECT_EQ(fake.messages, std::vector<std::string>(5, "A word list holds 300 words at the most."));
-    EXPECT_EQ(record(), Rome);
-    EXPECT_EQ(words().size(), 300);
-}
-
-TEST_F(VcabManagerWindow, WarnsBeforeChangesAreLeftUnsaved)
-{
-    openManager();
-    add(Rose);
-    clickIn("VcabManExit");
-    press(shown("VcabWarning"), Qt::Key_Escape);
-    EXPECT_EQ(shownWindow("VcabWarning"), nullptr);
-    clickIn("VcabManExit");
-    click(shown("VcabWarning"), "VcabWarningSave");
-    EXPECT_EQ(button(files(), "LoadSaveFH").text(), "&Save");
-    press(files(), Qt::Key_Escape);
-    discardWith("VcabManLoad");
-    EXPECT_EQ(button(files(), "LoadSaveFH").text(), "&Load");
-    click(files(), "CancelFH");
-    EXPECT_EQ(words(), QStringList{"rosa"});
-    manager->close();
-    EXPECT_TRUE(manager->isVisible());
-    click(shown("VcabWarning"), "VcabWarningDiscard");
-    EXPECT_FALSE(manager->isVisible());
-    EXPECT_NE(shownWindow("Vcabtester"), nullptr);
-}
-
-TEST_F(VcabManagerWindow, ReturnsWithEverythingWhereASaveFails)
-{
-    writeFile("old.lst", "old,bytes,here\r\n");
-    std::filesystem::create_directory("folder.lst");
-    openManager();
-    add(Rome);
-    const auto expectFailure = [&](const std::string& folder, const std::string& name) {
-        chooseWord(0);
-        saveAs(QString::fromStdString(folder + name));
-        EXPECT_TRUE(fake.messages.back().starts_with("The list was not saved. ")) << fake.messages.back();
-        EXPECT_NE(fake.messages.back().find(name), std::string::npos) << fake.messages.back();
-        EXPECT_EQ(record(), Rome);
-        clickIn("VcabManExit");
-        press(shown("VcabWarning"), Qt::Key_Escape);
-    };
-    expectFailure("no/such/", "list.lst");
-    expectFailure("", "folder.lst");
+    void expectWords(const QStringList& expected, const char* title)
     {
-        const FullDisk full;
-        expectFailure("", "old.lst");
+        EXPECT_TRUE(manager->isVisible());
+        EXPECT_EQ(rows(list(*manager, "VcabManMainForm")), expected);
+        EXPECT_EQ(manager->windowTitle(), QStringLiteral("Vocabulary Editor - ") + title);
     }
-    EXPECT_EQ(bytesOf("old.lst"), "old,bytes,here\r\n");
-    saveAs("old.lst");
-    EXPECT_EQ(bytesOf("old.lst"), RomeInAFile);
-    EXPECT_EQ(fake.messages.size(), 3U);
-}
 
-TEST_F(VcabManagerWindow, KeepsTheListWhereAnotherCannotBeLoaded)
-{
-    writeFile("cut.lst", "rosa,rose,f.\r\nre:x,king");
-    openManager();
-    add(Rome);
-    discardWith("VcabManLoad");
-    for (const auto& [name, isName] :
-         {std::pair{"", false}, {"  ", false}, {"folder/", false}, {"missing", true}}) {
-        fill(line(files(), "FHFileName"), name);
-        EXPECT_EQ(button(files(), "LoadSaveFH").isEnabled(), isName) << name;
-        press(files(), Qt::Key_Return);
+    void editFrom(QWidget& tester)
+    {
+        choose(tester, "VcabTesterEdit");
+        manager = &shown("VcabManager");
     }
-    EXPECT_EQ(fake.messages, std::vector<std::string>{"missing.lst: No such file or directory"});
-    EXPECT_EQ(words(), QStringList{"Ro:ma"});
-    doubleClickRow(fileList(), 0);
-    EXPECT_EQ(fake.messages.back(), "cut.lst, line 2: the last word is cut off and was left out");
-    EXPECT_EQ(words(), QStringList{"rosa"});
-}
 
-TEST_F(VcabManagerWindow, GivesANameItsEndingUnlessItHasOne)
-{
-    writeFile("old.dat", "");
-    openManager();
-    add(Rome);
-    for (const auto& [typed, name] : {std::pair{"mine.TXT", "mine.TXT"},
-                                      {"1. Deklination", "1. Deklination.lst"},
-                                      {"Kap.II", "Kap.II.lst"},
-                                      {"old.dat", "old.dat"}}) {
-        saveAs(typed);
-        EXPECT_EQ(bytesOf(name), RomeInAFile) << typed;
-    }
-}
-
-TEST_F(VcabManagerWindow, FindsListsInOtherFolders)
-{
-    std::filesystem::create_directory("year one");
-    for (const char* const name : {"b.TXT", "a.lst", "c.voc", "d.doc"})
-        writeFile("year one/" + std::string(name), "rosa,rose,f.\r\n");
-    openManager();
-    clickIn("VcabManLoad");
-    QListWidget& folders = list(files(), "FHDirBox");
-    doubleClickRow(folders, 1);
-    EXPECT_EQ(rows(fileList()), QStringList({"a.lst", "b.TXT", "c.voc"}));
-    doubleClickRow(folders, 0);
-    EXPECT_EQ(rows(folders), QStringList({"..", "year one"}));
-    folders.setFocus();
-    press(files(), Qt::Key_Down, 2);
-    press(files(), Qt::Key_Return);
-    doubleClickRow(fileList(), 0);
-    EXPECT_EQ(words(), QStringList{"rosa"});
-    add(Rome);
-    clickIn("VcabManSave");
-    EXPECT_EQ(line(files(), "FHFileName").text(), "a.lst");
-    doubleClickRow(fileList(), 2);
-    EXPECT_EQ(bytesOf("year one/c.voc"), "rosa,rose,f.\r\n");
-    click(files(), "LoadSaveFH");
-    EXPECT_EQ(bytesOf("year one/c.voc"), std::string("rosa,rose,f.\r\n") + RomeInAFile);
-}
-
-TEST_F(VcabManagerWindow, ChangesTheListThatIsTestedAndHasItTestedAnew)
-{
-    writeFile("vr-vcab.lst", "rosa,rose,f.\r\nre:x,king,m.\r\n");
-    open("VocabularyButton", "Vcabtester");
-    openManager();
-    EXPECT_TRUE(words().empty());
-    clickIn("VcabManExit");
-    QWidget& tester = shown("Vcabtester");
-    answer(tester, "rose");
-    choose(tester, "VcabTesterEdit");
-    clickIn("VcabManExit");
-    EXPECT_EQ(label(tester, "VQuestion"), "re:x");
-    choose(tester, "VcabTesterEdit");
-    chooseWord(0);
-    clickIn("VcabManDelete");
-    discardWith("VcabManExit");
-    answer(tester, "king");
-    EXPECT_EQ(label(tester, "VQuestion"), "re:x");
-    EXPECT_EQ(bytesOf("vr-vcab.lst"), "rosa,rose,f.\r\nre:x,king,m.\r\n");
-    press(tester, Qt::Key_Escape);
-    openManager();
-    EXPECT_EQ(words(), QStringList{"re:x"});
-}
-
-class VcabtesterWindow : public WindowTest {
-protected:
-    QWidget& openTester(const char* words = "rosa,rose,f.\r\nRo:ma,Rome> Italy,Romae> f.\r\nre:x,king,m.\r\n")
+    QWidget& openTester(std::string_view words = ThreeWords)
     {
         writeFile("vr-vcab.lst", words);
         return open("VocabularyButton", "Vcabtester");
     }
 
     static QString question(QWidget& tester) { return label(tester, "VQuestion"); }
-    static bool isChecked(QWidget& tester, const char* item)
-    {
-        return control<QAction>(tester, item).isChecked();
-    }
+
+    QWidget* manager = nullptr;
 };
 
-TEST_F(VcabtesterWindow, AsksTheOtherSideOnceItIsChosenAndStartsAfreshEachTime)
+TEST_F(VcabWindows, LeadAListThroughItsWholeLife)
 {
-    for (int time = 0; time < 2; ++time) {
-        QWidget& tester = openTester();
-        EXPECT_EQ(settings.ExerciseType, "Vcabtester");
-        EXPECT_TRUE(isChecked(tester, "VcabtesterOptionsOrderSequential"));
-        EXPECT_TRUE(isChecked(tester, "VcabtesterOptionsPromptEnglish"));
-        EXPECT_EQ(question(tester), "rosa");
-        EXPECT_EQ(label(tester, "VHint"), "f.");
-        answer(tester, "rose");
-        EXPECT_EQ(question(tester), "Ro:ma");
-        EXPECT_EQ(label(tester, "VHint"), "Romae, f.");
-        choose(tester, "VcabtesterOptionsPromptLatin");
-        EXPECT_EQ(question(tester), "Rome, Italy");
-        answer(tester, "Ro:ma");
-        EXPECT_EQ(question(tester), "king");
-        choose(tester, "VcabtesterOptionsOrderRandom");
-        EXPECT_EQ(settings.RightCount, 2);
-    }
+    std::filesystem::create_directory("year one");
+    for (const std::string name : {"a.TXT", "b.doc"})
+        writeFile("year one/" + name, RoseInAFile);
+    openManager();
+    fillIn(Rose);
+    press(*manager, Qt::Key_Return);
+    add(Rome);
+    add("re:x/king/m.");
+    EXPECT_EQ(focusIn(*manager), "VcabManWord");
+    chooseWord(2);
+    clickIn("VcabManDelete");
+    chooseWord(0);
+    press(*manager, Qt::Key_Return);
+    fill(line(*manager, "VcabManTrans"), "a rose");
+    press(*manager, Qt::Key_Return);
+    expectWords({"rosa", "Ro:ma"}, "new list");
+    clickIn("VcabManSave");
+    doubleClickRow(list(files(), "FHDirBox"), 1);
+    confirm("mine");
+    EXPECT_EQ(bytesOf("year one/mine.lst"), std::string("rosa,a rose,f.\r\n") + RomeInAFile);
+    expectWords({"rosa", "Ro:ma"}, "mine.lst");
+    chooseWord(1);
+    EXPECT_EQ(shownIn("VcabManHint"), "Romae> f.");
+    clickIn("VcabManExit");
+    editFrom(shown("Vcabtester"));
+    clickIn("VcabManLoad");
+    EXPECT_EQ(rows(list(files(), "FHFileBox")), QStringList({"a.TXT", "mine.lst"}));
+    doubleClickRow(list(files(), "FHFileBox"), 1);
+    chooseWord(1);
+    EXPECT_EQ(shownIn("VcabManTrans"), "Rome, Italy");
+    clickIn("VcabManExit");
+    answer(shown("Vcabtester"), "a rose");
+    EXPECT_EQ(question(shown("Vcabtester")), "Ro:ma");
+    EXPECT_TRUE(fake.messages.empty());
 }
 
-TEST_F(VcabtesterWindow, ShowsTheAnswerInRedForOnePause)
+TEST_F(VcabWindows, TakeOverWhatWasTypedBeforeAnythingElseComes)
+{
+    openManager();
+    add(Rose);
+    fillIn(Rome);
+    chooseWord(0);
+    fill(line(*manager, "VcabManHint"), "rosae, f.");
+    chooseWord(1);
+    EXPECT_EQ(shownIn("VcabManTrans"), "Rome, Italy");
+    press(*manager, Qt::Key_Up);
+    EXPECT_EQ(shownIn("VcabManHint"), "rosae, f.");
+    for (const char* const next : {"VcabManAdd", "VcabManSave"}) {
+        chooseWord(0);
+        fill(line(*manager, "VcabManWord"), "rosula");
+        clickIn("VcabManDelete");
+        EXPECT_EQ(shownIn("VcabManWord"), "rosula") << "typed, and so not deleted";
+        clickIn(next);
+    }
+    confirm("rose");
+    EXPECT_EQ(bytesOf("rose.lst"), "rosula,rose,rosae> f.\r\n");
+    fillIn(Rome);
+    press(*manager, Qt::Key_Escape);
+    press(shown("VcabWarning"), Qt::Key_Escape);
+    expectWords({"rosula", "Ro:ma"}, "rose.lst");
+    clickIn("VcabManExit");
+    press(shown("VcabWarning"), Qt::Key_Return);
+    press(files(), Qt::Key_Return);
+    EXPECT_EQ(bytesOf("rose.lst"), std::string("rosula,rose,rosae> f.\r\n") + RomeInAFile);
+}
+
+TEST_F(VcabWindows, GiveTheTestBackAsItWasUnlessTheListIsSaved)
 {
     QWidget& tester = openTester();
-    const auto& line = control<QLineEdit>(tester, "VcabAnswer");
-    const auto hint = [&](const std::function<void()>& ask) {
-        duringPause([&] {
-            EXPECT_EQ(line.text(), "rose");
-            EXPECT_EQ(line.palette().color(QPalette::Text), QColor(Qt::red));
-            choose(tester, "VcabtesterOptionsPromptLatin");
-            EXPECT_EQ(question(tester), "rosa");
-            choose(tester, "VcabtesterOptionsPromptEnglish");
-            answer(tester, "rose");
-        });
-        ask();
-        EXPECT_EQ(line.text(), "");
-        EXPECT_EQ(line.palette().color(QPalette::Text), QColor(Qt::black));
-        EXPECT_EQ(question(tester), "rosa");
-    };
-    hint([&] { answer(tester, "?"); });
-    hint([&] { QTest::mouseDClick(&control<QLabel>(tester, "VQuestion"), Qt::LeftButton); });
-    EXPECT_EQ(fake.waits, 2);
-    EXPECT_EQ(settings.AnsweredCount, 0);
-}
-
-TEST_F(VcabtesterWindow, TakesSlashesAndQuestionMarksAsPartOfAnAnswer)
-{
-    answer(openTester("quis,who?/what?,pron."), "who?/what?");
-    EXPECT_EQ(settings.RightCount, 1);
-}
-
-TEST_F(VcabtesterWindow, PassesOverOmittedWordsAndWaitsWhenNoneIsLeft)
-{
-    QWidget& tester = openTester();
-    const QAbstractButton& omit = button(tester, "VcabTestOmit");
-    for (const char* const meaning : {"rose", "Rome, Italy", "king"}) {
-        EXPECT_FALSE(omit.isChecked());
-        click(tester, "VcabTestOmit");
-        answer(tester, meaning);
-    }
-    EXPECT_EQ(question(tester), "There is no word to ask.");
-    EXPECT_EQ(label(tester, "VHint"), "");
-    EXPECT_TRUE(omit.isChecked());
-    answer(tester, "?");
-    answer(tester, "anything");
-    EXPECT_EQ(settings.AnsweredCount, 3);
     click(tester, "VcabTestOmit");
-    EXPECT_EQ(question(tester), "re:x");
-    answer(tester, "king");
-    EXPECT_EQ(question(tester), "re:x");
-}
-
-TEST_F(VcabtesterWindow, SaysWhyTheDefaultListCannotBeRead)
-{
-    std::filesystem::create_symlink("vr-vcab.lst", "vr-vcab.lst");
-    QWidget& tester = openTester();
-    EXPECT_EQ(fake.messages, std::vector<std::string>{"vr-vcab.lst: Too many levels of symbolic links"});
-    EXPECT_EQ(question(tester), "There is no word to ask.");
-    answer(tester, "");
-    QTest::mouseDClick(&control<QLabel>(tester, "VQuestion"), Qt::LeftButton);
-    EXPECT_EQ(settings.AnsweredCount, 0);
-}
-
-TEST_F(VcabtesterWindow, EndsTheProgramWithoutSavingOnALearnedWordAtRandom)
-{
-    QWidget& tester = openTester("rosa,rose,f.");
-    choose(tester, "VcabtesterOptionsOrderRandom");
-    for (int right = 1; right <= 6; ++right) {
-        EXPECT_FALSE(fake.exitStatus) << right;
-        answer(tester, "rose");
+    answer(tester, "rose");
+    editFrom(tester);
+    chooseWord(0);
+    clickIn("VcabManDelete");
+    fillIn("slip/slip/slip");
+    manager->close();
+    click(shown("VcabWarning"), "VcabWarningDiscard");
+    EXPECT_EQ(question(tester), "Ro:ma");
+    editFrom(tester);
+    expectWords({"rosa", "Ro:ma", "re:x"}, "vr-vcab.lst");
+    chooseWord(1);
+    clickIn("VcabManDelete");
+    saveAs("vr-vcab.lst");
+    clickIn("VcabManExit");
+    for (int time = 0; time < 2; ++time) {
+        EXPECT_EQ(question(tester), "re:x") << "the first word is still left out";
+        answer(tester, "king");
     }
-    EXPECT_EQ(fake.exitStatus, 0);
-    EXPECT_FALSE(std::filesystem::exists("morvanti.ini"));
 }
 
-TEST_F(VcabtesterWindow, OpensAnotherListWithoutCountsAndKeepsItsOwnWhereItIsRefused)
+TEST_F(VcabWindows, WarnOnlyWhereALoadWouldReplaceChangesAndGoOnAsIsWished)
+{
+    writeFile("rose.lst", RoseInAFile);
+    openManager();
+    add(Rome);
+    const auto load = [&](const QString& name) -> QWidget* {
+        if (manager->isVisible())
+            clickIn("VcabManLoad");
+        confirm(name);
+        return shownWindow("VcabWarning");
+    };
+    for (const char* const name : {"", "  ", "folder/", "missing"})
+        EXPECT_EQ(load(name), nullptr);
+    EXPECT_EQ(fake.messages, std::vector<std::string>{"missing.lst: No such file or directory"});
+    press(*load("rose"), Qt::Key_Escape);
+    click(files(), "CancelFH");
+    expectWords({"Ro:ma"}, "new list");
+    click(*load("rose"), "VcabWarningSave");
+    confirm("rome");
+    EXPECT_EQ(bytesOf("rome.lst"), RomeInAFile);
+    expectWords({"rosa"}, "rose.lst");
+    EXPECT_EQ(load("rome"), nullptr);
+    add(Rose);
+    click(*load("rose"), "VcabWarningSave");
+    EXPECT_EQ(bytesOf("rome.lst"), std::string(RomeInAFile) + RoseInAFile);
+    expectWords({"rosa"}, "rose.lst");
+    add(Rose);
+    click(*load("rome"), "VcabWarningDiscard");
+    saveAs("both");
+    expectWords({"Ro:ma", "rosa"}, "both.lst");
+    EXPECT_EQ(bytesOf("rose.lst"), RoseInAFile);
+}
+
+TEST_F(VcabWindows, RefuseTheThreeHundredAndFirstWordAndKeepItsText)
+{
+    editFrom(openTester(QByteArray(RoseInAFile).repeated(300).toStdString()));
+    fillIn(Rome);
+    for (const char* const way : {"VcabManAdd", "VcabManSave", "VcabManLoad", "VcabManExit"})
+        clickIn(way);
+    chooseWord(0);
+    EXPECT_EQ(fake.messages, std::vector<std::string>(5, "A word list holds 300 words at the most."));
+    EXPECT_EQ(shownIn("VcabManTrans"), "Rome, Italy");
+}
+
+TEST_F(VcabWindows, AskBeforeAFileOfAnotherNameIsWrittenOverAndKeepAllWhereASaveFails)
+{
+    writeFile("old.dat", ThreeWords);
+    openManager();
+    add(Rome);
+    for (const std::string name : {"1. Deklination", "mine.TXT", "mine.TXT", "Kap.II"})
+        saveAs(QString::fromStdString(name));
+    for (const char* const name : {"1. Deklination.lst", "mine.TXT", "Kap.II.lst"})
+        EXPECT_EQ(bytesOf(name), RomeInAFile) << name;
+    saveAs("old.dat");
+    QWidget& question = shown("VcabReplace");
+    EXPECT_EQ(label(question, "VcabReplaceText"), "The file old.dat exists already.\nWords in it: 3");
+    press(question, Qt::Key_Return);
+    click(files(), "LoadSaveFH");
+    {
+        const FullDisk full;
+        click(question, "VcabReplaceOK");
+    }
+    EXPECT_TRUE(fake.messages.back().starts_with("The list was not saved. old.dat: "));
+    expectWords({"Ro:ma"}, "Kap.II.lst");
+    EXPECT_EQ(bytesOf("old.dat"), ThreeWords);
+    saveAs("old.dat");
+    click(question, "VcabReplaceOK");
+    EXPECT_EQ(bytesOf("old.dat"), RomeInAFile);
+}
+
+TEST_F(VcabWindows, ShowTheAnswerInRedForOnePause)
+{
+    QWidget& tester = openTester("quis,who?/what?,pron.");
+    const auto& box = line(tester, "VcabAnswer");
+    const std::vector<std::function<void()>> hints = {
+        [&] { answer(tester, "?"); },
+        [&] { QTest::mouseDClick(&control<QLabel>(tester, "VQuestion"), Qt::LeftButton); }};
+    for (const auto& askForHint : hints) {
+        duringPause([&] {
+            choose(tester, "VcabtesterOptionsPromptLatin");
+            EXPECT_EQ(question(tester) + box.text(), "quiswho?/what?");
+            EXPECT_EQ(box.palette().color(QPalette::Text), QColor(Qt::red));
+            answer(tester, "who?/what?");
+        });
+        askForHint();
+        EXPECT_EQ(box.palette().color(QPalette::Text), QColor(Qt::black));
+        choose(tester, "VcabtesterOptionsPromptEnglish");
+    }
+    EXPECT_EQ(fake.waits + shell::settings.AnsweredCount, 2);
+    answer(tester, "who?/what?");
+    EXPECT_EQ(shell::settings.RightCount, 1);
+}
+
+TEST_F(VcabWindows, WaitWhereNoWordIsLeftAndStartAfreshEachTime)
+{
+    QWidget& tester = openTester(",,\nrosa,rose,f.\nre:x");
+    EXPECT_EQ(fake.messages.back(), "vr-vcab.lst, line 3: the last word is cut off and was left out");
+    choose(tester, "VcabtesterOptionsPromptLatin");
+    click(tester, "VcabTestOmit");
+    answer(tester, "rosa");
+    for (const char* const attempt : {"?", "anything"}) {
+        EXPECT_EQ(question(tester) + label(tester, "VHint"), "There is no word to ask.");
+        answer(tester, attempt);
+    }
+    EXPECT_EQ(shell::settings.AnsweredCount, 1);
+    click(tester, "VcabTestOmit");
+    EXPECT_EQ(question(tester), "rose");
+    openTester();
+    answer(tester, "rose");
+    EXPECT_EQ(question(tester), "Ro:ma");
+}
+
+TEST_F(VcabWindows, OpenAnotherListWithoutCountsOrGoOnWithTheirOwn)
 {
     writeFile("b.voc", "mu:s,mouse,m.\r\n");
-    writeFile("notes.doc", "no list");
     writeFile("c.txt", QByteArray("a,b,c\n").repeated(301).toStdString());
+    writeFile("d.lst", QByteArray("a,b,c\n").repeated(151).toStdString());
+    writeFile("e.lst", std::string(std::size_t{5} << 20U, 'a'));
     QWidget& tester = openTester();
-    answer(tester, "rose");
+    click(tester, "VcabTestOmit");
     choose(tester, "VcabTesterFileOpen");
     QWidget& loader = shown("VcabLoader");
-    EXPECT_FALSE(tester.isVisible());
-    EXPECT_EQ(rows(list(loader, "VcabFile")), QStringList({"b.voc", "c.txt", "vr-vcab.lst"}));
-    EXPECT_FALSE(button(loader, "VcabLoaderOpen").isEnabled());
-    doubleClickRow(list(loader, "VcabFile"), 1);
-    EXPECT_EQ(fake.messages, std::vector<std::string>{"c.txt: the file holds more than 300 words"});
+    QListWidget& lists = list(loader, "VcabFile");
+    EXPECT_EQ(rows(lists), QStringList({"b.voc", "c.txt", "d.lst", "e.lst", "vr-vcab.lst"}));
+    for (const char* const count : {"Words: 1", "", "Words: 151. The test counts 150.", "", "Words: 3"}) {
+        press(loader, Qt::Key_Down);
+        EXPECT_EQ(label(loader, "VcabLoaderCount"), count);
+    }
+    for (const int tooLong : {1, 3})
+        doubleClickRow(lists, tooLong);
+    EXPECT_EQ(fake.messages, std::vector<std::string>({"c.txt: the file holds more than 300 words",
+                                                       "e.lst: the file is too long for a word list"}));
     press(loader, Qt::Key_Escape);
-    EXPECT_EQ(question(tester), "Ro:ma");
-    answer(tester, "wrong");
-    EXPECT_EQ(question(tester), "Ro:ma");
+    EXPECT_TRUE(question(tester) == "rosa" && button(tester, "VcabTestOmit").isChecked());
     choose(tester, "VcabTesterFileOpen");
-    clickRow(list(loader, "VcabFile"), 0);
+    clickRow(lists, 0);
     click(loader, "VcabLoaderOpen");
-    EXPECT_FALSE(loader.isVisible());
-    EXPECT_EQ(question(tester), "mu:s");
-    answer(tester, "mouse");
-    EXPECT_EQ(settings.RightCount, 2);
+    EXPECT_TRUE(question(tester) == "mu:s" && !button(tester, "VcabTestOmit").isChecked());
 }
 
 } // namespace

@@ -45,9 +45,20 @@ constexpr LanguageTexts SaveTitle{"Save the Word List", "Enregistrer la liste de
 constexpr auto LoadAction = "&Load";
 constexpr auto SaveAction = "&Save";
 
+void tellThatSaveFailed(const platform::Fault& fault)
+{
+    platform::current().showMessage("The list was not saved. " + fault.message());
+}
+
 bool isLoading()
 {
     return vocabularyEditor.FileMode == file_mode::Load;
+}
+
+bool isReadable(const std::filesystem::path& path)
+{
+    const auto fault = readVocabularyFile(path).fault;
+    return !fault || !fault->refused();
 }
 
 std::filesystem::path pathOf(const QString& text)
@@ -109,6 +120,7 @@ void FileHandler::setCaptions()
 void FileHandler::open(std::string_view mode)
 {
     vocabularyEditor.FileMode = mode;
+    toLoad_.clear();
     setCaptions();
     goToListFolder();
     showFolder();
@@ -181,22 +193,58 @@ void FileHandler::loadOrSave()
         save();
 }
 
-// The message comes last, so that it stands above the window that is shown then.
 void FileHandler::load()
 {
-    const auto fault = loadList(path());
+    toLoad_ = path();
+    if (changesArePending() && isReadable(toLoad_))
+        Q_EMIT warningRequested();
+    else
+        replaceList();
+}
+
+// The message comes last, so that it stands above the window that is shown then.
+void FileHandler::replaceList()
+{
+    const auto fault = loadList(toLoad_);
     if (!fault || !fault->refused())
         Q_EMIT loaded();
     if (fault)
         platform::current().showMessage(fault->message());
 }
 
+void FileHandler::saveBeforeLoad()
+{
+    if (vocabularyList.File.empty())
+        chooseFileBeforeLoad();
+    else if (const auto fault = saveList(vocabularyList.File))
+        tellThatSaveFailed(*fault);
+    else
+        replaceList();
+}
+
+void FileHandler::chooseFileBeforeLoad()
+{
+    const std::filesystem::path toLoad = toLoad_;
+    open(file_mode::Save);
+    toLoad_ = toLoad;
+}
+
 void FileHandler::save()
 {
+    if (wouldReplaceAnotherFile(path()))
+        Q_EMIT replacementRequested(path());
+    else
+        replaceFile();
+}
+
+void FileHandler::replaceFile()
+{
     const auto fault = saveList(path());
+    if (!fault && !toLoad_.empty())
+        return replaceList();
     Q_EMIT left();
     if (fault)
-        platform::current().showMessage("The list was not saved. " + fault->message());
+        tellThatSaveFailed(*fault);
 }
 
 } // namespace vocabulary

@@ -17,7 +17,8 @@ class ChoiceList;
 
 namespace vocabulary {
 
-/// Chooses the file that the editor's list is read from or written to: a folder, and a name in it.
+/// Chooses the file that the editor's list is read from or written to: a folder, and a name in it. Before
+/// changes or words in another file are lost, it asks for a question to the learner.
 class FileHandler : public shell::Window {
     Q_OBJECT
 
@@ -27,9 +28,24 @@ public:
     /// Shows the window for one of the values of `FileMode`, in the folder of the list in memory.
     void open(std::string_view mode);
 
+    /// Loads the chosen file, whatever is pending.
+    void replaceList();
+
+    /// Saves the list, and then loads the chosen file. For a new list another file is chosen first.
+    void saveBeforeLoad();
+
+    /// Saves the list to the chosen file, whatever that holds.
+    void replaceFile();
+
 Q_SIGNALS:
     /// Another list was loaded.
     void loaded();
+
+    /// The chosen file can be loaded, and changes are pending.
+    void warningRequested();
+
+    /// The list is to be saved to a file that holds another.
+    void replacementRequested(const std::filesystem::path& path);
 
 private:
     void makeControls();
@@ -45,9 +61,14 @@ private:
     void loadOrSave();
     void load();
     void save();
+    void chooseFileBeforeLoad();
     std::filesystem::path path() const;
 
     QDir folder_;
+
+    /// The file to be loaded; empty where the list is only saved.
+    std::filesystem::path toLoad_;
+
     QLabel* folderName_;
     shell::ChoiceList* folders_;
     shell::ChoiceList* files_;

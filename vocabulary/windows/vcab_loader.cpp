@@ -5,16 +5,19 @@
 #include "shell/kit/choice_list.h"
 #include "shell/kit/controls.h"
 #include "shell/kit/layout.h"
+#include "shell/kit/text.h"
 #include "vocabulary/vocabulary_edits.h"
 #include "vocabulary/windows/list_files.h"
 
 #include <QBoxLayout>
+#include <QLabel>
 #include <QPushButton>
 
 namespace vocabulary {
 
 using shell::Caption;
 using shell::ChoiceList;
+using shell::LanguageTexts;
 
 namespace {
 
@@ -27,7 +30,21 @@ constexpr std::array Captions = {
     Caption{"VcabLoaderOpen",   {"&Open",            "&Ouvrir",                  {},     "Ö&ffnen",          "&Abrir",                      "&Aperi!"}},
     Caption{"VcabLoaderCancel", {"&Cancel",          "&Annuler",                 {},     "&Abbrechen",       "&Cancelar",                   "&Reverte!"}},
 };
+
+// The number of words stands in the place of %1.
+constexpr LanguageTexts Count{"Words: %1",                          "Mots : %1",                            {}, "Wörter: %1",                        "Palabras: %1",                           "Verba: %1"};
+constexpr LanguageTexts LongCount{"Words: %1. The test counts %2.", "Mots : %1. Le test en compte %2.",     {}, "Wörter: %1. Der Test zählt %2.",    "Palabras: %1. La prueba cuenta %2.",     "Verba: %1. Probatio %2 numerat."};
 // clang-format on
+
+QString countOf(const VocabularyFile& file)
+{
+    const auto words = static_cast<int>(file.records.size());
+    if (file.fault && file.fault->refused())
+        return {};
+    if (words <= LastCountedWord)
+        return shell::fromUtf8(Count.currentOrDesigned()).arg(words);
+    return shell::fromUtf8(LongCount.currentOrDesigned()).arg(words).arg(LastCountedWord);
+}
 
 } // namespace
 
@@ -43,18 +60,22 @@ void VcabLoader::makeControls()
 {
     files_ = shell::makeChoiceList(this, "VcabFile");
     files_->setSpacing(2);
+    count_ = shell::makeLabel(this, "VcabLoaderCount");
+    count_->setWordWrap(true);
     open_ = shell::makeButton(this, "VcabLoaderOpen");
     cancel_ = shell::makeButton(this, "VcabLoaderCancel");
 }
 
 void VcabLoader::layOut()
 {
-    layOutLines(LargestBlock, shell::FormMargins, {files_, shell::buttonRow({}, {open_, cancel_})});
+    layOutLines(LargestBlock, shell::FormMargins,
+                {{shell::rowOf(shell::LargeSpace, {{files_, 2}, {count_, 1, Qt::AlignTop}}), 1},
+                 shell::buttonRow({}, {open_, cancel_})});
 }
 
 void VcabLoader::connectControls()
 {
-    connect(files_, &ChoiceList::rowChosen, this, [this](int row) { open_->setEnabled(row >= 0); });
+    connect(files_, &ChoiceList::rowChosen, this, &VcabLoader::showCount);
     connect(files_, &ChoiceList::rowActivated, this, &VcabLoader::loadChosen);
     connect(open_, &QPushButton::clicked, this, &VcabLoader::loadChosen);
     connect(cancel_, &QPushButton::clicked, this, &VcabLoader::left);
@@ -66,9 +87,20 @@ void VcabLoader::open()
     files_->setAccessibleName(windowTitle());
     files_->clear();
     files_->addItems(listFilesIn(QDir::current()));
-    open_->setEnabled(false);
+    showCount(files_->chosenRow());
     showInMainWindowState();
     files_->setFocus();
+}
+
+void VcabLoader::showCount(int row)
+{
+    open_->setEnabled(row >= 0);
+    count_->setText(row >= 0 ? countOf(readVocabularyFile(fileIn(row))) : QString());
+}
+
+std::filesystem::path VcabLoader::fileIn(int row) const
+{
+    return files_->item(row)->text().toStdString();
 }
 
 // The message comes last, so that it stands above the window that is shown then.
@@ -76,7 +108,7 @@ void VcabLoader::loadChosen()
 {
     if (!isVisible() || files_->chosenRow() < 0)
         return;
-    const auto fault = loadList(files_->item(files_->chosenRow())->text().toStdString());
+    const auto fault = loadList(fileIn(files_->chosenRow()));
     if (!fault || !fault->refused())
         Q_EMIT left();
     if (fault)

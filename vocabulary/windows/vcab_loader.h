@@ -2,6 +2,9 @@
 
 #include "shell/kit/window.h"
 
+#include <filesystem>
+
+class QLabel;
 class QPushButton;
 
 namespace shell {
@@ -10,7 +13,7 @@ class ChoiceList;
 
 namespace vocabulary {
 
-/// Chooses the list to be tested among those of the working folder.
+/// Chooses the list to be tested among those of the working folder, and says how many words it holds.
 class VcabLoader : public shell::Window {
     Q_OBJECT
 
@@ -24,9 +27,12 @@ private:
     void makeControls();
     void layOut();
     void connectControls();
+    void showCount(int row);
     void loadChosen();
+    std::filesystem::path fileIn(int row) const;
 
     shell::ChoiceList* files_;
+    QLabel* count_;
     QPushButton* open_;
     QPushButton* cancel_;
 };

@@ -24,6 +24,7 @@ namespace vocabulary {
 using shell::Caption;
 using shell::ChoiceList;
 using shell::FieldNames;
+using shell::LanguageTexts;
 
 namespace {
 
@@ -54,7 +55,16 @@ constexpr std::array Captions = {
     Caption{"VcabManSave",      {"&Save...",          "&Enregistrer...",        {},    "&Speichern...",         "&Guardar...",           "&Serva..."}},
     Caption{"VcabManExit",      {"E&xit",             "&Quitter",               {},    "&Beenden",              "&Salir",                "&Egredere!"}},
 };
+
+constexpr LanguageTexts NewList{"new list",             "nouvelle liste",         {},    "neue Liste",            "lista nueva",           "index novus"};
 // clang-format on
+
+// The name of the list's file.
+QString listName()
+{
+    const std::string file = vocabularyList.File.filename().string();
+    return shell::fromUtf8(file.empty() ? NewList.currentOrDesigned() : std::string_view(file));
+}
 
 } // namespace
 
@@ -122,6 +132,7 @@ void VcabManager::comeBack()
 {
     shell::applyCurrentOrDesignedCaptions(*this, Captions);
     words_->setAccessibleName(windowTitle());
+    setWindowTitle(windowTitle() + QStringLiteral(" - ") + listName());
     listWords();
     showRecord(shown_);
     showInMainWindowState();
@@ -165,7 +176,6 @@ bool VcabManager::boxesAreEmpty() const
     return std::ranges::all_of(form_->boxes(), [](const QLineEdit* box) { return box->text().isEmpty(); });
 }
 
-// A ">" that stands for a comma since the last save becomes one again when the record is stored.
 WordRecord VcabManager::recordInBoxes() const
 {
     WordRecord record;

@@ -12,7 +12,8 @@ class RecordForm;
 
 namespace vocabulary {
 
-/// The vocabulary editor: the words of the list, and three boxes for the record that is chosen.
+/// The vocabulary editor: the words of the list, and three boxes for the record that is chosen. Its title
+/// names the list's file.
 ///
 /// What was typed and not yet accepted is taken over before another record, another list or another window
 /// comes: into the record that is chosen, or as a new one where none is.

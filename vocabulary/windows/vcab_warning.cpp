@@ -1,11 +1,7 @@
 #include "vocabulary/windows/vcab_warning.h"
 
 #include "shell/kit/captions.h"
-#include "shell/kit/controls.h"
-#include "shell/kit/layout.h"
 
-#include <QBoxLayout>
-#include <QLabel>
 #include <QPushButton>
 
 namespace vocabulary {
@@ -30,48 +26,18 @@ constexpr std::array Captions = {
 
 } // namespace
 
-VcabWarning::VcabWarning() : Window("VcabWarning")
-{
-    makeControls();
-    layOut();
-    connectControls();
-    closeOnEscape();
-}
-
-void VcabWarning::makeControls()
-{
-    setWindowFlags(Qt::Dialog);
-    setWindowModality(Qt::ApplicationModal);
-    text_ = shell::makeLabel(this, "VcabWarningText");
-    text_->setWordWrap(true);
-    save_ = shell::makeButton(this, "VcabWarningSave");
-    discard_ = shell::makeButton(this, "VcabWarningDiscard");
-    cancel_ = shell::makeButton(this, "VcabWarningCancel");
-}
-
-void VcabWarning::layOut()
-{
-    constexpr QMargins margins{shell::WideSpace, shell::WideSpace, shell::WideSpace, shell::LargeSpace};
-    shell::setContent(
-        this, margins,
-        shell::columnOf(shell::WideSpace, {text_, shell::buttonRow({}, {save_, discard_, cancel_})}));
-}
-
-void VcabWarning::connectControls()
+VcabWarning::VcabWarning()
+    : ListQuestion("VcabWarning", "VcabWarningText"), save_(addAnswer("VcabWarningSave"))
 {
     connect(save_, &QPushButton::clicked, this, &VcabWarning::saveRequested);
-    connect(discard_, &QPushButton::clicked, this, &VcabWarning::discardRequested);
-    connect(cancel_, &QPushButton::clicked, this, &VcabWarning::left);
+    connect(addAnswer("VcabWarningDiscard"), &QPushButton::clicked, this, &VcabWarning::discardRequested);
+    connect(addAnswer("VcabWarningCancel"), &QPushButton::clicked, this, &VcabWarning::left);
 }
 
 void VcabWarning::open()
 {
     shell::applyCurrentOrDesignedCaptions(*this, Captions);
-    adjustSize();
-    show();
-    raise();
-    activateWindow();
-    save_->setFocus();
+    askWith(*save_);
 }
 
 } // namespace vocabulary

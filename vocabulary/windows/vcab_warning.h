@@ -1,14 +1,11 @@
 #pragma once
 
-#include "shell/kit/window.h"
-
-class QLabel;
-class QPushButton;
+#include "vocabulary/windows/list_question.h"
 
 namespace vocabulary {
 
-/// Warns of changes to the list that are not saved, and holds the other windows until it is answered.
-class VcabWarning : public shell::Window {
+/// Warns of changes to the list that are not saved.
+class VcabWarning : public ListQuestion {
     Q_OBJECT
 
 public:
@@ -21,14 +18,7 @@ Q_SIGNALS:
     void discardRequested();
 
 private:
-    void makeControls();
-    void layOut();
-    void connectControls();
-
-    QLabel* text_;
     QPushButton* save_;
-    QPushButton* discard_;
-    QPushButton* cancel_;
 };
 
 } // namespace vocabulary

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "shell/kit/window.h"
+
+class QBoxLayout;
+class QLabel;
+class QPushButton;
+
+namespace vocabulary {
+
+/// A question that holds the other windows until it is answered: a text, and a row of buttons below it.
+class ListQuestion : public shell::Window {
+    Q_OBJECT
+
+protected:
+    ListQuestion(std::string_view name, const char* text);
+
+    /// Adds a button at the right end of the row.
+    QPushButton* addAnswer(const char* name);
+
+    QLabel& text() { return *text_; }
+
+    /// Shows the window; Enter gives this answer.
+    void askWith(QPushButton& answer);
+
+private:
+    QLabel* text_;
+    QBoxLayout* answers_;
+};
+
+} // namespace vocabulary

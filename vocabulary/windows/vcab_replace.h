@@ -1,0 +1,25 @@
+#pragma once
+
+#include "vocabulary/windows/list_question.h"
+
+#include <filesystem>
+
+namespace vocabulary {
+
+/// Asks whether the list may replace a file, and says how many words that holds.
+class VcabReplace : public ListQuestion {
+    Q_OBJECT
+
+public:
+    VcabReplace();
+
+    void open(const std::filesystem::path& file);
+
+Q_SIGNALS:
+    void replacementAllowed();
+
+private:
+    QPushButton* cancel_;
+};
+
+} // namespace vocabulary
