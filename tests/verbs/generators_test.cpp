@@ -1,19 +1,20 @@
 #include "shell/settings.h"
 #include "tests/support/fresh_state.h"
-#include "tests/verbs/paradigm_pages.h"
 #include "verbs/generators.h"
 #include "verbs/verb_list.h"
 #include "verbs/verb_tables.h"
 
 #include <algorithm>
+#include <iterator>
+#include <map>
 #include <set>
+#include <sstream>
 #include <vector>
 
 namespace {
 
+using namespace verbs;
 using shell::settings;
-using verbs::verbList;
-using verbs::verbTables;
 
 using Generators = tests::FreshState;
 
@@ -33,27 +34,131 @@ const std::vector<Model> Models = {
     {7, "",    "volu",   "",       "velle"},
     {8, "",    "tul",    "la:t",   "ferre"},
 };
+
+// The pages of a grammar: class, tense, and the forms from the first singular to the third plural, with a colon
+// after each long vowel. A dash: there is no such form.
+const std::map<std::pair<int, int>, std::string> Pages = {
+    // amo:, ama:re, ama:vi:, ama:tum (to love). Every verb has these endings in the perfect system.
+    {{1, PresentIndicative},           "amo:       ama:s       amat       ama:mus       ama:tis       amant"},
+    {{1, ImperfectIndicative},         "ama:bam    ama:ba:s    ama:bat    ama:ba:mus    ama:ba:tis    ama:bant"},
+    {{1, FutureIndicative},            "ama:bo:    ama:bis     ama:bit    ama:bimus     ama:bitis     ama:bunt"},
+    {{1, PerfectIndicative},           "ama:vi:    ama:visti:  ama:vit    ama:vimus     ama:vistis    ama:ve:runt"},
+    {{1, PluperfectIndicative},        "ama:veram  ama:vera:s  ama:verat  ama:vera:mus  ama:vera:tis  ama:verant"},
+    {{1, FuturePerfectIndicative},     "ama:vero:  ama:veris   ama:verit  ama:verimus   ama:veritis   ama:verint"},
+    {{1, PresentSubjunctive},          "amem       ame:s       amet       ame:mus       ame:tis       ament"},
+    {{1, ImperfectSubjunctive},        "ama:rem    ama:re:s    ama:ret    ama:re:mus    ama:re:tis    ama:rent"},
+    {{1, PerfectSubjunctive},          "ama:verim  ama:veri:s  ama:verit  ama:veri:mus  ama:veri:tis  ama:verint"},
+    {{1, PluperfectSubjunctive},       "ama:vissem ama:visse:s ama:visset ama:visse:mus ama:visse:tis ama:vissent"},
+    {{1, Imperative},                  "-          ama:        -          -             ama:te        -"},
+    {{1, PassivePresentIndicative},    "amor       ama:ris     ama:tur    ama:mur       ama:mini:     ama:ntur"}, // sic
+    {{1, PassiveImperfectIndicative},  "ama:bar    ama:ba:ris  ama:ba:tur ama:ba:mur    ama:ba:mini:  ama:bantur"},
+    {{1, PassiveFutureIndicative},     "ama:bor    ama:beris   ama:bitur  ama:bimur     ama:bimini:   ama:buntur"},
+    {{1, PassivePresentSubjunctive},   "amer       ame:ris     ame:tur    ame:mur       ame:mini:     ame:ntur"}, // sic
+    {{1, PassiveImperfectSubjunctive}, "ama:rer    ama:re:ris  ama:re:tur ama:re:mur    ama:re:mini:  ama:rentur"},
+    // moneo:, mone:re, monui:, monitum (to warn).
+    {{2, PresentIndicative},           "moneo:   mone:s      monet       mone:mus    mone:tis      monent"},
+    {{2, ImperfectIndicative},         "mone:bam mone:ba:s   mone:bat    mone:ba:mus mone:ba:tis   mone:bant"},
+    {{2, FutureIndicative},            "mone:bo: mone:bis    mone:bit    mone:bimus  mone:bitis    mone:bunt"},
+    {{2, PresentSubjunctive},          "moneam   monea:s     moneat      monea:mus   monea:tis     moneant"},
+    {{2, ImperfectSubjunctive},        "mone:rem mone:re:s   mone:ret    mone:re:mus mone:re:tis   mone:rent"},
+    {{2, Imperative},                  "-        mone:       -           -           mone:te       -"},
+    {{2, PassivePresentIndicative},    "moneor   mone:ris    mone:tur    mone:mur    mone:mini:    monentur"},
+    {{2, PassiveImperfectIndicative},  "mone:bar mone:ba:ris mone:ba:tur mone:ba:mur mone:ba:mini: mone:bantur"},
+    {{2, PassiveFutureIndicative},     "mone:bor mone:beris  mone:bitur  mone:bimur  mone:bimini:  mone:buntur"},
+    {{2, PassivePresentSubjunctive},   "monear   monea:ris   monea:tur   monea:mur   monea:mini:   moneantur"},
+    {{2, PassiveImperfectSubjunctive}, "mone:rer mone:re:ris mone:re:tur mone:re:mur mone:re:mini: mone:rentur"},
+    // rego:, regere, re:xi:, re:ctum (to rule).
+    {{3, PresentIndicative},           "rego:    regis       regit       regi:mus    regi:tis      regunt"}, // sic
+    {{3, ImperfectIndicative},         "rege:bam rege:ba:s   rege:bat    rege:ba:mus rege:ba:tis   rege:bant"},
+    {{3, FutureIndicative},            "regam    rege:s      reget       rege:mus    rege:tis      regent"},
+    {{3, PresentSubjunctive},          "regam    rega:s      regat       rega:mus    rega:tis      regant"},
+    {{3, ImperfectSubjunctive},        "regerem  regere:s    regeret     regere:mus  regere:tis    regerent"},
+    {{3, Imperative},                  "-        rege        -           -           regite        -"},
+    {{3, PassivePresentIndicative},    "regor    regeris     regitur     regimur     regimini:     reguntur"},
+    {{3, PassiveImperfectIndicative},  "rege:bar rege:ba:ris rege:ba:tur rege:ba:mur rege:ba:mini: rege:bantur"},
+    {{3, PassiveFutureIndicative},     "regar    rege:ris    rege:tur    rege:mur    rege:mini:    regentur"},
+    {{3, PassivePresentSubjunctive},   "regar    rega:ris    rega:tur    rega:mur    rega:mini:    regantur"},
+    {{3, PassiveImperfectSubjunctive}, "regerer  regere:ris  regere:tur  regere:mur  regere:mini:  regerentur"},
+    // audio:, audi:re, audi:vi:, audi:tum (to hear).
+    {{4, PresentIndicative},           "audio:    audi:s       audit        audi:mus     audi:tis       audiunt"},
+    {{4, ImperfectIndicative},         "audie:bam audie:ba:s   audie:bat    audie:ba:mus audie:bat:is   audie:bant"}, // sic
+    {{4, FutureIndicative},            "audiam    audie:s      audiet       audie:mus    audie:tis      audient"},
+    {{4, PresentSubjunctive},          "audiam    audia:s      audiat       audia:mus    audia:tis      audiant"},
+    {{4, ImperfectSubjunctive},        "audi:rem  audi:re:s    audi:ret     audi:re:mus  audi:re:tis    audi:rent"},
+    {{4, Imperative},                  "-         audi:        -            -            audite         -"}, // sic
+    {{4, PassivePresentIndicative},    "audior    audi:ris     audi:tur     audi:mur     audi:mini      audiuntur"}, // sic
+    {{4, PassiveImperfectIndicative},  "audie:bar audie:ba:ris audie:ba:tur audie:ba:mur audie:ba:mini: audie:bantur"},
+    {{4, PassiveFutureIndicative},     "audiar    audie:ris    audie:tur    audie:mur    audie:mini:    audientur"},
+    {{4, PassivePresentSubjunctive},   "audiar    audia:ris    audia:tur    audia:mur    audia:mini:    audia:ntur"}, // sic
+    {{4, PassiveImperfectSubjunctive}, "audi:rer  audi:re:ris  audi:re:tur  audi:re:mur  audi:re:mini:  audi:rentur"},
+    // capio:, capere, ce:pi:, captum (to take).
+    {{5, PresentIndicative},           "capio:    capis        capit        capimus      capitis        capiunt"},
+    {{5, ImperfectIndicative},         "capie:bam capie:ba:s   capie:bat    capie:ba:mus capie:ba:tis   capie:bant"},
+    {{5, FutureIndicative},            "capiam    capie:s      capiet       capie:mus    capie:tis      capient"},
+    {{5, PresentSubjunctive},          "capiam    capia:s      capiat       capia:mus    capia:tis      capiant"},
+    {{5, ImperfectSubjunctive},        "caperem   capere:s     caperet      capere:mus   capere:tis     caperent"},
+    {{5, Imperative},                  "-         cape         -            -            capite         -"},
+    {{5, PassivePresentIndicative},    "capior    caperis      capitur      capimur      capimini:      capiuntur"},
+    {{5, PassiveImperfectIndicative},  "capie:bar capie:ba:ris capie:ba:tur capie:ba:mur capie:ba:mini: capie:bantur"},
+    {{5, PassiveFutureIndicative},     "capiar    capie:ris    capie:tur    capie:mur    capie:mini:    capientur"},
+    {{5, PassivePresentSubjunctive},   "capiar    capia:ris    capia:tur    capia:mur    capia:mini:    capia:ntur"}, // sic
+    {{5, PassiveImperfectSubjunctive}, "caperer   capere:ris   capere:tur   capere:mur   capere:mini:   caperentur"},
+    // sum, esse, fui: (to be). It has no passive, and is part of the other verbs' compound tenses.
+    {{6, PresentIndicative},    "sum   es     est   sumus    estis    sunt"},
+    {{6, ImperfectIndicative},  "eram  era:s  erat  era:mus  era:tis  erant"},
+    {{6, FutureIndicative},     "ero:  eris   erit  erimus   eritis   erunt"},
+    {{6, PresentSubjunctive},   "sim   si:s   sit   si:mus   si:tis   sint"},
+    {{6, ImperfectSubjunctive}, "essem esse:s esset esse:mus esse:tis essent"},
+    {{6, Imperative},           "-     es     -     -        este     -"},
+    // volo:, velle, volui: (to want). It has neither imperative nor passive.
+    {{7, PresentIndicative},    "volo:    vi:s      vult     volumus     vultis      volunt"},
+    {{7, ImperfectIndicative},  "vole:bam vole:ba:s vole:bat vole:ba:mus vole:ba:tis vole:bant"},
+    {{7, FutureIndicative},     "volam    vole:s    volet    vole:mus    vole:tis    volent"},
+    {{7, PresentSubjunctive},   "velim    veli:s    velit    veli:mus    veli:tis    velint"},
+    {{7, ImperfectSubjunctive}, "vellem   velle:s   vellet   velle:mus   velle:tis   vellent"},
+    {{7, Imperative},           "-        -         -        -           -           -"},
+    // fero:, ferre, tuli:, la:tum (to bear).
+    {{8, PresentIndicative},           "fero:    fers       fert       ferimus     fertis       ferunt"},
+    {{8, ImperfectIndicative},         "fere:bam fere:ba:s  fere:bat   fere:ba:mus fere:ba:tis  fere:bant"},
+    {{8, FutureIndicative},            "feram    fere:s     feret      fere:mus    fere:tis     ferent"},
+    {{8, PresentSubjunctive},          "feram    fera:s     ferat      fera:mus    fera:tis     ferant"},
+    {{8, ImperfectSubjunctive},        "ferrem   ferre:s    ferret     ferre:mus   ferre:tis    ferrent"},
+    {{8, Imperative},                  "-        fer        -          -           ferte        -"},
+    {{8, PassivePresentIndicative},    "feror    ferris     fertur     ferimur     ferimini:    feruntur"},
+    {{8, PassiveImperfectIndicative},  "ferebar  fereba:ris fereba:tur fereba:mur  fereba:mini: ferebantur"}, // sic
+    {{8, PassiveFutureIndicative},     "ferar    fere:ris   fere:tur   fere:mur    fere:mini:   ferentur"},
+    {{8, PassivePresentSubjunctive},   "ferar    fera:ris   fera:tur   fera:mur    fera:mini:   ferantur"},
+    {{8, PassiveImperfectSubjunctive}, "ferrer   ferre:ris  ferre:tur  ferre:mur   ferre:mini:  ferrentur"},
+};
+
+// What of sum follows the participle in the compound tenses.
+const std::map<int, int> TenseOfSum = {
+    {PassivePerfectIndicative,       PresentIndicative},   {PassivePluperfectIndicative,  ImperfectIndicative},
+    {PassiveFuturePerfectIndicative, FutureIndicative},    {PassivePerfectSubjunctive,    PresentSubjunctive},
+    {PassivePluperfectSubjunctive,   ImperfectSubjunctive}};
 // clang-format on
 
-const tests::PageLine* lineOf(int verbClass, std::string_view tense)
+std::string formOnPage(int verbClass, int tense, int person)
 {
-    for (const tests::PageLine& line : tests::Pages)
-        if (line.verbClass == verbClass && line.tense == tense)
-            return &line;
-    return nullptr;
+    std::istringstream words(Pages.at({verbClass, tense}));
+    const std::string form = *std::next(std::istream_iterator<std::string>(words), person - 1);
+    return form == "-" ? "" : form;
 }
 
-// A form as the verb's page has it; where that leaves out the tense, it goes like ama:vi: or re:ctus sum.
-std::string formOf(const Model& verb, std::string_view tense, std::size_t person)
+// A form as the verb's page has it; where that leaves out the tense, it goes like ama:vi: or ama:tus sum.
+std::string formOf(const Model& verb, int tense, int person)
 {
-    if (const auto* const line = lineOf(verb.verbClass, tense))
-        return std::string(line->forms.at(person));
-    const std::string_view perfect = lineOf(verbs::FirstConjugation, tense)->forms.at(person);
-    if (perfect.starts_with("ama:v"))
-        return verb.perfect + std::string(perfect.substr(5));
-    const std::string_view compound = lineOf(verbs::ThirdConjugation, tense)->forms.at(person);
-    const bool isCompound = compound.starts_with("re:ct") && !verb.supine.empty();
-    return isCompound ? verb.supine + std::string(compound.substr(5)) : "";
+    if (Pages.contains({verb.verbClass, tense}))
+        return formOnPage(verb.verbClass, tense, person);
+    if (tense < Imperative)
+        return verb.perfect + formOnPage(FirstConjugation, tense, person).substr(5);
+    if (verb.supine.empty())
+        return "";
+    // sic: amo: names the three genders in the singular, moneo: in its first four compound forms alone.
+    const int last = verb.verbClass == SecondConjugation ? formNumber(PassivePluperfectIndicative, 1) : 126;
+    const bool genders = verb.verbClass <= SecondConjugation && formNumber(tense, person) <= last;
+    const std::string participle = person > ThirdSingular ? "i: " : genders ? "us -a -um " : "us ";
+    return verb.supine + participle + formOnPage(Esse, TenseOfSum.at(tense), person);
 }
 
 // A text of the pages as the settings have it shown.
@@ -66,20 +171,19 @@ std::string shown(std::string text)
 
 void buildAll()
 {
-    verbs::buildRegularConjugations();
-    verbs::buildIrregularVerbs();
-    verbs::buildThirdAndFourthConjugations();
+    buildRegularConjugations();
+    buildIrregularVerbs();
+    buildThirdAndFourthConjugations();
 }
 
 // Fifteen verbs of each regular class, told apart by their number, of which the list counts so many.
 void fillLists(const std::vector<std::int16_t>& counts)
 {
     std::copy(counts.begin(), counts.end(), verbList.Count.begin() + 1);
-    for (int verbClass = 1; verbClass <= verbs::LastRegularClass; ++verbClass)
-        for (int number = 1; number <= verbs::MostVerbs; ++number) {
+    for (int verbClass = 1; verbClass <= LastRegularClass; ++verbClass)
+        for (int number = 1; number <= MostVerbs; ++number) {
             const std::string n = std::to_string(number);
-            verbs::storeVerb(verbClass, number,
-                             {n + "p", n + "f", n + "s", {n, n + "t", n + "en", n + "ing"}});
+            storeVerb(verbClass, number, {n + "p", n + "f", n + "s", {n, n + "t", n + "en", n + "ing"}});
             verbList.German[verbClass][number - 1] = n + "extra";
         }
 }
@@ -88,23 +192,19 @@ TEST_F(Generators, WriteThePagesOfAGrammarOverTheVerbBeforeWithMarksAndWithout)
 {
     fillLists({1, 1, 1, 1, 1});
     buildAll();
-    for (const int verbClass : {verbs::Esse, verbs::Velle})
+    for (const int verbClass : {Esse, Velle})
         std::fill_n(verbTables.Forms[verbClass].begin() + 1, 66, "stale");
     for (const platform::Flag marks : {platform::FlagFalse, platform::FlagTrue}) {
         settings.ShowVowelLength = marks;
         for (const auto& [verbClass, present, perfect, supine, infinitive] : Models)
-            if (verbClass <= verbs::LastRegularClass)
-                verbs::storeVerb(verbClass, 1, {present, perfect, supine, {}});
+            if (verbClass <= LastRegularClass)
+                storeVerb(verbClass, 1, {present, perfect, supine, {}});
         buildAll();
         for (const Model& verb : Models) {
-            const auto& column = verbTables.Forms[verb.verbClass];
-            // amo has every tense, and comes first. What the pages do not have is empty.
-            for (int number = 1; number < column.size(); ++number) {
-                const auto form = static_cast<std::size_t>(number - 1);
-                const auto tense = form < 126 ? tests::Pages.at(form / 6).tense : "";
-                EXPECT_EQ(column[number], form < 126 ? shown(formOf(verb, tense, form % 6)) : "")
-                    << verb.infinitive << ", " << tense;
-            }
+            for (int tense = PresentIndicative; tense <= BlockCount; ++tense)
+                for (int person = FirstSingular; person <= PersonCount; ++person)
+                    EXPECT_EQ(verbTables.Forms[verb.verbClass][formNumber(tense, person)],
+                              shown(formOf(verb, tense, person)));
             EXPECT_EQ(verbTables.Infinitive[verb.verbClass], shown(verb.infinitive));
         }
     }
@@ -113,17 +213,14 @@ TEST_F(Generators, WriteThePagesOfAGrammarOverTheVerbBeforeWithMarksAndWithout)
 TEST_F(Generators, ShortenTheImperativeOfThreeStemsOnly)
 {
     settings.ShowVowelLength = platform::FlagTrue;
-    // clang-format off
-    const std::vector<std::pair<std::string, std::string>> cases = {
-        {"dic", "dic"}, {"duc", "duc"}, {"du:c", "du:c"}, {"di:c", "di:ce"}, {"fac", "face"}, {"fer", "fere"}};
-    // clang-format on
-    for (const auto& [stem, imperative] : cases) {
-        for (const int verbClass : {verbs::ThirdConjugation, verbs::ThirdIoConjugation})
-            verbs::storeVerb(verbClass, 1, {stem, "", "", {}});
+    for (const std::string stem : {"dic", "duc", "du:c", "di:c", "fac", "fer"}) {
+        for (const int verbClass : {ThirdConjugation, ThirdIoConjugation})
+            storeVerb(verbClass, 1, {stem, "", "", {}});
         buildAll();
-        EXPECT_EQ(verbTables.Forms[verbs::ThirdConjugation][62], imperative);
-        EXPECT_EQ(verbTables.Forms[verbs::ThirdConjugation][65], stem + "ite");
-        EXPECT_EQ(verbTables.Forms[verbs::ThirdIoConjugation][62], stem + "e");
+        const bool bare = stem == "dic" || stem == "duc" || stem == "du:c";
+        EXPECT_EQ(verbTables.Forms[ThirdConjugation][62], bare ? stem : stem + "e");
+        EXPECT_EQ(verbTables.Forms[ThirdConjugation][65], stem + "ite");
+        EXPECT_EQ(verbTables.Forms[ThirdIoConjugation][62], stem + "e");
     }
 }
 
@@ -132,28 +229,27 @@ TEST_F(Generators, DrawEveryVerbThatTheListCountsWithItsStemsAndTranslations)
 {
     settings.CurrentLanguage = "German";
     fillLists({15, 7, 1, 4, 0});
-    std::array<std::set<std::string>, 6> drawn;
+    std::map<int, std::set<std::string>> drawn;
     for (int run = 0; run < 400; ++run) {
         buildAll();
-        for (int verbClass = 1; verbClass <= verbs::LastRegularClass; ++verbClass) {
+        for (int verbClass = 1; verbClass <= LastRegularClass; ++verbClass) {
             const std::string n = verbTables.BaseGloss[verbClass];
-            const bool graebe = verbClass == verbs::FourthConjugation && n == "4";
-            const std::string extra = graebe ? "gräbe" : n + "extra";
-            const auto& forms = verbTables.Forms[verbClass];
-            EXPECT_EQ(forms[21] + forms[88] + verbTables.Infinitive[verbClass].substr(0, n.size() + 1),
-                      n + "fit" + n + "si sumus" + n + "p");
-            EXPECT_EQ(verbTables.PastGloss[verbClass] + verbTables.ParticipleGloss[verbClass],
-                      n + "t" + n + "en");
-            EXPECT_EQ(verbTables.PresentParticipleGloss[verbClass], n + "ing");
+            const std::string extra = verbClass == FourthConjugation && n == "4" ? "gräbe" : n + "extra";
+            EXPECT_EQ(verbTables.Forms[verbClass][21] + verbTables.Forms[verbClass][88],
+                      n + "fit" + n + "si sumus");
+            EXPECT_EQ(verbTables.Infinitive[verbClass].substr(0, n.size() + 1), n + "p");
+            EXPECT_EQ(verbTables.PastGloss[verbClass] + verbTables.ParticipleGloss[verbClass] +
+                          verbTables.PresentParticipleGloss[verbClass],
+                      n + "t" + n + "en" + n + "ing");
             EXPECT_EQ(verbTables.GermanGloss[verbClass - 1], verbClass == 1 ? "" : extra);
-            drawn.at(static_cast<std::size_t>(verbClass)).insert(n);
+            drawn[verbClass].insert(n);
         }
     }
     // An empty list yields its first verb.
-    for (const auto& [verbClass, count] : {std::pair{1U, 15U}, {2, 7}, {3, 1}, {4, 4}, {5, 1}})
-        EXPECT_EQ(drawn.at(verbClass).size(), count) << verbClass;
-    EXPECT_EQ(drawn[4], (std::set<std::string>{"1", "2", "3", "4"}));
-    EXPECT_EQ(drawn[5], std::set<std::string>{"1"});
+    for (const auto& [verbClass, count] : {std::pair{1, 15U}, {2, 7}, {3, 1}, {4, 4}, {5, 1}}) {
+        EXPECT_EQ(drawn[verbClass].size(), count) << verbClass;
+        EXPECT_TRUE(drawn[verbClass].contains("1"));
+    }
 }
 
 TEST_F(Generators, TranslateTheIrregularVerbsByLanguage)
@@ -164,18 +260,17 @@ TEST_F(Generators, TranslateTheIrregularVerbsByLanguage)
     const std::string none = "- - - - - - - - - - - - - - - ";
     for (const std::string language : {"English", "French", "Italian", "Spanish", "German", "Latin"}) {
         settings.CurrentLanguage = language;
-        auto& tables = verbTables;
-        const auto slots = {&tables.BaseGloss, &tables.PastGloss, &tables.ParticipleGloss,
-                            &tables.PresentParticipleGloss};
+        const auto slots = {&verbTables.BaseGloss, &verbTables.PastGloss, &verbTables.ParticipleGloss,
+                            &verbTables.PresentParticipleGloss};
         for (auto* const slot : slots)
             slot->fill("-");
-        tables.GermanGloss.fill("-");
-        verbs::buildIrregularVerbs();
+        verbTables.GermanGloss.fill("-");
+        buildIrregularVerbs();
         std::string glosses;
-        for (int verbClass = verbs::Esse; verbClass <= verbs::Ferre; ++verbClass) {
+        for (int verbClass = Esse; verbClass <= Ferre; ++verbClass) {
             for (auto* const slot : slots)
                 glosses += (*slot)[verbClass] + " ";
-            glosses += tables.GermanGloss[verbClass - 1] + " ";
+            glosses += verbTables.GermanGloss[verbClass - 1] + " ";
         }
         EXPECT_EQ(glosses, language == "German" ? german : language == "Latin" ? none : english) << language;
     }
