@@ -254,24 +254,21 @@ TEST_F(Generators, DrawEveryVerbThatTheListCountsWithItsStemsAndTranslations)
 
 TEST_F(Generators, TranslateTheIrregularVerbsByLanguage)
 {
-    // Of esse, velle, ferre the four translations and the German one; "-": the slot keeps what it held.
-    const std::string english = "be was been being - want wanted wanted wanting - bear bore borne bearing - ";
-    const std::string german = "bin war gewesen - - woll wollte gewollt - - trag trug getragen trüge träg ";
+    // Each translation of esse, velle, ferre, and then the German one; "-": the slot keeps what it held.
+    const std::string english = "be want bear was wanted bore been wanted borne being wanting bearing - - - ";
+    const std::string german = "bin woll trag war wollte trug gewesen gewollt getragen - - trüge - - träg ";
     const std::string none = "- - - - - - - - - - - - - - - ";
     for (const std::string language : {"English", "French", "Italian", "Spanish", "German", "Latin"}) {
         settings.CurrentLanguage = language;
         const auto slots = {&verbTables.BaseGloss, &verbTables.PastGloss, &verbTables.ParticipleGloss,
-                            &verbTables.PresentParticipleGloss};
+                            &verbTables.PresentParticipleGloss, &verbTables.GermanGloss};
         for (auto* const slot : slots)
             slot->fill("-");
-        verbTables.GermanGloss.fill("-");
         buildIrregularVerbs();
         std::string glosses;
-        for (int verbClass = Esse; verbClass <= Ferre; ++verbClass) {
-            for (auto* const slot : slots)
-                glosses += (*slot)[verbClass] + " ";
-            glosses += verbTables.GermanGloss[verbClass - 1] + " ";
-        }
+        for (auto* const slot : slots)
+            for (int verbClass = Esse; verbClass <= Ferre; ++verbClass)
+                glosses += (*slot)[slot == &verbTables.GermanGloss ? verbClass - 1 : verbClass] + " ";
         EXPECT_EQ(glosses, language == "German" ? german : language == "Latin" ? none : english) << language;
     }
 }
