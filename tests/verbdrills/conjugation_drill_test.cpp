@@ -102,34 +102,29 @@ TEST_F(ConjugationDrill, GoesThroughEveryTenseOfAClassOrWithATenseThroughTheRegu
 TEST_F(ConjugationDrill, AsksInRandomOrderFromAnyPersonToAnyOther)
 {
     settings.QuestionOrder = "Random";
-    std::set<Round> orders;
-    std::set<std::pair<int, int>> starts;
+    std::set<std::pair<int, int>> startsAndNext;
     for (std::uint64_t seed = 1; seed <= 400; ++seed) {
         platform::seedWith(seed);
         beginParadigm(0);
         playRound(1, 1);
-        orders.insert(persons);
-        starts.emplace(persons.front(), conjugationDrill.PersonIndex);
+        startsAndNext.emplace(persons.front(), conjugationDrill.PersonIndex);
         EXPECT_EQ(conjugationDrill.RoundStartPerson, conjugationDrill.PersonIndex);
         resetAfterLeaving();
     }
-    EXPECT_EQ(starts.size(), 36U);
-    EXPECT_GT(orders.size(), 200U);
+    EXPECT_EQ(startsAndNext.size(), 36U);
 }
 
 TEST_F(ConjugationDrill, JudgesLetterByLetter)
 {
     settings.ShowVowelLength = platform::FlagTrue;
     beginParadigm(0);
-    conjugationDrill.FormRow = 1;
-    setConjugationQuestion();
-    for (const char* const wrong : {"amas", "Ama:s", " ama:s", "ama:s ", "ama:s:", "ama:", "ama\u0304s", ""})
-        EXPECT_FALSE(judgeConjugation(wrong)) << wrong;
-    EXPECT_TRUE(judgeConjugation("ama:s"));
-    conjugationDrill.FormRow = 60; // the imperative has no first person
-    setConjugationQuestion();
-    EXPECT_FALSE(judgeConjugation(" "));
-    EXPECT_TRUE(judgeConjugation(""));
+    for (const auto& [row, right] : {std::pair{1, "ama:s"}, {60, ""}}) { // the imperative has no first person
+        conjugationDrill.FormRow = static_cast<std::int16_t>(row);
+        setConjugationQuestion();
+        for (const std::string answer :
+             {"ama:s", "", " ", "amas", "Ama:s", " ama:s", "ama:s ", "ama:s:", "ama\u0304s"})
+            EXPECT_EQ(judgeConjugation(answer), answer == right) << answer;
+    }
 }
 
 } // namespace
