@@ -1,12 +1,15 @@
 #include "shell/settings.h"
 #include "tests/support/fresh_state.h"
+#include "verbdrills/conjugation_choice.h"
 #include "verbs/generators.h"
-#include "verbs/verb_list.h"
+#include "verbs/verb_edits.h"
+#include "verbs/verb_list_file.h"
 #include "verbs/verb_tables.h"
 
 #include <algorithm>
 #include <iterator>
 #include <map>
+#include <numeric>
 #include <set>
 #include <sstream>
 #include <vector>
@@ -17,6 +20,7 @@ using namespace verbs;
 using shell::settings;
 
 using Generators = tests::FreshState;
+using VerbList = tests::FreshState;
 
 struct Model {
     int verbClass;
@@ -143,36 +147,25 @@ std::string formOf(const Model& verb, int tense, int person)
     return verb.supine + participle + formOnPage(Esse, ofSum, person);
 }
 
-// A text of the pages as the settings have it shown.
-std::string shown(std::string text)
-{
-    if (settings.VowelMark.empty())
-        std::erase(text, ':');
-    return text;
-}
-
-void buildAll()
-{
-    buildRegularConjugations();
-    buildIrregularVerbs();
-    buildThirdAndFourthConjugations();
-}
-
 TEST_F(Generators, WriteThePagesOfAGrammarOverTheVerbBeforeWithMarksAndWithout)
 {
     for (const Model& verb : Models)
         std::fill_n(verbTables.Forms[verb.verbClass].begin() + 1, verb.supine.empty() ? 66 : 126, "stale");
     for (const platform::Flag marks : {platform::FlagFalse, platform::FlagTrue}) {
         settings.ShowVowelLength = marks;
-        for (const Model& verb : Models)
-            if (verb.verbClass <= LastRegularClass)
-                storeVerb(verb.verbClass, 1, {verb.present, verb.perfect, verb.supine, {}});
-        buildAll();
+        const auto shown = [=](std::string text) {
+            if (marks == platform::FlagFalse)
+                std::erase(text, ':');
+            return text;
+        };
+        for (const auto& [verbClass, present, perfect, supine, infinitive, singular, plural] : Models)
+            if (verbClass <= LastRegularClass)
+                storeVerb(verbClass, 1, {present, perfect, supine, {}});
+        verbdrills::generateParadigms();
         for (const Model& verb : Models) {
-            for (int tense = PresentIndicative; tense <= BlockCount; ++tense)
-                for (int person = FirstSingular; person <= PersonCount; ++person)
-                    EXPECT_EQ(verbTables.Forms[verb.verbClass][formNumber(tense, person)],
-                              shown(formOf(verb, tense, person)));
+            for (int form = 0; form < FormCount; ++form)
+                EXPECT_EQ(verbTables.Forms[verb.verbClass][form + 1],
+                          shown(formOf(verb, form / 6 + 1, form % 6 + 1)));
             EXPECT_EQ(verbTables.Infinitive[verb.verbClass], shown(verb.infinitive));
         }
     }
@@ -184,7 +177,7 @@ TEST_F(Generators, ShortenTheImperativeOfThreeStemsOnly)
     for (const std::string stem : {"dic", "duc", "du:c", "di:c", "fac", "fer"}) {
         for (const int verbClass : {ThirdConjugation, ThirdIoConjugation})
             storeVerb(verbClass, 1, {stem, "", "", {}});
-        buildAll();
+        verbdrills::generateParadigms();
         const bool bare = stem == "dic" || stem == "duc" || stem == "du:c";
         EXPECT_EQ(verbTables.Forms[ThirdConjugation][62], bare ? stem : stem + "e");
         EXPECT_EQ(verbTables.Forms[ThirdConjugation][65], stem + "ite");
@@ -192,61 +185,161 @@ TEST_F(Generators, ShortenTheImperativeOfThreeStemsOnly)
     }
 }
 
-// Fifteen verbs of each class are told apart by their number, and fewer are counted. The clock stands still:
-// seeding anew must still lead to new verbs. An empty list yields its first verb.
+TEST_F(Generators, TranslateTheIrregularVerbsByLanguage)
+{
+    auto& [forms, infinitive, tenses, base, past, participle, present, german, stems, number, titles, names,
+           labels] = verbTables;
+    // The four translations of ferre, and the German one; "-": the slot keeps what it held.
+    for (const std::string language : {"English", "French", "Italian", "Spanish", "German", "Latin"}) {
+        settings.CurrentLanguage = language;
+        for (auto* const slot : {&base, &past, &participle, &present, &german})
+            slot->fill("-");
+        buildIrregularVerbs();
+        EXPECT_EQ(base[Ferre] + " " + past[Ferre] + " " + participle[Ferre] + " " + present[Ferre] + " " +
+                      german[Ferre - 1],
+                  language == "German"  ? "trag trug getragen trüge träg"
+                  : language == "Latin" ? "- - - - -"
+                                        : "bear bore borne bearing -");
+        EXPECT_EQ(present[Esse] + german[Velle - 1],
+                  language == "German" || language == "Latin" ? "--" : "being-");
+    }
+}
+
+using Counts = std::vector<int>; // by class
+
+// A list with so many verbs of each class, the -io verbs before the fourth conjugation. The fields of a verb
+// name its class and number.
+std::string listOf(const Counts& counts, const std::string& separator = "\n")
+{
+    std::string text;
+    for (const std::size_t verbClass : {1U, 2U, 3U, 5U, 4U}) {
+        text += "heading" + separator + std::to_string(counts.at(verbClass - 1)) + separator;
+        for (int number = 1; number <= counts.at(verbClass - 1); ++number)
+            for (const char* const field : {"pre:s", "su:p", "pe:rf", "be", "was", "been", "being"})
+                text += std::to_string(verbClass) + std::to_string(number) + field + separator;
+        text += "heading" + separator;
+    }
+    return text;
+}
+
+bool read(const std::string& text)
+{
+    tests::writeFile("verbs.cfg", text);
+    return readVerbList("verbs.cfg");
+}
+
+// Every verb that is counted stands in the list whole. Returns the counts by class.
+Counts expectEveryVerb()
+{
+    for (int verbClass = 1; verbClass <= LastRegularClass; ++verbClass)
+        for (int number = 1; number <= verbList.Count[verbClass]; ++number) {
+            const std::string n = std::to_string(verbClass) + std::to_string(number);
+            const VerbRecord expected = {
+                n + "pres", n + "perf", n + "sup", {n + "be", n + "was", n + "been", n + "being"}};
+            EXPECT_EQ(verbAt(verbClass, number), expected) << n;
+        }
+    return {verbList.Count.begin() + 1, verbList.Count.end()};
+}
+
+// The list holds fifteen verbs of each class, and counts fewer. The clock stands still: seeding anew must
+// still lead to new verbs. An empty list yields its first verb.
 TEST_F(Generators, DrawEveryVerbThatTheListCountsWithItsStemsAndTranslations)
 {
     settings.CurrentLanguage = "German";
-    const std::array<std::int16_t, 6> counts = {0, 15, 7, 1, 4, 0};
-    std::ranges::copy(counts, verbList.Count.begin());
-    for (int verbClass = 1; verbClass <= LastRegularClass; ++verbClass)
-        for (int number = 1; number <= MostVerbs; ++number) {
-            const std::string n = std::to_string(number);
-            storeVerb(verbClass, number, {n + "p", n + "f", n + "s", {n, n + "t", n + "en", n + "ing"}});
-            verbList.German[verbClass][number - 1] = n + "extra";
-        }
+    read(listOf({15, 15, 15, 15, 15}));
+    std::ranges::copy(std::array<std::int16_t, 6>{0, 15, 7, 1, 4, 0}, verbList.Count.begin());
+    for (auto& german : verbList.German)
+        for (int place = 0; place < MostVerbs; ++place)
+            german[place] = std::to_string(place + 1);
     std::set<std::string> drawn;
     for (int run = 0; run < 400; ++run) {
-        buildAll();
+        verbdrills::generateParadigms();
         for (int verbClass = 1; verbClass <= LastRegularClass; ++verbClass) {
-            const std::string n = verbTables.BaseGloss[verbClass];
-            const std::string extra = verbClass == FourthConjugation && n == "4" ? "gräbe" : n + "extra";
+            const std::string base = verbTables.BaseGloss[verbClass];
+            const std::string n = base.substr(0, base.find('b'));
             const auto& forms = verbTables.Forms[verbClass];
-            EXPECT_EQ(forms[21] + forms[88] + verbTables.Infinitive[verbClass].substr(0, n.size() + 1) +
+            EXPECT_EQ(forms[21] + forms[88] + verbTables.Infinitive[verbClass].substr(0, n.size() + 4) +
                           verbTables.PastGloss[verbClass] + verbTables.ParticipleGloss[verbClass] +
                           verbTables.PresentParticipleGloss[verbClass],
-                      n + "fit" + n + "si sumus" + n + "p" + n + "t" + n + "en" + n + "ing");
-            EXPECT_EQ(verbTables.GermanGloss[verbClass - 1], verbClass == 1 ? "" : extra);
-            drawn.insert(std::to_string(verbClass) + ":" + n);
+                      n + "perfit" + n + "supi sumus" + n + "pres" + n + "was" + n + "been" + n + "being");
+            EXPECT_EQ(verbTables.GermanGloss[verbClass - 1], verbClass == 1 ? ""
+                                                             : n == "44"    ? "gräbe"
+                                                                            : n.substr(1));
+            drawn.insert(n);
         }
     }
     EXPECT_EQ(drawn.size(), 15U + 7 + 1 + 4 + 1);
-    for (const char* const last : {"1:15", "2:7", "3:1", "4:4", "5:1"})
+    for (const char* const last : {"115", "27", "31", "44", "51"})
         EXPECT_TRUE(drawn.contains(last)) << last;
 }
 
-TEST_F(Generators, TranslateTheIrregularVerbsByLanguage)
+TEST_F(VerbList, IsReadBySectionsWhateverEndsTheFieldsAndAgainWithTwoCountsSwapped)
 {
-    // The four translations of ferre, and the German one; "-": the slot keeps what it held.
-    const std::string english = "bear bore borne bearing -";
-    for (const auto& [language, glosses] : {std::pair{"English", english},
-                                            {"French", english},
-                                            {"Italian", english},
-                                            {"Spanish", english},
-                                            {"German", "trag trug getragen trüge träg"},
-                                            {"Latin", "- - - - -"}}) {
-        settings.CurrentLanguage = language;
-        auto& tables = verbTables;
-        for (auto* const slot : {&tables.BaseGloss, &tables.PastGloss, &tables.ParticipleGloss,
-                                 &tables.PresentParticipleGloss, &tables.GermanGloss})
-            slot->fill("-");
-        buildIrregularVerbs();
-        EXPECT_EQ(tables.BaseGloss[Ferre] + " " + tables.PastGloss[Ferre] + " " +
-                      tables.ParticipleGloss[Ferre] + " " + tables.PresentParticipleGloss[Ferre] + " " +
-                      tables.GermanGloss[Ferre - 1],
-                  glosses);
-        EXPECT_EQ(tables.PresentParticipleGloss[Esse], glosses == english ? "being" : "-");
-        EXPECT_EQ(tables.GermanGloss[Velle - 1], "-");
+    for (const char* const separator : {"\n", "\r\n", "\r", ",", " , ", "\t\n  "}) {
+        verbList = {};
+        EXPECT_TRUE(read("\xEF\xBB\xBF" + listOf({2, 1, 3, 15, 2}, separator)));
+        EXPECT_EQ(expectEveryVerb(), (Counts{2, 1, 3, 15, 2}));
+        EXPECT_TRUE(readVerbListAgain("verbs.cfg"));
+        EXPECT_EQ(verbList.Count[FourthConjugation], 2);
+        EXPECT_EQ(verbList.Count[ThirdIoConjugation], 15);
+        EXPECT_EQ(verbAt(ThirdIoConjugation, 3).presentStem, "");
+    }
+}
+
+TEST_F(VerbList, KeepsWhatWasReadBeforeAFaultAndWhatItHadBefore)
+{
+    const Counts all = {2, 1, 2, 2, 2};
+    const std::string list = listOf(all);
+    long whole = 0;
+    for (std::size_t end = 0; end < list.rfind("being"); end = list.find('\n', end + 1)) {
+        const std::string text = list.substr(0, end);
+        whole += text.ends_with("being") ? 1 : 0;
+        verbList = {};
+        EXPECT_FALSE(read(text)) << text;
+        const Counts counts = expectEveryVerb();
+        EXPECT_EQ(std::accumulate(counts.begin(), counts.end(), 0), whole) << text;
+        read(list);
+        EXPECT_FALSE(read(text) || readVerbListAgain("verbs.cfg")) << text;
+        EXPECT_EQ(expectEveryVerb(), all) << text;
+    }
+    EXPECT_FALSE(readVerbList("none.cfg"));
+}
+
+TEST_F(VerbList, StopsAtACountThatCannotBe)
+{
+    for (const auto& [count, counted] : {std::pair{"16", 15}, {"32767", 15}, {"-1", 0}, {"x", 0}}) {
+        verbList = {};
+        EXPECT_FALSE(read(listOf({16, 0, 0, 0, 0}).replace(8, 2, count))) << count;
+        EXPECT_EQ(expectEveryVerb(), (Counts{counted, 0, 0, 0, 0})) << count;
+    }
+}
+
+TEST_F(VerbList, IsFollowedByTheEditsOfTheLearner)
+{
+    read(listOf({2, 14, 0, 0, 0}));
+    settings.ShowVowelLength = platform::FlagTrue;
+    const VerbRecord leads = {"du:c", "du:x", "duct", {"lead", "led", "led", "leading"}};
+    EXPECT_EQ(editVerb(1, 2, leads), VerbEdit::Stored); // in place of the second verb
+    for (const auto& added : {VerbRecord{"du:", "", "", {}}, leads})
+        EXPECT_EQ(editVerb(2, 15, added), VerbEdit::Stored);
+    EXPECT_EQ(editVerb(2, 16, leads), VerbEdit::ListFull);
+    EXPECT_EQ(editVerb(3, 1, {"", "x", "x", {}}), VerbEdit::NoPresentStem);
+    EXPECT_EQ(listedInfinitive(2, 15), "du:cere");
+
+    // Marks come back only to stems that were edited without them.
+    for (const auto& [shown, perfect] :
+         {std::pair{platform::FlagFalse, "11pe:rflike"}, {platform::FlagTrue, "11perflike"}}) {
+        settings.ShowVowelLength = shown;
+        editVerb(1, 1, {"11pres", "11perf", "11sup", {"like", "", "", ""}});
+        settings.ShowVowelLength = platform::FlagTrue;
+        EXPECT_TRUE(readVerbListAgain("verbs.cfg"));
+        EXPECT_EQ(verbList.Count[2], 14);
+        repeatVerbEdits();
+        EXPECT_EQ(verbAt(1, 1).perfectStem + verbAt(1, 1).translations.front(), perfect);
+        EXPECT_EQ(verbList.Count[1], 2);
+        EXPECT_EQ(verbList.Count[2], 15);
+        EXPECT_EQ(verbAt(1, 2), leads);
+        EXPECT_EQ(verbAt(2, 15), leads);
     }
 }
 
