@@ -63,6 +63,7 @@ protected:
         EXPECT_EQ(settings.QuestionOrder == "Random" ? sorted : persons, (Round{0, 1, 2, 3, 4, 5}));
         EXPECT_EQ(fake.beeps, 1);
         orders.insert(persons);
+        settings.AnsweredCount = 7;
         return advance;
     }
 
@@ -95,11 +96,11 @@ TEST_F(ConjugationDrill, GoesThroughEveryTenseOfAClassOrWithATenseThroughTheRegu
             EXPECT_EQ(currentParadigm.WindowTitle, verbClass == 6 || verbClass == 7 ? "" : title);
             EXPECT_EQ(currentParadigm.VerbLabel, verb);
             resetAfterLeaving();
+            EXPECT_EQ(settings.AnsweredCount, 0);
         }
         for (int tense = 1; tense <= BlockCount; ++tense) {
-            settings.AnsweredCount = 7;
             EXPECT_EQ(chooseConjugation(8), ConjugationChoice::SingleTense);
-            chooseTense(tense - 1);
+            EXPECT_TRUE(chooseTense(tense - 1));
             generateParadigms();
             EXPECT_EQ(settings.AnsweredCount, 0);
             for (int verbClass = 1; verbClass <= 5; ++verbClass)
