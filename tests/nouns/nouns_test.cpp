@@ -72,7 +72,7 @@ const std::vector<std::tuple<NounParadigm, std::string, int>> Grammar = {
 };
 // clang-format on
 
-TEST_F(Nouns, AreDeclinedLikeThoseOfTheGrammarWithMarksAndWithout)
+TEST_F(Nouns, AreDeclinedAsInTheGrammarWithMarksAndWithout)
 {
     for (const platform::Flag marks : {platform::FlagTrue, platform::FlagFalse}) {
         readSamples(marks);
@@ -161,7 +161,7 @@ constexpr std::array<std::string_view, ParadigmCount> Expected = {
     "NA   G    D    NA   B     na   g db na   db"}; // nomen
 // clang-format on
 
-TEST_F(Nouns, HaveCasesOfOneForm)
+TEST_F(Nouns, HaveSeveralCasesOfOneForm)
 {
     const std::string letters = "NGDABngdab";
     for (const platform::Flag marks : {platform::FlagFalse, platform::FlagTrue}) {

@@ -139,7 +139,7 @@ std::string formOf(const Model& verb, int tense, int person)
     return verb.supine + participle + formOnPage(Esse, ofSum, person);
 }
 
-TEST_F(Verbs, AreConjugatedLikeThePagesOfAGrammarOverTheVerbBeforeWithMarksAndWithout)
+TEST_F(Verbs, AreConjugatedAsOnThePagesOfAGrammarOverTheVerbBeforeWithMarksAndWithout)
 {
     for (const Model& verb : Models)
         std::fill_n(verbTables.Forms[verb.verbClass].begin() + 1, verb.supine.empty() ? 66 : 126, "stale");
