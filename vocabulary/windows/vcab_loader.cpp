@@ -42,7 +42,6 @@ VcabLoader::VcabLoader() : Window("VcabLoader")
 void VcabLoader::makeControls()
 {
     files_ = shell::makeChoiceList(this, "VcabFile");
-    files_->setSpacing(2);
     open_ = shell::makeButton(this, "VcabLoaderOpen");
     cancel_ = shell::makeButton(this, "VcabLoaderCancel");
 }
