@@ -18,12 +18,9 @@
 
 namespace {
 
+using namespace tests;
 using shell::settings;
 using std::to_string;
-using tests::click;
-using tests::press;
-using tests::shownWindow;
-using tests::type;
 
 struct Drill {
     const char* window;
@@ -38,17 +35,12 @@ struct Drill {
     QColor colour = {};              // of what is typed after a hint
 };
 
-void PrintTo(const Drill& drill, std::ostream* stream)
-{
-    *stream << drill.window;
-}
-
 void chooseFirstForm(QWidget& quiz)
 {
     verbdrills::verbQuiz.QuizRow = 1;
     verbdrills::identifyForm();
-    tests::clickRow(tests::list(quiz, "QuizConjList"), 0);
-    tests::clickRow(tests::list(quiz, "QuizTenseList"), 0);
+    clickRow(list(quiz, "QuizConjList"), 0);
+    clickRow(list(quiz, "QuizTenseList"), 0);
 }
 
 void tickRightCases(QWidget& quiz)
@@ -85,13 +77,13 @@ const std::vector<Drill> Drills = {
 };
 // clang-format on
 
-class DrillWindows : public tests::WindowTest {
+class DrillWindows : public WindowTest {
 protected:
     void SetUp() override
     {
-        tests::copySample("verbs.cfg");
-        tests::copySample("nouns.cfg");
-        tests::writeFile("vr-vcab.lst", "rosa,rose,f.\r\nre:x,king,m.\r\n");
+        copySample("verbs.cfg");
+        copySample("nouns.cfg");
+        writeFile("vr-vcab.lst", "rosa,rose,f.\r\nre:x,king,m.\r\n");
         start();
         settings.QuizTenseInclude.fill(platform::FlagTrue);
     }
@@ -105,7 +97,7 @@ protected:
 
     static QLineEdit& askedBox(QWidget& window, const Drill& drill)
     {
-        return tests::box(window, drill.box, std::stoi(drill.asked()));
+        return box(window, drill.box, std::stoi(drill.asked()));
     }
 };
 
@@ -202,7 +194,7 @@ protected:
 TEST_P(EveryDrill, IsLeftAtOnceInAPauseAndDoesNotMoveOn)
 {
     for (const bool right : {true, false})
-        for (const auto& leave : tests::waysToLeave(drill().quit)) {
+        for (const auto& leave : waysToLeave(drill().quit)) {
             QWidget& window = open();
             answer(window, right);
             const std::string asked = drill().asked();
@@ -221,6 +213,7 @@ TEST_P(EveryDrill, IsLeftAtOnceInAPauseAndDoesNotMoveOn)
 TEST_P(EveryDrill, JudgesOnceWhateverIsPressedInThePauseAndMovesOnAfterARightAnswer)
 {
     QWidget& window = open();
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
     int judged = 0;
     for (const bool right : keepsScore() ? std::vector{false, false, true} : std::vector{true}) {
         answer(window, right);
@@ -231,6 +224,7 @@ TEST_P(EveryDrill, JudgesOnceWhateverIsPressedInThePauseAndMovesOnAfterARightAns
             EXPECT_EQ(drill().asked(), asked);
         });
         click(window, drill().check);
+        QApplication::sendEvent(window.focusWidget(), &held);
         EXPECT_EQ(fake.waits, ++judged);
         EXPECT_EQ(settings.AnsweredCount, keepsScore() ? judged : 0);
         EXPECT_EQ(settings.RightCount, keepsScore() && right);
@@ -241,25 +235,15 @@ TEST_P(EveryDrill, JudgesOnceWhateverIsPressedInThePauseAndMovesOnAfterARightAns
     }
 }
 
-class TypedDrill : public EveryDrill {};
-
-TEST_P(TypedDrill, TakesAHeldEnterForOne)
-{
-    QWidget& window = open();
-    QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
-    answer(window, true);
-    press(window, Qt::Key_Return);
-    for (int i = 0; i < 3; ++i)
-        QApplication::sendEvent(window.focusWidget(), &held);
-    EXPECT_EQ(settings.AnsweredCount, 1);
-}
-
 class BoxDrill : public EveryDrill {};
 
+// What is typed after a click on another box comes into the one that is asked.
 TEST_P(BoxDrill, GreysTheBoxAnsweredRightAndAsksTheNext)
 {
     QWidget& window = open();
     QLineEdit& first = askedBox(window);
+    QTest::mouseClick(&box(window, drill().box, 4), Qt::LeftButton);
+    QApplication::processEvents();
     answer(window, true);
     const QString typed = first.text();
     duringPause([&] { pressEverything(window); });
@@ -267,10 +251,11 @@ TEST_P(BoxDrill, GreysTheBoxAnsweredRightAndAsksTheNext)
     EXPECT_EQ(first.text(), typed);
     EXPECT_EQ(first.palette().color(QPalette::Base), QColor(0x80, 0x80, 0x80));
     EXPECT_EQ(first.palette().color(QPalette::Text), QColor(0xC0, 0xC0, 0xC0));
-    EXPECT_EQ(tests::label(window, "ScoreLabel"), " 100% ");
+    EXPECT_EQ(label(window, "ScoreLabel"), " 100% ");
     EXPECT_EQ(window.focusWidget(), &askedBox(window));
 }
 
+// Left while the answer is shown, it begins anew without it.
 TEST_P(BoxDrill, ShowsTheAnswerInRedForOnePauseWithoutCounting)
 {
     QWidget& window = open();
@@ -297,11 +282,6 @@ TEST_P(BoxDrill, ShowsTheAnswerInRedForOnePauseWithoutCounting)
     }
     EXPECT_EQ(settings.AnsweredCount, 0);
     EXPECT_EQ(&askedBox(window), &box);
-}
-
-TEST_P(BoxDrill, ForgetsTheAnswerShownWhenItIsLeftAndOpenedAnew)
-{
-    QWidget& window = open();
     duringPause([&] {
         click(window, drill().quit);
         EXPECT_EQ(askedBox(open()).text(), "");
@@ -311,17 +291,7 @@ TEST_P(BoxDrill, ForgetsTheAnswerShownWhenItIsLeftAndOpenedAnew)
     EXPECT_EQ(askedBox(window).text(), "a");
 }
 
-TEST_P(BoxDrill, SendsTheFocusBackToTheBoxAsked)
-{
-    QWidget& window = open();
-    QTest::mouseClick(&tests::box(window, drill().box, 4), Qt::LeftButton);
-    QApplication::processEvents();
-    type(window, "a");
-    EXPECT_EQ(askedBox(window).text(), "a");
-}
-
 INSTANTIATE_TEST_SUITE_P(Of, EveryDrill, testing::ValuesIn(Drills));
-INSTANTIATE_TEST_SUITE_P(Of, TypedDrill, testing::ValuesIn(Drills.begin(), Drills.begin() + 4));
 INSTANTIATE_TEST_SUITE_P(Of, BoxDrill, testing::ValuesIn(Drills.begin(), Drills.begin() + 3));
 
 } // namespace
