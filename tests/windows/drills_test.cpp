@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <set>
+#include <span>
 
 namespace {
 
@@ -77,9 +78,28 @@ const std::vector<Drill> Drills = {
 };
 // clang-format on
 
-class DrillWindows : public WindowTest {
+// clang-format off
+// The drill, the row of its chooser, the order of the cases and of the questions, whether boxes are drawn, and these.
+using Order = std::tuple<int, int, const char*, const char*, bool, std::vector<int>>;
+const Order Orders[] = {
+    // Persons.
+    {0, 0, "NGDAAb", "Sequential", false, {0, 1, 2, 3, 4, 5}},
+    {0, 1, "NGDAAb", "Random",     true,  {0, 1, 2, 3, 4, 5}},
+    // Cases of both numbers.
+    {1, 0, "NGDAAb", "Sequential", false, {0, 1, 2, 3, 4, 5, 6, 7, 8, 9}},
+    {1, 3, "NAGDAb", "Sequential", false, {0, 3, 1, 2, 4, 5, 8, 6, 7, 9}},
+    {1, 1, "NGDAAb", "Random",     true,  {0, 1, 2, 3, 4, 5, 6, 7, 8, 9}},
+    // Cases of three persons or genders: the reflexive has no nominative, and the order of the menu draws nothing.
+    {2, 3, "NAGDAb", "Sequential", false, {1, 4, 2, 3, 5, 6, 9, 7, 8, 10, 11, 14, 12, 13, 15}},
+    {2, 0, "NAGDAb", "Sequential", false, {1, 4, 2, 3, 5, 6, 9, 7, 8, 10, 14, 12, 13, 15}},
+    {2, 1, "NGDAAb", "Random",     false, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15}},
+    {2, 0, "NGDAAb", "random",     true,  {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 12, 13, 14, 15}},
+};
+// clang-format on
+
+class EveryDrill : public WindowTest {
 protected:
-    void SetUp() override
+    EveryDrill()
     {
         copySample("verbs.cfg");
         copySample("nouns.cfg");
@@ -99,35 +119,24 @@ protected:
     {
         return box(window, drill.box, std::stoi(drill.asked()));
     }
+
+    static void answer(const Drill& drill, QWidget& window, bool right)
+    {
+        right ? drill.answerRightly(window) : type(window, "x");
+    }
+
+    // Everything that a learner may press while an answer is judged or shown.
+    static void pressEverything(const Drill& drill, QWidget& window)
+    {
+        type(window, "x?/");
+        press(window, Qt::Key_Return);
+        click(window, drill.check);
+        for (const char* const button : drill.others)
+            click(window, button);
+    }
 };
 
-struct Order {
-    int drill; // in the table above
-    int row;   // of its chooser
-    const char* cases;
-    const char* questions;
-    bool drawn;
-    std::vector<int> boxes;
-};
-
-// clang-format off
-const Order Orders[] = {
-    // Persons.
-    {0, 0, "NGDAAb", "Sequential", false, {0, 1, 2, 3, 4, 5}},
-    {0, 1, "NGDAAb", "Random",     true,  {0, 1, 2, 3, 4, 5}},
-    // Cases of both numbers.
-    {1, 0, "NGDAAb", "Sequential", false, {0, 1, 2, 3, 4, 5, 6, 7, 8, 9}},
-    {1, 3, "NAGDAb", "Sequential", false, {0, 3, 1, 2, 4, 5, 8, 6, 7, 9}},
-    {1, 1, "NGDAAb", "Random",     true,  {0, 1, 2, 3, 4, 5, 6, 7, 8, 9}},
-    // Cases of three persons or genders: the reflexive has no nominative, and the order of the menu draws nothing.
-    {2, 3, "NAGDAb", "Sequential", false, {1, 4, 2, 3, 5, 6, 9, 7, 8, 10, 11, 14, 12, 13, 15}},
-    {2, 0, "NAGDAb", "Sequential", false, {1, 4, 2, 3, 5, 6, 9, 7, 8, 10, 14, 12, 13, 15}},
-    {2, 1, "NGDAAb", "Random",     false, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15}},
-    {2, 0, "NGDAAb", "random",     true,  {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 12, 13, 14, 15}},
-};
-// clang-format on
-
-TEST_F(DrillWindows, AskEachBoxOnceInTheOrderThatIsSetAndThenOtherForms)
+TEST_F(EveryDrill, AskEachBoxOnceInTheOrderThatIsSetAndThenOtherForms)
 {
     for (const auto& [number, row, cases, questions, drawn, boxes] : Orders) {
         const Drill& drill = Drills.at(static_cast<std::size_t>(number));
@@ -158,140 +167,101 @@ TEST_F(DrillWindows, AskEachBoxOnceInTheOrderThatIsSetAndThenOtherForms)
     }
 }
 
-class EveryDrill : public DrillWindows, public testing::WithParamInterface<Drill> {
-protected:
-    QWidget& open() { return DrillWindows::open(drill()); }
-
-    static const Drill& drill() { return GetParam(); }
-    static bool keepsScore() { return drill().asked != nouns::drawnIndexes; }
-    static QLineEdit& askedBox(QWidget& window) { return DrillWindows::askedBox(window, drill()); }
-
-    static void answer(QWidget& window, bool right)
-    {
-        if (right)
-            drill().answerRightly(window);
-        else
-            type(window, "x");
-    }
-
-    // Everything that a learner may press while an answer is judged or shown.
-    static void pressEverything(QWidget& window)
-    {
-        type(window, "x?/");
-        press(window, Qt::Key_Return);
-        click(window, drill().check);
-        for (const char* const button : drill().others)
-            click(window, button);
-    }
-
-    static void expectNoFeedback()
-    {
-        EXPECT_EQ(shownWindow("Bravo"), nullptr);
-        EXPECT_EQ(shownWindow("Wrong"), nullptr);
-    }
-};
-
-TEST_P(EveryDrill, IsLeftAtOnceInAPauseAndDoesNotMoveOn)
+TEST_F(EveryDrill, IsLeftAtOnceInAPauseAndDoesNotMoveOn)
 {
-    for (const bool right : {true, false})
-        for (const auto& leave : waysToLeave(drill().quit)) {
-            QWidget& window = open();
-            answer(window, right);
-            const std::string asked = drill().asked();
-            duringPause([&] {
-                leave(window);
-                expectNoFeedback();
-                EXPECT_NE(shownWindow(drill().back), nullptr);
-            });
-            click(window, drill().check);
-            expectNoFeedback();
-            EXPECT_EQ(shownWindow(drill().window), nullptr);
-            EXPECT_EQ(drill().asked(), asked);
-        }
+    for (const Drill& drill : Drills)
+        for (const bool right : {true, false})
+            for (const auto& leave : waysToLeave(drill.quit)) {
+                QWidget& window = open(drill);
+                answer(drill, window, right);
+                const std::string asked = drill.asked();
+                duringPause([&] {
+                    leave(window);
+                    EXPECT_FALSE(shownWindow("Bravo") || shownWindow("Wrong")) << drill.window;
+                    EXPECT_NE(shownWindow(drill.back), nullptr) << drill.window;
+                });
+                click(window, drill.check);
+                EXPECT_FALSE(shownWindow("Bravo") || shownWindow("Wrong")) << drill.window;
+                EXPECT_EQ(shownWindow(drill.window), nullptr);
+                EXPECT_EQ(drill.asked(), asked) << drill.window;
+            }
 }
 
-TEST_P(EveryDrill, JudgesOnceWhateverIsPressedInThePauseAndMovesOnAfterARightAnswer)
+// A box that was answered right turns grey. What is typed after a click on another comes into the one asked.
+TEST_F(EveryDrill, JudgesOnceWhateverIsPressedInThePauseAndMovesOnAfterARightAnswer)
 {
-    QWidget& window = open();
     QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
-    int judged = 0;
-    for (const bool right : keepsScore() ? std::vector{false, false, true} : std::vector{true}) {
-        answer(window, right);
-        const std::string asked = drill().asked();
-        duringPause([&] {
-            EXPECT_EQ(shownWindow(right ? "Bravo" : "Wrong") != nullptr, keepsScore());
-            pressEverything(window);
-            EXPECT_EQ(drill().asked(), asked);
-        });
-        click(window, drill().check);
-        QApplication::sendEvent(window.focusWidget(), &held);
-        EXPECT_EQ(fake.waits, ++judged);
-        EXPECT_EQ(settings.AnsweredCount, keepsScore() ? judged : 0);
-        EXPECT_EQ(settings.RightCount, keepsScore() && right);
-        EXPECT_EQ(drill().asked() != asked, right);
-        expectNoFeedback();
-        for (const QLineEdit* const box : window.findChildren<QLineEdit*>())
-            EXPECT_NE(box->text(), "x");
+    for (const Drill& drill : Drills) {
+        const bool keepsScore = drill.window != std::string("NounQuiz");
+        QWidget& window = open(drill);
+        fake.waits = settings.AnsweredCount = settings.RightCount = 0;
+        int judged = 0;
+        for (const bool right : keepsScore ? std::vector{false, false, true} : std::vector{true}) {
+            const bool hasBoxes = *drill.box != '\0';
+            QLineEdit* const asksIn = hasBoxes ? &askedBox(window, drill) : nullptr;
+            if (hasBoxes)
+                QTest::mouseClick(&box(window, drill.box, 4), Qt::LeftButton);
+            QApplication::processEvents();
+            answer(drill, window, right);
+            const std::string asked = drill.asked();
+            duringPause([&] {
+                EXPECT_EQ(shownWindow(right ? "Bravo" : "Wrong") != nullptr, keepsScore) << drill.window;
+                pressEverything(drill, window);
+                EXPECT_EQ(drill.asked(), asked) << drill.window;
+            });
+            click(window, drill.check);
+            QApplication::sendEvent(window.focusWidget(), &held);
+            EXPECT_EQ(fake.waits, ++judged) << drill.window;
+            EXPECT_EQ(settings.AnsweredCount, keepsScore ? judged : 0) << drill.window;
+            EXPECT_EQ(settings.RightCount, keepsScore && right) << drill.window;
+            EXPECT_EQ(drill.asked() != asked, right) << drill.window;
+            EXPECT_FALSE(shownWindow("Bravo") || shownWindow("Wrong")) << drill.window;
+            for (const QLineEdit* const box : window.findChildren<QLineEdit*>()) {
+                const bool grey = right && box == asksIn;
+                EXPECT_EQ(box->text().isEmpty(), !grey) << drill.window;
+                EXPECT_EQ(box->palette().color(QPalette::Base) == QColor(0x80, 0x80, 0x80), grey);
+                EXPECT_EQ(box->palette().color(QPalette::Text) == QColor(0xC0, 0xC0, 0xC0), grey);
+            }
+            EXPECT_TRUE(!hasBoxes || window.focusWidget() == &askedBox(window, drill)) << drill.window;
+            EXPECT_TRUE(!hasBoxes || !right || label(window, "ScoreLabel") == " 33% ") << drill.window;
+        }
     }
-}
-
-class BoxDrill : public EveryDrill {};
-
-// What is typed after a click on another box comes into the one that is asked.
-TEST_P(BoxDrill, GreysTheBoxAnsweredRightAndAsksTheNext)
-{
-    QWidget& window = open();
-    QLineEdit& first = askedBox(window);
-    QTest::mouseClick(&box(window, drill().box, 4), Qt::LeftButton);
-    QApplication::processEvents();
-    answer(window, true);
-    const QString typed = first.text();
-    duringPause([&] { pressEverything(window); });
-    press(window, Qt::Key_Return);
-    EXPECT_EQ(first.text(), typed);
-    EXPECT_EQ(first.palette().color(QPalette::Base), QColor(0x80, 0x80, 0x80));
-    EXPECT_EQ(first.palette().color(QPalette::Text), QColor(0xC0, 0xC0, 0xC0));
-    EXPECT_EQ(label(window, "ScoreLabel"), " 100% ");
-    EXPECT_EQ(window.focusWidget(), &askedBox(window));
 }
 
 // Left while the answer is shown, it begins anew without it.
-TEST_P(BoxDrill, ShowsTheAnswerInRedForOnePauseWithoutCounting)
+TEST_F(EveryDrill, ShowsTheAnswerInRedForOnePauseWithoutCounting)
 {
-    QWidget& window = open();
-    QLineEdit& box = askedBox(window);
-    answer(window, true);
-    const QString right = box.text();
-    std::vector<std::function<void()>> asking = {[&] { type(window, "/"); }, [&] { type(window, "?"); }};
-    for (const char* const button : drill().others)
-        asking.push_back([&, button] { click(window, button); });
-    for (const auto& ask : asking) {
-        box.setText("b");
-        fake.waits = 0;
+    for (const Drill& drill : std::span(Drills).first(3)) {
+        QWidget& window = open(drill);
+        QLineEdit& box = askedBox(window, drill);
+        answer(drill, window, true);
+        const QString right = box.text();
+        std::vector<const char*> ways = {"/", "?"};
+        ways.insert(ways.end(), drill.others.begin(), drill.others.end());
+        for (const QString way : ways) {
+            box.setText("b");
+            fake.waits = 0;
+            duringPause([&] {
+                EXPECT_EQ(box.palette().color(QPalette::Text), QColor(Qt::red));
+                pressEverything(drill, window);
+                EXPECT_EQ(box.text(), right);
+            });
+            way.size() == 1 ? type(window, way) : click(window, way);
+            EXPECT_EQ(fake.waits, 1);
+            EXPECT_EQ(box.text(), "");
+            EXPECT_EQ(box.palette().color(QPalette::Text), drill.colour);
+            EXPECT_EQ(window.focusWidget(), &box);
+        }
+        EXPECT_EQ(settings.AnsweredCount, 0);
+        EXPECT_EQ(&askedBox(window, drill), &box);
         duringPause([&] {
-            EXPECT_EQ(box.text(), right);
-            EXPECT_EQ(box.palette().color(QPalette::Text), QColor(Qt::red));
-            pressEverything(window);
-            EXPECT_EQ(box.text(), right);
+            click(window, drill.quit);
+            EXPECT_EQ(askedBox(open(drill), drill).text(), "");
+            type(window, "a");
         });
-        ask();
-        EXPECT_EQ(fake.waits, 1);
-        EXPECT_EQ(box.text(), "");
-        EXPECT_EQ(box.palette().color(QPalette::Text), drill().colour);
-        EXPECT_EQ(window.focusWidget(), &box);
+        type(window, "?");
+        EXPECT_EQ(askedBox(window, drill).text(), "a");
     }
-    EXPECT_EQ(settings.AnsweredCount, 0);
-    EXPECT_EQ(&askedBox(window), &box);
-    duringPause([&] {
-        click(window, drill().quit);
-        EXPECT_EQ(askedBox(open()).text(), "");
-        type(window, "a");
-    });
-    type(window, "?");
-    EXPECT_EQ(askedBox(window).text(), "a");
 }
-
-INSTANTIATE_TEST_SUITE_P(Of, EveryDrill, testing::ValuesIn(Drills));
-INSTANTIATE_TEST_SUITE_P(Of, BoxDrill, testing::ValuesIn(Drills.begin(), Drills.begin() + 3));
 
 } // namespace
