@@ -99,7 +99,7 @@ const std::string& askedForm()
 
 const std::string& askedNoun()
 {
-    return nounName(nounQuestion.QuizParadigmIndex + 1);
+    return nounTables.NounCaption[nounQuestion.QuizParadigmIndex + 1];
 }
 
 std::string drawnIndexes()

@@ -38,7 +38,7 @@ CaseSet casesOfOneForm(int paradigmIndex, int caseIndex);
 /// and the ablative plural are never drawn.
 void drawNounQuestion();
 
-/// The form that is asked about, and the caption of its noun.
+/// The form that is asked about, and the caption of its noun; empty in a language that builds none.
 const std::string& askedForm();
 const std::string& askedNoun();
 

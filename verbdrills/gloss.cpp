@@ -1,6 +1,7 @@
 #include "verbdrills/gloss.h"
 
 #include "shell/settings.h"
+#include "verbs/paradigm_titles.h"
 #include "verbs/verb_tables.h"
 
 namespace verbdrills {
@@ -9,11 +10,17 @@ namespace {
 
 constexpr std::string_view LanguageOfGermanGlosses = "Kraut"; // sic
 
-GlossParts partsOf(int verbClass, int person)
+GlossParts partsOf(int verbClass, std::string_view person)
 {
     const auto& tables = verbs::verbTables;
-    return {tables.PersonLabels[person], tables.BaseGloss[verbClass], tables.PastGloss[verbClass],
+    return {person, tables.BaseGloss[verbClass], tables.PastGloss[verbClass],
             tables.ParticipleGloss[verbClass], tables.PresentParticipleGloss[verbClass]};
+}
+
+// The interface speaks English where the glosses speak German.
+std::string_view germanPerson(int person)
+{
+    return verbs::GermanPersons.at(static_cast<std::size_t>(person - verbs::FirstSingular));
 }
 
 } // namespace
@@ -24,9 +31,10 @@ std::optional<std::string> glossOfPerson(int person)
     const int verbClass = verbs::currentParadigm.ConjugationCode;
     const std::string& language = shell::settings.CurrentLanguage;
     if (language == shell::language::English)
-        return englishGloss(block, verbClass, person, partsOf(verbClass, person));
+        return englishGloss(block, verbClass, person,
+                            partsOf(verbClass, verbs::verbTables.PersonLabels[person]));
     if (language == LanguageOfGermanGlosses)
-        return germanGloss(block, verbClass, person, partsOf(verbClass, person));
+        return germanGloss(block, verbClass, person, partsOf(verbClass, germanPerson(person)));
     return {};
 }
 

@@ -6,7 +6,7 @@
 
 namespace verbdrills {
 
-/// What a gloss is made of: the person's label and the verb's translations.
+/// What a gloss is made of: the person as the gloss's language names it, and the verb's translations.
 struct GlossParts {
     std::string_view label;
     std::string_view base;

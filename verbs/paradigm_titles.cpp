@@ -53,10 +53,7 @@ constexpr std::array<LanguageTexts, BlockCount> TitlesOfTenses = {{
 }};
 // clang-format on
 
-using PersonLabels = std::array<std::string_view, PersonCount>;
-
-constexpr PersonLabels EnglishPersons = {"I", "you", "he, she, it", "we", "all of you", "they"};
-constexpr PersonLabels GermanPersons = {"ich", "du", "er/ sie/ es", "wir", "ihr", "sie"};
+constexpr Persons EnglishPersons = {"I", "you", "he, she, it", "we", "all of you", "they"};
 
 void setClassTitle(int verbClass)
 {

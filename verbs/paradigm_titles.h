@@ -1,6 +1,15 @@
 #pragma once
 
+#include "verbs/paradigm.h"
+
+#include <array>
+#include <string_view>
+
 namespace verbs {
+
+/// The persons, first to third singular, first to third plural, as one language names them.
+using Persons = std::array<std::string_view, PersonCount>;
+inline constexpr Persons GermanPersons = {"ich", "du", "er/ sie/ es", "wir", "ihr", "sie"};
 
 /// Writes the title of the current class and all 21 tense titles into `verbTables`, in the language of the
 /// interface, and what the drill's window shows of the current ones into `currentParadigm`: the window title

@@ -22,27 +22,31 @@ namespace nouns {
 
 using shell::Caption;
 using shell::Part;
+using shell::settings;
 
 namespace {
 
 constexpr QSize LargestBlock{92, 36};
 
-// Places of the window: its frames, and the rows in a frame.
+// Places in twips: of the frames and the names of the cases in the window, of the boxes in their frame. The
+// last row ends where a sixth would begin.
+using RowTops = std::array<int, CasesOfNumber + 1>;
 constexpr int TwipsOfPixel = 15;
-constexpr int FrameTop = 1890 / TwipsOfPixel;
-constexpr int FirstRowTop = 360 / TwipsOfPixel;
-constexpr int RowHeight = 600 / TwipsOfPixel;
+constexpr int FrameTop = 1890;
+constexpr RowTops BoxTops = {360, 960, 1560, 2160, 2760, 3360};
+constexpr RowTops NameTops = {2250, 2850, 3450, 4050, 4650, 5250};
+constexpr RowTops NameTopsWithAccusativeSecond = {2250, 2850, 3465, 4050, 4650, 5250}; // sic
 
-constexpr int LabelColumn = 0;
-constexpr int BoxColumn = 1;
-
-QGridLayout* layOutFrame(QGroupBox& frame)
+void placeTops(QGridLayout& rows, const RowTops& tops)
 {
-    QGridLayout* const rows = shell::gridOf(shell::MediumSpace, 0);
-    rows->setColumnStretch(BoxColumn, 1);
-    for (int row = 0; row < CasesOfNumber; ++row)
-        rows->setRowMinimumHeight(row, RowHeight);
-    frame.setLayout(rows);
+    for (std::size_t row = 0; row + 1 < tops.size(); ++row)
+        rows.setRowMinimumHeight(static_cast<int>(row), (tops.at(row + 1) - tops.at(row)) / TwipsOfPixel);
+}
+
+QGridLayout* makeRows()
+{
+    QGridLayout* const rows = shell::gridOf(0, 0);
+    placeTops(*rows, BoxTops);
     return rows;
 }
 
@@ -96,29 +100,38 @@ void Declination::layOut()
 {
     QBoxLayout* const heading =
         withScore({shell::columnOf(shell::HairSpace, {heading_, {noun_, 1, Qt::AlignTop}}), 1});
-    // Gives way on a small screen, where the buttons matter more than the frames' place.
-    heading->addSpacerItem(new QSpacerItem(0, FrameTop - shell::LargeSpace - shell::MediumSpace,
-                                           QSizePolicy::Fixed, QSizePolicy::Maximum));
-    singularRows_ = layOutFrame(*singular_);
-    pluralRows_ = layOutFrame(*plural_);
+    nameRows_ = makeRows();
+    singularRows_ = makeRows();
+    pluralRows_ = makeRows();
+    singular_->setLayout(shell::rowOf(shell::MediumSpace, {nameRows_, {singularRows_, 1}}));
+    plural_->setLayout(shell::rowOf(0, {pluralRows_}));
     layOutLines(LargestBlock, shell::DrillMargins,
                 {heading, shell::rowOf(shell::LargeSpace, {{singular_, 4}, {plural_, 3}}), Part::gap(),
                  helpAndButtons({makeCheckButton("Continue"), makeQuestionButton("DeclQuestion"),
                                  makeQuitButton("DeclQuitButton")})});
+    // Gives way on a small screen, where the buttons matter more than the frames' place.
+    const int above = layout()->contentsMargins().top() + shell::LargeSpace + shell::MediumSpace;
+    heading->addSpacerItem(
+        new QSpacerItem(0, FrameTop / TwipsOfPixel - above, QSizePolicy::Fixed, QSizePolicy::Maximum));
 }
 
 void Declination::placeRows()
 {
     int row = 0;
     for (const int inCase : casesInOrder()) {
-        singularRows_->addWidget(cases_.at(static_cast<std::size_t>(inCase)), row, LabelColumn, Qt::AlignTop);
-        singularRows_->addWidget(&box(inCase), row, BoxColumn, Qt::AlignTop);
-        pluralRows_->addWidget(&box(inCase + CasesOfNumber), row, BoxColumn, Qt::AlignTop);
+        nameRows_->addWidget(cases_.at(static_cast<std::size_t>(inCase)), row, 0, Qt::AlignTop);
+        singularRows_->addWidget(&box(inCase), row, 0, Qt::AlignTop);
+        pluralRows_->addWidget(&box(inCase + CasesOfNumber), row, 0, Qt::AlignTop);
         ++row;
     }
-    const int belowTitle = std::max(shell::HairSpace, FirstRowTop - singular_->contentsMargins().top());
-    for (QGridLayout* const rows : {singularRows_, pluralRows_})
-        rows->setContentsMargins(shell::MediumSpace, belowTitle, shell::MediumSpace, shell::SmallSpace);
+    const bool accusativeSecond = settings.CaseOrder == shell::case_order::NAGDAb;
+    placeTops(*nameRows_, accusativeSecond ? NameTopsWithAccusativeSecond : NameTops);
+    for (const QGroupBox* const frame : {singular_, plural_}) {
+        const int belowTitle =
+            std::max(shell::HairSpace, BoxTops.front() / TwipsOfPixel - frame->contentsMargins().top());
+        frame->layout()->setContentsMargins(shell::MediumSpace, belowTitle, shell::MediumSpace,
+                                            shell::SmallSpace);
+    }
 }
 
 void Declination::open()

@@ -12,9 +12,12 @@ namespace nouns {
 
 /// The declension drill: ten boxes, one for each case.
 ///
-/// Its rows stand in the order of `CaseOrder`, 600 twips apart and 360 twips below the top of their frame,
-/// the frames 1890 twips below that of the window; larger type moves the rows further down, and a small
-/// screen moves the frames up. The boxes keep their numbers in either order.
+/// Its rows stand in the order of `CaseOrder`. In a window of the size that it opens in, the frames stand
+/// 1890 twips below its top, the boxes 360, 960, 1560, 2160 and 2760 twips below that of their frame, and so
+/// the names of the cases 2250, 2850, 3450, 4050 and 4650 twips below that of the window; with the accusative
+/// second the third name stands at 3465. Larger type moves the rows further down, a small screen moves the
+/// frames up, and a maximised or larger window keeps it all in its middle. The boxes keep their numbers in
+/// either order.
 class Declination : public shell::BoxDrill {
     Q_OBJECT
 
@@ -45,6 +48,7 @@ private:
     std::array<QLabel*, CasesOfNumber> cases_{};
     QGroupBox* singular_ = nullptr;
     QGroupBox* plural_ = nullptr;
+    QGridLayout* nameRows_ = nullptr;
     QGridLayout* singularRows_ = nullptr;
     QGridLayout* pluralRows_ = nullptr;
     QLabel* heading_ = nullptr;

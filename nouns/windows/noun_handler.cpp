@@ -198,10 +198,6 @@ void NounHandler::add()
 
 void NounHandler::addNewRow()
 {
-    if (hasFixedNouns(chosenParadigm())) {
-        platform::current().showMessage("The nouns of the fourth and fifth declensions are fixed.");
-        return;
-    }
     const auto newRow = static_cast<int>(rows_.size());
     if (nouns_->count() == newRow)
         nouns_->addItem(QLatin1String(NewItem));
@@ -214,6 +210,7 @@ void NounHandler::storeNewNoun()
     const int paradigm = chosenParadigm();
     switch (addNoun(paradigm, typedNoun())) {
     case NounEdit::FixedNouns:
+        platform::current().showMessage("The nouns of the fourth and fifth declensions are fixed.");
         return;
     case NounEdit::NoStem:
         platform::current().showMessage("A noun needs a stem.");

@@ -3,10 +3,24 @@
 #include "shell/kit/window.h"
 
 #include <QKeyEvent>
+#include <QStyledItemDelegate>
 
 namespace shell {
 
 namespace {
+
+constexpr int AirOfRow = 2;
+
+// Gives each row air above and below its text, so that no click falls between two rows.
+class AiryRows : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, 2 * AirOfRow);
+    }
+};
 
 bool beginsChoice(int key)
 {
@@ -17,6 +31,7 @@ bool beginsChoice(int key)
 
 ChoiceList::ChoiceList(QWidget* parent) : QListWidget(parent)
 {
+    setItemDelegate(new AiryRows(this));
     connect(this, &QListWidget::itemSelectionChanged, this, [this] { Q_EMIT rowChosen(chosenRow()); });
     connect(this, &QListWidget::itemDoubleClicked, this, &ChoiceList::activateChosenRow);
 }
@@ -30,12 +45,20 @@ int ChoiceList::chosenRow() const
 // The first arrow key chooses the first row, where Qt would go past it.
 void ChoiceList::keyPressEvent(QKeyEvent* event)
 {
-    if (isEnter(*event))
+    if (isEnter(*event) && chosenRow() < 0)
+        Q_EMIT unchosenRowEntered(currentRow());
+    else if (isEnter(*event))
         activateChosenRow();
     else if (beginsChoice(event->key()) && chosenRow() < 0)
         setCurrentRow(0, QItemSelectionModel::ClearAndSelect);
     else
         QListWidget::keyPressEvent(event);
+}
+
+QItemSelectionModel::SelectionFlags ChoiceList::selectionCommand(const QModelIndex& index,
+                                                                 const QEvent* event) const
+{
+    return index.isValid() ? QListWidget::selectionCommand(index, event) : QItemSelectionModel::NoUpdate;
 }
 
 void ChoiceList::activateChosenRow()

@@ -5,7 +5,7 @@
 namespace shell {
 
 /// A list from which one row is chosen: a click or the arrow keys choose it, a double click or Enter
-/// activates it. Where no row is chosen, Enter does nothing.
+/// activates it. A click beside the rows leaves the choice as it is.
 class ChoiceList : public QListWidget {
     Q_OBJECT
 
@@ -19,8 +19,13 @@ Q_SIGNALS:
     void rowChosen(int row);
     void rowActivated(int row);
 
+    /// Enter was pressed where no row is chosen: the current one, which has the frame of the focus.
+    void unchosenRowEntered(int row);
+
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                         const QEvent* event) const override;
 
 private:
     void activateChosenRow();

@@ -17,16 +17,15 @@ namespace shell {
 
 namespace {
 
-constexpr int RowSpace = 2;
 constexpr double RowType = 1.2;
 
 // Room for every row, up to most of the screen's height; a longer list scrolls.
 QSize roomForRows(const ChoiceList& list)
 {
-    int height = 2 * list.frameWidth() + 2 * RowSpace;
+    int height = 2 * list.frameWidth();
     for (int row = 0; row < list.count(); ++row)
-        height += list.sizeHintForRow(row) + 2 * RowSpace;
-    const int width = list.sizeHintForColumn(0) + 2 * list.frameWidth() + 2 * RowSpace + WideSpace;
+        height += list.sizeHintForRow(row);
+    const int width = list.sizeHintForColumn(0) + 2 * list.frameWidth() + WideSpace;
     return {width, std::min(height, list.screen()->geometry().height() * 7 / 10)};
 }
 
@@ -40,7 +39,6 @@ Chooser::Chooser(const ChooserNames& names, std::span<const Caption> captions,
 {
     setType(*list_, RowType);
     list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    list_->setSpacing(RowSpace);
     layOut();
     connectControls();
     closeOnEscape();
@@ -56,7 +54,8 @@ void Chooser::connectControls()
     connect(list_, &ChoiceList::rowChosen, this,
             [this](int row) { ok_->setEnabled(row >= 0 || beginsAtOk()); });
     connect(list_, &ChoiceList::rowActivated, this, &Chooser::choose);
-    connect(ok_, &QPushButton::clicked, this, &Chooser::choose);
+    connect(list_, &ChoiceList::unchosenRowEntered, this, &Chooser::choose);
+    connect(ok_, &QPushButton::clicked, this, [this] { choose(list_->chosenRow()); });
     connect(cancel_, &QPushButton::clicked, this, &Chooser::left);
 }
 
@@ -74,6 +73,7 @@ void Chooser::fill()
 {
     applyCurrentOrDesignedCaptions(*this, captions_);
     fillList(*list_, rows_);
+    list_->setCurrentRow(0, QItemSelectionModel::NoUpdate);
     list_->setAccessibleName(windowTitle());
     ok_->setEnabled(beginsAtOk());
     list_->setMinimumSize(roomForRows(*list_));
@@ -81,10 +81,10 @@ void Chooser::fill()
     beginChoice();
 }
 
-void Chooser::choose()
+void Chooser::choose(int row)
 {
-    if (isVisible() && list_->chosenRow() >= 0)
-        Q_EMIT chosen(list_->chosenRow());
+    if (isVisible() && row >= 0)
+        Q_EMIT chosen(row);
 }
 
 } // namespace shell

@@ -23,7 +23,8 @@ struct ChooserNames {
 };
 
 /// A small window in which one row of a list is chosen. The OK button is available once a row is chosen; a
-/// double click or Enter activates a row as well.
+/// double click or Enter in the list activates a row as well. Enter takes the first row where none is chosen
+/// yet.
 class Chooser : public FramedWindow {
     Q_OBJECT
 
@@ -51,7 +52,7 @@ protected:
 private:
     void layOut();
     void connectControls();
-    void choose();
+    void choose(int row);
 
     std::span<const Caption> captions_;
     std::span<const LanguageTexts> rows_;

@@ -102,7 +102,7 @@ void Window::layOutLines(QSize charactersAndLines, const QMargins& margins, std:
 void Window::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);
-    if (event->type() != QEvent::ActivationChange || !isActiveWindow())
+    if (event->type() != QEvent::ActivationChange || !isActiveWindow() || isHidden())
         return;
     if (!activeName_.empty())
         settings.ActiveWindowName = activeName_;

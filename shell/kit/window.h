@@ -48,7 +48,7 @@ protected:
     /// Makes Escape do what the close box does, wherever the focus is.
     void closeOnEscape();
 
-    /// Called after the window became the active one.
+    /// Called after the window became the active one. A window that is hidden, or being hidden, never does.
     virtual void becameActive() {}
 
     /// What the close box does, the same as the window's cancel or quit button: it leaves the window.

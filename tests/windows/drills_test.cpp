@@ -15,15 +15,13 @@
 
 #include <algorithm>
 #include <set>
+#include <span>
 
 namespace {
 
+using namespace tests;
 using shell::settings;
 using std::to_string;
-using tests::click;
-using tests::press;
-using tests::shownWindow;
-using tests::type;
 
 struct Drill {
     const char* window;
@@ -38,17 +36,12 @@ struct Drill {
     QColor colour = {};              // of what is typed after a hint
 };
 
-void PrintTo(const Drill& drill, std::ostream* stream)
-{
-    *stream << drill.window;
-}
-
 void chooseFirstForm(QWidget& quiz)
 {
     verbdrills::verbQuiz.QuizRow = 1;
     verbdrills::identifyForm();
-    tests::clickRow(tests::list(quiz, "QuizConjList"), 0);
-    tests::clickRow(tests::list(quiz, "QuizTenseList"), 0);
+    clickRow(list(quiz, "QuizConjList"), 0);
+    clickRow(list(quiz, "QuizTenseList"), 0);
 }
 
 void tickRightCases(QWidget& quiz)
@@ -85,40 +78,9 @@ const std::vector<Drill> Drills = {
 };
 // clang-format on
 
-class DrillWindows : public tests::WindowTest {
-protected:
-    void SetUp() override
-    {
-        tests::copySample("verbs.cfg");
-        tests::copySample("nouns.cfg");
-        tests::writeFile("vr-vcab.lst", "rosa,rose,f.\r\nre:x,king,m.\r\n");
-        start();
-        settings.QuizTenseInclude.fill(platform::FlagTrue);
-    }
-
-    QWidget& open(const Drill& drill, int row = 0)
-    {
-        if (drill.back == std::string("MainMenu"))
-            return WindowTest::open(drill.opener, drill.window);
-        return openRow(drill.opener, drill.back, row, drill.window);
-    }
-
-    static QLineEdit& askedBox(QWidget& window, const Drill& drill)
-    {
-        return tests::box(window, drill.box, std::stoi(drill.asked()));
-    }
-};
-
-struct Order {
-    int drill; // in the table above
-    int row;   // of its chooser
-    const char* cases;
-    const char* questions;
-    bool drawn;
-    std::vector<int> boxes;
-};
-
 // clang-format off
+// The drill, the row of its chooser, the order of the cases and of the questions, whether boxes are drawn, and these.
+using Order = std::tuple<int, int, const char*, const char*, bool, std::vector<int>>;
 const Order Orders[] = {
     // Persons.
     {0, 0, "NGDAAb", "Sequential", false, {0, 1, 2, 3, 4, 5}},
@@ -135,7 +97,46 @@ const Order Orders[] = {
 };
 // clang-format on
 
-TEST_F(DrillWindows, AskEachBoxOnceInTheOrderThatIsSetAndThenOtherForms)
+class EveryDrill : public WindowTest {
+protected:
+    EveryDrill()
+    {
+        copySample("verbs.cfg");
+        copySample("nouns.cfg");
+        writeFile("vr-vcab.lst", "rosa,rose,f.\r\nre:x,king,m.\r\n");
+        start();
+        settings.QuizTenseInclude.fill(platform::FlagTrue);
+    }
+
+    QWidget& open(const Drill& drill, int row = 0)
+    {
+        if (drill.back == std::string("MainMenu"))
+            return WindowTest::open(drill.opener, drill.window);
+        return openRow(drill.opener, drill.back, row, drill.window);
+    }
+
+    static QLineEdit& askedBox(QWidget& window, const Drill& drill)
+    {
+        return box(window, drill.box, std::stoi(drill.asked()));
+    }
+
+    static void answer(const Drill& drill, QWidget& window, bool right)
+    {
+        right ? drill.answerRightly(window) : type(window, "x");
+    }
+
+    // Everything that a learner may press while an answer is judged or shown.
+    static void pressEverything(const Drill& drill, QWidget& window)
+    {
+        type(window, "x?/");
+        press(window, Qt::Key_Return);
+        click(window, drill.check);
+        for (const char* const button : drill.others)
+            click(window, button);
+    }
+};
+
+TEST_F(EveryDrill, AskEachBoxOnceInTheOrderThatIsSetAndThenOtherForms)
 {
     for (const auto& [number, row, cases, questions, drawn, boxes] : Orders) {
         const Drill& drill = Drills.at(static_cast<std::size_t>(number));
@@ -166,162 +167,101 @@ TEST_F(DrillWindows, AskEachBoxOnceInTheOrderThatIsSetAndThenOtherForms)
     }
 }
 
-class EveryDrill : public DrillWindows, public testing::WithParamInterface<Drill> {
-protected:
-    QWidget& open() { return DrillWindows::open(drill()); }
-
-    static const Drill& drill() { return GetParam(); }
-    static bool keepsScore() { return drill().asked != nouns::drawnIndexes; }
-    static QLineEdit& askedBox(QWidget& window) { return DrillWindows::askedBox(window, drill()); }
-
-    static void answer(QWidget& window, bool right)
-    {
-        if (right)
-            drill().answerRightly(window);
-        else
-            type(window, "x");
-    }
-
-    // Everything that a learner may press while an answer is judged or shown.
-    static void pressEverything(QWidget& window)
-    {
-        type(window, "x?/");
-        press(window, Qt::Key_Return);
-        click(window, drill().check);
-        for (const char* const button : drill().others)
-            click(window, button);
-    }
-
-    static void expectNoFeedback()
-    {
-        EXPECT_EQ(shownWindow("Bravo"), nullptr);
-        EXPECT_EQ(shownWindow("Wrong"), nullptr);
-    }
-};
-
-TEST_P(EveryDrill, IsLeftAtOnceInAPauseAndDoesNotMoveOn)
+TEST_F(EveryDrill, IsLeftAtOnceInAPauseAndDoesNotMoveOn)
 {
-    for (const bool right : {true, false})
-        for (const auto& leave : tests::waysToLeave(drill().quit)) {
-            QWidget& window = open();
-            answer(window, right);
-            const std::string asked = drill().asked();
-            duringPause([&] {
-                leave(window);
-                expectNoFeedback();
-                EXPECT_NE(shownWindow(drill().back), nullptr);
-            });
-            click(window, drill().check);
-            expectNoFeedback();
-            EXPECT_EQ(shownWindow(drill().window), nullptr);
-            EXPECT_EQ(drill().asked(), asked);
-        }
+    for (const Drill& drill : Drills)
+        for (const bool right : {true, false})
+            for (const auto& leave : waysToLeave(drill.quit)) {
+                QWidget& window = open(drill);
+                answer(drill, window, right);
+                const std::string asked = drill.asked();
+                duringPause([&] {
+                    leave(window);
+                    EXPECT_FALSE(shownWindow("Bravo") || shownWindow("Wrong")) << drill.window;
+                    EXPECT_NE(shownWindow(drill.back), nullptr) << drill.window;
+                });
+                click(window, drill.check);
+                EXPECT_FALSE(shownWindow("Bravo") || shownWindow("Wrong")) << drill.window;
+                EXPECT_EQ(shownWindow(drill.window), nullptr);
+                EXPECT_EQ(drill.asked(), asked) << drill.window;
+            }
 }
 
-TEST_P(EveryDrill, JudgesOnceWhateverIsPressedInThePauseAndMovesOnAfterARightAnswer)
+// A box that was answered right turns grey. What is typed after a click on another comes into the one asked.
+TEST_F(EveryDrill, JudgesOnceWhateverIsPressedInThePauseAndMovesOnAfterARightAnswer)
 {
-    QWidget& window = open();
-    int judged = 0;
-    for (const bool right : keepsScore() ? std::vector{false, false, true} : std::vector{true}) {
-        answer(window, right);
-        const std::string asked = drill().asked();
-        duringPause([&] {
-            EXPECT_EQ(shownWindow(right ? "Bravo" : "Wrong") != nullptr, keepsScore());
-            pressEverything(window);
-            EXPECT_EQ(drill().asked(), asked);
-        });
-        click(window, drill().check);
-        EXPECT_EQ(fake.waits, ++judged);
-        EXPECT_EQ(settings.AnsweredCount, keepsScore() ? judged : 0);
-        EXPECT_EQ(settings.RightCount, keepsScore() && right);
-        EXPECT_EQ(drill().asked() != asked, right);
-        expectNoFeedback();
-        for (const QLineEdit* const box : window.findChildren<QLineEdit*>())
-            EXPECT_NE(box->text(), "x");
-    }
-}
-
-class TypedDrill : public EveryDrill {};
-
-TEST_P(TypedDrill, TakesAHeldEnterForOne)
-{
-    QWidget& window = open();
     QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
-    answer(window, true);
-    press(window, Qt::Key_Return);
-    for (int i = 0; i < 3; ++i)
-        QApplication::sendEvent(window.focusWidget(), &held);
-    EXPECT_EQ(settings.AnsweredCount, 1);
-}
-
-class BoxDrill : public EveryDrill {};
-
-TEST_P(BoxDrill, GreysTheBoxAnsweredRightAndAsksTheNext)
-{
-    QWidget& window = open();
-    QLineEdit& first = askedBox(window);
-    answer(window, true);
-    const QString typed = first.text();
-    duringPause([&] { pressEverything(window); });
-    press(window, Qt::Key_Return);
-    EXPECT_EQ(first.text(), typed);
-    EXPECT_EQ(first.palette().color(QPalette::Base), QColor(0x80, 0x80, 0x80));
-    EXPECT_EQ(first.palette().color(QPalette::Text), QColor(0xC0, 0xC0, 0xC0));
-    EXPECT_EQ(tests::label(window, "ScoreLabel"), " 100% ");
-    EXPECT_EQ(window.focusWidget(), &askedBox(window));
-}
-
-TEST_P(BoxDrill, ShowsTheAnswerInRedForOnePauseWithoutCounting)
-{
-    QWidget& window = open();
-    QLineEdit& box = askedBox(window);
-    answer(window, true);
-    const QString right = box.text();
-    std::vector<std::function<void()>> asking = {[&] { type(window, "/"); }, [&] { type(window, "?"); }};
-    for (const char* const button : drill().others)
-        asking.push_back([&, button] { click(window, button); });
-    for (const auto& ask : asking) {
-        box.setText("b");
-        fake.waits = 0;
-        duringPause([&] {
-            EXPECT_EQ(box.text(), right);
-            EXPECT_EQ(box.palette().color(QPalette::Text), QColor(Qt::red));
-            pressEverything(window);
-            EXPECT_EQ(box.text(), right);
-        });
-        ask();
-        EXPECT_EQ(fake.waits, 1);
-        EXPECT_EQ(box.text(), "");
-        EXPECT_EQ(box.palette().color(QPalette::Text), drill().colour);
-        EXPECT_EQ(window.focusWidget(), &box);
+    for (const Drill& drill : Drills) {
+        const bool keepsScore = drill.window != std::string("NounQuiz");
+        QWidget& window = open(drill);
+        fake.waits = settings.AnsweredCount = settings.RightCount = 0;
+        int judged = 0;
+        for (const bool right : keepsScore ? std::vector{false, false, true} : std::vector{true}) {
+            const bool hasBoxes = *drill.box != '\0';
+            QLineEdit* const asksIn = hasBoxes ? &askedBox(window, drill) : nullptr;
+            if (hasBoxes)
+                QTest::mouseClick(&box(window, drill.box, 4), Qt::LeftButton);
+            QApplication::processEvents();
+            answer(drill, window, right);
+            const std::string asked = drill.asked();
+            duringPause([&] {
+                EXPECT_EQ(shownWindow(right ? "Bravo" : "Wrong") != nullptr, keepsScore) << drill.window;
+                pressEverything(drill, window);
+                EXPECT_EQ(drill.asked(), asked) << drill.window;
+            });
+            click(window, drill.check);
+            QApplication::sendEvent(window.focusWidget(), &held);
+            EXPECT_EQ(fake.waits, ++judged) << drill.window;
+            EXPECT_EQ(settings.AnsweredCount, keepsScore ? judged : 0) << drill.window;
+            EXPECT_EQ(settings.RightCount, keepsScore && right) << drill.window;
+            EXPECT_EQ(drill.asked() != asked, right) << drill.window;
+            EXPECT_FALSE(shownWindow("Bravo") || shownWindow("Wrong")) << drill.window;
+            for (const QLineEdit* const box : window.findChildren<QLineEdit*>()) {
+                const bool grey = right && box == asksIn;
+                EXPECT_EQ(box->text().isEmpty(), !grey) << drill.window;
+                EXPECT_EQ(box->palette().color(QPalette::Base) == QColor(0x80, 0x80, 0x80), grey);
+                EXPECT_EQ(box->palette().color(QPalette::Text) == QColor(0xC0, 0xC0, 0xC0), grey);
+            }
+            EXPECT_TRUE(!hasBoxes || window.focusWidget() == &askedBox(window, drill)) << drill.window;
+            EXPECT_TRUE(!hasBoxes || !right || label(window, "ScoreLabel") == " 33% ") << drill.window;
+        }
     }
-    EXPECT_EQ(settings.AnsweredCount, 0);
-    EXPECT_EQ(&askedBox(window), &box);
 }
 
-TEST_P(BoxDrill, ForgetsTheAnswerShownWhenItIsLeftAndOpenedAnew)
+// Left while the answer is shown, it begins anew without it.
+TEST_F(EveryDrill, ShowsTheAnswerInRedForOnePauseWithoutCounting)
 {
-    QWidget& window = open();
-    duringPause([&] {
-        click(window, drill().quit);
-        EXPECT_EQ(askedBox(open()).text(), "");
-        type(window, "a");
-    });
-    type(window, "?");
-    EXPECT_EQ(askedBox(window).text(), "a");
+    for (const Drill& drill : std::span(Drills).first(3)) {
+        QWidget& window = open(drill);
+        QLineEdit& box = askedBox(window, drill);
+        answer(drill, window, true);
+        const QString right = box.text();
+        std::vector<const char*> ways = {"/", "?"};
+        ways.insert(ways.end(), drill.others.begin(), drill.others.end());
+        for (const QString way : ways) {
+            box.setText("b");
+            fake.waits = 0;
+            duringPause([&] {
+                EXPECT_EQ(box.palette().color(QPalette::Text), QColor(Qt::red));
+                pressEverything(drill, window);
+                EXPECT_EQ(box.text(), right);
+            });
+            way.size() == 1 ? type(window, way) : click(window, way);
+            EXPECT_EQ(fake.waits, 1);
+            EXPECT_EQ(box.text(), "");
+            EXPECT_EQ(box.palette().color(QPalette::Text), drill.colour);
+            EXPECT_EQ(window.focusWidget(), &box);
+        }
+        EXPECT_EQ(settings.AnsweredCount, 0);
+        EXPECT_EQ(&askedBox(window, drill), &box);
+        duringPause([&] {
+            click(window, drill.quit);
+            EXPECT_EQ(askedBox(open(drill), drill).text(), "");
+            type(window, "a");
+        });
+        type(window, "?");
+        EXPECT_EQ(askedBox(window, drill).text(), "a");
+    }
 }
-
-TEST_P(BoxDrill, SendsTheFocusBackToTheBoxAsked)
-{
-    QWidget& window = open();
-    QTest::mouseClick(&tests::box(window, drill().box, 4), Qt::LeftButton);
-    QApplication::processEvents();
-    type(window, "a");
-    EXPECT_EQ(askedBox(window).text(), "a");
-}
-
-INSTANTIATE_TEST_SUITE_P(Of, EveryDrill, testing::ValuesIn(Drills));
-INSTANTIATE_TEST_SUITE_P(Of, TypedDrill, testing::ValuesIn(Drills.begin(), Drills.begin() + 4));
-INSTANTIATE_TEST_SUITE_P(Of, BoxDrill, testing::ValuesIn(Drills.begin(), Drills.begin() + 3));
 
 } // namespace

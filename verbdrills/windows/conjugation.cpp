@@ -126,6 +126,7 @@ void Conjugation::boxEntered(int number)
 {
     buildDrillHeading();
     showGloss(number);
+    nameForTheEar(number);
     conjugationDrill.FocusedBox = static_cast<std::int16_t>(number);
 }
 
@@ -133,8 +134,18 @@ void Conjugation::showGloss(int number)
 {
     if (const auto gloss = glossOfPerson(number + 1))
         glosses_.at(static_cast<std::size_t>(number))->setText(shell::fromUtf8(*gloss));
-    box(number).setAccessibleName(
-        shell::fromUtf8(conjugationDrill.DrillHeading + ", " + verbs::verbTables.PersonLabels[number + 1]));
+}
+
+// The titles of the irregular verbs would name esse for velle, velle for esse, and ferre not at all.
+void Conjugation::nameForTheEar(int number)
+{
+    const auto& tables = verbs::verbTables;
+    const int verbClass = currentParadigm.ConjugationCode;
+    const std::string heading =
+        verbClass > verbs::LastRegularClass
+            ? tables.Infinitive[verbClass] + ": " + tables.TenseTitles[currentParadigm.TenseMoodCode]
+            : conjugationDrill.DrillHeading;
+    box(number).setAccessibleName(shell::fromUtf8(heading + ", " + tables.PersonLabels[number + 1]));
 }
 
 std::optional<bool> Conjugation::judge(const std::string& typed)

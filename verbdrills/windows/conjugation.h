@@ -37,6 +37,7 @@ private:
     void layOut();
     QGridLayout* answerGrid();
     void showGloss(int number);
+    void nameForTheEar(int number);
     void emptyRound();
 
     std::array<QLabel*, BoxCount> glosses_{};

@@ -10,7 +10,6 @@ namespace verbdrills {
 namespace {
 
 constexpr int FewestRows = 5;
-constexpr int RowSpace = 1;
 constexpr double RowType = 1.1;
 
 } // namespace
@@ -20,15 +19,14 @@ QuizList::QuizList(const char* name, const QString& accessibleName, QWidget* par
     setObjectName(QLatin1String(name));
     setAccessibleName(accessibleName);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setSpacing(RowSpace);
     shell::setType(*this, RowType);
 }
 
 void QuizList::fill(std::span<const shell::LanguageTexts> rows)
 {
     shell::fillList(*this, rows);
-    const int frame = 2 * (frameWidth() + RowSpace);
-    const int row = sizeHintForRow(0) + 2 * RowSpace;
+    const int frame = 2 * frameWidth();
+    const int row = sizeHintForRow(0);
     setMinimumSize(sizeHintForColumn(0) + frame + shell::WideSpace, FewestRows * row + frame);
     setMaximumHeight(count() * row + frame);
 }

@@ -63,7 +63,6 @@ constexpr std::array<Preview, 3> Previews = {{{"LatInfinitive", "are"}, // sic: 
                                               {"LatPastParticiple", "us"}}};
 
 constexpr auto NewItem = "** Add New Item Here **";
-constexpr int NewVerb = -1;
 
 } // namespace
 
@@ -116,14 +115,12 @@ void VerbManager::connectControls()
     connect(verbs_, &QListWidget::currentRowChanged, this, &VerbManager::showVerb);
     for (std::size_t stem = 0; stem < previews_.size(); ++stem)
         connect(form_->box(stem), &QLineEdit::textChanged, this, &VerbManager::showPreviews);
-    connect(form_, &shell::RecordForm::edited, this, &VerbManager::keepDraft);
     connect(add_, &QPushButton::clicked, this, &VerbManager::addVerb);
     connect(cancel_, &QPushButton::clicked, this, &VerbManager::endRequested);
 }
 
 void VerbManager::open()
 {
-    std::erase_if(drafts_, [](const auto& draft) { return draft.first.second != NewVerb; });
     classes_->setCurrentRow(0);
     listVerbs();
     showInMainWindowState();
@@ -133,12 +130,6 @@ void VerbManager::open()
 int VerbManager::chosenClass() const
 {
     return Classes.at(static_cast<std::size_t>(classes_->currentRow())).verbClass;
-}
-
-VerbManager::DraftPlace VerbManager::chosenPlace() const
-{
-    const int row = verbs_->currentRow();
-    return {chosenClass(), row == verbs_->count() - 1 ? NewVerb : row};
 }
 
 VerbRecord VerbManager::typedVerb() const
@@ -162,10 +153,7 @@ void VerbManager::showVerb(int row)
 {
     if (row < 0)
         return;
-    const auto [verbClass, place] = chosenPlace();
-    const VerbRecord listed = place == NewVerb ? VerbRecord{} : verbAt(verbClass, row + 1);
-    const auto draft = drafts_.find({verbClass, place});
-    VerbRecord verb = draft == drafts_.end() ? listed : draft->second;
+    VerbRecord verb = row == verbs_->count() - 1 ? VerbRecord{} : verbAt(chosenClass(), row + 1);
     form_->show(textsOf(verb));
     showPreviews();
 }
@@ -174,12 +162,6 @@ void VerbManager::showPreviews()
 {
     for (std::size_t stem = 0; stem < previews_.size(); ++stem)
         previews_.at(stem)->setText(form_->box(stem)->text() + QLatin1String(Previews.at(stem).ending));
-}
-
-void VerbManager::keepDraft()
-{
-    if (verbs_->currentRow() >= 0)
-        drafts_.insert_or_assign(chosenPlace(), typedVerb());
 }
 
 void VerbManager::addVerb()
@@ -197,7 +179,6 @@ void VerbManager::addVerb()
     case VerbEdit::Stored:
         break;
     }
-    drafts_.erase(chosenPlace());
     listVerbs();
     verbs_->setCurrentRow(row);
 }

@@ -4,8 +4,6 @@
 #include "verbs/verb_list.h"
 
 #include <array>
-#include <map>
-#include <utility>
 
 class QLabel;
 class QListWidget;
@@ -18,8 +16,8 @@ class RecordForm;
 namespace verbs {
 
 /// Shows the verb lists by class and lets the learner change and add verbs. The changes are kept in memory:
-/// the list file is never written. What was typed and not added stays with its verb as long as the window is
-/// shown, a new verb as long as the program runs.
+/// the list file is never written. What was typed and not added goes as soon as another row is chosen or the
+/// window is left.
 class VerbManager : public shell::Window {
     Q_OBJECT
 
@@ -40,14 +38,9 @@ private:
     void listVerbs();
     void showVerb(int row);
     void showPreviews();
-    void keepDraft();
     void addVerb();
     int chosenClass() const;
     VerbRecord typedVerb() const;
-
-    // A class, and the row of a verb of it; -1 for the new verb.
-    using DraftPlace = std::pair<int, int>;
-    DraftPlace chosenPlace() const;
 
     QListWidget* classes_;
     QListWidget* verbs_;
@@ -55,8 +48,6 @@ private:
     std::array<QLabel*, 3> previews_{};
     QPushButton* add_;
     QPushButton* cancel_;
-
-    std::map<DraftPlace, VerbRecord> drafts_;
 };
 
 } // namespace verbs

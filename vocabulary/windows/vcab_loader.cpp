@@ -59,7 +59,6 @@ VcabLoader::VcabLoader() : Window("VcabLoader")
 void VcabLoader::makeControls()
 {
     files_ = shell::makeChoiceList(this, "VcabFile");
-    files_->setSpacing(2);
     count_ = shell::makeLabel(this, "VcabLoaderCount");
     count_->setWordWrap(true);
     open_ = shell::makeButton(this, "VcabLoaderOpen");
