@@ -4,6 +4,7 @@
 #include "app/qt_platform.h"
 #include "app/working_folder.h"
 #include "platform/platform.h"
+#include "platform/random.h"
 
 #include <cstdlib>
 #include <iostream>
@@ -48,6 +49,7 @@ int run(int argumentCount, char** arguments)
 
     app::QtPlatform platform;
     platform::use(platform);
+    platform::seedFromClock();
     app::Navigation navigation;
     navigation.start();
     return app::Application::exec();

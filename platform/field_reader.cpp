@@ -10,6 +10,12 @@ namespace {
 constexpr std::string_view Blanks = " \t";
 constexpr std::string_view LineEnds = "\r\n";
 
+std::string withoutBlanksAtEnd(std::string text)
+{
+    text.erase(text.find_last_not_of(Blanks) + 1);
+    return text;
+}
+
 } // namespace
 
 FieldReader::FieldReader(std::string text) : text_(std::move(text)) {}
@@ -21,7 +27,17 @@ bool FieldReader::read(std::string& field)
     line_ = nextLine_;
     skipBlanks();
     const bool quoted = position_ < text_.size() && text_[position_] == '"';
-    field = quoted ? quotedField() : plainField();
+    field = quoted ? quotedField() : withoutBlanksAtEnd(bareField());
+    takeSeparator();
+    return true;
+}
+
+bool FieldReader::readBare(std::string& field)
+{
+    if (atEnd())
+        return false;
+    line_ = nextLine_;
+    field = bareField();
     takeSeparator();
     return true;
 }
@@ -62,15 +78,12 @@ std::string FieldReader::quotedField()
     return field;
 }
 
-std::string FieldReader::plainField()
+std::string FieldReader::bareField()
 {
     const std::size_t begin = position_;
     while (!atLineEnd() && text_[position_] != ',')
         ++position_;
-    std::size_t end = position_;
-    while (end > begin && Blanks.find(text_[end - 1]) != std::string_view::npos)
-        --end;
-    return text_.substr(begin, end - begin);
+    return text_.substr(begin, position_ - begin);
 }
 
 void FieldReader::takeSeparator()

@@ -20,6 +20,10 @@ public:
     /// Reads the next field. Returns false, and leaves `field` as it was, when the text has no further one.
     bool read(std::string& field);
 
+    /// Reads the next field as it stands: the text up to the comma or line end, blanks and quotes with it.
+    /// Returns false, and leaves `field` as it was, when the text has no further one.
+    bool readBare(std::string& field);
+
     /// Reads the next field as a decimal number. Returns false, and leaves `number` as it was, when there is
     /// no further field, or when it is empty, holds anything but a number, or does not fit the type.
     template <std::integral Number>
@@ -39,7 +43,7 @@ private:
     bool atLineEnd() const;
     void takeSeparator();
     std::string quotedField();
-    std::string plainField();
+    std::string bareField();
 
     std::string text_;
     std::size_t position_ = 0;

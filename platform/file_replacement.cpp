@@ -2,6 +2,7 @@
 
 #include <cerrno>
 #include <fcntl.h>
+#include <string>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -11,19 +12,26 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Closes the file at the end of its scope; errors that matter are met by `fsync` before.
-class OpenFile {
+// A new file in a folder, of a name that no other file has there. Unless it was put in its place, it is
+// removed at the end of its scope.
+class NewFile {
 public:
-    explicit OpenFile(const fs::path& path)
-        : descriptor_(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666))
+    explicit NewFile(const fs::path& folder)
     {
+        int number = 0;
+        do
+            path_ = folder / (".morvanti-being-written-" + std::to_string(number++));
+        while (!opened() && errno == EEXIST);
     }
-    OpenFile(const OpenFile&) = delete;
-    OpenFile& operator=(const OpenFile&) = delete;
-    ~OpenFile()
+    NewFile(const NewFile&) = delete;
+    NewFile& operator=(const NewFile&) = delete;
+    ~NewFile()
     {
-        if (descriptor_ >= 0)
-            ::close(descriptor_);
+        if (!isOpen())
+            return;
+        ::close(descriptor_); // errors that matter were met by `fsync`
+        if (!inPlace_)
+            ::unlink(path_.c_str());
     }
 
     bool isOpen() const { return descriptor_ >= 0; }
@@ -44,63 +52,67 @@ public:
         return ::fsync(descriptor_) == 0;
     }
 
+    bool putInPlace(const fs::path& target)
+    {
+        inPlace_ = ::rename(path_.c_str(), target.c_str()) == 0;
+        return inPlace_;
+    }
+
 private:
-    int descriptor_;
+    bool opened()
+    {
+        descriptor_ = ::open(path_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+        return isOpen();
+    }
+
+    fs::path path_;
+    int descriptor_ = -1;
+    bool inPlace_ = false;
 };
 
-// A link stays a link: the file that it names is replaced.
-fs::path finalName(const fs::path& path)
+// A link stays a link: the file that it names is replaced, or made where it is missing.
+fs::path finalName(fs::path path)
 {
     std::error_code error;
-    const fs::path target = fs::canonical(path, error);
-    return error ? path : target;
+    while (fs::is_symlink(path, error))
+        path = path.parent_path() / fs::read_symlink(path, error);
+    return path;
 }
 
-std::optional<mode_t> rightsOf(const fs::path& path)
+// Why what stands there must stay; nothing where it can be replaced, or there is none. A rename alone would
+// also replace a pipe, or a file that is write-protected.
+std::optional<std::string> reasonToStay(const fs::path& path, const struct stat& standing)
 {
-    struct stat status {};
-    return ::stat(path.c_str(), &status) == 0 ? std::optional<mode_t>(status.st_mode & 07777U) : std::nullopt;
-}
-
-// No name that a learner would give a file.
-fs::path nameWhileWriting(const fs::path& target)
-{
-    return target.parent_path() / ("." + target.filename().string() + ".being-written");
-}
-
-// The system's number for why a file must stay, 0 where nothing forbids to replace it. A rename alone would
-// also replace a file that is write-protected.
-int reasonNotToReplace(const fs::path& target)
-{
-    std::error_code error;
-    if (fs::is_directory(target, error))
-        return EISDIR;
-    return ::access(target.c_str(), W_OK) == 0 || errno == ENOENT ? 0 : errno;
+    if (S_ISDIR(standing.st_mode))
+        return systemReason(EISDIR);
+    if (!S_ISREG(standing.st_mode))
+        return "not a file that can be written";
+    if (::access(path.c_str(), W_OK) != 0)
+        return systemReason(errno);
+    return {};
 }
 
 } // namespace
 
 std::optional<Fault> replaceFile(const fs::path& path, std::string_view bytes)
 {
-    const auto failed = [&](int errorNumber) {
-        return Fault{path.filename().string(), 0, systemReason(errorNumber)};
-    };
-    const fs::path target = finalName(path);
-    if (const int reason = reasonNotToReplace(target); reason != 0)
-        return failed(reason);
-    const fs::path beside = nameWhileWriting(target);
-    ::unlink(beside.c_str());
+    const auto failed = [&](const std::string& reason) { return Fault{path.filename().string(), 0, reason}; };
+    struct stat standing {};
+    const bool stands = ::stat(path.c_str(), &standing) == 0;
+    if (!stands && errno != ENOENT)
+        return failed(systemReason(errno));
+    if (const auto reason = stands ? reasonToStay(path, standing) : std::nullopt)
+        return failed(*reason);
 
-    const OpenFile file(beside);
+    const fs::path target = finalName(path);
+    NewFile file(target.parent_path());
     if (!file.isOpen())
-        return failed(errno);
-    if (const auto rights = rightsOf(target))
-        file.setRights(*rights);
-    if (file.write(bytes) && ::rename(beside.c_str(), target.c_str()) == 0)
-        return {};
-    const Fault fault = failed(errno);
-    ::unlink(beside.c_str());
-    return fault;
+        return failed(systemReason(errno));
+    if (stands)
+        file.setRights(standing.st_mode & 07777U);
+    if (!file.write(bytes) || !file.putInPlace(target))
+        return failed(systemReason(errno));
+    return {};
 }
 
 } // namespace platform

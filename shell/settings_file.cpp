@@ -28,6 +28,15 @@ bool delayIsOutOfRange()
     return settings.DelaySeconds > LongestDelay || settings.DelaySeconds < ShortestDelay;
 }
 
+bool readText(FieldReader& reader, std::string& text)
+{
+    if (!reader.readBare(text))
+        return false;
+    while (text.size() >= 2 && text.front() == '"' && text.back() == '"')
+        text = text.substr(1, text.size() - 2);
+    return true;
+}
+
 bool readDelay(FieldReader& reader)
 {
     if (!reader.read(settings.DelaySeconds))
@@ -54,21 +63,6 @@ void includeFirstWhereNone(Entries& entries, int last)
         entries[0] = FlagTrue;
 }
 
-bool isBlank(char letter)
-{
-    return letter == ' ' || letter == '\t';
-}
-
-// No language of the menu needs quotes. One that a hand has written may: with a comma inside, or a blank at
-// an end, a bare line would not give it back, and the file would not be read to its end.
-std::string languageLine()
-{
-    const std::string& name = settings.CurrentLanguage;
-    const bool needsQuotes = name.find(',') != std::string::npos ||
-                             (!name.empty() && (isBlank(name.front()) || isBlank(name.back())));
-    return needsQuotes ? '"' + name + '"' : name;
-}
-
 } // namespace
 
 bool readSettings(const std::filesystem::path& path)
@@ -78,9 +72,9 @@ bool readSettings(const std::filesystem::path& path)
         return false;
     FieldReader reader(std::move(file.text));
     std::string ignoredVersion;
-    return reader.read(ignoredVersion) && reader.read(settings.ShowVowelLength) &&
-           reader.read(settings.SoundOn) && readDelay(reader) && reader.read(settings.CurrentLanguage) &&
-           reader.read(settings.CaseOrder) && reader.read(settings.QuestionOrder) &&
+    return readText(reader, ignoredVersion) && reader.read(settings.ShowVowelLength) &&
+           reader.read(settings.SoundOn) && readDelay(reader) && readText(reader, settings.CurrentLanguage) &&
+           readText(reader, settings.CaseOrder) && readText(reader, settings.QuestionOrder) &&
            reader.read(settings.MainWindowState) && reader.read(settings.SaveSettingsOnExit) &&
            readEntries(reader, settings.QuizConjInclude, LastStoredClass) &&
            readEntries(reader, settings.QuizTenseInclude, LastStoredTense);
@@ -121,7 +115,7 @@ std::string settingsText()
     numberLine(settings.ShowVowelLength);
     numberLine(settings.SoundOn);
     numberLine(settings.DelaySeconds);
-    line(languageLine());
+    line(settings.CurrentLanguage);
     line(settings.CaseOrder);
     line(settings.QuestionOrder);
     numberLine(settings.MainWindowState);

@@ -11,7 +11,8 @@ namespace shell {
 
 inline constexpr std::string_view SettingsFileName = "morvanti.ini";
 
-/// Reads `settings` from a settings file: 36 lines without keys, whose meaning is their number. A delay out
+/// Reads `settings` from a settings file: 36 lines without keys, whose meaning is their number. A word is
+/// what stands before a comma or the line's end, blanks included, without the quotes around it. A delay out
 /// of range becomes 2 as soon as it is read. Returns false at the first value that is missing or is not what
 /// it should be; what was read before it stays.
 bool readSettings(const std::filesystem::path& path);

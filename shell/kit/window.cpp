@@ -75,11 +75,33 @@ void Window::showInFront()
     const QWidget* const below = isModal() ? QApplication::activeWindow() : QApplication::activeModalWidget();
     if (below != this)
         putAbove(*windowHandle(), below == nullptr ? nullptr : below->windowHandle());
-    if (!isVisible())
-        move(screen()->geometry().center() - rect().center());
+    if (!isVisible()) {
+        centreOnScreen();
+        windowHandle()->installEventFilter(this);
+    }
     show();
     raise();
     activateWindow();
+}
+
+// A window that was never shown has no frame yet. Its place is set without the frame, as a widget may hear of
+// its new frame late.
+void Window::centreOnScreen()
+{
+    const QMargins frame = windowHandle()->frameMargins();
+    QRect place = QRect({}, size()).marginsAdded(frame);
+    place.moveCenter(screen()->geometry().center());
+    setGeometry(place.marginsRemoved(frame));
+}
+
+// The desktop has framed a window by the time that it is to be painted first.
+bool Window::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Expose && windowHandle()->isExposed()) {
+        watched->removeEventFilter(this);
+        centreOnScreen();
+    }
+    return false;
 }
 
 QWidget* Window::centredBlock(QSize charactersAndLines)

@@ -28,8 +28,9 @@ public:
     /// Shows the window, brings it to the front, and gives it the state that `MainWindowState` asks for.
     void showInMainWindowState();
 
-    /// Shows the window in the middle of the screen and brings it to the front. It stays above a window that
-    /// is modal, and can be used then; a modal window stays above the one that was active.
+    /// Shows the window, with its frame, in the middle of the screen and brings it to the front. It stays
+    /// above a window that is modal, and can be used then; a modal window stays above the one that was
+    /// active.
     void showInFront();
 
 Q_SIGNALS:
@@ -56,9 +57,11 @@ protected:
 
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void fitScreenAtFirst();
+    void centreOnScreen();
 
     std::string_view activeName_;
 };

@@ -13,6 +13,7 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QWindow>
 
 #include <array>
 #include <stdexcept>
@@ -157,7 +158,7 @@ void MainMenu::keyPressEvent(QKeyEvent* event)
 void MainMenu::changeEvent(QEvent* event)
 {
     Window::changeEvent(event);
-    if (event->type() == QEvent::WindowStateChange && isVisible())
+    if (event->type() == QEvent::WindowStateChange)
         recordWindowState();
 }
 
@@ -167,9 +168,10 @@ void MainMenu::resizeEvent(QResizeEvent* event)
     recordWindowState();
 }
 
+// The desktop takes the state from a window that hides and gives it back to one that is shown.
 void MainMenu::recordWindowState()
 {
-    if (isMinimized())
+    if (!isVisible() || !windowHandle()->isExposed() || isMinimized())
         return;
     settings.MainWindowState = isMaximized() ? window_state::Maximised : window_state::Normal;
 }

@@ -22,7 +22,8 @@ public:
     /// Shows the check marks, the available languages and the captions for `settings` as they stand.
     void showSettings();
 
-    /// Keeps in `MainWindowState` whether the window is normal or maximised; a minimised one changes nothing.
+    /// Keeps in `MainWindowState` whether the window is normal or maximised. One that is minimised, hidden or
+    /// not yet on the screen changes nothing.
     void recordWindowState();
 
 Q_SIGNALS:

@@ -11,8 +11,6 @@
 #include "verbdrills/conjugation_drill.h"
 #include "vocabulary/vocabulary_tester.h"
 
-#include <QMenu>
-
 #include <algorithm>
 #include <map>
 #include <random>
@@ -72,12 +70,13 @@ protected:
         ++depth_;
         if (const auto dismiss = std::exchange(fake.dismissMessage, {}))
             dismiss();
-        actOn(*anyWindow());
+        QWidget* const modal = QApplication::activeModalWidget();
+        actOn(modal == nullptr ? anyWindow() : *modal);
         QApplication::processEvents();
         --depth_;
     }
 
-    QWidget* anyWindow()
+    QWidget& anyWindow()
     {
         QWidgetList shown;
         for (QWidget* const window : QApplication::topLevelWidgets())
@@ -85,10 +84,7 @@ protected:
                 shown << window;
         // Qt's own order changes from run to run.
         std::ranges::sort(shown, {}, &QWidget::objectName);
-        if (shown.isEmpty())
-            throw std::runtime_error("no window is left");
-        QWidget* const modal = QApplication::activeModalWidget();
-        return modal == nullptr ? anyOf(shown) : modal;
+        return *anyOf(shown);
     }
 
     void actOn(QWidget& window)
@@ -148,10 +144,10 @@ protected:
 
     void pressSomething(QWidget& window)
     {
-        static const QList<Qt::Key> keys = {
-            Qt::Key_Return,   Qt::Key_Enter, Qt::Key_Escape, Qt::Key_Tab,     Qt::Key_Backtab, Qt::Key_Down,
-            Qt::Key_Up,       Qt::Key_Space, Qt::Key_F1,     Qt::Key_End,     Qt::Key_Home,    Qt::Key_Delete,
-            Qt::Key_Question, Qt::Key_Slash, Qt::Key_Left,   Qt::Key_PageDown};
+        using namespace Qt;
+        static const QList<Key> keys = {
+            Key_Return, Key_Enter, Key_Escape, Key_Tab,  Key_Backtab, Key_Down,  Key_Up,       Key_Space,
+            Key_F1,     Key_End,   Key_Home,   Key_Left, Key_Delete,  Key_Slash, Key_PageDown, Key_Question};
         QWidget* const target = window.focusWidget() == nullptr ? &window : window.focusWidget();
         if (!mayTouch(*target))
             return;

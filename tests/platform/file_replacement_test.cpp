@@ -2,8 +2,8 @@
 #include "tests/support/fresh_state.h"
 #include "tests/support/full_disk.h"
 
-#include <sys/wait.h>
-#include <unistd.h>
+#include <set>
+#include <sys/stat.h>
 
 namespace {
 
@@ -14,66 +14,78 @@ using FileReplacement = tests::FreshState;
 const std::string OldBytes = "the old words\n";
 const std::string NewBytes(100, 'x');
 
-// Replaces "a.lst" in a process of its own, which the system kills when it writes past so many bytes.
-bool killedWhileReplacing(rlim_t bytes)
+// Replaces "a.lst" in a process that the system kills when it writes past so many bytes.
+void replaceUntilKilled(rlim_t bytes)
 {
-    const pid_t child = ::fork();
-    if (child == 0) {
-        const rlimit noCore = {0, 0};
-        ::setrlimit(RLIMIT_CORE, &noCore);
-        std::signal(SIGXFSZ, SIG_DFL);
-        const rlimit limit = {bytes, bytes};
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-        platform::replaceFile("a.lst", NewBytes);
-        ::_exit(EXIT_SUCCESS);
-    }
-    int status = 0;
-    ::waitpid(child, &status, 0);
-    return WIFSIGNALED(status);
+    const rlimit noCore = {0, 0};
+    ::setrlimit(RLIMIT_CORE, &noCore);
+    const tests::FullDisk disk(bytes);
+    std::signal(SIGXFSZ, SIG_DFL);
+    platform::replaceFile("a.lst", NewBytes);
 }
 
-TEST_F(FileReplacement, LeavesTheOldFileWholeOnAFullDisk)
+// The files of the current folder beside "a.lst".
+std::set<fs::path> filesBeside()
+{
+    std::set<fs::path> files{fs::directory_iterator("."), fs::directory_iterator()};
+    files.erase("./a.lst");
+    return files;
+}
+
+TEST_F(FileReplacement, LeavesTheOldFileWholeAndNothingBesideItOnAFullDisk)
 {
     tests::writeFile("a.lst", OldBytes);
     for (const rlim_t room : {0U, 1U, 99U}) {
         const tests::FullDisk disk(room);
-        const auto fault = platform::replaceFile("a.lst", NewBytes);
-        ASSERT_TRUE(fault.has_value()) << room;
-        EXPECT_EQ(fault->message(), "a.lst: File too large");
+        EXPECT_EQ(platform::replaceFile("a.lst", NewBytes).value().message(), "a.lst: File too large");
         EXPECT_EQ(tests::bytesOf("a.lst"), OldBytes);
-        EXPECT_FALSE(fs::exists(".a.lst.being-written"));
+        EXPECT_TRUE(filesBeside().empty());
     }
 }
 
-// What a crash left beside the file is in nobody's way.
-TEST_F(FileReplacement, LeavesTheOldFileWholeWhenKilledAtAnyByte)
+// What a crash left beside the file, or another program writes there, is in nobody's way.
+TEST_F(FileReplacement, LeavesTheOldFileWholeWhenKilledAtAnyByteAndWhatStandsBesideItAlone)
 {
     for (const rlim_t written : {0U, 1U, 50U, 99U}) {
         tests::writeFile("a.lst", OldBytes);
-        ASSERT_TRUE(killedWhileReplacing(written)) << written;
+        ASSERT_EXIT(replaceUntilKilled(written), testing::KilledBySignal(SIGXFSZ), "");
         EXPECT_EQ(tests::bytesOf("a.lst"), OldBytes) << written;
-        EXPECT_EQ(tests::bytesOf(".a.lst.being-written"), NewBytes.substr(0, written));
         EXPECT_FALSE(platform::replaceFile("a.lst", "two\r\nthree\r\n"));
         EXPECT_EQ(tests::bytesOf("a.lst"), "two\r\nthree\r\n");
-        EXPECT_FALSE(fs::exists(".a.lst.being-written"));
+        ASSERT_EQ(filesBeside().size(), 1U);
+        EXPECT_EQ(tests::bytesOf(*filesBeside().begin()), NewBytes.substr(0, written));
+        fs::remove(*filesBeside().begin());
     }
 }
 
 TEST_F(FileReplacement, RefusesWhatIsNoFileOrHasNoFolder)
 {
     fs::create_directory("folder");
-    EXPECT_EQ(platform::replaceFile("folder", "x")->message(), "folder: Is a directory");
-    EXPECT_EQ(platform::replaceFile("nowhere/a.lst", "x")->message(), "a.lst: No such file or directory");
+    ASSERT_EQ(::mkfifo("pipe", 0600), 0);
+    fs::create_symlink("pipe", "link");
+    fs::create_symlink("nowhere/b.lst", "astray");
+    fs::create_symlink("round", "round");
+    const auto before = filesBeside();
+    for (const auto& [name, reason] : {std::pair{"folder", "Is a directory"},
+                                       {"pipe", "not a file that can be written"},
+                                       {"link", "not a file that can be written"},
+                                       {"astray", "No such file or directory"},
+                                       {"round", "Too many levels of symbolic links"}})
+        EXPECT_EQ(platform::replaceFile(name, "x").value().message(), std::string(name) + ": " + reason);
+    EXPECT_TRUE(platform::replaceFile("nowhere/a.lst", "x"));
+    EXPECT_EQ(filesBeside(), before);
 }
 
-TEST_F(FileReplacement, KeepsALinkAndTheRightsOfTheFile)
+TEST_F(FileReplacement, KeepsALinkAndTheRightsOfTheFileAndMakesOneThatIsMissing)
 {
-    tests::writeFile("real.lst", "old");
-    fs::create_symlink("real.lst", "link.lst");
+    fs::create_directory("folder");
+    fs::create_symlink("../real.lst", "folder/link.lst");
+    EXPECT_FALSE(platform::replaceFile("folder/link.lst", "made"));
+    EXPECT_EQ(tests::bytesOf("real.lst"), "made");
     for (const auto rights : {fs::perms{0600}, fs::perms{0666}}) {
         fs::permissions("real.lst", rights);
-        EXPECT_FALSE(platform::replaceFile("link.lst", "new"));
-        EXPECT_TRUE(fs::is_symlink("link.lst"));
+        EXPECT_FALSE(platform::replaceFile("folder/link.lst", "new"));
+        EXPECT_TRUE(fs::is_symlink("folder/link.lst"));
         EXPECT_EQ(tests::bytesOf("real.lst"), "new");
         EXPECT_EQ(fs::status("real.lst").permissions(), rights);
     }

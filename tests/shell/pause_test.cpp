@@ -27,39 +27,27 @@ TEST_F(Pause, EndsOnlyWhenTheTimeOfDayComesRoundWhereItMeetsMidnight)
         shell::Pause();
         EXPECT_NEAR(fake.clock - start, seconds, seconds == 100 ? 0.02 : 2);
     }
-}
-
-TEST_F(Pause, DoesNotPollAfterTheClockWentBack)
-{
+    fake.waits = 0;
     once([&] { fake.clock -= 200; });
     shell::Pause();
-    EXPECT_LE(fake.waits, 4);
+    EXPECT_LE(fake.waits, 4); // no poll after the clock went back
 }
 
-TEST_F(Pause, EndsAtOnceWhenTheDrillIsLeftOrTheProgramEnds)
+TEST_F(Pause, EndsAtOnceWhenTheProgramEndsOrTheDrillIsLeftAndDoesNotHoldUpTheNextOne)
 {
     once([] {
         EXPECT_TRUE(shell::pausing());
         shell::leaveDrill();
         EXPECT_FALSE(shell::pausing());
-    });
-    EXPECT_FALSE(shell::pauseWithDrill());
-    EXPECT_FALSE(shell::pausing());
-    once([&] { fake.endProgram(0); });
-    EXPECT_FALSE(shell::pauseWithDrill());
-    EXPECT_EQ(fake.waits, 2);
-}
-
-TEST_F(Pause, OfADrillThatWasLeftDoesNotHoldUpTheNextOne)
-{
-    once([] {
-        shell::leaveDrill();
         shell::beginDrill("Conjugation");
         EXPECT_TRUE(shell::pauseWithDrill());
         EXPECT_FALSE(shell::pausing());
     });
     EXPECT_FALSE(shell::pauseWithDrill());
     EXPECT_EQ(fake.waits, 2);
+    once([&] { fake.endProgram(0); });
+    EXPECT_FALSE(shell::pauseWithDrill());
+    EXPECT_EQ(fake.waits, 3);
 }
 
 } // namespace

@@ -32,10 +32,10 @@ std::string fileOf(const Lines& lines)
     return text;
 }
 
-bool read(const std::string& text)
+bool read(const Lines& lines)
 {
     settings = {};
-    tests::writeFile("morvanti.ini", text);
+    tests::writeFile("morvanti.ini", fileOf(lines));
     return shell::readSettings("morvanti.ini");
 }
 
@@ -55,24 +55,19 @@ TEST_F(SettingsFile, IsWrittenByteForByteAndABadDelayMendedOnlyAfterwards)
     EXPECT_EQ(settings.DelaySeconds, 15);
 }
 
-TEST_F(SettingsFile, IsReadBackWhateverTheLanguage)
+TEST_F(SettingsFile, HasItsWordsWithTheirBlanksBareOrInQuotesAndIsWrittenBare)
 {
-    for (const std::string language : {"Latin, German", " Latin", "Latin\t", "", "Latin"}) {
-        ASSERT_TRUE(read(fileOf(linesWith(LanguageLine, '"' + language + '"'))));
-        const std::string text = shell::settingsText();
-        ASSERT_TRUE(read(text)) << language;
-        EXPECT_EQ(settings.CurrentLanguage, language);
+    for (const auto& [line, word] : {std::pair{"Latin", "Latin"},
+                                     {"\"Latin\"", "Latin"},
+                                     {" Latin\t", " Latin\t"},
+                                     {"\" Latin\"", " Latin"},
+                                     {"", ""},
+                                     {"\"", "\""}}) {
+        ASSERT_TRUE(read(linesWith(LanguageLine, line))) << line;
+        EXPECT_EQ(shell::settingsText(), fileOf(linesWith(LanguageLine, word)));
     }
-    EXPECT_EQ(shell::settingsText(), fileOf(linesWith()));
-}
-
-TEST_F(SettingsFile, MendsADelayOutOfRangeAsItIsRead)
-{
-    for (const auto& [line, seconds] :
-         {std::pair{" 0", 2}, {"-3", 2}, {" 101", 2}, {" 100", 100}, {" 1", 1}}) {
-        ASSERT_TRUE(read(fileOf(linesWith(DelayLine, line))));
-        EXPECT_EQ(settings.DelaySeconds, seconds) << line;
-    }
+    EXPECT_FALSE(read(linesWith(LanguageLine, "Latin, German")));
+    EXPECT_EQ(settings.CurrentLanguage, "Latin");
 }
 
 TEST_F(SettingsFile, FailsAtEveryLineThatIsMissingOrNoNumber)
@@ -80,11 +75,11 @@ TEST_F(SettingsFile, FailsAtEveryLineThatIsMissingOrNoNumber)
     Lines lines = linesWith();
     for (std::size_t bad = 1; bad < lines.size(); ++bad)
         for (const char* const value : {"", "yes", "32768x", "99999999999"})
-            EXPECT_EQ(read(fileOf(linesWith(bad, value))), LanguageLine <= bad && bad <= LanguageLine + 2)
+            EXPECT_EQ(read(linesWith(bad, value)), LanguageLine <= bad && bad <= LanguageLine + 2)
                 << bad << value;
     while (!lines.empty()) {
         lines.pop_back();
-        EXPECT_FALSE(read(fileOf(lines))) << lines.size();
+        EXPECT_FALSE(read(lines)) << lines.size();
     }
     EXPECT_FALSE(shell::readSettings("none.ini"));
 }
@@ -93,10 +88,10 @@ TEST_F(SettingsFile, KeepsTheQuizEntriesThatWereReadBeforeAFailure)
 {
     Lines lines = linesWith();
     lines.resize(20);
-    ASSERT_FALSE(read(fileOf(lines)));
+    ASSERT_FALSE(read(lines));
     shell::applyDefaultSettings();
-    const Lines first = {"6", " 0", " 0", " 2", "English", "NGDAAb", "Sequential", " 2", "-1"};
-    std::copy(first.begin(), first.end(), lines.begin());
+    std::ranges::copy(Lines{"6", " 0", " 0", " 2", "English", "NGDAAb", "Sequential", " 2", "-1"},
+                      lines.begin());
     lines.resize(36, " 0");
     EXPECT_EQ(shell::settingsText(), fileOf(lines));
     EXPECT_EQ(settings.QuizConjInclude[0] + settings.QuizTenseInclude[0], 2 * FlagTrue);
@@ -104,12 +99,20 @@ TEST_F(SettingsFile, KeepsTheQuizEntriesThatWereReadBeforeAFailure)
 
 TEST_F(SettingsFile, IsMendedWhereItWasEditedByHand)
 {
-    settings.CaseOrder = "NADGAB";
-    settings.QuestionOrder = "random";
+    for (const auto& [line, seconds] :
+         {std::pair{" 0", 2}, {"-3", 2}, {" 101", 2}, {" 100", 100}, {" 1", 1}}) {
+        ASSERT_TRUE(read(linesWith(DelayLine, line)));
+        EXPECT_EQ(settings.DelaySeconds, seconds) << line;
+    }
+    settings = {};
     settings.QuizConjInclude[8] = FlagTrue;
     settings.QuizTenseInclude[20] = FlagTrue;
-    shell::mendSettings();
-    EXPECT_EQ(settings.CaseOrder + settings.QuestionOrder, "NGDAAbSequential");
+    for (const auto& [cases, questions] : {std::pair{"NADGAB", "random"}, {"NAGDAb ", " Random"}}) {
+        settings.CaseOrder = cases;
+        settings.QuestionOrder = questions;
+        shell::mendSettings();
+        EXPECT_EQ(settings.CaseOrder + settings.QuestionOrder, "NGDAAbSequential");
+    }
     EXPECT_EQ(settings.QuizConjInclude[0], FlagTrue);
     EXPECT_EQ(settings.QuizTenseInclude[0], platform::FlagFalse);
 }

@@ -78,21 +78,6 @@ QWidget& shown(const QString& name)
     return *window;
 }
 
-QListWidget& list(const QWidget& window, const QString& name)
-{
-    return control<QListWidget>(window, name);
-}
-
-QLineEdit& line(const QWidget& window, const QString& name)
-{
-    return control<QLineEdit>(window, name);
-}
-
-QAbstractButton& button(const QWidget& window, const QString& name)
-{
-    return control<QAbstractButton>(window, name);
-}
-
 QLineEdit& box(const QWidget& window, const QString& name, int number)
 {
     return line(window, name + QString::number(number));
@@ -109,12 +94,6 @@ QStringList rows(const QListWidget& list)
     for (int row = 0; row < list.count(); ++row)
         texts << list.item(row)->text();
     return texts;
-}
-
-void activate(QWidget& window)
-{
-    QApplication::setActiveWindow(&window);
-    QApplication::processEvents();
 }
 
 void click(QWidget& window, const QString& name)

@@ -3,13 +3,8 @@
 #include "app/navigation.h"
 #include "tests/support/fresh_state.h"
 
-#include <QAbstractButton>
-#include <QAction>
-#include <QApplication>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
 #include <QTest>
+#include <QtWidgets>
 
 #include <functional>
 #include <memory>
@@ -61,17 +56,24 @@ Control& control(const QWidget& window, const QString& name = {})
 }
 
 /// A list, a line, a button or check box by its name, and an answer box by its name and number.
-QListWidget& list(const QWidget& window, const QString& name);
-QLineEdit& line(const QWidget& window, const QString& name);
-QAbstractButton& button(const QWidget& window, const QString& name);
+inline QListWidget& list(const QWidget& window, const QString& name)
+{
+    return control<QListWidget>(window, name);
+}
+inline QLineEdit& line(const QWidget& window, const QString& name)
+{
+    return control<QLineEdit>(window, name);
+}
+inline QAbstractButton& button(const QWidget& window, const QString& name)
+{
+    return control<QAbstractButton>(window, name);
+}
 QLineEdit& box(const QWidget& window, const QString& name, int number);
 
 /// The text of a label, and the texts of a list.
 QString label(const QWidget& window, const QString& name);
 QStringList rows(const QListWidget& list);
 
-/// Makes a window the active one.
-void activate(QWidget& window);
 /// Clicks a button, or the mark of a check box, with the mouse.
 void click(QWidget& window, const QString& button);
 /// Chooses an item of a window's menus.

@@ -14,19 +14,18 @@ namespace {
 
 namespace fs = std::filesystem;
 
-app::CommandLine read(const std::vector<std::string>& arguments)
-{
-    return app::readCommandLine(arguments);
-}
-
 TEST(CommandLine, TakesOneFolderAndKnowsItsOptions)
 {
-    EXPECT_FALSE(read({}).folder || read({}).fault || read({}).answer);
-    EXPECT_EQ(read({"lists"}).folder, "lists");
-    EXPECT_TRUE(read({"--help"}).answer.has_value());
-    EXPECT_EQ(read({"--version"}).answer->substr(0, 9), "morvanti ");
-    EXPECT_EQ(read({"-x"}).fault, "unknown option -x");
-    EXPECT_TRUE(read({"one", "two"}).fault.has_value());
+    const auto said = [](const std::vector<std::string>& arguments) {
+        const app::CommandLine line = app::readCommandLine(arguments);
+        return line.fault.value_or(line.answer.value_or(line.folder.value_or("here")).substr(0, 9));
+    };
+    EXPECT_EQ(said({}), "here");
+    EXPECT_EQ(said({"lists"}), "lists");
+    EXPECT_EQ(said({"--help"}), "Usage: mo");
+    EXPECT_EQ(said({"--version"}), "morvanti ");
+    EXPECT_EQ(said({"-x"}), "unknown option -x");
+    EXPECT_EQ(said({"one", "two"}), "more than one folder: two");
 }
 
 // What is thrown while an event is handled, such as an index past a table, ends the program with one line.
@@ -55,9 +54,11 @@ protected:
         ::setenv("XDG_DATA_HOME", fs::absolute("own").c_str(), 1);
         fs::create_directory("samples");
         fs::create_directories("work/mine");
-        tests::writeFile("samples/verbs.cfg", "verbs");
-        tests::writeFile("samples/VELMOR2.WAV", "sound");
-        tests::writeFile("samples/make-sounds", "script");
+        for (const auto& [name, bytes] : {std::pair{"verbs.cfg", "verbs"},
+                                          {"VELMOR2.WAV", "sound"},
+                                          {"right.wav", "ding"},
+                                          {"make-sounds", "#"}})
+            tests::writeFile(std::string("samples/") + name, bytes);
         fs::current_path("work");
     }
 
@@ -72,45 +73,34 @@ protected:
     const fs::path samples_ = fs::current_path() / "samples";
 };
 
-TEST_F(WorkingFolder, IsTheOneGivenOrTheCurrentOneWhereItHasAVerbList)
+TEST_F(WorkingFolder, IsTheOneGivenOrTheCurrentOneWhereItHasAVerbListOrTheOwnCannotBeMade)
 {
     EXPECT_EQ(enter("nowhere"), "nowhere: No such file or directory");
+    tests::writeFile("../own", "a file");
+    EXPECT_EQ(enter(), "work");
+    fs::remove("../own");
     tests::writeFile("verbs.cfg", "");
     EXPECT_EQ(enter("mine"), "mine");
     EXPECT_EQ(enter(), "work");
 }
 
-TEST_F(WorkingFolder, IsElseTheLearnersOwnFilledOnceWithoutReplacingAnything)
-{
-    fs::create_directories(app::ownFolder());
-    tests::writeFile((app::ownFolder() / "VELMOR2.WAV").string(), "my own");
-    EXPECT_EQ(enter(), "morvanti");
-    EXPECT_EQ(fs::current_path(), fs::canonical(app::ownFolder()));
-    EXPECT_EQ(tests::bytesOf("verbs.cfg"), "verbs");
-    EXPECT_EQ(tests::bytesOf("VELMOR2.WAV"), "my own");
-    EXPECT_FALSE(fs::exists("make-sounds"));
-
-    fs::remove("VELMOR2.WAV");
-    EXPECT_EQ(enter(), "morvanti");
-    EXPECT_FALSE(fs::exists("VELMOR2.WAV"));
-}
-
-TEST_F(WorkingFolder, IsFilledWholeAtTheNextStartWhereTheDiskWasFull)
+TEST_F(WorkingFolder, IsElseTheLearnersOwnFilledOnceAndWholeWithoutReplacingAnything)
 {
     {
         const tests::FullDisk disk(1);
         EXPECT_EQ(enter(), "work");
     }
     EXPECT_TRUE(fs::is_empty(app::ownFolder()));
+    tests::writeFile((app::ownFolder() / "right.wav").string(), "my own");
     EXPECT_EQ(enter(), "morvanti");
-    EXPECT_EQ(tests::bytesOf("verbs.cfg"), "verbs");
-    EXPECT_EQ(tests::bytesOf("VELMOR2.WAV"), "sound");
-}
+    EXPECT_EQ(fs::current_path(), fs::canonical(app::ownFolder()));
+    EXPECT_EQ(tests::bytesOf("verbs.cfg") + tests::bytesOf("VELMOR2.WAV"), "verbssound");
+    EXPECT_EQ(tests::bytesOf("right.wav"), "my own");
+    EXPECT_FALSE(fs::exists("make-sounds"));
 
-TEST_F(WorkingFolder, IsTheCurrentOneWhereAFileStandsInTheWayOfTheOwn)
-{
-    tests::writeFile("../own", "a file");
-    EXPECT_EQ(enter(), "work");
+    fs::remove("VELMOR2.WAV");
+    EXPECT_EQ(enter(), "morvanti");
+    EXPECT_FALSE(fs::exists("VELMOR2.WAV"));
 }
 
 } // namespace

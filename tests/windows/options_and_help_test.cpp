@@ -1,13 +1,6 @@
 #include "shell/settings.h"
 #include "tests/support/window_test.h"
 
-#include <QScrollBar>
-#include <QSlider>
-#include <QTabBar>
-#include <QTextBlock>
-#include <QTextBrowser>
-#include <QWindow>
-
 #include <set>
 
 namespace {
@@ -20,27 +13,25 @@ class DelayInterval : public tests::WindowTest {
 protected:
     QWidget& openWindow() { return open("SetDelay", "DelayInterval"); }
 
-    static QScrollBar& scroll(QWidget& window) { return tests::control<QScrollBar>(window); }
     static std::string length(QWidget& window) { return tests::label(window, "DelayLabel").toStdString(); }
-    static bool isLit(QWidget& window)
-    {
-        return tests::control<QLabel>(window, "DelayLabel").autoFillBackground();
-    }
 };
 
 TEST_F(DelayInterval, IsSetWithTheKeysAloneAndDividesTheDelayByTenWhereItIsLeftUnmoved)
 {
+    for (const auto& leave : tests::waysToLeave("DelayCancel")) {
+        QWidget& left = openWindow();
+        EXPECT_EQ(length(left), " 0.2 seconds");
+        press(left, Qt::Key_End);
+        EXPECT_EQ(length(left), " 100 seconds");
+        leave(left);
+        EXPECT_FALSE(left.isVisible());
+    }
+    EXPECT_EQ(settings.DelaySeconds, 2);
     QWidget& window = openWindow();
-    EXPECT_EQ(length(window), " 0.2 seconds");
     press(window, Qt::Key_Return);
     EXPECT_FALSE(window.isVisible());
     EXPECT_EQ(settings.DelaySeconds, 0);
-    openWindow();
-    press(window, Qt::Key_End);
-    EXPECT_EQ(length(window), " 100 seconds");
-    press(window, Qt::Key_Home);
-    EXPECT_EQ(length(window), " 0 seconds");
-    press(window, Qt::Key_PageUp);
+    press(openWindow(), Qt::Key_PageUp);
     press(window, Qt::Key_Right, 5);
     EXPECT_EQ(length(window), " 1.5 seconds");
     click(window, "DelayOK");
@@ -49,64 +40,47 @@ TEST_F(DelayInterval, IsSetWithTheKeysAloneAndDividesTheDelayByTenWhereItIsLeftU
     EXPECT_EQ(settings.SettingsChangeCount, 2);
 }
 
-TEST_F(DelayInterval, LeavesTheDelayAloneWhenItIsCancelled)
-{
-    for (const auto& leave : tests::waysToLeave("DelayCancel")) {
-        QWidget& window = openWindow();
-        EXPECT_EQ(length(window), " 0.2 seconds");
-        press(window, Qt::Key_End);
-        leave(window);
-        EXPECT_FALSE(window.isVisible());
-    }
-    EXPECT_EQ(settings.DelaySeconds, 2);
-    EXPECT_EQ(settings.SettingsChangeCount, 0);
-}
-
 TEST_F(DelayInterval, TriesTheLengthItShowsOnceAndAbandonsItWhenItClosesOrTheProgramEnds)
 {
     QWidget& window = openWindow();
-    scroll(window).setValue(125);
+    auto& scroll = tests::control<QScrollBar>(window);
+    const auto& lamp = tests::control<QLabel>(window, "DelayLabel");
+    scroll.setValue(125);
     const double before = fake.clock;
-    const auto tryLength = [&](const std::function<void()>& meanwhile) {
-        duringPause(meanwhile);
+    duringPause([&] {
+        EXPECT_TRUE(lamp.autoFillBackground());
         click(window, "DelayTest");
-    };
-    tryLength([&] {
-        EXPECT_TRUE(isLit(window));
-        click(window, "DelayTest");
-        scroll(window).setValue(1000);
+        scroll.setValue(1000);
     });
+    click(window, "DelayTest");
     EXPECT_NEAR(fake.clock - before, 12.5, 0.02);
     EXPECT_EQ(length(window), " 100 seconds");
-    EXPECT_FALSE(isLit(window));
+    EXPECT_FALSE(lamp.autoFillBackground());
     EXPECT_EQ(settings.DelaySeconds, 2);
 
-    // Of either trial a second is left.
-    fake.waits = 0;
-    tryLength([&] {
-        fake.clock -= 1;
-        window.close();
-        openWindow();
-        EXPECT_FALSE(isLit(window));
-    });
-    EXPECT_EQ(fake.waits, 1);
-    tryLength([&] {
-        fake.clock -= 1;
-        fake.endProgram(0);
-    });
-    EXPECT_EQ(fake.waits, 2);
+    const std::function<void()> endings[] = {[&] { window.close(); }, [this] { fake.endProgram(0); }};
+    for (const auto& end : endings) {
+        fake.waits = 0;
+        duringPause([&] {
+            fake.clock -= 1;
+            end();
+        });
+        click(openWindow(), "DelayTest");
+        EXPECT_EQ(fake.waits, 1);
+    }
+    openWindow();
+    EXPECT_FALSE(lamp.autoFillBackground());
 }
 
 TEST_F(DelayInterval, StandsAboveTheMainWindowAndTheGuideThatStoodAboveIt)
 {
     QWidget& window = openWindow();
-    EXPECT_NE(tests::shownWindow("MainMenu"), nullptr);
     EXPECT_EQ(QApplication::activeModalWidget(), &window);
     press(window, Qt::Key_F1);
     QWidget& help = tests::shown("Help");
     EXPECT_TRUE(window.windowHandle()->isAncestorOf(help.windowHandle()));
     window.close();
-    tests::activate(help);
+    QApplication::setActiveWindow(&help);
     tests::choose(tests::shown("MainMenu"), "SetDelay");
     EXPECT_TRUE(help.windowHandle()->isAncestorOf(window.windowHandle()));
     EXPECT_FALSE(window.windowHandle()->isAncestorOf(help.windowHandle()));
@@ -115,69 +89,72 @@ TEST_F(DelayInterval, StandsAboveTheMainWindowAndTheGuideThatStoodAboveIt)
     EXPECT_TRUE(window.isVisible());
 }
 
-class FrmOptions : public tests::WindowTest {
-protected:
-    QWidget& openWindow() { return open("OptionsOptions", "frmOptions"); }
+using FrmOptions = tests::WindowTest;
 
-    static void expectFrame(QWidget& window, int chosen)
-    {
-        for (const int i : {0, 1}) {
-            const auto& frame = tests::control<QWidget>(window, QStringLiteral("picOptions%1").arg(i));
-            EXPECT_EQ(frame.x(), i == chosen ? 14 : -1333) << i;
-            EXPECT_EQ(frame.isEnabled(), i == chosen) << i;
-        }
-    }
-};
-
-TEST_F(FrmOptions, BringsTheFrameOfTheChosenTabInAndSendsTheOthersOff)
-{
-    for (const auto& leave : tests::waysToLeave("cmdCancel")) {
-        QWidget& window = openWindow();
-        auto& tabs = tests::control<QTabBar>(window);
-        EXPECT_EQ(QApplication::activeModalWidget(), &window);
-        expectFrame(window, 0);
-        press(window, Qt::Key_Right);
-        expectFrame(window, 1);
-        QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(0).center());
-        expectFrame(window, 0);
-        press(window, Qt::Key_Right);
-        window.resize(window.size() * 2);
-        expectFrame(window, 1);
-        leave(window);
-        EXPECT_FALSE(window.isVisible());
-    }
-}
-
-TEST_F(FrmOptions, ShowsTheDelayAndSetsNothingAndSaysWhatIsMissing)
+TEST_F(FrmOptions, BringsTheFrameOfTheChosenTabInAndSetsNothingAndSaysWhatIsMissing)
 {
     tests::choose(start(), "RandomOrder");
     settings.DelaySeconds = 7;
-    QWidget& window = openWindow();
-    QStringList orders;
-    for (const QLabel* const text : tests::control<QWidget>(window, "picOptions1").findChildren<QLabel*>())
-        orders << text->text();
-    EXPECT_EQ(orders.join(", "), "Order, Random Order, Case Order, Nom. Gen. Dat. Acc. Abl.");
-    auto& slider = tests::control<QSlider>(window, "GODelaySlider");
-    EXPECT_EQ(slider.value(), 7);
-    slider.setFocus();
-    press(window, Qt::Key_End);
-    EXPECT_EQ(slider.value(), 100);
-    click(window, "cmdApply");
-    EXPECT_EQ(fake.messages.back(), "Place code here to set options w/o closing dialog!");
-    click(window, "cmdOK");
-    EXPECT_EQ(fake.messages.back(), "Place code here to set options and close dialog!");
-    EXPECT_TRUE(window.isVisible());
-    fake.dismissMessage();
-    EXPECT_FALSE(window.isVisible());
-    openWindow();
-    EXPECT_EQ(slider.value(), 7);
-    EXPECT_EQ(settings.SettingsChangeCount, 1);
+    auto ways = tests::waysToLeave("cmdCancel");
+    ways.push_back([this](QWidget& window) {
+        click(window, "cmdApply");
+        EXPECT_EQ(fake.messages.back(), "Place code here to set options w/o closing dialog!");
+        click(window, "cmdOK");
+        EXPECT_EQ(fake.messages.back(), "Place code here to set options and close dialog!");
+        EXPECT_TRUE(window.isVisible());
+        fake.dismissMessage();
+    });
+    for (const auto& leave : ways) {
+        QWidget& window = open("OptionsOptions", "frmOptions");
+        auto& tabs = tests::control<QTabBar>(window);
+        auto& slider = tests::control<QSlider>(window, "GODelaySlider");
+        const auto& first = tests::control<QWidget>(window, "picOptions0");
+        const auto& second = tests::control<QWidget>(window, "picOptions1");
+        const auto expectShown = [](const QWidget& in, const QWidget& off) {
+            EXPECT_EQ(std::pair(in.x(), off.x()), std::pair(14, -1333));
+            EXPECT_TRUE(in.isEnabled() && !off.isEnabled());
+        };
+        EXPECT_EQ(QApplication::activeModalWidget(), &window);
+        expectShown(first, second);
+        EXPECT_EQ(slider.value(), 7);
+        slider.setFocus();
+        press(window, Qt::Key_End);
+        EXPECT_EQ(slider.value(), 100);
+        tabs.setFocus();
+        press(window, Qt::Key_Right);
+        window.resize(window.size() * 2);
+        expectShown(second, first);
+        QStringList orders;
+        for (const QLabel* const text : second.findChildren<QLabel*>())
+            orders << text->text();
+        EXPECT_EQ(orders.join(", "), "Order, Random Order, Case Order, Nom. Gen. Dat. Acc. Abl.");
+        QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(0).center());
+        expectShown(first, second);
+        leave(window);
+        EXPECT_FALSE(window.isVisible());
+    }
 }
 
 class Help : public tests::WindowTest {
 protected:
     QTextBrowser& openGuide() { return tests::control<QTextBrowser>(open("HELPME", "Help"), "HelpText"); }
 };
+
+// The desktop's frame and title count: at the first showing, and after the learner moved the window.
+TEST_F(Help, StandsInTheMiddleOfTheScreenWithItsFrameAsTheSmallWindowsDo)
+{
+    for (const auto& [item, name] :
+         {std::pair{"HELPME", "Help"}, {"MainABout", "About"}, {"SetDelay", "DelayInterval"}})
+        for (int opening = 1; opening <= 3; ++opening) {
+            QWidget& window = open(item, name);
+            EXPECT_NE(window.frameGeometry(), window.geometry());
+            EXPECT_LE(
+                (window.frameGeometry().center() - window.screen()->geometry().center()).manhattanLength(), 2)
+                << name << opening;
+            window.move(3, 3);
+            window.close();
+        }
+}
 
 TEST_F(Help, HasATargetForEveryLinkAndALinkToEveryChapter)
 {
