@@ -57,7 +57,7 @@ TEST_F(ConjugationWindows, DrillAWholeTenseFromTheKeyboard)
     EXPECT_TRUE(button(chooser, "cchok").isEnabled());
     press(chooser, Qt::Key_F1);
     press(shown("Help"), Qt::Key_Escape);
-    activate(chooser);
+    QApplication::setActiveWindow(&chooser);
     EXPECT_FALSE(button(chooser, "cchok").isEnabled());
     EXPECT_EQ(settings.ActiveWindowName, "conjchoose");
     press(chooser, Qt::Key_Return);
@@ -74,7 +74,7 @@ TEST_F(ConjugationWindows, DrillASingleTenseThroughTheRegularClassesAndBeginAfre
 {
     QWidget& chooser = open("ConjugationButton", "ConjugationChoose");
     doubleClickRow(control<QListWidget>(chooser), 8);
-    activate(chooser);
+    QApplication::setActiveWindow(&chooser);
     QWidget& tenses = shown("TenseMoodChooser");
     clickRow(list(tenses, "TenseMood"), 3);
     press(tenses, Qt::Key_Return);
