@@ -20,8 +20,8 @@ namespace nouns {
 /// The noun manager: shows the noun lists by declension and lets the learner add nouns. They are kept in
 /// memory: the list file is never written.
 ///
-/// `NHAdd` adds a last row for a new noun, whose fields can be filled in; pressed on that row it stores the
-/// noun. What was filled in waits there until it is stored.
+/// `NHAdd` adds a last row for a new noun to any declension, whose fields can be filled in; pressed on that
+/// row it stores the noun, or says why it cannot. What was filled in waits there until it is stored.
 class NounHandler : public shell::Window {
     Q_OBJECT
 

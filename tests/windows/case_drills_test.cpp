@@ -111,6 +111,7 @@ TEST_F(CaseDrills, PlaceTheRowsOfPronounsInTheCaseOrder)
         for (int column = 0, left = 0; column < 3; ++column) {
             const QRect place = box(drill, "Pronoun", cell + column * 5).geometry();
             EXPECT_NEAR(place.center().y(), middle, 1);
+            EXPECT_EQ(control<QLabel>(drill, QStringLiteral("ColumnLabel%1").arg(column + 1)).x(), place.x());
             EXPECT_LT(std::exchange(left, place.x()), place.x());
         }
     }

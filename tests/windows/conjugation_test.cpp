@@ -131,6 +131,11 @@ TEST_F(ConjugationWindows, StandInTheirPlacesWithTheJudgementBesideThem)
                                          static_cast<int>(screen.height() / 1.5)));
     });
     answer(drill, "x");
+    for (int person = 0; person < 6; ++person) {
+        const auto& gloss = control<QLabel>(drill, QStringLiteral("Ctransl%1").arg(person));
+        EXPECT_EQ(gloss.x(), box(drill, "ConjText", person).x());
+        EXPECT_GT(gloss.y(), box(drill, "ConjText", person).y());
+    }
 }
 
 } // namespace

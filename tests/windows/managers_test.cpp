@@ -86,6 +86,7 @@ TEST_F(Managers, FillTheBoxesFromTheListOfVerbsAloneAndPreviewTheirForms)
         fillBox("VerbManagerGermanForms0", "sing");
     }
     press(*manager, Qt::Key_Escape);
+    EXPECT_FALSE(manager->isVisible());
     openVerbs();
     EXPECT_EQ(shownRecord(), first);
     chooseVerb(4, 12);

@@ -75,6 +75,7 @@ TEST_F(Quizzes, OfVerbsAreAnsweredFromTheKeyboard)
          {std::pair{"QuizConjList", 1}, {"QuizTenseList", 2}, {"QuizFirst", 1}, {"QuizSing", 1}}) {
         EXPECT_EQ(focusIn(quiz()), name);
         press(quiz(), Qt::Key_Down, steps);
+        EXPECT_NE(text("QuizYourAnswer"), "");
         if (name != std::string_view("QuizSing"))
             press(quiz(), Qt::Key_Tab);
     }
@@ -205,6 +206,7 @@ TEST_F(Quizzes, OfNounsJudgeTheTicksAndAskAnew)
             EXPECT_EQ(label(nounQuiz, "NounRightAnswer"), words);
             if (questions % 5 == 0)
                 click(nounQuiz, "NQSkip");
+            EXPECT_EQ(label(nounQuiz, "NounRightAnswer").isEmpty(), questions % 5 == 0);
         });
         click(nounQuiz, "NQOK");
         EXPECT_EQ(label(nounQuiz, "NounQuizVerdict") + label(nounQuiz, "NounRightAnswer"), "");
