@@ -1,5 +1,6 @@
 #include "verbdrills/quiz_texts.h"
 
+#include "verbdrills/tense_names.h"
 #include "verbs/paradigm.h"
 
 #include <array>
@@ -22,32 +23,6 @@ constexpr std::array<LanguageTexts, verbs::LastClass> ClassNames = {{
     englishToo("Esse",                    "Esse (sein)",          "Esse",                            "Esse"),
     englishToo("Velle",                   "Velle (wollen)",       "Velle",                           "Velle"),
     englishToo("Ferre",                   "Ferre (tragen)",       "Ferre",                           "Ferre"),
-}};
-
-// Apart from some names these are the tenses of the chooser.
-constexpr std::array<LanguageTexts, verbs::BlockCount> TenseNames = {{
-    //         English, French, Italian             German                               Spanish                                  Latin
-    englishToo("Present Indicative",                "Präsens Indikativ",                 "Presente de indicativo",                "Praesens Indicativum"),
-    englishToo("Imperfect Indicative",              "Imperfekt Indikativ",               "Imperfecto de indicativo",              "Imperfectum Indicativum"),
-    englishToo("Future Indicative",                 "Futur Indikativ",                   "Futuro de indicativo",                  "Futurum Indicativum"),
-    englishToo("Perfect Indicative",                "Perfekt Indikativ",                 "Perfecto de indicativo",                "Perfectum Indicativum"),
-    englishToo("Pluperfect Indicative",             "Plusquamperfekt Indikativ",         "Pluscuamperfecto de indicativo",        "Plusquam Perfectum Indicativum"),
-    englishToo("Future Perfect Indicative",         "Futur Perfekt Indikativ",           "Futuro perfecto de indicativo",         "Futurum Perfectum Indicativum"),
-    englishToo("Present Subjunctive",               "Präsens Konjunktiv",                "Presente subjuntivo",                   "Praesens Subjunctivum"),
-    englishToo("Imperfect Subjunctive",             "Imperfekt Konjunktiv",              "Imperfecto de subjuntivo",              "Imperfectum Subjunctivum"),
-    englishToo("Perfect Subjunctive",               "Perfekt Konjunktiv",                "Perfecto de subjuntivo",                "Perfectum Subjunctivum"),
-    englishToo("Pluperfect Subjunctive",            "Plusquamperfekt Konjunktiv",        "Pluscuamperfecto de subjuntivo",        "Plusquamperfectum Subjunctivum"),
-    englishToo("Imperative",                        "Imperativ",                         "Imperativo",                            "Imperativus Modus"),
-    englishToo("Passive Present Indicative",        "Passiv Präsens Indikativ",          "Presente pasivo",                       "Passivum Praesens Indicativum"),
-    englishToo("Passive Imperfect Indicative",      "Passiv Imperfekt Indikativ",        "Imperfecto pasivo",                     "Passivum Imperfectum Indicativum"),
-    englishToo("Passive Future Indicative",         "Passiv Futur Indikativ",            "Futuro pasivo",                         "Passivum Futurum Indicativum"),
-    englishToo("Passive Perfect Indicative",        "Passiv Perfekt Indikativ",          "Perfecto pasivo",                       "Passivum Perfectum Indicativum"),
-    englishToo("Passive Pluperfect Indicative",     "Passiv Plusquamperfekt Indikativ",  "Pluscuamperfecto pasivo",               "Passivum Plusquamperfectum Indicativum"),
-    englishToo("Passive Future Perfect Indicative", "Passiv Futur Perfekt Indikativ",    "Futuro de subjuntivo pasivo",           "Passivum Futurum Perfectum Indicativum"), // sic: subjuntivo
-    englishToo("Passive Present Subjunctive",       "Passiv Präsens Konjunktiv",         "Presente de subjuntivo pasivo",         "Passivum Praesens Subjunctivum"),
-    englishToo("Passive Imperfect Subjunctive",     "Passiv Imperfekt Konjunktiv",       "Imperfecto de subjuntivo pasivo",       "Passivum Imperfectum Subjunctivum"),
-    englishToo("Passive Perfect Subjunctive",       "Passiv Perfekt Konjunktiv",         "Perfecto de subjuntivo pasivo",         "Passivum Perfectum Subjunctivum"),
-    englishToo("Passive Pluperfect Subjunctive",    "Passiv Plusquamperfekt Konjunktiv", "Pluscuamperfecto de subjuntivo pasivo", "Passivum Plusquamperfectum Subjunctivum"),
 }};
 
 // Spanish has the English words.
@@ -77,7 +52,7 @@ std::span<const LanguageTexts> quizClassNames()
 
 std::span<const LanguageTexts> quizTenseNames()
 {
-    return TenseNames;
+    return NamesOfTenses;
 }
 
 std::string describe(const Identification& identification)
@@ -88,7 +63,7 @@ std::string describe(const Identification& identification)
     text += chosenName(ClassNames, identification.classRow);
     if (identification.classRow >= 0 && identification.tenseRow >= 0)
         text += Separator;
-    text += chosenName(TenseNames, identification.tenseRow);
+    text += chosenName(NamesOfTenses, identification.tenseRow);
     return text;
 }
 

@@ -1,6 +1,7 @@
 #include "verbdrills/windows/choosers.h"
 
 #include "verbdrills/conjugation_choice.h"
+#include "verbdrills/tense_names.h"
 #include "verbs/paradigm.h"
 
 #include <array>
@@ -51,31 +52,33 @@ constexpr std::array TenseCaptions = {
     Caption{"TenseMoodCancel",  englishToo("&Cancel",                  "&Abbruch",                    "&Cancelar",              "&Reverte!")},
 };
 
-constexpr std::array<LanguageTexts, verbs::BlockCount> TenseRows = {{
-    //         English, French, Italian       German                                Spanish                                 Latin
-    englishToo("Present Indicative",             "Präsens Indikativ",                 "Presente de indicativo",                "Praesens Indicativum"),
-    englishToo("Imperfect Indicative",           "Imperfekt Indikativ",               "Imperfecto de indicativo",              "Imperfectum Indicativum"),
-    englishToo("Future Indicative",              "Futur Indikativ",                   "Futuro de indicativo",                  "Futurum Indicativum"),
-    englishToo("Perfect Indicative",             "Perfekt Indikativ",                 "Perfecto de indicativo",                "Praeteritum Perfectum Indicativum"),
-    englishToo("Pluperfect Indicative",          "Plusquamperfekt Indikativ",         "Pluscuamperfecto de indicativo",        "Plusquam Perfectum Indicativum"),
-    englishToo("Future Perfect Indicative",      "Futur Perfekt Indikativ",           "Futuro perfecto de indicativo",         "Futurum Perfectum Indicativum"),
-    englishToo("Present Subjunctive",            "Präsens Konjunktiv",                "Presente subjuntivo",                   "Praesens Subjunctivum"),
-    englishToo("Imperfect Subjunctive",          "Imperfekt Konjunktiv",              "Imperfecto de subjuntivo",              "Imperfectum Subjunctivum"),
-    englishToo("Perfect Subjunctive",            "Perfekt Konjunktiv",                "Perfecto de subjuntivo",                "Perfectum Subjunctivum"),
-    englishToo("Pluperfect Subjunctive",         "Plusquamperfekt Konjunktiv",        "Pluscuamperfecto de subjuntivo",        "Plusquamperfectum Subjunctivum"),
-    englishToo("Imperative",                     "Imperativ",                         "Imperativo",                            "Imperativus Modus"),
-    englishToo("Passive Present Indicative",     "Passiv Präsens Indikativ",          "Presente pasivo",                       "Passivum Praesens"),
-    englishToo("Passive Imperfect Indicative",   "Passiv Imperfekt Indikativ",        "Imperfecto pasivo",                     "Passivum Imperfectum"),
-    englishToo("Passive Future Indicative",      "Passiv Futur Indikativ",            "Futuro pasivo",                         "Passivum Futurum"),
-    englishToo("Passive Perfect Indicative",     "Passiv Perfekt Indikativ",          "Perfecto pasivo",                       "Passivum Perfectum"),
-    englishToo("Passive Pluperfect Indicative",  "Passiv Plusquamperfekt Indikativ",  "Pluscuamperfecto pasivo",               "Passivum Plusquamperfectum"),
-    englishToo("Passive Future Perfect",         "Passiv Futur Perfekt",              "Futuro de subjuntivo pasivo",           "Passivum Futurum Perfectum"), // sic: Spanish
-    englishToo("Passive Present Subjunctive",    "Passiv Präsens Konjunktiv",         "Presente de subjuntivo pasivo",         "Passivum Praesens Subjunctivum"),
-    englishToo("Passive Imperfect Subjunctive",  "Passiv Imperfekt Konjunktiv",       "Imperfecto de subjuntivo pasivo",       "Passivum Imperfectum Subjunctivum"),
-    englishToo("Passive Perfect Subjunctive",    "Passiv Perfekt Konjunktiv",         "Perfecto de subjuntivo pasivo",         "Passivum Perfectum Subjunctivum"),
-    englishToo("Passive Pluperfect Subjunctive", "Passiv Plusquamperfekt Konjunktiv", "Pluscuamperfecto de subjuntivo pasivo", "Passivum Plusquamperfectum Subjunctivum"),
-}};
+struct TenseName {
+    verbs::TenseBlock tense;
+    LanguageTexts texts;
+};
+
+// The tenses that the quiz names otherwise.
+constexpr std::array OwnTenseNames = {
+    //                                                          English, French, Italian         German                              Spanish                        Latin
+    TenseName{verbs::PerfectIndicative,              englishToo("Perfect Indicative",            "Perfekt Indikativ",                "Perfecto de indicativo",      "Praeteritum Perfectum Indicativum")},
+    TenseName{verbs::PassivePresentIndicative,       englishToo("Passive Present Indicative",    "Passiv Präsens Indikativ",         "Presente pasivo",             "Passivum Praesens")},
+    TenseName{verbs::PassiveImperfectIndicative,     englishToo("Passive Imperfect Indicative",  "Passiv Imperfekt Indikativ",       "Imperfecto pasivo",           "Passivum Imperfectum")},
+    TenseName{verbs::PassiveFutureIndicative,        englishToo("Passive Future Indicative",     "Passiv Futur Indikativ",           "Futuro pasivo",               "Passivum Futurum")},
+    TenseName{verbs::PassivePerfectIndicative,       englishToo("Passive Perfect Indicative",    "Passiv Perfekt Indikativ",         "Perfecto pasivo",             "Passivum Perfectum")},
+    TenseName{verbs::PassivePluperfectIndicative,    englishToo("Passive Pluperfect Indicative", "Passiv Plusquamperfekt Indikativ", "Pluscuamperfecto pasivo",     "Passivum Plusquamperfectum")},
+    TenseName{verbs::PassiveFuturePerfectIndicative, englishToo("Passive Future Perfect",        "Passiv Futur Perfekt",             "Futuro de subjuntivo pasivo", "Passivum Futurum Perfectum")}, // sic: Spanish
+};
 // clang-format on
+
+constexpr auto namesOfTenses()
+{
+    auto names = NamesOfTenses;
+    for (const auto& [tense, texts] : OwnTenseNames)
+        names.at(static_cast<std::size_t>(tense - verbs::PresentIndicative)) = texts;
+    return names;
+}
+
+constexpr auto TenseRows = namesOfTenses();
 
 } // namespace
 
