@@ -17,10 +17,13 @@ DeclensionDrill declensionDrill;
 
 namespace {
 
-constexpr std::array<NounParadigm, ParadigmCount> ParadigmOfRow = {
+constexpr std::array ParadigmOfRow = {
     FirstDeclension,        SecondDeclensionUs,     SecondDeclensionEr,
     SecondDeclensionNeuter, ThirdDeclension,        ThirdDeclensionNeuter,
-    FourthDeclension,       FourthDeclensionNeuter, FifthDeclension};
+    FourthDeclension,       FourthDeclensionNeuter, FifthDeclension,
+};
+
+static_assert(ParadigmOfRow.size() == ParadigmCount);
 
 void ask(int box)
 {

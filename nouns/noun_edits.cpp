@@ -23,6 +23,8 @@ constexpr std::array FifthParadigms  = {ListedParadigm{FifthDeclension,        "
 constexpr std::array<std::span<const ListedParadigm>, DeclensionCount> Declensions = {
     FirstParadigms, SecondParadigms, ThirdParadigms, FourthParadigms, FifthParadigms};
 
+static_assert(!Declensions.back().empty());
+
 } // namespace
 
 std::span<const ListedParadigm> paradigmsOf(int declension)

@@ -60,15 +60,6 @@ inline constexpr std::array<ParadigmEndings, ParadigmCount> EndingTable = {{
     {ThirdDeclensionNeuter,  {"",    "is",  "i:",  "",    "e",          "a",   "um",    "ibus", "a",   "ibus"}},
 }};
 
-constexpr bool standInOrder(std::span<const ParadigmEndings> rows)
-{
-    int paradigm = FirstDeclension;
-    for (const ParadigmEndings& row : rows)
-        if (row.paradigm != paradigm++)
-            return false;
-    return true;
-}
-
 static_assert(standInOrder(EndingTable));
 
 // dea, dea:bus, which tells goddesses from gods.

@@ -29,6 +29,8 @@ inline constexpr std::array<DeclensionName, ParadigmCount> DeclensionNames = {{
     {ThirdDeclensionNeuter,  {"Third Declension:",  "Third Declension:",     "Third Declension:",  "3. Deklination:", "Tercera declinación:", "Tertia Declinatio:"}},
 }};
 
+static_assert(standInOrder(DeclensionNames));
+
 //                                                                             English, French, Italian        German                                Spanish                               Latin
 inline constexpr shell::LanguageTexts MixedDeclension = shell::englishToo("Third Declension (mixed):",  "3. Deklination (Mischdeklination):", "Tercera Declinación (mixta):",       "Tertia Declinatio (mixta):"); // sic: Declinación
 inline constexpr shell::LanguageTexts IStemDeclension = shell::englishToo("Third Declension (i-stem):", "3. Deklination (i-Stamm):",          "Tercera declinación (temas en -i):", "Tertia Declinatio (i-radix):");

@@ -17,6 +17,17 @@ enum NounParadigm : int {
 
 inline constexpr int ParadigmCount = 9;
 
+/// Whether a table has one row for each paradigm, in their order.
+template <typename Rows>
+constexpr bool standInOrder(const Rows& rows)
+{
+    int paradigm = FirstDeclension;
+    for (const auto& row : rows)
+        if (row.paradigm != paradigm++)
+            return false;
+    return paradigm > ParadigmCount;
+}
+
 /// The cases, by the number that forms and endings are indexed with.
 enum Case : int {
     NominativeSingular = 1,

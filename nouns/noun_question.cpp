@@ -52,6 +52,8 @@ constexpr std::array<OneForm, ParadigmCount> OneFormTable = {{
 }};
 // clang-format on
 
+static_assert(!OneFormTable.back().plural.empty());
+
 constexpr std::array CaseWords = {" Nominative", " Genitive", " Dative", " Accusative", " Ablative"};
 
 // Appends the words of five cases, from the one with this index, behind the name of their number; nothing

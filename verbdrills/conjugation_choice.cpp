@@ -14,14 +14,18 @@ using verbs::currentParadigm;
 
 namespace {
 
-constexpr std::array<verbs::VerbClass, SingleTenseRow> ClassOfRow = {verbs::FirstConjugation,
-                                                                     verbs::SecondConjugation,
-                                                                     verbs::ThirdConjugation,
-                                                                     verbs::ThirdIoConjugation,
-                                                                     verbs::FourthConjugation,
-                                                                     verbs::Esse,
-                                                                     verbs::Velle,
-                                                                     verbs::Ferre};
+constexpr std::array ClassOfRow = {
+    verbs::FirstConjugation,
+    verbs::SecondConjugation,
+    verbs::ThirdConjugation,
+    verbs::ThirdIoConjugation,
+    verbs::FourthConjugation,
+    verbs::Esse,
+    verbs::Velle,
+    verbs::Ferre,
+};
+
+static_assert(ClassOfRow.size() == SingleTenseRow);
 
 } // namespace
 

@@ -13,7 +13,7 @@ using shell::LanguageTexts;
 namespace {
 
 // clang-format off
-constexpr std::array<LanguageTexts, verbs::LastClass> ClassNames = {{
+constexpr std::array ClassNames = {
     //         English, French, Italian   German                  Spanish                            Latin
     englishToo("First Conjugation",       "1. Konjugation",       "Primera conjugatión",             "Conjugation I"), // sic: English
     englishToo("Second Conjugation",      "2. Konjugation",       "Segunda conjugatión",             "Conjugatio II"),
@@ -23,7 +23,7 @@ constexpr std::array<LanguageTexts, verbs::LastClass> ClassNames = {{
     englishToo("Esse",                    "Esse (sein)",          "Esse",                            "Esse"),
     englishToo("Velle",                   "Velle (wollen)",       "Velle",                           "Velle"),
     englishToo("Ferre",                   "Ferre (tragen)",       "Ferre",                           "Ferre"),
-}};
+};
 
 // Spanish has the English words.
 constexpr std::array<LanguageTexts, 3> PersonTexts = {{
@@ -35,6 +35,8 @@ constexpr std::array<LanguageTexts, 3> PersonTexts = {{
 constexpr LanguageTexts SingularText = englishToo("Sing, ", "Sing., ", "Sing, ", "Sing., ");
 constexpr LanguageTexts PluralText   = englishToo("Plur, ", "Plur., ", "Plur, ", "Plur., ");
 // clang-format on
+
+static_assert(ClassNames.size() == verbs::LastClass);
 
 constexpr std::string_view Separator = ", ";
 

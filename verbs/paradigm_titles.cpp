@@ -16,7 +16,7 @@ using shell::LanguageTexts;
 
 // Classes 1 to 7; ferre has no title.
 // clang-format off
-constexpr std::array<LanguageTexts, 7> TitlesOfClasses = {{
+constexpr std::array TitlesOfClasses = {
     //         English, French, Italian   German                   Spanish                            Latin
     englishToo("First Conjugation",       "1. Konjugation",       "Primera Conjugatión",            "Conjugatio I"),
     englishToo("Second Conjugation",      "2. Konjugation",       "Segunda Conjugatión",            "Conjugatio II"),
@@ -25,9 +25,9 @@ constexpr std::array<LanguageTexts, 7> TitlesOfClasses = {{
     englishToo("Third Conjugation (-io)", "3. Konjugation (-io)", "Cuarta Conjugatión mixta (-io)", "Conjugatio III (-io)"),
     englishToo("Velle",                   "Velle (wollen)",       "Velle",                          "Velle"), // sic: class 6 is esse
     englishToo("Esse",                    "Esse (sein)",          "Esse",                           "Esse"),  // sic: class 7 is velle
-}};
+};
 
-constexpr std::array<LanguageTexts, BlockCount> TitlesOfTenses = {{
+constexpr std::array TitlesOfTenses = {
     //         English, French, Italian       German                                Spanish                                 Latin
     englishToo("Present Indicative",             "Präsens Indikativ",                 "Presente de indicativo",                "Praesens Indicativum"),
     englishToo("Imperfect Indicative",           "Imperfekt Indikativ",               "Imperfecto de indicativo",              "Imperfectum Indicativum"),
@@ -50,8 +50,11 @@ constexpr std::array<LanguageTexts, BlockCount> TitlesOfTenses = {{
     englishToo("Passive Imperfect Subjunctive",  "Passiv Imperfekt Konjunktiv",       "Imperfecto de subjuntivo pasivo",       "Passivum Imperfectum Subjunctivum"),
     englishToo("Passive Perfect Subjunctive",    "Passiv Perfekt Konjunktiv",         "Perfecto de subjuntivo pasivo",         "Passivum Perfectum Subjunctivum"),
     englishToo("Passive Pluperfect Subjunctive", "Passiv Plusquamperfekt Konjunktiv", "Pluscuamperfecto de subjuntivo pasivo", "Passivum Plusquamperfectum Subjunctivum"),
-}};
+};
 // clang-format on
+
+static_assert(TitlesOfClasses.size() == Velle);
+static_assert(TitlesOfTenses.size() == BlockCount);
 
 constexpr Persons EnglishPersons = {"I", "you", "he, she, it", "we", "all of you", "they"};
 

@@ -72,6 +72,7 @@ constexpr std::array<RegularClass, LastRegularClass> Classes = {{
 constexpr std::size_t FirstTwo = 2;
 
 static_assert(Classes[FirstTwo].verbClass == ThirdConjugation);
+static_assert(Classes.back().verbClass == FourthConjugation);
 
 // What a class takes over from the verb drawn: the working stems, the infinitive and the translations.
 void takeVerb(const RegularClass& row, int number)

@@ -26,7 +26,7 @@ constexpr std::array DeclensionCaptions = {
     Caption{"DeclinationCancel", {"&Cancel",             "&Cancel",                     {},      "&Abbruch",                   "&Cancelar",              "&Reverte!"}},
 };
 
-constexpr std::array<LanguageTexts, ParadigmCount> DeclensionRows = {{
+constexpr std::array DeclensionRows = {
     //            English                                     French                                       Italian  German                                    Spanish                                    Latin
     LanguageTexts{"1st Declension (fem., puella -ae)",        "1ere déclension (fém., puella -ae)",        {},      "1. Deklination (f., puella -ae)",        "1a declensión (fem., puella -ae)",        "Declinatio Prima (fem., puella -ae)"},
     LanguageTexts{"2nd Declension (masc., hortus -i)",        "2nde déclension (masc., hortus -i)",        {},      "2. Deklination (m., hortus -i)",         "2a declensión (masc., hortus -i)",        "Declinatio Secunda (masc., hortus -i)"},
@@ -37,7 +37,9 @@ constexpr std::array<LanguageTexts, ParadigmCount> DeclensionRows = {{
     LanguageTexts{"4th Declension (fem./masc., fructus -us)", "4eme déclension (fém./masc., fructus -us)", {},      "4. Deklination (f./masc., fructus -us)", "4a declensión (fem./masc., fructus -us)", "Declinatio Quarta (fem./masc., fructus -us)"},
     LanguageTexts{"4th Declension (neut., cornu -us)",        "4eme déclension (neut., cornu -us)",        {},      "4. Deklination (n., cornu -us)",         "4a declensión (neutro, cornu -us)",       "Declinatio Quarta (neut., cornu -us)"},
     LanguageTexts{"5th Declension (fem., res-rei)",           "5eme déclension (fém., res -rei)",          {},      "5. Deklination (f., res-rei)",           "5a declensión (fem., res-rei)",           "Declinatio Quinta (fem., res-rei)"}, // sic: blanks
-}};
+};
+
+static_assert(DeclensionRows.size() == ParadigmCount);
 
 // French and Italian keep the texts that the window is designed with.
 constexpr ChooserNames PronounNames = {

@@ -28,7 +28,7 @@ constexpr std::array ConjugationCaptions = {
     Caption{"Command2",            {"&Cancel",              "&Annule",                       {}, "&Abbruch",                   "&Cancelar",              "&Reverte!"}},
 };
 
-constexpr std::array<LanguageTexts, ConjugationRowCount> ConjugationRows = {{
+constexpr std::array ConjugationRows = {
     //            English                                 French                                 Italian  German                              Spanish                                 Latin
     LanguageTexts{"1st Conjugation (amo - ama:re)",       "Conjugation 1º (amo - ama:re)",       {}, "1. Konjugation (amo - ama:re)",       "1a Conjugatión (amo - ama:re)",        "Conjugatio Prima (amo - ama:re)"}, // sic: French and Spanish
     LanguageTexts{"2nd Conjugation (moneo - mone:re)",    "Conjugation 2º (moneo - mone:re)",    {}, "2. Konjugation (moneo - mone:re)",    "2a Conjugatión (moneo - mone:re)",     "Conjugatio Secunda (moneo - mone:re)"}, // sic: French and Spanish
@@ -39,7 +39,9 @@ constexpr std::array<LanguageTexts, ConjugationRowCount> ConjugationRows = {{
     LanguageTexts{"Velle (wish, want)",                   "Velle",                               {}, "Velle (wollen)",                      "Velle (querer, desear)",               "Velle"},
     LanguageTexts{"Ferre (bear, carry)",                  "Ferre",                               {}, "Ferre (tragen)",                      "Ferre (llevar, sportar)",              "Ferre"}, // sic: Spanish
     LanguageTexts{"A PARTICULAR TENSE or MOOD",           "Tempus et Modum elige!",              {}, "EINE BESONDERE ZEITFORM",             "Elegir un timpo o modo en particular", "Tempus et Modum elige!"}, // sic: Spanish
-}};
+};
+
+static_assert(ConjugationRows.size() == ConjugationRowCount);
 
 constexpr ChooserNames TenseNames = {
     .window = "TenseMoodChooser", .active = "tensemood", .list = "TenseMood",
