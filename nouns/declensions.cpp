@@ -111,13 +111,12 @@ void setExceptions(int paradigm, int number)
                 setMarked(nounTables.NounEndings[paradigm][inCase], ending);
 }
 
-// The infix goes by the number of the noun drawn for the second declension in -us, sic.
 void setErEndings(int numberOfUs)
 {
     setEndings(SecondDeclensionEr);
     if (numberOfUs > ErInfixCount)
         return;
-    const std::string& infix = nounTables.ErInfix[numberOfUs - 1];
+    const std::string& infix = nounTables.ErInfix[numberOfUs - 1]; // sic: by the noun in -us
     for (int inCase = GenitiveSingular; inCase <= AblativePlural; ++inCase)
         nounTables.NounEndings[SecondDeclensionEr][inCase].insert(0, infix);
 }

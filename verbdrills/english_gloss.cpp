@@ -29,7 +29,6 @@ constexpr Part Participle = &GlossParts::participle;
 constexpr Part Present = &GlossParts::presentParticiple;
 
 // clang-format off
-// The active subjunctive opens with a capital, the passive one with a small letter, sic.
 constexpr std::array<GlossRow, 19> Rows = {{
     //                               opening  1sg                   3sg                   others                translation
     {ImperfectIndicative,            "",      " was ",              " was ",              " were ",             Present},
@@ -47,10 +46,10 @@ constexpr std::array<GlossRow, 19> Rows = {{
     {PassivePerfectIndicative,       "",      " was ",              " was ",              " were ",             Participle},
     {PassivePluperfectIndicative,    "",      " had been ",         " had been ",         " had been ",         Participle},
     {PassiveFuturePerfectIndicative, "",      " will have been ",   " will have been ",   " will have been ",   Participle},
-    {PassivePresentSubjunctive,      "if ",   " be ",               " be ",               " were ",             Participle},
-    {PassiveImperfectSubjunctive,    "if ",   " were ",             " were ",             " were ",             Participle},
-    {PassivePerfectSubjunctive,      "if ",   " would have been ",  " would have been ",  " would have been ",  Participle},
-    {PassivePluperfectSubjunctive,   "if ",   " had been ",         " had been ",         " had been ",         Participle},
+    {PassivePresentSubjunctive,      "if ",   " be ",               " be ",               " were ",             Participle}, // sic: a small letter
+    {PassiveImperfectSubjunctive,    "if ",   " were ",             " were ",             " were ",             Participle}, // sic: a small letter
+    {PassivePerfectSubjunctive,      "if ",   " would have been ",  " would have been ",  " would have been ",  Participle}, // sic: a small letter
+    {PassivePluperfectSubjunctive,   "if ",   " had been ",         " had been ",         " had been ",         Participle}, // sic: a small letter
 }};
 
 // The perfects have a second half without a label of its own: "I loved,  have loved".

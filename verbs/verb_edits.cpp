@@ -25,12 +25,9 @@ struct Edit {
 std::vector<Edit> edits;
 
 // By class: first, second, third, fourth conjugation, -io verbs.
-constexpr std::array<std::string_view, LastRegularClass> ListedEndings = {
-    "are", "ere", "ere", "ire",
-    "ire", // sic: capire
-};
+constexpr std::array ListedEndings = {"are", "ere", "ere", "ire", "ire"}; // sic: capire
 
-static_assert(!ListedEndings.back().empty());
+static_assert(ListedEndings.size() == LastRegularClass);
 
 void store(const Edit& edit)
 {
