@@ -49,6 +49,11 @@ void leaveDrill()
     beginStay();
 }
 
+void endPause()
+{
+    beginStay();
+}
+
 Stay drillStay()
 {
     return stay;

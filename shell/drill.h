@@ -41,10 +41,16 @@ Drill* runningDrill();
 /// Begins a drill: sets `ExerciseType` and resets the score.
 void beginDrill(std::string_view exerciseType);
 
-/// Leaves the running drill: every `Pause` that waits for it returns, and it is not moved on afterwards.
+/// Leaves the running drill: every `Pause` that waits for it returns, and it is not moved on afterwards. The
+/// next stay begins at once: the noun quiz, which nothing begins, pauses in that.
 void leaveDrill();
 
-/// The stay in the running drill: `beginDrill` and `leaveDrill` end it.
+/// Ends the pause of a drill that goes on: every `Pause` that waits for it returns, and what was to follow it
+/// does not.
+void endPause();
+
+/// The stay in the running drill. There is always one: `beginDrill`, `leaveDrill` and `endPause` end it and
+/// begin the next.
 Stay drillStay();
 
 } // namespace shell

@@ -12,11 +12,12 @@ namespace shell {
 /// at which it began comes round again.
 void waitSeconds(const std::function<double()>& seconds, const std::function<bool()>& isOff);
 
-/// Waits `DelaySeconds` seconds, likewise. Returns earlier when the drill that pauses is left.
+/// Waits `DelaySeconds` seconds, likewise. Returns earlier when the drill that pauses is left, or its pause
+/// ended.
 void Pause();
 
-/// Pauses within a drill. Returns false where that was left meanwhile, or the program ends: then nothing more
-/// may be done for it.
+/// Pauses within a drill. Returns false where that was left meanwhile, its pause ended, or the program ends:
+/// then nothing more may be done for the answer that was judged.
 [[nodiscard]] bool pauseWithDrill();
 
 /// True while the running drill pauses. Checking and hinting do nothing then.

@@ -175,10 +175,10 @@ void NounQuiz::check()
         ask();
 }
 
-// A judged answer that is still shown gives way at once: leaving ends its pause.
+// A judged answer that is still shown gives way at once.
 void NounQuiz::skip()
 {
-    shell::leaveDrill();
+    shell::endPause();
     ask();
 }
 
