@@ -15,7 +15,7 @@ inline constexpr int BoxCount = verbs::PersonCount;
 /// Where the conjugation drill stands. There is one, `conjugationDrill`; assigning `{}` resets it. The
 /// paradigm that is drilled stands in `verbs::currentParadigm`.
 struct ConjugationDrill {
-    /// The form asked is number `FormRow` + 1 of its class, -1 to 159.
+    /// The form asked is number `FormRow` + 1 of its class: 0 to 125.
     std::int16_t FormRow = 0;
 
     /// The person asked: 0 for the first singular to 5 for the third plural.
