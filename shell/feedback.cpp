@@ -1,20 +1,11 @@
 #include "shell/feedback.h"
 
-#include "platform/platform.h"
 #include "shell/drill.h"
 #include "shell/pause.h"
 #include "shell/score.h"
-#include "shell/settings.h"
-
-#include <string>
+#include "shell/sound.h"
 
 namespace shell {
-
-void soundIfOn(std::string_view waveFile)
-{
-    if (settings.SoundOn == platform::FlagTrue)
-        platform::current().playSound(std::string(waveFile));
-}
 
 void giveRightFeedback(FeedbackSurface& surface)
 {

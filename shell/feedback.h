@@ -15,9 +15,6 @@ inline constexpr LanguageTexts WrongTexts = {"Wrong!", "Wrong!", "Wrong!", "Fals
 inline constexpr std::string_view RightSound = "right.wav";
 inline constexpr std::string_view WrongSound = "wrong.wav";
 
-/// Plays a wave file of the working folder when `SoundOn` is true.
-void soundIfOn(std::string_view waveFile);
-
 /// The window that announces an answer while its feedback runs.
 class FeedbackSurface {
 public:
