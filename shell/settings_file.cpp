@@ -17,8 +17,8 @@ using platform::FlagFalse;
 using platform::FlagTrue;
 
 constexpr int FirstStoredEntry = 1;
-constexpr int LastStoredClass = 7;
-constexpr int LastStoredTense = 20;
+constexpr int LastStoredClassEntry = 7;
+constexpr int LastStoredTenseEntry = 20;
 
 constexpr int DelayWhereUnreadable = 2;
 constexpr int DelayAfterWriting = 15; // sic
@@ -76,8 +76,8 @@ bool readSettings(const std::filesystem::path& path)
            reader.read(settings.SoundOn) && readDelay(reader) && readText(reader, settings.CurrentLanguage) &&
            readText(reader, settings.CaseOrder) && readText(reader, settings.QuestionOrder) &&
            reader.read(settings.MainWindowState) && reader.read(settings.SaveSettingsOnExit) &&
-           readEntries(reader, settings.QuizConjInclude, LastStoredClass) &&
-           readEntries(reader, settings.QuizTenseInclude, LastStoredTense);
+           readEntries(reader, settings.QuizConjInclude, LastStoredClassEntry) &&
+           readEntries(reader, settings.QuizTenseInclude, LastStoredTenseEntry);
 }
 
 void applyDefaultSettings()
@@ -102,8 +102,8 @@ void mendSettings()
         settings.CaseOrder = case_order::NGDAAb;
     if (settings.QuestionOrder != question_order::Random)
         settings.QuestionOrder = question_order::Sequential;
-    includeFirstWhereNone(settings.QuizConjInclude, LastStoredClass);
-    includeFirstWhereNone(settings.QuizTenseInclude, LastStoredTense);
+    includeFirstWhereNone(settings.QuizConjInclude, LastStoredClassEntry);
+    includeFirstWhereNone(settings.QuizTenseInclude, LastStoredTenseEntry);
 }
 
 std::string settingsText()
@@ -120,9 +120,9 @@ std::string settingsText()
     line(settings.QuestionOrder);
     numberLine(settings.MainWindowState);
     numberLine(settings.SaveSettingsOnExit);
-    for (int i = FirstStoredEntry; i <= LastStoredClass; ++i)
+    for (int i = FirstStoredEntry; i <= LastStoredClassEntry; ++i)
         numberLine(settings.QuizConjInclude[i]);
-    for (int i = FirstStoredEntry; i <= LastStoredTense; ++i)
+    for (int i = FirstStoredEntry; i <= LastStoredTenseEntry; ++i)
         numberLine(settings.QuizTenseInclude[i]);
     return text;
 }
