@@ -82,7 +82,8 @@ struct Settings {
     platform::Table<platform::Flag, 31> QuizConjInclude;
     platform::Table<platform::Flag, 51> QuizTenseInclude;
 
-    /// Paradigms and cases that the noun quiz asks; not kept in the settings file.
+    /// Paradigms and cases for the noun quiz, which draws from all. Not kept in the settings file. Nothing
+    /// reads them.
     platform::Table<platform::Flag, 31> NounQuizParadigmInclude;
     platform::Table<platform::Flag, 51> NounQuizCaseInclude;
 
@@ -94,14 +95,17 @@ extern Settings settings;
 /// Raises `SettingsChangeCount` by one, up to the most it can hold.
 void countSettingsChange();
 
-/// What the main window's menus change. The first four raise `SettingsChangeCount`.
+/// What the main window's menus change. These raise `SettingsChangeCount`.
 void chooseLanguage(std::string_view language);
 void chooseCaseOrder(std::string_view caseOrder);
 void chooseQuestionOrder(std::string_view questionOrder);
 void switchSound(bool on);
+
+/// Sets `SaveSettingsOnExit`; counts no change.
 void switchSaving(bool saved);
 
-/// Sets `ShowVowelLength`, and `VowelMark` with it; the verb list has to be read again afterwards.
+/// Sets `ShowVowelLength`, and `VowelMark` with it; the verb list has to be read again afterwards. Counts no
+/// change.
 void switchVowelLength(bool shown);
 
 } // namespace shell
