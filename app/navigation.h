@@ -3,8 +3,8 @@
 #include "app/common_windows.h"
 #include "app/key_filter.h"
 #include "app/noun_navigation.h"
-#include "app/quiz_navigation.h"
 #include "app/verb_navigation.h"
+#include "app/verb_quiz_navigation.h"
 #include "app/vocabulary_navigation.h"
 #include "shell/windows/about.h"
 #include "shell/windows/frm_options.h"
@@ -29,7 +29,7 @@ private:
     CommonWindows common_;
     VerbNavigation verbs_{common_};
     NounNavigation nouns_{common_};
-    QuizNavigation quiz_{common_};
+    VerbQuizNavigation verbQuiz_{common_};
     VocabularyNavigation vocabulary_{common_};
     OnDemand<shell::FrmOptions> options_{&hideWhenLeft};
     OnDemand<shell::About> about_{&hideWhenLeft};

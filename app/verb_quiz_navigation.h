@@ -9,9 +9,9 @@
 namespace app {
 
 /// Knows the windows of the quiz on verbs and says who shows whom.
-class QuizNavigation : public QObject {
+class VerbQuizNavigation : public QObject {
 public:
-    explicit QuizNavigation(CommonWindows& common);
+    explicit VerbQuizNavigation(CommonWindows& common);
 
 private:
     void joinProbatio(verbdrills::Probatio& window);
@@ -20,8 +20,8 @@ private:
     void beginQuiz();
 
     CommonWindows& common_;
-    OnDemand<verbdrills::Probatio> probatio_{this, &QuizNavigation::joinProbatio};
-    OnDemand<verbdrills::QuizInclude> quizInclude_{this, &QuizNavigation::joinQuizInclude};
+    OnDemand<verbdrills::Probatio> probatio_{this, &VerbQuizNavigation::joinProbatio};
+    OnDemand<verbdrills::QuizInclude> quizInclude_{this, &VerbQuizNavigation::joinQuizInclude};
 };
 
 } // namespace app

@@ -1,4 +1,4 @@
-#include "app/quiz_navigation.h"
+#include "app/verb_quiz_navigation.h"
 
 #include "shell/drill.h"
 #include "shell/settings.h"
@@ -8,12 +8,12 @@ namespace app {
 using verbdrills::Probatio;
 using verbdrills::QuizInclude;
 
-QuizNavigation::QuizNavigation(CommonWindows& common) : common_(common)
+VerbQuizNavigation::VerbQuizNavigation(CommonWindows& common) : common_(common)
 {
-    connect(&common_.mainMenu, &shell::MainMenu::quizRequested, this, &QuizNavigation::beginQuiz);
+    connect(&common_.mainMenu, &shell::MainMenu::quizRequested, this, &VerbQuizNavigation::beginQuiz);
 }
 
-void QuizNavigation::joinProbatio(Probatio& window)
+void VerbQuizNavigation::joinProbatio(Probatio& window)
 {
     common_.joinDrill(window, common_.toMainMenu);
     connect(&window, &Probatio::optionsRequested, this, [this, &window] {
@@ -26,7 +26,7 @@ void QuizNavigation::joinProbatio(Probatio& window)
     });
 }
 
-void QuizNavigation::joinQuizInclude(QuizInclude& window)
+void VerbQuizNavigation::joinQuizInclude(QuizInclude& window)
 {
     connect(&window, &QuizInclude::chosen, this, [this, &window] {
         window.hide();
@@ -35,7 +35,7 @@ void QuizNavigation::joinQuizInclude(QuizInclude& window)
     whenLeft(window, [this] { probatio_->comeBack(); });
 }
 
-void QuizNavigation::beginQuiz()
+void VerbQuizNavigation::beginQuiz()
 {
     const Hourglass hourglass;
     common_.mainMenu.hide();
