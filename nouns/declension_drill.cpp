@@ -13,8 +13,6 @@ namespace nouns {
 
 using shell::settings;
 
-DeclensionDrill declensionDrill;
-
 namespace {
 
 constexpr std::array ParadigmOfRow = {
@@ -68,6 +66,12 @@ void drawDeclension()
     BuildNounParadigms();
     declensionDrill.CaseDone.fill(platform::FlagFalse);
     declensionDrill.Answers.fill({});
+}
+
+const std::string& nounName(int paradigm)
+{
+    const std::string& caption = nounTables.NounCaption[paradigm];
+    return caption.empty() ? nounTables.NounForms[paradigm][NominativeSingular] : caption;
 }
 
 void setDeclensionQuestion()

@@ -31,7 +31,7 @@ struct DeclensionDrill {
     platform::Table<std::string, CaseCount> Answers;
 };
 
-extern DeclensionDrill declensionDrill;
+inline DeclensionDrill declensionDrill;
 
 /// What opening the chooser sets: the box that is asked first, any in random order, and empty answers.
 void beginDeclensionChoice();
@@ -42,6 +42,10 @@ bool chooseDeclension(int row);
 
 /// Draws the noun to be declined; no box is done.
 void drawDeclension();
+
+/// How the noun that was drawn for a paradigm, 1 to 9, is named to be declined: by its caption; in a language
+/// that builds none, by its nominative, since nobody can decline a noun that is not named.
+const std::string& nounName(int paradigm);
 
 /// Sets `ExpectedAnswer` for the box asked.
 void setDeclensionQuestion();

@@ -4,8 +4,6 @@
 
 namespace nouns {
 
-NounList nounList;
-
 int mostNounsOf(int paradigm)
 {
     return paradigm == ThirdDeclension ? MostObliqueStems : MostNouns;

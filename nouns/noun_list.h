@@ -50,7 +50,7 @@ struct NounList {
     platform::Table<ByParadigm<Texts>, MeaningCount + 1> NounListMeaning;
 };
 
-extern NounList nounList;
+inline NounList nounList;
 
 /// How many nouns the list of a paradigm can hold.
 int mostNounsOf(int paradigm);

@@ -15,8 +15,6 @@ using platform::FlagFalse;
 using platform::FlagTrue;
 using shell::settings;
 
-NounQuestion nounQuestion;
-
 namespace {
 
 constexpr int DrawnParadigms = ParadigmCount - 1; // sic: not the neuter of the third declension

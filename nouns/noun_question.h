@@ -26,7 +26,7 @@ struct NounQuestion {
     CaseSet QuizTickedCases;
 };
 
-extern NounQuestion nounQuestion;
+inline NounQuestion nounQuestion;
 
 /// The cases that are marked together with a case, by the index of the paradigm, 0 to 8: fixed groups of the
 /// grammar, those in which the paradigm has one ending, long vowels or short. The fourth declension in -us

@@ -37,12 +37,4 @@ struct NounTables {
 
 inline NounTables nounTables;
 
-/// How the noun that was drawn for a paradigm, 1 to 9, is named to be declined: by its caption; in a language
-/// that builds none, by its nominative, since nobody can decline a noun that is not named.
-inline const std::string& nounName(int paradigm)
-{
-    const std::string& caption = nounTables.NounCaption[paradigm];
-    return caption.empty() ? nounTables.NounForms[paradigm][NominativeSingular] : caption;
-}
-
 } // namespace nouns

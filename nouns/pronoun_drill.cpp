@@ -9,8 +9,6 @@ namespace nouns {
 
 using shell::settings;
 
-PronounDrill pronounDrill;
-
 namespace {
 
 constexpr std::string_view RandomInSmallLetters = "random"; // sic

@@ -37,7 +37,7 @@ struct PronounDrill {
     platform::Table<platform::Flag, CellCount + 1> CellDone;
 };
 
-extern PronounDrill pronounDrill;
+inline PronounDrill pronounDrill;
 
 /// Fills `PronounForms` with all pronouns, with the `VowelMark` as it stands.
 void BuildPronounForms();

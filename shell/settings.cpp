@@ -6,8 +6,6 @@
 
 namespace shell {
 
-Settings settings;
-
 void countSettingsChange()
 {
     if (settings.SettingsChangeCount < std::numeric_limits<std::int16_t>::max())

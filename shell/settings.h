@@ -90,7 +90,7 @@ struct Settings {
     std::string SettingsFileVersion = "6";
 };
 
-extern Settings settings;
+inline Settings settings;
 
 /// Raises `SettingsChangeCount` by one, up to the most it can hold.
 void countSettingsChange();

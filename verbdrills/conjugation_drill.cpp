@@ -14,8 +14,6 @@ using shell::settings;
 using verbs::currentParadigm;
 using verbs::verbTables;
 
-ConjugationDrill conjugationDrill;
-
 namespace {
 
 // A tense that is drilled alone goes through the regular classes: the irregular verbs never come.

@@ -43,7 +43,7 @@ struct ConjugationDrill {
     platform::Table<platform::Flag, BoxCount + 1> PersonDone;
 };
 
-extern ConjugationDrill conjugationDrill;
+inline ConjugationDrill conjugationDrill;
 
 /// Begins a round of the current tense with the first person, or in random order with any.
 void beginRound();

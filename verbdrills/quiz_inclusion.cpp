@@ -9,8 +9,6 @@ namespace verbdrills {
 using platform::FlagTrue;
 using shell::settings;
 
-platform::Flag QuizIncludeSet = platform::FlagFalse;
-
 namespace {
 
 constexpr int MostClassesUnticked = 7;

@@ -15,7 +15,7 @@ struct QuizTicks {
 };
 
 /// `FlagTrue` once a choice was taken.
-extern platform::Flag QuizIncludeSet;
+inline platform::Flag QuizIncludeSet = platform::FlagFalse;
 
 /// The boxes that `QuizConjInclude` and `QuizTenseInclude` tick.
 QuizTicks ticksOfQuiz();

@@ -6,8 +6,6 @@
 
 namespace verbdrills {
 
-VerbQuiz verbQuiz;
-
 namespace {
 
 constexpr int PersonsOfNumber = 3;

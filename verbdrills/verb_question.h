@@ -43,7 +43,7 @@ struct VerbQuiz {
     bool formIsAsked = false;
 };
 
-extern VerbQuiz verbQuiz;
+inline VerbQuiz verbQuiz;
 
 /// What a form is said to be.
 struct Identification {

@@ -125,6 +125,12 @@ void buildClasses(std::span<const RegularClass> classes)
 
 } // namespace
 
+void resetTense()
+{
+    if (currentParadigm.SingleTenseMode != 1)
+        currentParadigm.TenseMoodCode = PresentIndicative;
+}
+
 void buildFirstAndSecondConjugations()
 {
     resetTense();

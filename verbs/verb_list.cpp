@@ -4,8 +4,6 @@
 
 namespace verbs {
 
-VerbList verbList;
-
 VerbRecord verbAt(int verbClass, int number)
 {
     const int place = number - 1;

@@ -46,7 +46,7 @@ struct VerbList {
     ByClass<Translations> German;
 };
 
-extern VerbList verbList;
+inline VerbList verbList;
 
 /// The verb with number 1 to 15 of a class.
 VerbRecord verbAt(int verbClass, int number);

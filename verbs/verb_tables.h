@@ -72,11 +72,4 @@ struct CurrentParadigm {
 
 inline CurrentParadigm currentParadigm;
 
-/// Goes back to the present indicative, unless a single tense is drilled.
-inline void resetTense()
-{
-    if (currentParadigm.SingleTenseMode != 1)
-        currentParadigm.TenseMoodCode = PresentIndicative;
-}
-
 } // namespace verbs

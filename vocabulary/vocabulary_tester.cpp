@@ -14,8 +14,6 @@
 
 namespace vocabulary {
 
-VocabularyTester vocabularyTester;
-
 namespace {
 
 constexpr std::string_view AnswerWish = "?";

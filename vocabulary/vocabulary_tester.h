@@ -60,7 +60,7 @@ struct VocabularyTester {
     platform::Flag AsksWithTranslation = platform::FlagFalse;
 };
 
-extern VocabularyTester vocabularyTester;
+inline VocabularyTester vocabularyTester;
 
 /// Resets the tester and begins to test the default list, "vr-vcab.lst" of the working folder. Returns what
 /// the learner is to be told. Where the default list is missing, which is passed over silently, or refused,
