@@ -41,7 +41,7 @@ constexpr SixPersons Waere           = {" wäre ", " wärest ", " wäre ", " wä
 constexpr SixPersons WaerePerfect    = {" wäre ", " wärst ", " wäre ", " wären ", " wärt ", " wären "};
 constexpr SixPersons SeiGluecklich   = {" sei (glücklich)", " seist (glücklich)", " sei (glücklich)",
                                         " seien (glücklich)", " seiet (glücklich)", " seien (glücklich)"};
-constexpr SixPersons WaereGluecklich = {" wäre (glücklich)", " wärst  (glücklich)", " wäre (glücklich)", // sic
+constexpr SixPersons WaereGluecklich = {" wäre (glücklich)", " wärst  (glücklich)", " wäre (glücklich)", // sic: two blanks
                                         " wären (glücklich)", " wärt (glücklich)", " wären (glücklich)"};
 
 constexpr std::string_view Indirect = "(Sie glaubt,) ";
