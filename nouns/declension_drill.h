@@ -27,7 +27,7 @@ struct DeclensionDrill {
     /// Boxes answered right in this round, in random order.
     platform::Table<platform::Flag, CaseCount + 1> CaseDone;
 
-    /// The answers given, by box.
+    /// The answers given, by box. Nothing reads it.
     platform::Table<std::string, CaseCount> Answers;
 };
 

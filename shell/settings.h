@@ -73,18 +73,21 @@ struct Settings {
     std::int16_t ScorePercent = 0;
 
     std::int16_t MainWindowState = window_state::Maximised;
+
+    /// Changes of the settings since the program began. Nothing reads it.
     std::int16_t SettingsChangeCount = 0;
 
-    /// Short name of the window that last became active.
+    /// Short name of the window that last became active. Nothing reads it.
     std::string ActiveWindowName;
 
     /// Classes (entry i: class i + 1) and tense blocks (entry t: block t + 1) that the verb quiz asks.
     platform::Table<platform::Flag, 31> QuizConjInclude;
     platform::Table<platform::Flag, 51> QuizTenseInclude;
 
-    /// Paradigms and cases for the noun quiz, which draws from all. Not kept in the settings file. Nothing
-    /// reads them.
+    /// Paradigms for the noun quiz; not kept in the settings file. Nothing reads it.
     platform::Table<platform::Flag, 31> NounQuizParadigmInclude;
+
+    /// Cases for the noun quiz, likewise. Nothing reads it.
     platform::Table<platform::Flag, 51> NounQuizCaseInclude;
 
     std::string SettingsFileVersion = "6";

@@ -21,19 +21,19 @@ struct ConjugationDrill {
     /// The person asked: 0 for the first singular to 5 for the third plural.
     std::int16_t PersonIndex = 0;
 
-    /// The person with which a round in random order began.
+    /// The person with which a round in random order began. Nothing reads it.
     std::int16_t RoundStartPerson = 0;
 
     /// The form that the person asked must receive; empty where there is no such form.
     std::string CorrectForm;
 
-    /// The answers given in this round, by person.
+    /// The answers given in this round, by person. Nothing reads it.
     platform::Table<std::string, BoxCount> AnswerSlots;
 
-    /// The box that last received the focus.
+    /// The box that last received the focus. Nothing reads it.
     std::int16_t FocusedBox = 0;
 
-    /// 1 once an answer was checked.
+    /// 1 once an answer was checked. Nothing reads it.
     std::int16_t FeedbackPending = 0;
 
     /// The class title, a colon and a blank, and the tense title.

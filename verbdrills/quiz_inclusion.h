@@ -14,7 +14,7 @@ struct QuizTicks {
     bool operator==(const QuizTicks&) const = default;
 };
 
-/// `FlagTrue` once a choice was taken.
+/// `FlagTrue` once a choice was taken. Nothing reads it.
 inline platform::Flag QuizIncludeSet = platform::FlagFalse;
 
 /// The boxes that `QuizConjInclude` and `QuizTenseInclude` tick.

@@ -36,7 +36,8 @@ struct VerbQuiz {
     platform::Table<platform::Flag, 10> RecentConjugations;
     std::int16_t RecentCount = 0;
 
-    /// The title of the tense that the drill stands at, kept where the class shown has a title.
+    /// The title of the tense that the drill stands at, kept where the class shown has a title. Nothing
+    /// reads it.
     std::string TenseHeading;
 
     /// True from the drawing of a form until it was identified rightly.

@@ -30,13 +30,14 @@ struct VerbTables {
     ByClass<std::string> ParticipleGloss;
     ByClass<std::string> PresentParticipleGloss;
 
-    /// One more German translation, at class - 1.
+    /// One more German translation, at class - 1. Nothing reads it.
     ByClass<std::string> GermanGloss;
 
     /// The stems of the verb that was generated: present stem at 16 + class, supine stem at 32 + class.
+    /// Nothing reads it.
     platform::Table<std::string, 48> WorkingStems;
 
-    /// The number of the verb drawn for the second conjugation.
+    /// The number of the verb drawn for the second conjugation. Nothing reads it.
     std::int16_t SecondConjugationVerb = 0;
 
     /// Names of the paradigms and of the tense blocks in the language of the interface. Index 0 of the

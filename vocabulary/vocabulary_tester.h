@@ -43,6 +43,8 @@ struct VocabularyTester {
 
     std::string Order{order::Sequential};
     std::string PromptLanguage{prompt::English};
+
+    /// The answer that was judged last. Nothing reads it.
     std::string LastAnswer;
 
     ByWord<std::int16_t> RightAnswers;
