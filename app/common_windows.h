@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/on_demand.h"
+#include "shell/kit/drill_window.h"
 #include "shell/windows/delay_interval.h"
 #include "shell/windows/feedback_window.h"
 #include "shell/windows/main_menu.h"
@@ -43,8 +44,7 @@ public:
 
     /// Joins a drill's window: its judged answers are announced; leaving it leaves the drill and takes the
     /// next step.
-    template <typename DrillWindow>
-    void joinDrill(DrillWindow& window, const Step& next);
+    void joinDrill(shell::DrillWindow& window, const Step& next);
 
     /// Leaves the running drill and hides its window, with the feedback that may be up.
     void leaveDrill(QWidget& window);
@@ -62,17 +62,6 @@ void CommonWindows::opens(void (shell::MainMenu::*request)(), OnDemand<Shown>& w
     QObject::connect(&mainMenu, request, &mainMenu, [this, &window] {
         mainMenu.hide();
         window->open();
-    });
-}
-
-template <typename DrillWindow>
-void CommonWindows::joinDrill(DrillWindow& window, const Step& next)
-{
-    QObject::connect(&window, &DrillWindow::answerJudged, &window, [this](bool right) { announce(right); });
-    QObject::connect(&window, &DrillWindow::left, &window, [this, &window, next] {
-        const Hourglass hourglass;
-        leaveDrill(window);
-        next();
     });
 }
 

@@ -12,16 +12,8 @@
 namespace shell {
 
 BoxDrill::BoxDrill(std::string_view name, std::string_view activeName, std::string_view exerciseType)
-    : Window(name, activeName), exerciseType_(exerciseType),
-      score_(makeHeading(this, "ScoreLabel", HeadingType))
+    : DrillWindow(name, activeName, exerciseType), score_(makeHeading(this, "ScoreLabel", HeadingType))
 {
-    closeOnEscape();
-    registerDrill(exerciseType_, *this);
-}
-
-BoxDrill::~BoxDrill()
-{
-    unregisterDrill(exerciseType_);
 }
 
 AnswerBox* BoxDrill::addBox(QWidget* parent, const QString& name)
@@ -101,11 +93,6 @@ void BoxDrill::focusQuestion()
 {
     askedBox().setFocus();
     boxReceivedFocus(askedBoxNumber());
-}
-
-bool BoxDrill::canAnswer() const
-{
-    return isVisible() && !pausing();
 }
 
 void BoxDrill::check()

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "shell/drill.h"
-#include "shell/kit/window.h"
+#include "shell/kit/drill_window.h"
 #include "verbdrills/verb_question.h"
 
 class QBoxLayout;
@@ -15,12 +14,11 @@ class PersonAndNumber;
 class QuizList;
 
 /// The verb quiz: shows a form, whose class, tense, person and number the learner names.
-class Probatio : public shell::Window, public shell::Drill {
+class Probatio : public shell::DrillWindow {
     Q_OBJECT
 
 public:
     Probatio();
-    ~Probatio() override;
 
     /// Prepares the window for a new quiz, asks the first form and shows the window. Where no form can be
     /// asked it only emits `nothingToAsk`.
@@ -32,16 +30,11 @@ public:
     /// Shows the window again likewise, but without a form where none can be asked.
     void comeBack();
 
-    void showScore(const std::string& text) override;
-    void greyAnsweredBox() override;
     void moveOn() override;
     void focusQuestion() override;
     void askAgain() override;
 
 Q_SIGNALS:
-    /// An answer was checked.
-    void answerJudged(bool right);
-
     /// No form can be asked of the classes and tenses that are included.
     void nothingToAsk();
 
