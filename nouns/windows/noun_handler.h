@@ -44,7 +44,6 @@ private:
     void listNouns();
     void chooseParadigm(int row);
     void showNoun(int row);
-    void showRecord(NounRecord noun);
     void allowTyping(bool allowed);
     void keepDraft();
     void showDraft();

@@ -36,7 +36,9 @@ constexpr std::array<ClassRow, LastRegularClass> Classes = {{{FirstConjugation, 
                                                              {ThirdIoConjugation, "Third -io Conjugation"},
                                                              {FourthConjugation, "Fourth Conjugation"}}};
 
-// The stems of a verb, then its translations.
+// The boxes of the form: the stems of a verb, then its translations.
+enum Field { PresentStem, PerfectStem, SupineStem, BaseForm, Past, PastParticiple, PresentParticiple };
+
 constexpr std::array Fields = {FieldNames{"VerbManagerLatinForms0", "&Present stem"},
                                FieldNames{"VerbManagerLatinForms1", "P&erfect stem"},
                                FieldNames{"VerbManagerLatinForms2", "&Supine stem"},
@@ -45,11 +47,11 @@ constexpr std::array Fields = {FieldNames{"VerbManagerLatinForms0", "&Present st
                                FieldNames{"VerbManagerGermanForms2", "Past pa&rticiple"},
                                FieldNames{"VerbManagerGermanForms3", "Prese&nt participle"}};
 
-std::array<std::string*, Fields.size()> textsOf(VerbRecord& verb)
+std::array<std::string_view, Fields.size()> textsOf(const VerbRecord& verb)
 {
-    auto& [baseForm, past, pastParticiple, presentParticiple] = verb.translations;
-    return {&verb.presentStem, &verb.perfectStem, &verb.supineStem, &baseForm, &past,
-            &pastParticiple,   &presentParticiple};
+    const auto& [baseForm, past, pastParticiple, presentParticiple] = verb.translations;
+    return {verb.presentStem, verb.perfectStem, verb.supineStem, baseForm, past,
+            pastParticiple,   presentParticiple};
 }
 
 // The label behind a stem that shows a form of it, and that form's ending.
@@ -134,9 +136,12 @@ int VerbManager::chosenClass() const
 
 VerbRecord VerbManager::typedVerb() const
 {
-    VerbRecord verb;
-    form_->take(textsOf(verb));
-    return verb;
+    const auto texts = form_->take();
+    return {.presentStem = texts.at(PresentStem),
+            .perfectStem = texts.at(PerfectStem),
+            .supineStem = texts.at(SupineStem),
+            .translations = {texts.at(BaseForm), texts.at(Past), texts.at(PastParticiple),
+                             texts.at(PresentParticiple)}};
 }
 
 void VerbManager::listVerbs()
@@ -153,8 +158,8 @@ void VerbManager::showVerb(int row)
 {
     if (row < 0)
         return;
-    VerbRecord verb = row == verbs_->count() - 1 ? VerbRecord{} : verbAt(chosenClass(), row + 1);
-    form_->show(textsOf(verb));
+    const bool isNew = row == verbs_->count() - 1;
+    form_->show(textsOf(isNew ? VerbRecord{} : verbAt(chosenClass(), row + 1)));
     showPreviews();
 }
 

@@ -31,14 +31,17 @@ namespace {
 constexpr QSize LargestBlock{100, 32};
 constexpr int WordCharacters = 22;
 
+// The boxes of the form, in their order.
+enum Field { Word, Translation, Hint };
+
 // The labels get their texts with the captions.
 constexpr std::array Fields = {FieldNames{"VcabManWord", "", "WordLabel"},
                                FieldNames{"VcabManTrans", "", "TranslationLabel"},
                                FieldNames{"VcabManHint", "", "HintLabel"}};
 
-std::array<std::string*, Fields.size()> textsOf(WordRecord& record)
+std::array<std::string_view, Fields.size()> textsOf(const WordRecord& record)
 {
-    return {&record.word, &record.translation, &record.hint};
+    return {record.word, record.translation, record.hint};
 }
 
 // clang-format off
@@ -162,8 +165,7 @@ void VcabManager::markChosen(int number)
 void VcabManager::showRecord(int number)
 {
     markChosen(number);
-    WordRecord record = number > 0 ? vocabularyList.Working[number] : WordRecord{};
-    form_->show(textsOf(record));
+    form_->show(textsOf(number > 0 ? vocabularyList.Working[number] : WordRecord{}));
 }
 
 bool VcabManager::boxesAreEdited() const
@@ -178,9 +180,8 @@ bool VcabManager::boxesAreEmpty() const
 
 WordRecord VcabManager::recordInBoxes() const
 {
-    WordRecord record;
-    form_->take(textsOf(record));
-    return record;
+    const auto texts = form_->take();
+    return {.word = texts.at(Word), .translation = texts.at(Translation), .hint = texts.at(Hint)};
 }
 
 void VcabManager::moveTo(int number)
