@@ -3,6 +3,7 @@
 #include "shell/kit/choice_list.h"
 #include "shell/kit/type.h"
 
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 
@@ -68,6 +69,11 @@ QPushButton* makeHintButton(QWidget* parent, QAnyStringView name)
     QPushButton* const button = makeButton(parent, name, "?");
     button->setAccessibleName(QStringLiteral("Show the answer"));
     return button;
+}
+
+bool isEnter(const QKeyEvent& key)
+{
+    return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
 }
 
 } // namespace shell

@@ -2,6 +2,7 @@
 
 #include <QAnyStringView>
 
+class QKeyEvent;
 class QLabel;
 class QPushButton;
 class QWidget;
@@ -40,5 +41,8 @@ QPushButton* makeButton(QWidget* parent, QAnyStringView name, const char* text =
 
 /// The "?" button of a drill, which shows the answer.
 QPushButton* makeHintButton(QWidget* parent, QAnyStringView name);
+
+/// Whether a key is one of the two Enter keys.
+bool isEnter(const QKeyEvent& key);
 
 } // namespace shell
