@@ -41,7 +41,7 @@ QPushButton* BoxDrill::makeCheckButton(const char* name)
 
 QPushButton* BoxDrill::makeQuestionButton(const char* name)
 {
-    QPushButton* const button = makeHintButton(this, name);
+    QPushButton* const button = shell::makeQuestionButton(this, name);
     connect(button, &QPushButton::clicked, this, &BoxDrill::hint);
     return button;
 }

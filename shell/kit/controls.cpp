@@ -64,7 +64,7 @@ QPushButton* makeButton(QWidget* parent, QAnyStringView name, const char* text)
     return button;
 }
 
-QPushButton* makeHintButton(QWidget* parent, QAnyStringView name)
+QPushButton* makeQuestionButton(QWidget* parent, QAnyStringView name)
 {
     QPushButton* const button = makeButton(parent, name, "?");
     button->setAccessibleName(QStringLiteral("Show the answer"));

@@ -40,7 +40,7 @@ ChoiceList* makeChoiceList(QWidget* parent, QAnyStringView name);
 QPushButton* makeButton(QWidget* parent, QAnyStringView name, const char* text = "");
 
 /// The "?" button of a drill, which shows the answer.
-QPushButton* makeHintButton(QWidget* parent, QAnyStringView name);
+QPushButton* makeQuestionButton(QWidget* parent, QAnyStringView name);
 
 /// Whether a key is one of the two Enter keys.
 bool isEnter(const QKeyEvent& key);

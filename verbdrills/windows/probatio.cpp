@@ -79,7 +79,7 @@ void Probatio::makeControls()
     yourAnswer_->setWordWrap(true);
     correct_->setWordWrap(true);
     ok_ = makeButton(this, "QuizOK");
-    question_ = shell::makeHintButton(this, "QuizQuestion");
+    question_ = shell::makeQuestionButton(this, "QuizQuestion");
     skip_ = makeButton(this, "QuizSkip");
     options_ = makeButton(this, "QuizOptions");
     cancel_ = makeButton(this, "QuizCancel");
