@@ -34,13 +34,13 @@ void hideWhenLeft(shell::Window& window);
 /// the feedback windows and the one that sets the delay.
 class CommonWindows {
 public:
-    shell::MainMenu mainMenu;
-    OnDemand<shell::DelayInterval> delayInterval{&hideWhenLeft};
-    const Step toMainMenu = [this] { mainMenu.showInMainWindowState(); };
+    shell::MainMenu& mainMenu() { return mainMenu_; }
+    void toMainMenu() { mainMenu_.showInMainWindowState(); }
+    void openDelayInterval() { delayInterval_->open(); }
 
-    /// At this request the main window gives way to another one, which opens.
+    /// At this request the main window gives way to another one, which opens as long as its navigation lives.
     template <typename Shown>
-    void opens(void (shell::MainMenu::*request)(), OnDemand<Shown>& window);
+    void opens(void (shell::MainMenu::*request)(), const QObject* navigation, OnDemand<Shown>& window);
 
     /// Joins a drill's window: its judged answers are announced; leaving it leaves the drill and takes the
     /// next step.
@@ -52,15 +52,18 @@ public:
 private:
     void announce(bool right);
 
+    shell::MainMenu mainMenu_;
+    OnDemand<shell::DelayInterval> delayInterval_{&hideWhenLeft};
     OnDemand<shell::Bravo> bravo_;
     OnDemand<shell::Wrong> wrong_;
 };
 
 template <typename Shown>
-void CommonWindows::opens(void (shell::MainMenu::*request)(), OnDemand<Shown>& window)
+void CommonWindows::opens(void (shell::MainMenu::*request)(), const QObject* navigation,
+                          OnDemand<Shown>& window)
 {
-    QObject::connect(&mainMenu, request, &mainMenu, [this, &window] {
-        mainMenu.hide();
+    QObject::connect(&mainMenu_, request, navigation, [this, &window] {
+        mainMenu_.hide();
         window->open();
     });
 }

@@ -10,12 +10,12 @@ using verbdrills::QuizInclude;
 
 QuizNavigation::QuizNavigation(CommonWindows& common) : common_(common)
 {
-    connect(&common_.mainMenu, &shell::MainMenu::quizRequested, this, &QuizNavigation::beginQuiz);
+    connect(&common_.mainMenu(), &shell::MainMenu::quizRequested, this, &QuizNavigation::beginQuiz);
 }
 
 void QuizNavigation::joinProbatio(Probatio& window)
 {
-    common_.joinDrill(window, common_.toMainMenu);
+    common_.joinDrill(window, [this] { common_.toMainMenu(); });
     connect(&window, &Probatio::optionsRequested, this, [this, &window] {
         common_.leaveDrill(window);
         quizInclude_->open();
@@ -38,7 +38,7 @@ void QuizNavigation::joinQuizInclude(QuizInclude& window)
 void QuizNavigation::beginQuiz()
 {
     const Hourglass hourglass;
-    common_.mainMenu.hide();
+    common_.mainMenu().hide();
     shell::beginDrill(shell::exercise::Quiz);
     probatio_->open();
 }

@@ -16,14 +16,14 @@ namespace file_mode = vocabulary::file_mode;
 
 VocabularyNavigation::VocabularyNavigation(CommonWindows& common) : common_(common)
 {
-    connect(&common_.mainMenu, &MainMenu::vocabularyRequested, this, &VocabularyNavigation::beginTest);
-    connect(&common_.mainMenu, &MainMenu::vocabularyManagerRequested, this,
+    connect(&common_.mainMenu(), &MainMenu::vocabularyRequested, this, &VocabularyNavigation::beginTest);
+    connect(&common_.mainMenu(), &MainMenu::vocabularyManagerRequested, this,
             &VocabularyNavigation::showManager);
 }
 
 void VocabularyNavigation::joinTester(Vcabtester& window)
 {
-    common_.joinDrill(window, common_.toMainMenu);
+    common_.joinDrill(window, [this] { common_.toMainMenu(); });
     connect(&window, &Vcabtester::listRequested, this, [this] {
         putTesterAside();
         loader_->open();
@@ -79,13 +79,13 @@ void VocabularyNavigation::joinReplace(VcabReplace& window)
 void VocabularyNavigation::beginTest()
 {
     const Hourglass hourglass;
-    common_.mainMenu.hide();
+    common_.mainMenu().hide();
     tester_->open();
 }
 
 void VocabularyNavigation::showManager()
 {
-    common_.mainMenu.hide();
+    common_.mainMenu().hide();
     vocabulary::beginNewList();
     manager_->open();
 }
