@@ -25,7 +25,7 @@ namespace {
 constexpr QSize LargestBlock{110, 40};
 constexpr int CharactersOfField = 16;
 
-constexpr std::array<const char*, DeclensionCount> Declensions = {
+constexpr std::array<std::string_view, DeclensionCount> Declensions = {
     "First Declension", "Second Declension", "Third Declension", "Fourth Declension", "Fifth Declension"};
 
 // The boxes of the form, in their order.
@@ -45,7 +45,7 @@ std::array<std::string_view, Fields.size()> textsOf(const NounRecord& noun)
     return {noun.stem, noun.obliqueStem, noun.note, english, german, french, spanish};
 }
 
-constexpr auto NewItem = "** Add New Item Here **";
+constexpr std::string_view NewItem = "** Add New Item Here **";
 
 } // namespace
 
@@ -73,10 +73,10 @@ void NounHandler::makeControls()
     obliqueStem_ = form_->box(1);
     add_ = shell::makeButton(this, "NHAdd", "&Add");
     close_ = shell::makeButton(this, "NHClose", "&Close");
-    nouns_->setMinimumWidth(nouns_->fontMetrics().horizontalAdvance(QLatin1String(NewItem)) +
+    nouns_->setMinimumWidth(nouns_->fontMetrics().horizontalAdvance(shell::fromUtf8(NewItem)) +
                             2 * nouns_->verticalScrollBar()->sizeHint().width());
-    for (const char* const name : Declensions)
-        declensions_->addItem(QLatin1String(name));
+    for (const std::string_view name : Declensions)
+        declensions_->addItem(shell::fromUtf8(name));
     declensions_->setMinimumWidth(declensions_->sizeHintForColumn(0) +
                                   declensions_->verticalScrollBar()->sizeHint().width());
     shell::setLeastWidth(*stem_, CharactersOfField);
@@ -200,7 +200,7 @@ void NounHandler::addNewRow()
 {
     const auto newRow = static_cast<int>(rows_.size());
     if (nouns_->count() == newRow)
-        nouns_->addItem(QLatin1String(NewItem));
+        nouns_->addItem(shell::fromUtf8(NewItem));
     nouns_->setCurrentRow(newRow);
     stem_->setFocus();
 }

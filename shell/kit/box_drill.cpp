@@ -32,21 +32,21 @@ QBoxLayout* BoxDrill::withScore(const Part& heading)
     return rowOf(MediumSpace, {heading, {score_, 0, Qt::AlignRight | Qt::AlignTop}});
 }
 
-QPushButton* BoxDrill::makeCheckButton(const char* name)
+QPushButton* BoxDrill::makeCheckButton(QAnyStringView name)
 {
     QPushButton* const button = makeButton(this, name);
     connect(button, &QPushButton::clicked, this, &BoxDrill::check);
     return button;
 }
 
-QPushButton* BoxDrill::makeQuestionButton(const char* name)
+QPushButton* BoxDrill::makeQuestionButton(QAnyStringView name)
 {
     QPushButton* const button = shell::makeQuestionButton(this, name);
     connect(button, &QPushButton::clicked, this, &BoxDrill::hint);
     return button;
 }
 
-QPushButton* BoxDrill::makeQuitButton(const char* name)
+QPushButton* BoxDrill::makeQuitButton(QAnyStringView name)
 {
     QPushButton* const button = makeButton(this, name);
     connect(button, &QPushButton::clicked, this, [this] { quit(); });

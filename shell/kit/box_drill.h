@@ -63,9 +63,9 @@ protected:
     QBoxLayout* withScore(const Part& heading);
 
     /// The button that checks, the one that shows the answer, and the one that leaves.
-    QPushButton* makeCheckButton(const char* name);
-    QPushButton* makeQuestionButton(const char* name);
-    QPushButton* makeQuitButton(const char* name);
+    QPushButton* makeCheckButton(QAnyStringView name);
+    QPushButton* makeQuestionButton(QAnyStringView name);
+    QPushButton* makeQuitButton(QAnyStringView name);
 
     /// The lowest row of the window: the help label, and the buttons.
     QBoxLayout* helpAndButtons(std::initializer_list<QWidget*> buttons);

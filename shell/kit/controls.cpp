@@ -1,6 +1,7 @@
 #include "shell/kit/controls.h"
 
 #include "shell/kit/choice_list.h"
+#include "shell/kit/text.h"
 #include "shell/kit/type.h"
 
 #include <QKeyEvent>
@@ -56,11 +57,11 @@ ChoiceList* makeChoiceList(QWidget* parent, QAnyStringView name)
     return list;
 }
 
-QPushButton* makeButton(QWidget* parent, QAnyStringView name, const char* text)
+QPushButton* makeButton(QWidget* parent, QAnyStringView name, std::string_view text)
 {
     auto* const button = makeControl<QPushButton>(parent, name);
     button->setAutoDefault(true);
-    button->setText(QLatin1String(text));
+    button->setText(fromUtf8(text));
     return button;
 }
 

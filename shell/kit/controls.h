@@ -2,6 +2,8 @@
 
 #include <QAnyStringView>
 
+#include <string_view>
+
 class QKeyEvent;
 class QLabel;
 class QPushButton;
@@ -37,7 +39,7 @@ void wrapText(QLabel& label, int lines);
 ChoiceList* makeChoiceList(QWidget* parent, QAnyStringView name);
 
 /// A button with this object name, which Enter presses as the space bar does.
-QPushButton* makeButton(QWidget* parent, QAnyStringView name, const char* text = "");
+QPushButton* makeButton(QWidget* parent, QAnyStringView name, std::string_view text = {});
 
 /// The "?" button of a drill, which shows the answer.
 QPushButton* makeQuestionButton(QWidget* parent, QAnyStringView name);

@@ -26,7 +26,7 @@ constexpr int PreviewCharacters = 14;
 
 struct ClassRow {
     VerbClass verbClass;
-    const char* name;
+    std::string_view name;
 };
 
 // The rows of `VMConjList`, in the order of the list file.
@@ -56,15 +56,15 @@ std::array<std::string_view, Fields.size()> textsOf(const VerbRecord& verb)
 
 // The label behind a stem that shows a form of it, and that form's ending.
 struct Preview {
-    const char* label;
-    const char* ending;
+    std::string_view label;
+    std::string_view ending;
 };
 
 constexpr std::array<Preview, 3> Previews = {{{"LatInfinitive", "are"}, // sic: whatever class is chosen
                                               {"LatPerfect", "i"},
                                               {"LatPastParticiple", "us"}}};
 
-constexpr auto NewItem = "** Add New Item Here **";
+constexpr std::string_view NewItem = "** Add New Item Here **";
 
 } // namespace
 
@@ -96,7 +96,7 @@ void VerbManager::makeControls()
     for (QListWidget* const list : {classes_, verbs_})
         shell::setLeastWidth(*list, ListCharacters);
     for (const ClassRow& row : Classes)
-        classes_->addItem(QLatin1String(row.name));
+        classes_->addItem(shell::fromUtf8(row.name));
 }
 
 void VerbManager::layOut()
@@ -150,7 +150,7 @@ void VerbManager::listVerbs()
     const int verbClass = chosenClass();
     for (int number = 1; number <= verbList.Count[verbClass]; ++number)
         verbs_->addItem(shell::fromUtf8(listedInfinitive(verbClass, number)));
-    verbs_->addItem(QLatin1String(NewItem));
+    verbs_->addItem(shell::fromUtf8(NewItem));
     verbs_->setCurrentRow(0);
 }
 
@@ -166,7 +166,7 @@ void VerbManager::showVerb(int row)
 void VerbManager::showPreviews()
 {
     for (std::size_t stem = 0; stem < previews_.size(); ++stem)
-        previews_.at(stem)->setText(form_->box(stem)->text() + QLatin1String(Previews.at(stem).ending));
+        previews_.at(stem)->setText(form_->box(stem)->text() + shell::fromUtf8(Previews.at(stem).ending));
 }
 
 void VerbManager::addVerb()

@@ -98,15 +98,15 @@ void Vcabtester::connectControls()
     connectPrompt("VcabtesterOptionsPromptLatin", prompt::Latin);
 }
 
-void Vcabtester::connectOrder(const char* item, std::string_view order)
+void Vcabtester::connectOrder(std::string_view item, std::string_view order)
 {
-    connect(findChild<QAction*>(QLatin1String(item)), &QAction::triggered, this,
+    connect(findChild<QAction*>(shell::fromUtf8(item)), &QAction::triggered, this,
             [order] { vocabularyTester.Order = order; });
 }
 
-void Vcabtester::connectPrompt(const char* item, std::string_view promptLanguage)
+void Vcabtester::connectPrompt(std::string_view item, std::string_view promptLanguage)
 {
-    connect(findChild<QAction*>(QLatin1String(item)), &QAction::triggered, this,
+    connect(findChild<QAction*>(shell::fromUtf8(item)), &QAction::triggered, this,
             [this, promptLanguage] { choosePrompt(promptLanguage); });
 }
 

@@ -39,8 +39,8 @@ private:
     void makeControls();
     void layOut();
     void connectControls();
-    void connectOrder(const char* item, std::string_view order);
-    void connectPrompt(const char* item, std::string_view promptLanguage);
+    void connectOrder(std::string_view item, std::string_view order);
+    void connectPrompt(std::string_view item, std::string_view promptLanguage);
     void setCaptions();
 
     void check();
