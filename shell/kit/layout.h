@@ -5,7 +5,9 @@
 #include <QMargins>
 #include <Qt>
 
+#include <functional>
 #include <initializer_list>
+#include <utility>
 
 class QBoxLayout;
 class QGridLayout;
@@ -22,26 +24,21 @@ inline constexpr QMargins DrillMargins{WideSpace, LargeSpace, WideSpace, LargeSp
 class Part {
 public:
     /// One that is not stretched is written as the bare control or layout.
-    Part(QWidget* control, int stretch = 0, Qt::Alignment place = {})
-        : control_(control), stretch_(stretch), place_(place)
-    {
-    }
-    Part(QLayout* inner, int stretch = 0) : inner_(inner), stretch_(stretch) {}
+    Part(QWidget* control, int stretch = 0, Qt::Alignment place = {});
+    Part(QLayout* inner, int stretch = 0);
 
     /// Space that grows with the window, and space of so many pixels.
-    static Part gap(int stretch = 0) { return {stretch, 0}; }
-    static Part space(int pixels) { return {0, pixels}; }
+    static Part gap(int stretch = 0);
+    static Part space(int pixels);
 
-    void addTo(QBoxLayout& layout) const;
+    void addTo(QBoxLayout& layout) const { add_(layout); }
 
 private:
-    Part(int stretch, int pixels) : stretch_(stretch), pixels_(pixels) {}
+    using Adding = std::function<void(QBoxLayout&)>;
 
-    QWidget* control_ = nullptr;
-    QLayout* inner_ = nullptr;
-    int stretch_ = 0;
-    int pixels_ = 0;
-    Qt::Alignment place_;
+    explicit Part(Adding add) : add_(std::move(add)) {}
+
+    Adding add_;
 };
 
 /// Parts from left to right, so many pixels apart.
