@@ -45,7 +45,7 @@ constexpr std::array CheckNames = {
     "NominativePluralCheck", "GenitivePluralCheck", "DativePluralCheck", "AccusativePluralCheck", "AblativePluralCheck"};
 
 constexpr std::array<std::string_view, NamedDeclensionCount> Declensions = {
-    "First Declension", "Second Declension", "Third Declension", "Third i-stem Declension", "Fourth Declension", "Fifth Declension"};
+    "First Declension", "Second Declension", "Third Declension", "Third i-stem Declension", "Fourth Declension", "Fifth Declension"}; // sic: no noun of the third i-stem is asked
 // clang-format on
 
 // The declension that a paradigm belongs to, by the index of the paradigm.

@@ -32,7 +32,8 @@ QLabel* makeHeading(QWidget* parent, QAnyStringView name, double type);
 /// The label of a control, to which its access key leads.
 QLabel* makeLabelOf(QWidget* control, QAnyStringView name);
 
-/// Breaks a label's text into lines, where it would widen the window, and keeps room for so many lines.
+/// Breaks a label's text into lines, where it would widen the window, and keeps room for so many lines. The
+/// label no longer asks for any width of its own.
 void wrapText(QLabel& label, int lines);
 
 /// A list of the words or files that a window is about.

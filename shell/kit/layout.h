@@ -47,8 +47,8 @@ QBoxLayout* rowOf(int space, std::initializer_list<Part> parts);
 /// Parts from top to bottom, so many pixels apart.
 QBoxLayout* columnOf(int space, std::initializer_list<Part> parts);
 
-/// The row at the foot of a window: buttons or a note at its left, and the buttons at its right. Buttons are
-/// made in this order, in which Tab goes through them.
+/// The row at the foot of a window: buttons or a note at its left, and the buttons at its right. Tab goes
+/// through them in the order in which they were made: make them in this one.
 QBoxLayout* buttonRow(std::initializer_list<QWidget*> left, std::initializer_list<QWidget*> right);
 
 /// An empty grid whose columns and rows stand so many pixels apart.
