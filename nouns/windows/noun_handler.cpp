@@ -69,8 +69,6 @@ void NounHandler::makeControls()
     form_ = new shell::RecordForm;
     form_->addControl(paradigms_, "&Paradigm");
     form_->addBoxes(this, Fields);
-    stem_ = form_->box(0);
-    obliqueStem_ = form_->box(1);
     add_ = shell::makeButton(this, "NHAdd", "&Add");
     close_ = shell::makeButton(this, "NHClose", "&Close");
     nouns_->setMinimumWidth(nouns_->fontMetrics().horizontalAdvance(shell::fromUtf8(NewItem)) +
@@ -79,7 +77,7 @@ void NounHandler::makeControls()
         declensions_->addItem(shell::fromUtf8(name));
     declensions_->setMinimumWidth(declensions_->sizeHintForColumn(0) +
                                   declensions_->verticalScrollBar()->sizeHint().width());
-    shell::setLeastWidth(*stem_, CharactersOfField);
+    shell::setLeastWidth(*form_->box(Stem), CharactersOfField);
 }
 
 void NounHandler::layOut()
@@ -157,12 +155,12 @@ void NounHandler::allowTyping(bool allowed)
     paradigms_->setEnabled(allowed);
     for (QLineEdit* const box : form_->boxes())
         box->setReadOnly(!allowed);
-    obliqueStem_->setEnabled(chosenParadigm() == ThirdDeclension);
+    form_->box(ObliqueStem)->setEnabled(chosenParadigm() == ThirdDeclension);
 }
 
 void NounHandler::chooseParadigm(int /*row*/)
 {
-    obliqueStem_->setEnabled(chosenParadigm() == ThirdDeclension);
+    form_->box(ObliqueStem)->setEnabled(chosenParadigm() == ThirdDeclension);
 }
 
 void NounHandler::keepDraft()
@@ -202,7 +200,7 @@ void NounHandler::addNewRow()
     if (nouns_->count() == newRow)
         nouns_->addItem(shell::fromUtf8(NewItem));
     nouns_->setCurrentRow(newRow);
-    stem_->setFocus();
+    form_->box(Stem)->setFocus();
 }
 
 void NounHandler::storeNewNoun()

@@ -7,7 +7,6 @@
 #include <vector>
 
 class QComboBox;
-class QLineEdit;
 class QListWidget;
 class QPushButton;
 
@@ -59,8 +58,6 @@ private:
     QListWidget* nouns_;
     QComboBox* paradigms_;
     shell::RecordForm* form_;
-    QLineEdit* stem_;
-    QLineEdit* obliqueStem_;
     QPushButton* add_;
     QPushButton* close_;
 

@@ -110,7 +110,7 @@ void VcabManager::layOut()
 void VcabManager::connectControls()
 {
     connect(words_, &ChoiceList::rowChosen, this, [this](int row) { moveTo(row + 1); });
-    connect(words_, &ChoiceList::rowActivated, this, [this] { form_->box(0)->setFocus(); });
+    connect(words_, &ChoiceList::rowActivated, this, [this] { form_->box(Word)->setFocus(); });
     for (const QLineEdit* const box : form_->boxes())
         connect(box, &QLineEdit::returnPressed, this, &VcabManager::enterRecord);
     connect(accept_, &QPushButton::clicked, this, &VcabManager::accept);
@@ -128,7 +128,7 @@ void VcabManager::open()
     if (vocabularyList.WordCount > 0)
         words_->setFocus();
     else
-        form_->box(0)->setFocus();
+        form_->box(Word)->setFocus();
 }
 
 void VcabManager::comeBack()
@@ -229,7 +229,7 @@ void VcabManager::add()
         showRecord(0);
         words_->scrollToBottom();
     }
-    form_->box(0)->setFocus();
+    form_->box(Word)->setFocus();
 }
 
 // A text that was typed and not yet accepted outlives the record: it can still be added, but only by Add.
