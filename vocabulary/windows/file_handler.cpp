@@ -202,14 +202,9 @@ void FileHandler::load()
         replaceList();
 }
 
-// The message comes last, so that it stands above the window that is shown then.
 void FileHandler::replaceList()
 {
-    const auto fault = loadList(toLoad_);
-    if (!fault || !fault->refused())
-        Q_EMIT loaded();
-    if (fault)
-        platform::current().showMessage(fault->message());
+    loadAndTell(toLoad_, [this] { Q_EMIT loaded(); });
 }
 
 void FileHandler::saveBeforeLoad()
