@@ -54,12 +54,12 @@ private:
     bool isNewRow(int row) const;
     int chosenParadigm() const;
 
-    QListWidget* declensions_;
-    QListWidget* nouns_;
-    QComboBox* paradigms_;
-    shell::RecordForm* form_;
-    QPushButton* add_;
-    QPushButton* close_;
+    QListWidget* declensions_ = nullptr;
+    QListWidget* nouns_ = nullptr;
+    QComboBox* paradigms_ = nullptr;
+    shell::RecordForm* form_ = nullptr;
+    QPushButton* add_ = nullptr;
+    QPushButton* close_ = nullptr;
 
     std::vector<ListRow> rows_;
     // What was typed on each declension's new row, and the paradigm chosen for it; 0 where none was.

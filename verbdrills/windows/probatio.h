@@ -58,19 +58,19 @@ private:
     void skip();
     void showRightAnswer();
 
-    QLabel* item_;
-    QLabel* baseForm_;
-    QuizList* classes_;
-    QuizList* tenses_;
-    PersonAndNumber* personAndNumber_;
-    QLabel* yourAnswer_;
-    QLabel* correctHeading_;
-    QLabel* correct_;
-    QPushButton* ok_;
-    QPushButton* question_;
-    QPushButton* skip_;
-    QPushButton* options_;
-    QPushButton* cancel_;
+    QLabel* item_ = nullptr;
+    QLabel* baseForm_ = nullptr;
+    QuizList* classes_ = nullptr;
+    QuizList* tenses_ = nullptr;
+    PersonAndNumber* personAndNumber_ = nullptr;
+    QLabel* yourAnswer_ = nullptr;
+    QLabel* correctHeading_ = nullptr;
+    QLabel* correct_ = nullptr;
+    QPushButton* ok_ = nullptr;
+    QPushButton* question_ = nullptr;
+    QPushButton* skip_ = nullptr;
+    QPushButton* options_ = nullptr;
+    QPushButton* cancel_ = nullptr;
 };
 
 } // namespace verbdrills

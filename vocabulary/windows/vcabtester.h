@@ -50,12 +50,12 @@ private:
     void showTheWord();
 
     QMenuBar* menuBar_;
-    WordLabel* question_;
-    WordLabel* hint_;
-    WordBox* answer_;
-    QCheckBox* omit_;
-    QPushButton* ok_;
-    QPushButton* cancel_;
+    WordLabel* question_ = nullptr;
+    WordLabel* hint_ = nullptr;
+    WordBox* answer_ = nullptr;
+    QCheckBox* omit_ = nullptr;
+    QPushButton* ok_ = nullptr;
+    QPushButton* cancel_ = nullptr;
 };
 
 } // namespace vocabulary
