@@ -1,7 +1,5 @@
 #include "app/common_windows.h"
 
-#include "shell/drill.h"
-
 namespace app {
 
 void whenLeft(shell::Window& window, const Step& next)
@@ -13,6 +11,17 @@ void whenLeft(shell::Window& window, const Step& next)
 void hideWhenLeft(shell::Window& window)
 {
     QObject::connect(&window, &shell::Window::left, &window, &QWidget::hide);
+}
+
+void CommonWindows::joinDrill(shell::DrillWindow& window, const Step& next)
+{
+    QObject::connect(&window, &shell::DrillWindow::answerJudged, &window,
+                     [this](bool right) { announce(right); });
+    QObject::connect(&window, &shell::DrillWindow::left, &window, [this, &window, next] {
+        const Hourglass hourglass;
+        leaveDrill(window);
+        next();
+    });
 }
 
 void CommonWindows::leaveDrill(QWidget& window)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/on_demand.h"
+#include "shell/kit/drill_window.h"
 #include "shell/windows/delay_interval.h"
 #include "shell/windows/feedback_window.h"
 #include "shell/windows/main_menu.h"
@@ -33,18 +34,17 @@ void hideWhenLeft(shell::Window& window);
 /// the feedback windows and the one that sets the delay.
 class CommonWindows {
 public:
-    shell::MainMenu mainMenu;
-    OnDemand<shell::DelayInterval> delayInterval{&hideWhenLeft};
-    const Step toMainMenu = [this] { mainMenu.showInMainWindowState(); };
+    shell::MainMenu& mainMenu() { return mainMenu_; }
+    void toMainMenu() { mainMenu_.showInMainWindowState(); }
+    void openDelayInterval() { delayInterval_->open(); }
 
-    /// At this request the main window gives way to another one, which opens.
+    /// At this request the main window gives way to another one, which opens as long as its navigation lives.
     template <typename Shown>
-    void opens(void (shell::MainMenu::*request)(), OnDemand<Shown>& window);
+    void opens(void (shell::MainMenu::*request)(), const QObject* navigation, OnDemand<Shown>& window);
 
     /// Joins a drill's window: its judged answers are announced; leaving it leaves the drill and takes the
     /// next step.
-    template <typename DrillWindow>
-    void joinDrill(DrillWindow& window, const Step& next);
+    void joinDrill(shell::DrillWindow& window, const Step& next);
 
     /// Leaves the running drill and hides its window, with the feedback that may be up.
     void leaveDrill(QWidget& window);
@@ -52,27 +52,19 @@ public:
 private:
     void announce(bool right);
 
+    shell::MainMenu mainMenu_;
+    OnDemand<shell::DelayInterval> delayInterval_{&hideWhenLeft};
     OnDemand<shell::Bravo> bravo_;
     OnDemand<shell::Wrong> wrong_;
 };
 
 template <typename Shown>
-void CommonWindows::opens(void (shell::MainMenu::*request)(), OnDemand<Shown>& window)
+void CommonWindows::opens(void (shell::MainMenu::*request)(), const QObject* navigation,
+                          OnDemand<Shown>& window)
 {
-    QObject::connect(&mainMenu, request, &mainMenu, [this, &window] {
-        mainMenu.hide();
+    QObject::connect(&mainMenu_, request, navigation, [this, &window] {
+        mainMenu_.hide();
         window->open();
-    });
-}
-
-template <typename DrillWindow>
-void CommonWindows::joinDrill(DrillWindow& window, const Step& next)
-{
-    QObject::connect(&window, &DrillWindow::answerJudged, &window, [this](bool right) { announce(right); });
-    QObject::connect(&window, &DrillWindow::left, &window, [this, &window, next] {
-        const Hourglass hourglass;
-        leaveDrill(window);
-        next();
     });
 }
 

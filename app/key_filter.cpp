@@ -1,5 +1,6 @@
 #include "app/key_filter.h"
 
+#include "shell/kit/controls.h"
 #include "shell/kit/window.h"
 
 #include <QApplication>

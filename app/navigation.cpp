@@ -27,19 +27,19 @@ Navigation::Navigation()
 {
     qApp->installEventFilter(&keyFilter_);
     connect(&keyFilter_, &KeyFilter::helpRequested, this, &Navigation::showHelp);
-    const MainMenu* const mainMenu = &common_.mainMenu;
+    const MainMenu* const mainMenu = &common_.mainMenu();
     connect(mainMenu, &MainMenu::vowelLengthSwitched, this, &prepareVerbListAgain);
-    connect(mainMenu, &MainMenu::exitRequested, this, [this] { exitProgram(common_.mainMenu); });
+    connect(mainMenu, &MainMenu::exitRequested, this, [this] { exitProgram(common_.mainMenu()); });
     connect(mainMenu, &MainMenu::quietEndRequested, this, &endProgramQuietly);
     connect(mainMenu, &MainMenu::helpRequested, this, &Navigation::showHelp);
-    connect(mainMenu, &MainMenu::delayRequested, this, [this] { common_.delayInterval->open(); });
+    connect(mainMenu, &MainMenu::delayRequested, this, [this] { common_.openDelayInterval(); });
     connect(mainMenu, &MainMenu::optionsRequested, this, [this] { options_->open(); });
     connect(mainMenu, &MainMenu::aboutRequested, this, [this] { about_->open(); });
 }
 
 void Navigation::start()
 {
-    loadProgram(common_.mainMenu);
+    loadProgram(common_.mainMenu());
 }
 
 void Navigation::showHelp()

@@ -18,16 +18,16 @@ using shell::MainMenu;
 
 NounNavigation::NounNavigation(CommonWindows& common) : common_(common)
 {
-    connect(&common_.mainMenu, &MainMenu::declensionRequested, this, &NounNavigation::beginToChooseNouns);
-    connect(&common_.mainMenu, &MainMenu::pronounsRequested, this, &NounNavigation::beginToChoosePronouns);
-    common_.opens(&MainMenu::nounQuizRequested, nounQuiz_);
-    common_.opens(&MainMenu::nounManagerRequested, nounHandler_);
+    connect(&common_.mainMenu(), &MainMenu::declensionRequested, this, &NounNavigation::beginToChooseNouns);
+    connect(&common_.mainMenu(), &MainMenu::pronounsRequested, this, &NounNavigation::beginToChoosePronouns);
+    common_.opens(&MainMenu::nounQuizRequested, this, nounQuiz_);
+    common_.opens(&MainMenu::nounManagerRequested, this, nounHandler_);
 }
 
 void NounNavigation::joinDeclinationChoose(DeclinationChoose& window)
 {
     connect(&window, &DeclinationChoose::chosen, this, &NounNavigation::takeDeclension);
-    whenLeft(window, common_.toMainMenu);
+    whenLeft(window, [this] { common_.toMainMenu(); });
 }
 
 void NounNavigation::joinDeclination(Declination& window)
@@ -38,7 +38,7 @@ void NounNavigation::joinDeclination(Declination& window)
 void NounNavigation::joinPronounChooser(PronounChooser& window)
 {
     connect(&window, &PronounChooser::chosen, this, &NounNavigation::takePronouns);
-    whenLeft(window, common_.toMainMenu);
+    whenLeft(window, [this] { common_.toMainMenu(); });
 }
 
 void NounNavigation::joinPronounSingular(PronounSingular& window)
@@ -48,14 +48,14 @@ void NounNavigation::joinPronounSingular(PronounSingular& window)
 
 void NounNavigation::joinNounQuiz(NounQuiz& window)
 {
-    connect(&window, &NounQuiz::optionsRequested, this, [this] { common_.delayInterval->open(); });
+    connect(&window, &NounQuiz::optionsRequested, this, [this] { common_.openDelayInterval(); });
     connect(&window, &NounQuiz::left, this, &shell::leaveDrill);
-    whenLeft(window, common_.toMainMenu);
+    whenLeft(window, [this] { common_.toMainMenu(); });
 }
 
 void NounNavigation::joinNounHandler(NounHandler& window)
 {
-    whenLeft(window, common_.toMainMenu);
+    whenLeft(window, [this] { common_.toMainMenu(); });
 }
 
 void NounNavigation::beginToChooseNouns()
@@ -63,7 +63,7 @@ void NounNavigation::beginToChooseNouns()
     const Hourglass hourglass;
     shell::setVowelMarkForDrill();
     shell::settings.ExerciseType = shell::exercise::Declination;
-    common_.mainMenu.hide();
+    common_.mainMenu().hide();
     declinationChoose_->open();
 }
 
@@ -81,7 +81,7 @@ void NounNavigation::beginToChoosePronouns()
 {
     const Hourglass hourglass;
     shell::settings.ExerciseType = shell::exercise::Pronouns;
-    common_.mainMenu.hide();
+    common_.mainMenu().hide();
     pronounChooser_->open();
 }
 

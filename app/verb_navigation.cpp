@@ -17,8 +17,8 @@ using verbs::VerbManager;
 
 VerbNavigation::VerbNavigation(CommonWindows& common) : common_(common)
 {
-    connect(&common_.mainMenu, &MainMenu::conjugationRequested, this, &VerbNavigation::beginToChoose);
-    common_.opens(&MainMenu::verbManagerRequested, verbManager_);
+    connect(&common_.mainMenu(), &MainMenu::conjugationRequested, this, &VerbNavigation::beginToChoose);
+    common_.opens(&MainMenu::verbManagerRequested, this, verbManager_);
 }
 
 void VerbNavigation::joinConjugationChoose(ConjugationChoose& window)
@@ -44,7 +44,7 @@ void VerbNavigation::joinConjugation(Conjugation& window)
 void VerbNavigation::joinVerbManager(VerbManager& window)
 {
     connect(&window, &VerbManager::endRequested, this, &endProgramQuietly);
-    whenLeft(window, common_.toMainMenu);
+    whenLeft(window, [this] { common_.toMainMenu(); });
 }
 
 void VerbNavigation::beginToChoose()
@@ -52,7 +52,7 @@ void VerbNavigation::beginToChoose()
     const Hourglass hourglass;
     shell::setVowelMarkForDrill();
     shell::settings.ExerciseType = shell::exercise::Conjugation;
-    common_.mainMenu.hide();
+    common_.mainMenu().hide();
     conjugationChoose_->open();
 }
 

@@ -10,12 +10,12 @@ using verbdrills::QuizInclude;
 
 VerbQuizNavigation::VerbQuizNavigation(CommonWindows& common) : common_(common)
 {
-    connect(&common_.mainMenu, &shell::MainMenu::quizRequested, this, &VerbQuizNavigation::beginQuiz);
+    connect(&common_.mainMenu(), &shell::MainMenu::quizRequested, this, &VerbQuizNavigation::beginQuiz);
 }
 
 void VerbQuizNavigation::joinProbatio(Probatio& window)
 {
-    common_.joinDrill(window, common_.toMainMenu);
+    common_.joinDrill(window, [this] { common_.toMainMenu(); });
     connect(&window, &Probatio::optionsRequested, this, [this, &window] {
         common_.leaveDrill(window);
         quizInclude_->open();
@@ -38,7 +38,7 @@ void VerbQuizNavigation::joinQuizInclude(QuizInclude& window)
 void VerbQuizNavigation::beginQuiz()
 {
     const Hourglass hourglass;
-    common_.mainMenu.hide();
+    common_.mainMenu().hide();
     shell::beginDrill(shell::exercise::Quiz);
     probatio_->open();
 }

@@ -6,6 +6,7 @@ namespace app {
 
 using shell::MainMenu;
 using vocabulary::FileHandler;
+using vocabulary::VcabLoader;
 using vocabulary::VcabManager;
 using vocabulary::VcabReplace;
 using vocabulary::Vcabtester;
@@ -13,65 +14,78 @@ using vocabulary::VcabWarning;
 
 namespace file_mode = vocabulary::file_mode;
 
-VocabularyNavigation::VocabularyNavigation(CommonWindows& common)
-    : common_(common), tester_([this](Vcabtester& window) {
-          common_.joinDrill(window, common_.toMainMenu);
-          connect(&window, &Vcabtester::listRequested, this, [this] {
-              putTesterAside();
-              loader_->open();
-          });
-          connect(&window, &Vcabtester::editorRequested, this, [this] {
-              putTesterAside();
-              manager_->open();
-          });
-      }),
-      loader_(
-          [this](vocabulary::VcabLoader& window) { whenLeft(window, [this] { returnToTester(); }); }),
-      manager_([this](VcabManager& window) {
-          connect(&window, &VcabManager::saveRequested, this, [this] { chooseFile(file_mode::Save); });
-          connect(&window, &VcabManager::loadRequested, this, [this] { chooseFile(file_mode::Load); });
-          connect(&window, &VcabManager::exitRequested, this, &VocabularyNavigation::leaveManager);
-      }),
-      fileHandler_([this](FileHandler& window) {
-          connect(&window, &FileHandler::loaded, this, [this, &window] {
-              window.hide();
-              manager_->open();
-          });
-          connect(&window, &FileHandler::warningRequested, this, [this, &window] {
-              warn([&window] { window.saveBeforeLoad(); }, [&window] { window.replaceList(); });
-          });
-          connect(&window, &FileHandler::replacementRequested, this,
-                  [this](const std::filesystem::path& file) { replace_->open(file); });
-          whenLeft(window, [this] { manager_->comeBack(); });
-      }),
-      warning_([this](VcabWarning& window) {
-          hideWhenLeft(window);
-          connect(&window, &VcabWarning::discardRequested, &window, &VcabWarning::hide);
-          connect(&window, &VcabWarning::discardRequested, this, [this] { toDiscard_(); });
-          connect(&window, &VcabWarning::saveRequested, &window, &VcabWarning::hide);
-          connect(&window, &VcabWarning::saveRequested, this, [this] { toSave_(); });
-      }),
-      replace_([this](VcabReplace& window) {
-          hideWhenLeft(window);
-          connect(&window, &VcabReplace::replacementAllowed, &window, &VcabReplace::hide);
-          connect(&window, &VcabReplace::replacementAllowed, this, [this] { fileHandler_->replaceFile(); });
-      })
+VocabularyNavigation::VocabularyNavigation(CommonWindows& common) : common_(common)
 {
-    connect(&common_.mainMenu, &MainMenu::vocabularyRequested, this, &VocabularyNavigation::beginTest);
-    connect(&common_.mainMenu, &MainMenu::vocabularyManagerRequested, this,
+    connect(&common_.mainMenu(), &MainMenu::vocabularyRequested, this, &VocabularyNavigation::beginTest);
+    connect(&common_.mainMenu(), &MainMenu::vocabularyManagerRequested, this,
             &VocabularyNavigation::showManager);
+}
+
+void VocabularyNavigation::joinTester(Vcabtester& window)
+{
+    common_.joinDrill(window, [this] { common_.toMainMenu(); });
+    connect(&window, &Vcabtester::listRequested, this, [this] {
+        putTesterAside();
+        loader_->open();
+    });
+    connect(&window, &Vcabtester::editorRequested, this, [this] {
+        putTesterAside();
+        manager_->open();
+    });
+}
+
+void VocabularyNavigation::joinLoader(VcabLoader& window)
+{
+    whenLeft(window, [this] { returnToTester(); });
+}
+
+void VocabularyNavigation::joinManager(VcabManager& window)
+{
+    connect(&window, &VcabManager::saveRequested, this, [this] { chooseFile(file_mode::Save); });
+    connect(&window, &VcabManager::loadRequested, this, [this] { chooseFile(file_mode::Load); });
+    connect(&window, &VcabManager::exitRequested, this, &VocabularyNavigation::leaveManager);
+}
+
+void VocabularyNavigation::joinFileHandler(FileHandler& window)
+{
+    connect(&window, &FileHandler::loaded, this, [this, &window] {
+        window.hide();
+        manager_->open();
+    });
+    connect(&window, &FileHandler::warningRequested, this, [this, &window] {
+        warn([&window] { window.saveBeforeLoad(); }, [&window] { window.replaceList(); });
+    });
+    connect(&window, &FileHandler::replacementRequested, this,
+            [this](const std::filesystem::path& file) { replace_->open(file); });
+    whenLeft(window, [this] { manager_->comeBack(); });
+}
+
+void VocabularyNavigation::joinWarning(VcabWarning& window)
+{
+    hideWhenLeft(window);
+    connect(&window, &VcabWarning::discardRequested, &window, &VcabWarning::hide);
+    connect(&window, &VcabWarning::discardRequested, this, [this] { toDiscard_(); });
+    connect(&window, &VcabWarning::saveRequested, &window, &VcabWarning::hide);
+    connect(&window, &VcabWarning::saveRequested, this, [this] { toSave_(); });
+}
+
+void VocabularyNavigation::joinReplace(VcabReplace& window)
+{
+    hideWhenLeft(window);
+    connect(&window, &VcabReplace::replacementAllowed, &window, &VcabReplace::hide);
+    connect(&window, &VcabReplace::replacementAllowed, this, [this] { fileHandler_->replaceFile(); });
 }
 
 void VocabularyNavigation::beginTest()
 {
     const Hourglass hourglass;
-    common_.mainMenu.hide();
+    common_.mainMenu().hide();
     tester_->open();
 }
 
 void VocabularyNavigation::showManager()
 {
-    common_.mainMenu.hide();
+    common_.mainMenu().hide();
     vocabulary::beginNewList();
     manager_->open();
 }

@@ -20,6 +20,13 @@ public:
     explicit VocabularyNavigation(CommonWindows& common);
 
 private:
+    void joinTester(vocabulary::Vcabtester& window);
+    void joinLoader(vocabulary::VcabLoader& window);
+    void joinManager(vocabulary::VcabManager& window);
+    void joinFileHandler(vocabulary::FileHandler& window);
+    void joinWarning(vocabulary::VcabWarning& window);
+    void joinReplace(vocabulary::VcabReplace& window);
+
     void beginTest();
     void showManager();
     void putTesterAside();
@@ -35,12 +42,12 @@ private:
     void chooseFile(std::string_view mode);
 
     CommonWindows& common_;
-    OnDemand<vocabulary::Vcabtester> tester_;
-    OnDemand<vocabulary::VcabLoader> loader_;
-    OnDemand<vocabulary::VcabManager> manager_;
-    OnDemand<vocabulary::FileHandler> fileHandler_;
-    OnDemand<vocabulary::VcabWarning> warning_;
-    OnDemand<vocabulary::VcabReplace> replace_;
+    OnDemand<vocabulary::Vcabtester> tester_{this, &VocabularyNavigation::joinTester};
+    OnDemand<vocabulary::VcabLoader> loader_{this, &VocabularyNavigation::joinLoader};
+    OnDemand<vocabulary::VcabManager> manager_{this, &VocabularyNavigation::joinManager};
+    OnDemand<vocabulary::FileHandler> fileHandler_{this, &VocabularyNavigation::joinFileHandler};
+    OnDemand<vocabulary::VcabWarning> warning_{this, &VocabularyNavigation::joinWarning};
+    OnDemand<vocabulary::VcabReplace> replace_{this, &VocabularyNavigation::joinReplace};
 
     /// A test was put aside for another window and goes on when that is left.
     bool testWaits_ = false;

@@ -91,7 +91,7 @@ void Declination::makeBoxes()
         addBox(i < CasesOfNumber ? singular_ : plural_, QStringLiteral("DeclText%1").arg(i));
     for (std::size_t i = 0; i < cases_.size(); ++i) {
         cases_.at(i) = shell::makeLabelOf(boxes().at(i), CaseLabels.at(i));
-        cases_.at(i)->setText(QLatin1String(CaseNames.at(i)));
+        cases_.at(i)->setText(shell::fromUtf8(CaseNames.at(i)));
         cases_.at(i)->setMinimumHeight(boxes().at(i)->sizeHint().height());
     }
 }

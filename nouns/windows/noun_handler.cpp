@@ -25,8 +25,11 @@ namespace {
 constexpr QSize LargestBlock{110, 40};
 constexpr int CharactersOfField = 16;
 
-constexpr std::array<const char*, DeclensionCount> Declensions = {
+constexpr std::array<std::string_view, DeclensionCount> Declensions = {
     "First Declension", "Second Declension", "Third Declension", "Fourth Declension", "Fifth Declension"};
+
+// The boxes of the form, in their order.
+enum Field { Stem, ObliqueStem, Note, English, German, French, Spanish };
 
 constexpr std::array Fields = {FieldNames{"NHStem", "&Stem"},
                                FieldNames{"NHObliqueStem", "O&blique stem"},
@@ -36,13 +39,13 @@ constexpr std::array Fields = {FieldNames{"NHStem", "&Stem"},
                                FieldNames{"NHMeaning2", "&French"},
                                FieldNames{"NHMeaning3", "Spanis&h"}};
 
-std::array<std::string*, Fields.size()> textsOf(NounRecord& noun)
+std::array<std::string_view, Fields.size()> textsOf(const NounRecord& noun)
 {
-    auto& [english, german, french, spanish] = noun.meanings;
-    return {&noun.stem, &noun.obliqueStem, &noun.note, &english, &german, &french, &spanish};
+    const auto& [english, german, french, spanish] = noun.meanings;
+    return {noun.stem, noun.obliqueStem, noun.note, english, german, french, spanish};
 }
 
-constexpr auto NewItem = "** Add New Item Here **";
+constexpr std::string_view NewItem = "** Add New Item Here **";
 
 } // namespace
 
@@ -64,19 +67,17 @@ void NounHandler::makeControls()
     nouns_->setAccessibleName(QStringLiteral("Nouns"));
     paradigms_ = shell::makeControl<QComboBox>(this, "NHParadigm");
     form_ = new shell::RecordForm;
-    form_->addControl({.box = "NHParadigm", .caption = "&Paradigm"}, paradigms_);
+    form_->addControl(paradigms_, "&Paradigm");
     form_->addBoxes(this, Fields);
-    stem_ = form_->box(0);
-    obliqueStem_ = form_->box(1);
     add_ = shell::makeButton(this, "NHAdd", "&Add");
     close_ = shell::makeButton(this, "NHClose", "&Close");
-    nouns_->setMinimumWidth(nouns_->fontMetrics().horizontalAdvance(QLatin1String(NewItem)) +
+    nouns_->setMinimumWidth(nouns_->fontMetrics().horizontalAdvance(shell::fromUtf8(NewItem)) +
                             2 * nouns_->verticalScrollBar()->sizeHint().width());
-    for (const char* const name : Declensions)
-        declensions_->addItem(QLatin1String(name));
+    for (const std::string_view name : Declensions)
+        declensions_->addItem(shell::fromUtf8(name));
     declensions_->setMinimumWidth(declensions_->sizeHintForColumn(0) +
                                   declensions_->verticalScrollBar()->sizeHint().width());
-    shell::setLeastWidth(*stem_, CharactersOfField);
+    shell::setLeastWidth(*form_->box(Stem), CharactersOfField);
 }
 
 void NounHandler::layOut()
@@ -140,18 +141,13 @@ void NounHandler::showNoun(int row)
     if (isNewRow(row)) {
         showDraft();
     } else if (row < 0) {
-        showRecord({});
+        form_->show(textsOf({}));
     } else {
         const auto& [paradigm, number] = rows_.at(static_cast<std::size_t>(row));
         paradigms_->setCurrentIndex(paradigms_->findData(static_cast<int>(paradigm->paradigm)));
-        showRecord(listedNoun(paradigm->paradigm, number));
+        form_->show(textsOf(listedNoun(paradigm->paradigm, number)));
     }
     allowTyping(isNewRow(row));
-}
-
-void NounHandler::showRecord(NounRecord noun)
-{
-    form_->show(textsOf(noun));
 }
 
 void NounHandler::allowTyping(bool allowed)
@@ -159,12 +155,12 @@ void NounHandler::allowTyping(bool allowed)
     paradigms_->setEnabled(allowed);
     for (QLineEdit* const box : form_->boxes())
         box->setReadOnly(!allowed);
-    obliqueStem_->setEnabled(chosenParadigm() == ThirdDeclension);
+    form_->box(ObliqueStem)->setEnabled(chosenParadigm() == ThirdDeclension);
 }
 
 void NounHandler::chooseParadigm(int /*row*/)
 {
-    obliqueStem_->setEnabled(chosenParadigm() == ThirdDeclension);
+    form_->box(ObliqueStem)->setEnabled(chosenParadigm() == ThirdDeclension);
 }
 
 void NounHandler::keepDraft()
@@ -174,17 +170,19 @@ void NounHandler::keepDraft()
 
 void NounHandler::showDraft()
 {
-    const Draft draft = drafts_.at(static_cast<std::size_t>(declensions_->currentRow()));
+    const Draft& draft = drafts_.at(static_cast<std::size_t>(declensions_->currentRow()));
     const int chosen = paradigms_->findData(draft.paradigm);
     paradigms_->setCurrentIndex(chosen < 0 ? paradigms_->count() - 1 : chosen);
-    showRecord(draft.noun);
+    form_->show(textsOf(draft.noun));
 }
 
 NounRecord NounHandler::typedNoun() const
 {
-    NounRecord noun;
-    form_->take(textsOf(noun));
-    return noun;
+    const auto texts = form_->take();
+    return {.note = texts.at(Note),
+            .stem = texts.at(Stem),
+            .obliqueStem = texts.at(ObliqueStem),
+            .meanings = {texts.at(English), texts.at(German), texts.at(French), texts.at(Spanish)}};
 }
 
 void NounHandler::add()
@@ -200,9 +198,9 @@ void NounHandler::addNewRow()
 {
     const auto newRow = static_cast<int>(rows_.size());
     if (nouns_->count() == newRow)
-        nouns_->addItem(QLatin1String(NewItem));
+        nouns_->addItem(shell::fromUtf8(NewItem));
     nouns_->setCurrentRow(newRow);
-    stem_->setFocus();
+    form_->box(Stem)->setFocus();
 }
 
 void NounHandler::storeNewNoun()

@@ -7,7 +7,6 @@
 #include <vector>
 
 class QComboBox;
-class QLineEdit;
 class QListWidget;
 class QPushButton;
 
@@ -44,7 +43,6 @@ private:
     void listNouns();
     void chooseParadigm(int row);
     void showNoun(int row);
-    void showRecord(NounRecord noun);
     void allowTyping(bool allowed);
     void keepDraft();
     void showDraft();
@@ -56,14 +54,12 @@ private:
     bool isNewRow(int row) const;
     int chosenParadigm() const;
 
-    QListWidget* declensions_;
-    QListWidget* nouns_;
-    QComboBox* paradigms_;
-    shell::RecordForm* form_;
-    QLineEdit* stem_;
-    QLineEdit* obliqueStem_;
-    QPushButton* add_;
-    QPushButton* close_;
+    QListWidget* declensions_ = nullptr;
+    QListWidget* nouns_ = nullptr;
+    QComboBox* paradigms_ = nullptr;
+    shell::RecordForm* form_ = nullptr;
+    QPushButton* add_ = nullptr;
+    QPushButton* close_ = nullptr;
 
     std::vector<ListRow> rows_;
     // What was typed on each declension's new row, and the paradigm chosen for it; 0 where none was.

@@ -44,8 +44,8 @@ constexpr std::array CheckNames = {
     "NominativeSingCheck",   "GenitiveSingCheck",   "DativeSingCheck",   "AccusativeSingCheck",   "AblativeSingCheck",
     "NominativePluralCheck", "GenitivePluralCheck", "DativePluralCheck", "AccusativePluralCheck", "AblativePluralCheck"};
 
-constexpr std::array<const char*, NamedDeclensionCount> Declensions = {
-    "First Declension", "Second Declension", "Third Declension", "Third i-stem Declension", "Fourth Declension", "Fifth Declension"};
+constexpr std::array<std::string_view, NamedDeclensionCount> Declensions = {
+    "First Declension", "Second Declension", "Third Declension", "Third i-stem Declension", "Fourth Declension", "Fifth Declension"}; // sic: no noun of the third i-stem is asked
 // clang-format on
 
 // The declension that a paradigm belongs to, by the index of the paradigm.
@@ -78,7 +78,7 @@ void NounQuiz::makeControls()
     verdict_->setMinimumHeight(verdict_->fontMetrics().lineSpacing());
     for (std::size_t i = 0; i < declensions_.size(); ++i) {
         declensions_.at(i) = makeLabel(this, QStringLiteral("NounQuizDeclension%1").arg(i));
-        declensions_.at(i)->setText(QLatin1String(Declensions.at(i)));
+        declensions_.at(i)->setText(shell::fromUtf8(Declensions.at(i)));
     }
 }
 
@@ -89,7 +89,7 @@ void NounQuiz::makeChecks()
     for (std::size_t i = 0; i < checks_.size(); ++i) {
         QGroupBox* const frame = i < CasesOfNumber ? singular_ : plural_;
         checks_.at(i) = shell::makeControl<QCheckBox>(frame, CheckNames.at(i));
-        checks_.at(i)->setText(QLatin1String(CaseNames.at(i % CasesOfNumber)));
+        checks_.at(i)->setText(shell::fromUtf8(CaseNames.at(i % CasesOfNumber)));
     }
 }
 

@@ -42,7 +42,7 @@ constexpr std::array<LanguageTexts, PronounGroupCount> Headings = {{
     LanguageTexts{"Relatives: qui-quae-quod (who/which)",   {},     {},      "Relative Pronomen: qui-quae-quod (derjeniger)",   "Pronombres relativos: qui-quae-quod (quien/el cual)", "Pronomina Relativa: qui-quae-quod"},
 }};
 
-using ColumnTexts = std::array<const char*, ColumnsOfGroup>;
+using ColumnTexts = std::array<std::string_view, ColumnsOfGroup>;
 constexpr ColumnTexts SingularPersons = {"1 Pers. Sing.", "2 Pers. Sing.", "3 Pers. Sing."};
 constexpr ColumnTexts PluralPersons   = {"1 Pers. Plur.", "2 Pers. Plur.", "3 Pers. Plur."};
 constexpr ColumnTexts SingularGenders = {"Masc. Sing.",   "Fem. Sing.",    "Neut. Sing."};
@@ -86,7 +86,7 @@ void PronounSingular::makeBoxes()
         addBox(this, QStringLiteral("Pronoun%1").arg(cell));
     for (std::size_t i = 0; i < cases_.size(); ++i) {
         cases_.at(i) = shell::makeLabelOf(boxes().at(i), CaseLabels.at(i));
-        cases_.at(i)->setText(QLatin1String(CaseNames.at(i)));
+        cases_.at(i)->setText(shell::fromUtf8(CaseNames.at(i)));
     }
 }
 
@@ -129,7 +129,7 @@ void PronounSingular::open()
 void PronounSingular::showNumber()
 {
     for (std::size_t i = 0; i < columns_.size(); ++i)
-        columns_.at(i)->setText(QLatin1String(columnTexts().at(i)));
+        columns_.at(i)->setText(shell::fromUtf8(columnTexts().at(i)));
     for (std::size_t i = 0; i < boxes().size(); ++i) {
         boxes().at(i)->setEnabled(!pronounFormAt(static_cast<int>(i) + 1).empty());
         boxes().at(i)->setAccessibleName(cases_.at(i % CasesOfNumber)->text() + QLatin1Char(' ') +

@@ -12,16 +12,8 @@
 namespace shell {
 
 BoxDrill::BoxDrill(std::string_view name, std::string_view activeName, std::string_view exerciseType)
-    : Window(name, activeName), exerciseType_(exerciseType),
-      score_(makeHeading(this, "ScoreLabel", HeadingType))
+    : DrillWindow(name, activeName, exerciseType), score_(makeHeading(this, "ScoreLabel", HeadingType))
 {
-    closeOnEscape();
-    registerDrill(exerciseType_, *this);
-}
-
-BoxDrill::~BoxDrill()
-{
-    unregisterDrill(exerciseType_);
 }
 
 AnswerBox* BoxDrill::addBox(QWidget* parent, const QString& name)
@@ -40,21 +32,21 @@ QBoxLayout* BoxDrill::withScore(const Part& heading)
     return rowOf(MediumSpace, {heading, {score_, 0, Qt::AlignRight | Qt::AlignTop}});
 }
 
-QPushButton* BoxDrill::makeCheckButton(const char* name)
+QPushButton* BoxDrill::makeCheckButton(QAnyStringView name)
 {
     QPushButton* const button = makeButton(this, name);
     connect(button, &QPushButton::clicked, this, &BoxDrill::check);
     return button;
 }
 
-QPushButton* BoxDrill::makeQuestionButton(const char* name)
+QPushButton* BoxDrill::makeQuestionButton(QAnyStringView name)
 {
-    QPushButton* const button = makeHintButton(this, name);
+    QPushButton* const button = shell::makeQuestionButton(this, name);
     connect(button, &QPushButton::clicked, this, &BoxDrill::hint);
     return button;
 }
 
-QPushButton* BoxDrill::makeQuitButton(const char* name)
+QPushButton* BoxDrill::makeQuitButton(QAnyStringView name)
 {
     QPushButton* const button = makeButton(this, name);
     connect(button, &QPushButton::clicked, this, [this] { quit(); });
@@ -101,11 +93,6 @@ void BoxDrill::focusQuestion()
 {
     askedBox().setFocus();
     boxReceivedFocus(askedBoxNumber());
-}
-
-bool BoxDrill::canAnswer() const
-{
-    return isVisible() && !pausing();
 }
 
 void BoxDrill::check()

@@ -1,8 +1,6 @@
 #pragma once
 
-#include "shell/drill.h"
-#include "shell/kit/layout.h"
-#include "shell/kit/window.h"
+#include "shell/kit/drill_window.h"
 
 #include <initializer_list>
 #include <optional>
@@ -19,22 +17,16 @@ class AnswerBox;
 /// The window of a drill whose forms are typed into boxes, numbered from 0, of which one is asked at a time.
 /// Only that one can hold the focus. While an answer is judged or shown nothing can be typed, and nothing is
 /// checked or shown a second time.
-class BoxDrill : public Window, public Drill {
+class BoxDrill : public DrillWindow {
     Q_OBJECT
 
 public:
-    /// Registers the drill under `exerciseType` as long as the window lives.
     BoxDrill(std::string_view name, std::string_view activeName, std::string_view exerciseType);
-    ~BoxDrill() override;
 
     void showScore(const std::string& text) override;
     void greyAnsweredBox() override;
     void focusQuestion() override;
     void askAgain() override;
-
-Q_SIGNALS:
-    /// An answer was checked.
-    void answerJudged(bool right);
 
 protected:
     /// The box that is asked, as the drill's rules have it.
@@ -71,9 +63,9 @@ protected:
     QBoxLayout* withScore(const Part& heading);
 
     /// The button that checks, the one that shows the answer, and the one that leaves.
-    QPushButton* makeCheckButton(const char* name);
-    QPushButton* makeQuestionButton(const char* name);
-    QPushButton* makeQuitButton(const char* name);
+    QPushButton* makeCheckButton(QAnyStringView name);
+    QPushButton* makeQuestionButton(QAnyStringView name);
+    QPushButton* makeQuitButton(QAnyStringView name);
 
     /// The lowest row of the window: the help label, and the buttons.
     QBoxLayout* helpAndButtons(std::initializer_list<QWidget*> buttons);
@@ -84,13 +76,11 @@ protected:
     void closeBoxPressed() override;
 
 private:
-    bool canAnswer() const;
     void check();
     void hint();
     void boxReceivedFocus(int number);
     void holdBoxes();
 
-    std::string_view exerciseType_;
     std::vector<AnswerBox*> boxes_;
     QLabel* score_;
 };

@@ -20,16 +20,18 @@ namespace {
 bool setText(QObject* control, const QString& text)
 {
     if (auto* const button = qobject_cast<QAbstractButton*>(control))
-        return button->setText(text), true;
-    if (auto* const label = qobject_cast<QLabel*>(control))
-        return label->setText(text), true;
-    if (auto* const menu = qobject_cast<QMenu*>(control))
-        return menu->setTitle(text), true;
-    if (auto* const action = qobject_cast<QAction*>(control))
-        return action->setText(text), true;
-    if (auto* const frame = qobject_cast<QGroupBox*>(control))
-        return frame->setTitle(text), true;
-    return false;
+        button->setText(text);
+    else if (auto* const label = qobject_cast<QLabel*>(control))
+        label->setText(text);
+    else if (auto* const menu = qobject_cast<QMenu*>(control))
+        menu->setTitle(text);
+    else if (auto* const action = qobject_cast<QAction*>(control))
+        action->setText(text);
+    else if (auto* const frame = qobject_cast<QGroupBox*>(control))
+        frame->setTitle(text);
+    else
+        return false;
+    return true;
 }
 
 void setCaption(QWidget& window, std::string_view control, std::string_view text)

@@ -1,6 +1,6 @@
 #include "shell/kit/choice_list.h"
 
-#include "shell/kit/window.h"
+#include "shell/kit/controls.h"
 
 #include <QKeyEvent>
 #include <QStyledItemDelegate>

@@ -1,8 +1,10 @@
 #include "shell/kit/controls.h"
 
 #include "shell/kit/choice_list.h"
+#include "shell/kit/text.h"
 #include "shell/kit/type.h"
 
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 
@@ -55,19 +57,24 @@ ChoiceList* makeChoiceList(QWidget* parent, QAnyStringView name)
     return list;
 }
 
-QPushButton* makeButton(QWidget* parent, QAnyStringView name, const char* text)
+QPushButton* makeButton(QWidget* parent, QAnyStringView name, std::string_view text)
 {
     auto* const button = makeControl<QPushButton>(parent, name);
     button->setAutoDefault(true);
-    button->setText(QLatin1String(text));
+    button->setText(fromUtf8(text));
     return button;
 }
 
-QPushButton* makeHintButton(QWidget* parent, QAnyStringView name)
+QPushButton* makeQuestionButton(QWidget* parent, QAnyStringView name)
 {
     QPushButton* const button = makeButton(parent, name, "?");
     button->setAccessibleName(QStringLiteral("Show the answer"));
     return button;
+}
+
+bool isEnter(const QKeyEvent& key)
+{
+    return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
 }
 
 } // namespace shell

@@ -2,6 +2,9 @@
 
 #include <QAnyStringView>
 
+#include <string_view>
+
+class QKeyEvent;
 class QLabel;
 class QPushButton;
 class QWidget;
@@ -29,16 +32,20 @@ QLabel* makeHeading(QWidget* parent, QAnyStringView name, double type);
 /// The label of a control, to which its access key leads.
 QLabel* makeLabelOf(QWidget* control, QAnyStringView name);
 
-/// Breaks a label's text into lines, where it would widen the window, and keeps room for so many lines.
+/// Breaks a label's text into lines, where it would widen the window, and keeps room for so many lines. The
+/// label no longer asks for any width of its own.
 void wrapText(QLabel& label, int lines);
 
 /// A list of the words or files that a window is about.
 ChoiceList* makeChoiceList(QWidget* parent, QAnyStringView name);
 
 /// A button with this object name, which Enter presses as the space bar does.
-QPushButton* makeButton(QWidget* parent, QAnyStringView name, const char* text = "");
+QPushButton* makeButton(QWidget* parent, QAnyStringView name, std::string_view text = {});
 
 /// The "?" button of a drill, which shows the answer.
-QPushButton* makeHintButton(QWidget* parent, QAnyStringView name);
+QPushButton* makeQuestionButton(QWidget* parent, QAnyStringView name);
+
+/// Whether a key is one of the two Enter keys.
+bool isEnter(const QKeyEvent& key);
 
 } // namespace shell

@@ -17,16 +17,23 @@ QBoxLayout* filled(QBoxLayout* layout, int space, std::initializer_list<Part> pa
 
 } // namespace
 
-void Part::addTo(QBoxLayout& layout) const
+Part::Part(QWidget* control, int stretch, Qt::Alignment place)
+    : add_([=](QBoxLayout& layout) { layout.addWidget(control, stretch, place); })
 {
-    if (control_ != nullptr)
-        layout.addWidget(control_, stretch_, place_);
-    else if (inner_ != nullptr)
-        layout.addLayout(inner_, stretch_);
-    else if (pixels_ > 0)
-        layout.addSpacing(pixels_);
-    else
-        layout.addStretch(stretch_);
+}
+
+Part::Part(QLayout* inner, int stretch) : add_([=](QBoxLayout& layout) { layout.addLayout(inner, stretch); })
+{
+}
+
+Part Part::gap(int stretch)
+{
+    return Part([=](QBoxLayout& layout) { layout.addStretch(stretch); });
+}
+
+Part Part::space(int pixels)
+{
+    return Part([=](QBoxLayout& layout) { layout.addSpacing(pixels); });
 }
 
 QBoxLayout* rowOf(int space, std::initializer_list<Part> parts)

@@ -5,7 +5,9 @@
 #include <QMargins>
 #include <Qt>
 
+#include <functional>
 #include <initializer_list>
+#include <utility>
 
 class QBoxLayout;
 class QGridLayout;
@@ -22,26 +24,21 @@ inline constexpr QMargins DrillMargins{WideSpace, LargeSpace, WideSpace, LargeSp
 class Part {
 public:
     /// One that is not stretched is written as the bare control or layout.
-    Part(QWidget* control, int stretch = 0, Qt::Alignment place = {})
-        : control_(control), stretch_(stretch), place_(place)
-    {
-    }
-    Part(QLayout* inner, int stretch = 0) : inner_(inner), stretch_(stretch) {}
+    Part(QWidget* control, int stretch = 0, Qt::Alignment place = {});
+    Part(QLayout* inner, int stretch = 0);
 
     /// Space that grows with the window, and space of so many pixels.
-    static Part gap(int stretch = 0) { return {stretch, 0}; }
-    static Part space(int pixels) { return {0, pixels}; }
+    static Part gap(int stretch = 0);
+    static Part space(int pixels);
 
-    void addTo(QBoxLayout& layout) const;
+    void addTo(QBoxLayout& layout) const { add_(layout); }
 
 private:
-    Part(int stretch, int pixels) : stretch_(stretch), pixels_(pixels) {}
+    using Adding = std::function<void(QBoxLayout&)>;
 
-    QWidget* control_ = nullptr;
-    QLayout* inner_ = nullptr;
-    int stretch_ = 0;
-    int pixels_ = 0;
-    Qt::Alignment place_;
+    explicit Part(Adding add) : add_(std::move(add)) {}
+
+    Adding add_;
 };
 
 /// Parts from left to right, so many pixels apart.
@@ -50,8 +47,8 @@ QBoxLayout* rowOf(int space, std::initializer_list<Part> parts);
 /// Parts from top to bottom, so many pixels apart.
 QBoxLayout* columnOf(int space, std::initializer_list<Part> parts);
 
-/// The row at the foot of a window: buttons or a note at its left, and the buttons at its right. Buttons are
-/// made in this order, in which Tab goes through them.
+/// The row at the foot of a window: buttons or a note at its left, and the buttons at its right. Tab goes
+/// through them in the order in which they were made: make them in this one.
 QBoxLayout* buttonRow(std::initializer_list<QWidget*> left, std::initializer_list<QWidget*> right);
 
 /// An empty grid whose columns and rows stand so many pixels apart.

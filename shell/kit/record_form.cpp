@@ -20,28 +20,30 @@ void RecordForm::addBoxes(QWidget* parent, std::span<const FieldNames> fields)
     for (const FieldNames& field : fields) {
         boxes_.push_back(makeControl<QLineEdit>(parent, field.box));
         connect(boxes_.back(), &QLineEdit::textEdited, this, &RecordForm::edited);
-        addControl(field, boxes_.back());
+        addControl(boxes_.back(), field.caption, field.label);
     }
 }
 
-void RecordForm::addControl(const FieldNames& field, QWidget* control)
+void RecordForm::addControl(QWidget* control, std::string_view caption, std::string_view label)
 {
-    QLabel* const label = makeLabelOf(control, field.label);
-    label->setText(QLatin1String(field.caption));
-    addWidget(label, lines_, 0);
+    QLabel* const made = makeLabelOf(control, label);
+    made->setText(fromUtf8(caption));
+    addWidget(made, lines_, 0);
     addWidget(control, lines_++, 1);
 }
 
-void RecordForm::show(std::span<std::string* const> texts)
+void RecordForm::show(std::span<const std::string_view> texts)
 {
     for (std::size_t i = 0; i < texts.size(); ++i)
-        box(i)->setText(fromUtf8(*texts[i]));
+        box(i)->setText(fromUtf8(texts[i]));
 }
 
-void RecordForm::take(std::span<std::string* const> texts) const
+std::vector<std::string> RecordForm::take() const
 {
-    for (std::size_t i = 0; i < texts.size(); ++i)
-        *texts[i] = box(i)->text().toStdString();
+    std::vector<std::string> texts;
+    for (const QLineEdit* const box : boxes_)
+        texts.push_back(box->text().toStdString());
+    return texts;
 }
 
 } // namespace shell

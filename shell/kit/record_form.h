@@ -4,6 +4,7 @@
 
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 class QLineEdit;
@@ -12,9 +13,9 @@ namespace shell {
 
 /// The object name of a box, what its label says, and the label's object name where captions are set by it.
 struct FieldNames {
-    const char* box;
-    const char* caption;
-    const char* label = "";
+    std::string_view box;
+    std::string_view caption;
+    std::string_view label = {};
 };
 
 /// The boxes for the texts of a record, one on a line, each behind its label. An access key of a label leads
@@ -29,15 +30,16 @@ public:
     void addBoxes(QWidget* parent, std::span<const FieldNames> fields);
 
     /// Adds another control likewise.
-    void addControl(const FieldNames& field, QWidget* control);
+    void addControl(QWidget* control, std::string_view caption, std::string_view label = {});
 
     const std::vector<QLineEdit*>& boxes() const { return boxes_; }
     QLineEdit* box(std::size_t number) const { return boxes_.at(number); }
 
-    /// Shows one text in each box, or takes one out of each. The texts stand in the order of the boxes;
-    /// throws std::out_of_range where there are more than boxes.
-    void show(std::span<std::string* const> texts);
-    void take(std::span<std::string* const> texts) const;
+    /// Shows one text in each box, in their order; throws std::out_of_range where there are more than boxes.
+    void show(std::span<const std::string_view> texts);
+
+    /// The texts in the boxes, in their order.
+    std::vector<std::string> take() const;
 
 Q_SIGNALS:
     /// The learner has changed the text of a box.

@@ -17,13 +17,11 @@ inline constexpr double HeadingType = 1.6;
 inline constexpr double FormType = 1.5;
 inline constexpr double NoteType = 0.95;
 
-/// Sets a widget's font to a multiple of the application's.
+/// Sets a widget's font to a multiple of the application's, and such a one in bold type.
 void setType(QWidget& widget, double factor);
+void setBoldType(QWidget& widget, double factor);
 
 /// Makes a widget at least so many characters of its own font wide.
 void setLeastWidth(QWidget& widget, int characters);
-
-/// Sets a widget's font likewise, and bold.
-void setBoldType(QWidget& widget, double factor);
 
 } // namespace shell

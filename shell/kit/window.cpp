@@ -7,7 +7,6 @@
 #include <QBoxLayout>
 #include <QCloseEvent>
 #include <QFontMetrics>
-#include <QKeyEvent>
 #include <QScreen>
 #include <QShortcut>
 #include <QWindow>
@@ -31,11 +30,6 @@ void putAbove(QWindow& window, QWindow* below)
 }
 
 } // namespace
-
-bool isEnter(const QKeyEvent& key)
-{
-    return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
-}
 
 Window::Window(std::string_view name, std::string_view activeName) : activeName_(activeName)
 {

@@ -7,12 +7,7 @@
 
 #include <string_view>
 
-class QKeyEvent;
-
 namespace shell {
-
-/// Whether a key is one of the two Enter keys.
-bool isEnter(const QKeyEvent& key);
 
 /// What all windows of the program share: the object name, `ActiveWindowName` on activation, the close box
 /// and Escape, the state that `MainWindowState` asks for, and a block that keeps a large window's content

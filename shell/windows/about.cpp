@@ -35,8 +35,8 @@ constexpr std::array AboutCaptions = {
 
 About::About() : Window("About", "About")
 {
-    auto* const title = new QLabel(QStringLiteral("Velmorane"));
-    setBoldType(*title, TitleType);
+    auto* const title = makeHeading(this, {}, TitleType);
+    title->setText(QStringLiteral("Velmorane"));
     auto* const text = makeLabel(this, "AboutText");
     text->setWordWrap(true);
     auto* const version = makeLabel(this, "AboutVersion");

@@ -1,12 +1,13 @@
 #include "shell/windows/feedback_window.h"
 
 #include "shell/kit/captions.h"
+#include "shell/kit/controls.h"
+#include "shell/kit/layout.h"
 #include "shell/kit/text.h"
-#include "shell/kit/type.h"
 
+#include <QBoxLayout>
 #include <QLabel>
 #include <QScreen>
-#include <QVBoxLayout>
 
 namespace shell {
 
@@ -28,12 +29,9 @@ FeedbackWindow::FeedbackWindow(std::string_view name, const Caption& caption)
     setFrameStyle(QFrame::Box | QFrame::Plain);
     setLineWidth(2);
 
-    auto* const label = new QLabel(this);
-    label->setObjectName(fromUtf8(caption.control));
-    setBoldType(*label, TitleType);
-    auto* const layout = new QVBoxLayout(this);
-    layout->setContentsMargins(WideSpace * 2, WideSpace, WideSpace * 2, WideSpace);
-    layout->addWidget(label, 0, Qt::AlignCenter);
+    constexpr QMargins margins{WideSpace * 2, WideSpace, WideSpace * 2, WideSpace};
+    QLabel* const label = makeHeading(this, caption.control, TitleType);
+    setContent(this, margins, columnOf(0, {{label, 0, Qt::AlignCenter}}));
     applyDesignedCaptions(*this, {&caption_, 1});
 }
 
@@ -60,12 +58,10 @@ void FeedbackWindow::moveToLowerRight()
 
 Bravo::Bravo() : FeedbackWindow("Bravo", RightCaption)
 {
-    setPalette([this] {
-        QPalette accent = palette();
-        accent.setColor(QPalette::Window, accent.color(QPalette::Highlight));
-        accent.setColor(QPalette::WindowText, accent.color(QPalette::HighlightedText));
-        return accent;
-    }());
+    QPalette accent = palette();
+    accent.setColor(QPalette::Window, accent.color(QPalette::Highlight));
+    accent.setColor(QPalette::WindowText, accent.color(QPalette::HighlightedText));
+    setPalette(accent);
 }
 
 void Bravo::announce()

@@ -103,8 +103,8 @@ void FrmOptions::fillOrderFrame(QFrame& frame)
     auto* const rows = new QFormLayout;
     rows->setSpacing(MediumSpace);
     for (int row = 0; row < 2; ++row) {
-        orders_.push_back(new QLabel);
-        orders_.push_back(new QLabel);
+        orders_.push_back(makeLabel(&frame, {}));
+        orders_.push_back(makeLabel(&frame, {}));
         rows->addRow(orders_.at(orders_.size() - 2), orders_.back());
     }
     setContent(&frame, FormMargins, rows);

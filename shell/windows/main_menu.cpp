@@ -1,6 +1,7 @@
 #include "shell/windows/main_menu.h"
 
 #include "shell/kit/captions.h"
+#include "shell/kit/controls.h"
 #include "shell/kit/text.h"
 #include "shell/kit/type.h"
 #include "shell/settings.h"
@@ -67,27 +68,20 @@ MainMenu::MainMenu() : Window("MainMenu", "main"), menuBar_(new QMenuBar(this))
 
 void MainMenu::layOut()
 {
-    auto* const title = new QLabel(QStringLiteral("Velmorane"));
-    setBoldType(*title, TitleType);
-    auto* const version = new QLabel;
-    version->setObjectName(QStringLiteral("VersionLine"));
-
-    auto* const block = centredBlock(LargestBlock);
-    auto* const rows = new QVBoxLayout(block);
-    rows->setContentsMargins(WideSpace, WideSpace, WideSpace, WideSpace);
-    rows->setSpacing(HairSpace);
-    rows->addWidget(title, 0, Qt::AlignHCenter);
-    rows->addWidget(version, 0, Qt::AlignHCenter);
-    rows->addSpacing(WideSpace);
-
-    rows->addLayout(buttonGrid(), 1);
+    constexpr QMargins margins{WideSpace, WideSpace, WideSpace, WideSpace};
+    QLabel* const title = makeHeading(this, {}, TitleType);
+    title->setText(QStringLiteral("Velmorane"));
+    setContent(centredBlock(LargestBlock), margins,
+               columnOf(HairSpace, {{title, 0, Qt::AlignHCenter},
+                                    {makeLabel(this, "VersionLine"), 0, Qt::AlignHCenter},
+                                    Part::space(WideSpace),
+                                    {buttonGrid(), 1}}));
     layout()->setMenuBar(menuBar_);
 }
 
 QGridLayout* MainMenu::buttonGrid()
 {
-    auto* const grid = new QGridLayout;
-    grid->setSpacing(LargeSpace);
+    QGridLayout* const grid = gridOf(LargeSpace, LargeSpace);
     int place = 0;
     for (const MainMenuButton& row : mainMenuButtons()) {
         grid->addWidget(makeBigButton(row), place / ButtonColumns, place % ButtonColumns);
@@ -98,10 +92,8 @@ QGridLayout* MainMenu::buttonGrid()
 
 QPushButton* MainMenu::makeBigButton(const MainMenuButton& row)
 {
-    auto* const made = new QPushButton(this);
-    made->setObjectName(fromUtf8(row.name));
+    QPushButton* const made = makeButton(this, row.name);
     made->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    made->setAutoDefault(true);
     setType(*made, FormType);
     made->setMinimumSize(ButtonCharacters * made->fontMetrics().averageCharWidth(),
                          ButtonLines * made->fontMetrics().lineSpacing());

@@ -19,7 +19,7 @@ class MainMenu : public Window {
 public:
     MainMenu();
 
-    /// Shows the check marks, the available languages and the captions for `settings` as they stand.
+    /// Shows the check marks and the captions for `settings` as they stand.
     void showSettings();
 
     /// Keeps in `MainWindowState` whether the window is normal or maximised. One that is minimised, hidden or

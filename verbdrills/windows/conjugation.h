@@ -41,9 +41,9 @@ private:
     void emptyRound();
 
     std::array<QLabel*, BoxCount> glosses_{};
-    QLabel* title_;
-    QLabel* tense_;
-    QLabel* verb_;
+    QLabel* title_ = nullptr;
+    QLabel* tense_ = nullptr;
+    QLabel* verb_ = nullptr;
 };
 
 } // namespace verbdrills

@@ -9,7 +9,6 @@
 #include <QRadioButton>
 
 #include <array>
-#include <span>
 
 namespace verbdrills {
 
@@ -26,23 +25,24 @@ constexpr int Plural = 1;
 } // namespace
 
 PersonAndNumber::PersonAndNumber(QWidget* parent)
-    : QWidget(parent), persons_(new QButtonGroup(this)), numbers_(new QButtonGroup(this))
+    : QWidget(parent), grid_(shell::gridOf(shell::LargeSpace, shell::HairSpace)),
+      persons_(new QButtonGroup(this)), numbers_(new QButtonGroup(this))
 {
-    QGridLayout* const grid = shell::gridOf(shell::LargeSpace, shell::HairSpace);
-    shell::setContent(this, {}, grid);
-    grid->setColumnStretch(1, 1);
-    const auto addOptions = [&](QButtonGroup* group, std::span<const char* const> names, int first,
-                                int column) {
-        int row = 0;
-        for (const char* const name : names) {
-            auto* const option = shell::makeControl<QRadioButton>(this, name);
-            group->addButton(option, first + row);
-            grid->addWidget(option, row++, column);
-        }
-        connect(group, &QButtonGroup::idClicked, this, &PersonAndNumber::chosen);
-    };
+    shell::setContent(this, {}, grid_);
+    grid_->setColumnStretch(1, 1);
     addOptions(persons_, PersonButtons, FirstPerson, 0);
     addOptions(numbers_, NumberButtons, Singular, 1);
+}
+
+void PersonAndNumber::addOptions(QButtonGroup* group, std::span<const char* const> names, int first,
+                                 int column)
+{
+    for (int row = 0; const char* const name : names) {
+        auto* const option = shell::makeControl<QRadioButton>(this, name);
+        group->addButton(option, first + row);
+        grid_->addWidget(option, row++, column);
+    }
+    connect(group, &QButtonGroup::idClicked, this, &PersonAndNumber::chosen);
 }
 
 int PersonAndNumber::person() const

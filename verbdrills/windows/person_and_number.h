@@ -2,9 +2,11 @@
 
 #include <QWidget>
 
+#include <span>
 #include <string_view>
 
 class QButtonGroup;
+class QGridLayout;
 
 namespace verbdrills {
 
@@ -29,6 +31,9 @@ Q_SIGNALS:
     void chosen();
 
 private:
+    void addOptions(QButtonGroup* group, std::span<const char* const> names, int first, int column);
+
+    QGridLayout* grid_;
     QButtonGroup* persons_;
     QButtonGroup* numbers_;
 };

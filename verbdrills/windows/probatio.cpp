@@ -58,19 +58,12 @@ constexpr LanguageTexts CorrectHeading = englishToo("Correct Answer", "Korrekte 
 
 } // namespace
 
-Probatio::Probatio() : Window("Probatio", "quiz")
+Probatio::Probatio() : DrillWindow("Probatio", "quiz", shell::exercise::Quiz)
 {
     makeControls();
     layOut();
     connectControls();
-    closeOnEscape();
     shell::applyDesignedCaptions(*this, Captions);
-    shell::registerDrill(shell::exercise::Quiz, *this);
-}
-
-Probatio::~Probatio()
-{
-    shell::unregisterDrill(shell::exercise::Quiz);
 }
 
 void Probatio::makeControls()
@@ -86,7 +79,7 @@ void Probatio::makeControls()
     yourAnswer_->setWordWrap(true);
     correct_->setWordWrap(true);
     ok_ = makeButton(this, "QuizOK");
-    question_ = shell::makeHintButton(this, "QuizQuestion");
+    question_ = shell::makeQuestionButton(this, "QuizQuestion");
     skip_ = makeButton(this, "QuizSkip");
     options_ = makeButton(this, "QuizOptions");
     cancel_ = makeButton(this, "QuizCancel");
@@ -226,7 +219,7 @@ void Probatio::showChosenAnswer()
 
 void Probatio::check()
 {
-    if (shell::pausing() || !isVisible() || !verbQuiz.formIsAsked)
+    if (!canAnswer() || !verbQuiz.formIsAsked)
         return;
     showChosenAnswer();
     Q_EMIT answerJudged(judgeIdentification(chosenAnswer()));
@@ -246,11 +239,6 @@ void Probatio::showRightAnswer()
     correctHeading_->setText(shell::fromUtf8(CorrectHeading.currentOrDesigned()));
     correct_->setText(shell::fromUtf8(describe(rightIdentification())));
 }
-
-// The quiz shows no score, and has no box that turns grey.
-void Probatio::showScore(const std::string&) {}
-
-void Probatio::greyAnsweredBox() {}
 
 void Probatio::moveOn()
 {

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "shell/drill.h"
-#include "shell/kit/window.h"
+#include "shell/kit/drill_window.h"
 #include "verbdrills/verb_question.h"
 
 class QBoxLayout;
@@ -15,12 +14,11 @@ class PersonAndNumber;
 class QuizList;
 
 /// The verb quiz: shows a form, whose class, tense, person and number the learner names.
-class Probatio : public shell::Window, public shell::Drill {
+class Probatio : public shell::DrillWindow {
     Q_OBJECT
 
 public:
     Probatio();
-    ~Probatio() override;
 
     /// Prepares the window for a new quiz, asks the first form and shows the window. Where no form can be
     /// asked it only emits `nothingToAsk`.
@@ -32,16 +30,11 @@ public:
     /// Shows the window again likewise, but without a form where none can be asked.
     void comeBack();
 
-    void showScore(const std::string& text) override;
-    void greyAnsweredBox() override;
     void moveOn() override;
     void focusQuestion() override;
     void askAgain() override;
 
 Q_SIGNALS:
-    /// An answer was checked.
-    void answerJudged(bool right);
-
     /// No form can be asked of the classes and tenses that are included.
     void nothingToAsk();
 
@@ -65,19 +58,19 @@ private:
     void skip();
     void showRightAnswer();
 
-    QLabel* item_;
-    QLabel* baseForm_;
-    QuizList* classes_;
-    QuizList* tenses_;
-    PersonAndNumber* personAndNumber_;
-    QLabel* yourAnswer_;
-    QLabel* correctHeading_;
-    QLabel* correct_;
-    QPushButton* ok_;
-    QPushButton* question_;
-    QPushButton* skip_;
-    QPushButton* options_;
-    QPushButton* cancel_;
+    QLabel* item_ = nullptr;
+    QLabel* baseForm_ = nullptr;
+    QuizList* classes_ = nullptr;
+    QuizList* tenses_ = nullptr;
+    PersonAndNumber* personAndNumber_ = nullptr;
+    QLabel* yourAnswer_ = nullptr;
+    QLabel* correctHeading_ = nullptr;
+    QLabel* correct_ = nullptr;
+    QPushButton* ok_ = nullptr;
+    QPushButton* question_ = nullptr;
+    QPushButton* skip_ = nullptr;
+    QPushButton* options_ = nullptr;
+    QPushButton* cancel_ = nullptr;
 };
 
 } // namespace verbdrills

@@ -14,6 +14,8 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include <algorithm>
+
 namespace verbdrills {
 
 using shell::Caption;
@@ -99,14 +101,19 @@ void QuizInclude::makeControls()
 void QuizInclude::layOut()
 {
     QGridLayout* const classes = shell::gridOf(shell::LargeSpace, shell::HairSpace);
-    for (int i = 0; i < static_cast<int>(classes_.size()); ++i)
-        classes->addWidget(classes_.at(static_cast<std::size_t>(i)), i / ClassColumns, i % ClassColumns);
+    for (int place = 0; QCheckBox* const box : classes_) {
+        classes->addWidget(box, place / ClassColumns, place % ClassColumns);
+        ++place;
+    }
     classFrame_->setLayout(classes);
-    QGridLayout* const tenses = shell::gridOf(shell::WideSpace, shell::HairSpace);
-    for (int i = 0; i < static_cast<int>(tenses_.size()); ++i)
-        tenses->addWidget(tenses_.at(static_cast<std::size_t>(i)), i % TenseRows, i / TenseRows);
 
+    QGridLayout* const tenses = shell::gridOf(shell::WideSpace, shell::HairSpace);
+    for (int place = 0; QCheckBox* const box : tenses_) {
+        tenses->addWidget(box, place % TenseRows, place / TenseRows);
+        ++place;
+    }
     tenseFrame_->setLayout(tenses);
+
     shell::setContent(
         frame(), shell::FormMargins,
         shell::columnOf(
@@ -148,19 +155,17 @@ void QuizInclude::appear()
 QuizTicks QuizInclude::ticks() const
 {
     QuizTicks ticks;
-    for (int i = 0; i < ticks.classes.size(); ++i)
-        ticks.classes[i] = classes_.at(static_cast<std::size_t>(i))->isChecked();
-    for (int t = 0; t < ticks.tenses.size(); ++t)
-        ticks.tenses[t] = tenses_.at(static_cast<std::size_t>(t))->isChecked();
+    std::ranges::transform(classes_, ticks.classes.begin(), &QCheckBox::isChecked);
+    std::ranges::transform(tenses_, ticks.tenses.begin(), &QCheckBox::isChecked);
     return ticks;
 }
 
 void QuizInclude::showTicks(const QuizTicks& ticks)
 {
-    for (int i = 0; i < ticks.classes.size(); ++i)
-        classes_.at(static_cast<std::size_t>(i))->setChecked(ticks.classes[i]);
-    for (int t = 0; t < ticks.tenses.size(); ++t)
-        tenses_.at(static_cast<std::size_t>(t))->setChecked(ticks.tenses[t]);
+    for (int row = 0; QCheckBox* const box : classes_)
+        box->setChecked(ticks.classes[row++]);
+    for (int row = 0; QCheckBox* const box : tenses_)
+        box->setChecked(ticks.tenses[row++]);
 }
 
 // A click on a class takes all ticks over at once; a click on a tense waits for OK.

@@ -47,10 +47,10 @@ private:
     QGroupBox* classFrame_;
     QGroupBox* tenseFrame_;
     QLabel* note_;
-    QPushButton* ok_;
-    QPushButton* all_;
-    QPushButton* none_;
-    QPushButton* cancel_;
+    QPushButton* ok_ = nullptr;
+    QPushButton* all_ = nullptr;
+    QPushButton* none_ = nullptr;
+    QPushButton* cancel_ = nullptr;
 };
 
 } // namespace verbdrills

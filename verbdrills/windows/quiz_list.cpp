@@ -14,9 +14,9 @@ constexpr double RowType = 1.1;
 
 } // namespace
 
-QuizList::QuizList(const char* name, const QString& accessibleName, QWidget* parent) : ChoiceList(parent)
+QuizList::QuizList(QAnyStringView name, const QString& accessibleName, QWidget* parent) : ChoiceList(parent)
 {
-    setObjectName(QLatin1String(name));
+    setObjectName(name);
     setAccessibleName(accessibleName);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     shell::setType(*this, RowType);

@@ -13,7 +13,7 @@ class QuizList : public shell::ChoiceList {
     Q_OBJECT
 
 public:
-    QuizList(const char* name, const QString& accessibleName, QWidget* parent);
+    QuizList(QAnyStringView name, const QString& accessibleName, QWidget* parent);
 
     /// Fills the list anew for `CurrentLanguage`.
     void fill(std::span<const shell::LanguageTexts> rows);

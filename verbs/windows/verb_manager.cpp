@@ -26,7 +26,7 @@ constexpr int PreviewCharacters = 14;
 
 struct ClassRow {
     VerbClass verbClass;
-    const char* name;
+    std::string_view name;
 };
 
 // The rows of `VMConjList`, in the order of the list file.
@@ -36,7 +36,9 @@ constexpr std::array<ClassRow, LastRegularClass> Classes = {{{FirstConjugation, 
                                                              {ThirdIoConjugation, "Third -io Conjugation"},
                                                              {FourthConjugation, "Fourth Conjugation"}}};
 
-// The stems of a verb, then its translations.
+// The boxes of the form: the stems of a verb, then its translations.
+enum Field { PresentStem, PerfectStem, SupineStem, BaseForm, Past, PastParticiple, PresentParticiple };
+
 constexpr std::array Fields = {FieldNames{"VerbManagerLatinForms0", "&Present stem"},
                                FieldNames{"VerbManagerLatinForms1", "P&erfect stem"},
                                FieldNames{"VerbManagerLatinForms2", "&Supine stem"},
@@ -45,24 +47,24 @@ constexpr std::array Fields = {FieldNames{"VerbManagerLatinForms0", "&Present st
                                FieldNames{"VerbManagerGermanForms2", "Past pa&rticiple"},
                                FieldNames{"VerbManagerGermanForms3", "Prese&nt participle"}};
 
-std::array<std::string*, Fields.size()> textsOf(VerbRecord& verb)
+std::array<std::string_view, Fields.size()> textsOf(const VerbRecord& verb)
 {
-    auto& [baseForm, past, pastParticiple, presentParticiple] = verb.translations;
-    return {&verb.presentStem, &verb.perfectStem, &verb.supineStem, &baseForm, &past,
-            &pastParticiple,   &presentParticiple};
+    const auto& [baseForm, past, pastParticiple, presentParticiple] = verb.translations;
+    return {verb.presentStem, verb.perfectStem, verb.supineStem, baseForm, past,
+            pastParticiple,   presentParticiple};
 }
 
 // The label behind a stem that shows a form of it, and that form's ending.
 struct Preview {
-    const char* label;
-    const char* ending;
+    std::string_view label;
+    std::string_view ending;
 };
 
 constexpr std::array<Preview, 3> Previews = {{{"LatInfinitive", "are"}, // sic: whatever class is chosen
                                               {"LatPerfect", "i"},
                                               {"LatPastParticiple", "us"}}};
 
-constexpr auto NewItem = "** Add New Item Here **";
+constexpr std::string_view NewItem = "** Add New Item Here **";
 
 } // namespace
 
@@ -94,7 +96,7 @@ void VerbManager::makeControls()
     for (QListWidget* const list : {classes_, verbs_})
         shell::setLeastWidth(*list, ListCharacters);
     for (const ClassRow& row : Classes)
-        classes_->addItem(QLatin1String(row.name));
+        classes_->addItem(shell::fromUtf8(row.name));
 }
 
 void VerbManager::layOut()
@@ -134,9 +136,12 @@ int VerbManager::chosenClass() const
 
 VerbRecord VerbManager::typedVerb() const
 {
-    VerbRecord verb;
-    form_->take(textsOf(verb));
-    return verb;
+    const auto texts = form_->take();
+    return {.presentStem = texts.at(PresentStem),
+            .perfectStem = texts.at(PerfectStem),
+            .supineStem = texts.at(SupineStem),
+            .translations = {texts.at(BaseForm), texts.at(Past), texts.at(PastParticiple),
+                             texts.at(PresentParticiple)}};
 }
 
 void VerbManager::listVerbs()
@@ -145,7 +150,7 @@ void VerbManager::listVerbs()
     const int verbClass = chosenClass();
     for (int number = 1; number <= verbList.Count[verbClass]; ++number)
         verbs_->addItem(shell::fromUtf8(listedInfinitive(verbClass, number)));
-    verbs_->addItem(QLatin1String(NewItem));
+    verbs_->addItem(shell::fromUtf8(NewItem));
     verbs_->setCurrentRow(0);
 }
 
@@ -153,15 +158,15 @@ void VerbManager::showVerb(int row)
 {
     if (row < 0)
         return;
-    VerbRecord verb = row == verbs_->count() - 1 ? VerbRecord{} : verbAt(chosenClass(), row + 1);
-    form_->show(textsOf(verb));
+    const bool isNew = row == verbs_->count() - 1;
+    form_->show(textsOf(isNew ? VerbRecord{} : verbAt(chosenClass(), row + 1)));
     showPreviews();
 }
 
 void VerbManager::showPreviews()
 {
     for (std::size_t stem = 0; stem < previews_.size(); ++stem)
-        previews_.at(stem)->setText(form_->box(stem)->text() + QLatin1String(Previews.at(stem).ending));
+        previews_.at(stem)->setText(form_->box(stem)->text() + shell::fromUtf8(Previews.at(stem).ending));
 }
 
 void VerbManager::addVerb()

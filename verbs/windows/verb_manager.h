@@ -42,12 +42,12 @@ private:
     int chosenClass() const;
     VerbRecord typedVerb() const;
 
-    QListWidget* classes_;
-    QListWidget* verbs_;
-    shell::RecordForm* form_;
+    QListWidget* classes_ = nullptr;
+    QListWidget* verbs_ = nullptr;
+    shell::RecordForm* form_ = nullptr;
     std::array<QLabel*, 3> previews_{};
-    QPushButton* add_;
-    QPushButton* cancel_;
+    QPushButton* add_ = nullptr;
+    QPushButton* cancel_ = nullptr;
 };
 
 } // namespace verbs

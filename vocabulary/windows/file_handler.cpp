@@ -42,8 +42,8 @@ constexpr LanguageTexts LoadTitle{"Load a Word List",   "Charger une liste de mo
 constexpr LanguageTexts SaveTitle{"Save the Word List", "Enregistrer la liste de mots", {}, "Wortliste speichern", "Guardar la lista de palabras",  "Indicem verborum serva!"};
 // clang-format on
 
-constexpr auto LoadAction = "&Load";
-constexpr auto SaveAction = "&Save";
+constexpr std::string_view LoadAction = "&Load";
+constexpr std::string_view SaveAction = "&Save";
 
 void tellThatSaveFailed(const platform::Fault& fault)
 {
@@ -114,7 +114,7 @@ void FileHandler::setCaptions()
     shell::applyCurrentOrDesignedCaptions(*this, Captions);
     const LanguageTexts& title = isLoading() ? LoadTitle : SaveTitle;
     setWindowTitle(shell::fromUtf8(title.currentOrDesigned()));
-    action_->setText(QLatin1String(isLoading() ? LoadAction : SaveAction));
+    action_->setText(shell::fromUtf8(isLoading() ? LoadAction : SaveAction));
 }
 
 void FileHandler::open(std::string_view mode)
@@ -202,14 +202,9 @@ void FileHandler::load()
         replaceList();
 }
 
-// The message comes last, so that it stands above the window that is shown then.
 void FileHandler::replaceList()
 {
-    const auto fault = loadList(toLoad_);
-    if (!fault || !fault->refused())
-        Q_EMIT loaded();
-    if (fault)
-        platform::current().showMessage(fault->message());
+    loadAndTell(toLoad_, [this] { Q_EMIT loaded(); });
 }
 
 void FileHandler::saveBeforeLoad()

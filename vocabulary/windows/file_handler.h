@@ -69,12 +69,12 @@ private:
     /// The file to be loaded; empty where the list is only saved.
     std::filesystem::path toLoad_;
 
-    QLabel* folderName_;
-    shell::ChoiceList* folders_;
-    shell::ChoiceList* files_;
-    QLineEdit* name_;
-    QPushButton* action_;
-    QPushButton* cancel_;
+    QLabel* folderName_ = nullptr;
+    shell::ChoiceList* folders_ = nullptr;
+    shell::ChoiceList* files_ = nullptr;
+    QLineEdit* name_ = nullptr;
+    QPushButton* action_ = nullptr;
+    QPushButton* cancel_ = nullptr;
 };
 
 } // namespace vocabulary

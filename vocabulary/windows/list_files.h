@@ -1,9 +1,14 @@
 #pragma once
 
+#include "platform/platform.h"
+#include "vocabulary/vocabulary_edits.h"
+
 #include <QDir>
 
 #include <algorithm>
 #include <array>
+#include <filesystem>
+#include <functional>
 
 namespace vocabulary {
 
@@ -27,6 +32,17 @@ inline QString withEnding(const QDir& folder, const QString& name)
         return name.endsWith(QLatin1String(ending), Qt::CaseInsensitive);
     });
     return isListed || folder.exists(name) ? name : name + QLatin1String(ListEndings.front());
+}
+
+/// Loads the list of a file in the place of the one in memory, and takes the next step where it is not
+/// refused. What was wrong is told last, so that the message stands above the window that is shown then.
+inline void loadAndTell(const std::filesystem::path& file, const std::function<void()>& next)
+{
+    const auto fault = loadList(file);
+    if (!fault || !fault->refused())
+        next();
+    if (fault)
+        platform::current().showMessage(fault->message());
 }
 
 } // namespace vocabulary

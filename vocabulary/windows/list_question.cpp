@@ -9,7 +9,7 @@
 
 namespace vocabulary {
 
-ListQuestion::ListQuestion(std::string_view name, const char* text)
+ListQuestion::ListQuestion(std::string_view name, QAnyStringView text)
     : Window(name), text_(shell::makeLabel(this, text)), answers_(shell::buttonRow({}, {}))
 {
     constexpr QMargins margins{shell::WideSpace, shell::WideSpace, shell::WideSpace, shell::LargeSpace};
@@ -20,7 +20,7 @@ ListQuestion::ListQuestion(std::string_view name, const char* text)
     closeOnEscape();
 }
 
-QPushButton* ListQuestion::addAnswer(const char* name)
+QPushButton* ListQuestion::addAnswer(QAnyStringView name)
 {
     QPushButton* const answer = shell::makeButton(this, name);
     answers_->addWidget(answer);

@@ -13,10 +13,10 @@ class ListQuestion : public shell::Window {
     Q_OBJECT
 
 protected:
-    ListQuestion(std::string_view name, const char* text);
+    ListQuestion(std::string_view name, QAnyStringView text);
 
     /// Adds a button at the right end of the row.
-    QPushButton* addAnswer(const char* name);
+    QPushButton* addAnswer(QAnyStringView name);
 
     QLabel& text() { return *text_; }
 

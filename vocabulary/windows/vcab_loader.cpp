@@ -1,6 +1,5 @@
 #include "vocabulary/windows/vcab_loader.h"
 
-#include "platform/platform.h"
 #include "shell/kit/captions.h"
 #include "shell/kit/choice_list.h"
 #include "shell/kit/controls.h"
@@ -102,16 +101,10 @@ std::filesystem::path VcabLoader::fileIn(int row) const
     return files_->item(row)->text().toStdString();
 }
 
-// The message comes last, so that it stands above the window that is shown then.
 void VcabLoader::loadChosen()
 {
-    if (!isVisible() || files_->chosenRow() < 0)
-        return;
-    const auto fault = loadList(fileIn(files_->chosenRow()));
-    if (!fault || !fault->refused())
-        Q_EMIT left();
-    if (fault)
-        platform::current().showMessage(fault->message());
+    if (isVisible() && files_->chosenRow() >= 0)
+        loadAndTell(fileIn(files_->chosenRow()), [this] { Q_EMIT left(); });
 }
 
 } // namespace vocabulary

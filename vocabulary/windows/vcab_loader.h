@@ -31,10 +31,10 @@ private:
     void loadChosen();
     std::filesystem::path fileIn(int row) const;
 
-    shell::ChoiceList* files_;
-    QLabel* count_;
-    QPushButton* open_;
-    QPushButton* cancel_;
+    shell::ChoiceList* files_ = nullptr;
+    QLabel* count_ = nullptr;
+    QPushButton* open_ = nullptr;
+    QPushButton* cancel_ = nullptr;
 };
 
 } // namespace vocabulary

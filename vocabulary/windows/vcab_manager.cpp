@@ -31,14 +31,17 @@ namespace {
 constexpr QSize LargestBlock{100, 32};
 constexpr int WordCharacters = 22;
 
+// The boxes of the form, in their order.
+enum Field { Word, Translation, Hint };
+
 // The labels get their texts with the captions.
 constexpr std::array Fields = {FieldNames{"VcabManWord", "", "WordLabel"},
                                FieldNames{"VcabManTrans", "", "TranslationLabel"},
                                FieldNames{"VcabManHint", "", "HintLabel"}};
 
-std::array<std::string*, Fields.size()> textsOf(WordRecord& record)
+std::array<std::string_view, Fields.size()> textsOf(const WordRecord& record)
 {
-    return {&record.word, &record.translation, &record.hint};
+    return {record.word, record.translation, record.hint};
 }
 
 // clang-format off
@@ -107,7 +110,7 @@ void VcabManager::layOut()
 void VcabManager::connectControls()
 {
     connect(words_, &ChoiceList::rowChosen, this, [this](int row) { moveTo(row + 1); });
-    connect(words_, &ChoiceList::rowActivated, this, [this] { form_->box(0)->setFocus(); });
+    connect(words_, &ChoiceList::rowActivated, this, [this] { form_->box(Word)->setFocus(); });
     for (const QLineEdit* const box : form_->boxes())
         connect(box, &QLineEdit::returnPressed, this, &VcabManager::enterRecord);
     connect(accept_, &QPushButton::clicked, this, &VcabManager::accept);
@@ -125,7 +128,7 @@ void VcabManager::open()
     if (vocabularyList.WordCount > 0)
         words_->setFocus();
     else
-        form_->box(0)->setFocus();
+        form_->box(Word)->setFocus();
 }
 
 void VcabManager::comeBack()
@@ -162,8 +165,7 @@ void VcabManager::markChosen(int number)
 void VcabManager::showRecord(int number)
 {
     markChosen(number);
-    WordRecord record = number > 0 ? vocabularyList.Working[number] : WordRecord{};
-    form_->show(textsOf(record));
+    form_->show(textsOf(number > 0 ? vocabularyList.Working[number] : WordRecord{}));
 }
 
 bool VcabManager::boxesAreEdited() const
@@ -178,9 +180,8 @@ bool VcabManager::boxesAreEmpty() const
 
 WordRecord VcabManager::recordInBoxes() const
 {
-    WordRecord record;
-    form_->take(textsOf(record));
-    return record;
+    const auto texts = form_->take();
+    return {.word = texts.at(Word), .translation = texts.at(Translation), .hint = texts.at(Hint)};
 }
 
 void VcabManager::moveTo(int number)
@@ -228,7 +229,7 @@ void VcabManager::add()
         showRecord(0);
         words_->scrollToBottom();
     }
-    form_->box(0)->setFocus();
+    form_->box(Word)->setFocus();
 }
 
 // A text that was typed and not yet accepted outlives the record: it can still be added, but only by Add.

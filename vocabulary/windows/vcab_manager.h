@@ -61,14 +61,14 @@ private:
     /// The record in the boxes, 1 to `WordCount`; 0 for a new one.
     int shown_ = 0;
 
-    shell::ChoiceList* words_;
-    shell::RecordForm* form_;
-    QPushButton* accept_;
-    QPushButton* add_;
-    QPushButton* delete_;
-    QPushButton* load_;
-    QPushButton* save_;
-    QPushButton* exit_;
+    shell::ChoiceList* words_ = nullptr;
+    shell::RecordForm* form_ = nullptr;
+    QPushButton* accept_ = nullptr;
+    QPushButton* add_ = nullptr;
+    QPushButton* delete_ = nullptr;
+    QPushButton* load_ = nullptr;
+    QPushButton* save_ = nullptr;
+    QPushButton* exit_ = nullptr;
 };
 
 } // namespace vocabulary

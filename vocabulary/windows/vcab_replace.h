@@ -19,7 +19,7 @@ Q_SIGNALS:
     void replacementAllowed();
 
 private:
-    QPushButton* cancel_;
+    QPushButton* cancel_ = nullptr;
 };
 
 } // namespace vocabulary

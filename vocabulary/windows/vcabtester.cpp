@@ -46,18 +46,12 @@ constexpr LanguageTexts NoWord{"There is no word to ask.",  "Il n'y a aucun mot 
 
 } // namespace
 
-Vcabtester::Vcabtester() : Window("Vcabtester"), menuBar_(new QMenuBar(this))
+Vcabtester::Vcabtester()
+    : DrillWindow("Vcabtester", {}, shell::exercise::Vcabtester), menuBar_(new QMenuBar(this))
 {
     makeControls();
     layOut();
     connectControls();
-    closeOnEscape();
-    shell::registerDrill(shell::exercise::Vcabtester, *this);
-}
-
-Vcabtester::~Vcabtester()
-{
-    shell::unregisterDrill(shell::exercise::Vcabtester);
 }
 
 void Vcabtester::makeControls()
@@ -104,15 +98,15 @@ void Vcabtester::connectControls()
     connectPrompt("VcabtesterOptionsPromptLatin", prompt::Latin);
 }
 
-void Vcabtester::connectOrder(const char* item, std::string_view order)
+void Vcabtester::connectOrder(std::string_view item, std::string_view order)
 {
-    connect(findChild<QAction*>(QLatin1String(item)), &QAction::triggered, this,
+    connect(findChild<QAction*>(shell::fromUtf8(item)), &QAction::triggered, this,
             [order] { vocabularyTester.Order = order; });
 }
 
-void Vcabtester::connectPrompt(const char* item, std::string_view promptLanguage)
+void Vcabtester::connectPrompt(std::string_view item, std::string_view promptLanguage)
 {
-    connect(findChild<QAction*>(QLatin1String(item)), &QAction::triggered, this,
+    connect(findChild<QAction*>(shell::fromUtf8(item)), &QAction::triggered, this,
             [this, promptLanguage] { choosePrompt(promptLanguage); });
 }
 
@@ -164,7 +158,7 @@ void Vcabtester::showTheWord()
 
 void Vcabtester::check()
 {
-    if (shell::pausing() || !isVisible())
+    if (!canAnswer())
         return;
     switch (judge(answer_->text().toStdString())) {
     case Judgement::AnswerWanted:
@@ -186,7 +180,7 @@ void Vcabtester::check()
 
 void Vcabtester::reveal()
 {
-    if (shell::pausing() || !isVisible() || vocabularyTester.WordIsAsked != platform::FlagTrue)
+    if (!canAnswer() || vocabularyTester.WordIsAsked != platform::FlagTrue)
         return;
     answer_->setReadOnly(true);
     answer_->clear();

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "shell/drill.h"
-#include "shell/kit/window.h"
+#include "shell/kit/drill_window.h"
 
 #include <string_view>
 
@@ -15,12 +14,11 @@ class WordBox;
 class WordLabel;
 
 /// The vocabulary tester: shows a word of the list and its hint, and judges the meaning that is typed.
-class Vcabtester : public shell::Window, public shell::Drill {
+class Vcabtester : public shell::DrillWindow {
     Q_OBJECT
 
 public:
     Vcabtester();
-    ~Vcabtester() override;
 
     /// Starts afresh with the default list.
     void open();
@@ -29,14 +27,11 @@ public:
     /// where it has changed.
     void comeBack();
 
-    void showScore(const std::string& /*text*/) override {}
-    void greyAnsweredBox() override {}
     void moveOn() override;
     void focusQuestion() override;
     void askAgain() override;
 
 Q_SIGNALS:
-    void answerJudged(bool right);
     void listRequested();
     void editorRequested();
 
@@ -44,8 +39,8 @@ private:
     void makeControls();
     void layOut();
     void connectControls();
-    void connectOrder(const char* item, std::string_view order);
-    void connectPrompt(const char* item, std::string_view promptLanguage);
+    void connectOrder(std::string_view item, std::string_view order);
+    void connectPrompt(std::string_view item, std::string_view promptLanguage);
     void setCaptions();
 
     void check();
@@ -55,12 +50,12 @@ private:
     void showTheWord();
 
     QMenuBar* menuBar_;
-    WordLabel* question_;
-    WordLabel* hint_;
-    WordBox* answer_;
-    QCheckBox* omit_;
-    QPushButton* ok_;
-    QPushButton* cancel_;
+    WordLabel* question_ = nullptr;
+    WordLabel* hint_ = nullptr;
+    WordBox* answer_ = nullptr;
+    QCheckBox* omit_ = nullptr;
+    QPushButton* ok_ = nullptr;
+    QPushButton* cancel_ = nullptr;
 };
 
 } // namespace vocabulary
