@@ -28,12 +28,17 @@ TEST_F(DelayInterval, IsSetWithTheKeysAloneAndDividesTheDelayByTenWhereItIsLeftU
     press(window, Qt::Key_Return);
     EXPECT_FALSE(window.isVisible());
     EXPECT_EQ(settings.DelaySeconds, 0);
-    press(open("SetDelay", "DelayInterval"), Qt::Key_PageUp);
-    press(window, Qt::Key_Right, 5);
-    EXPECT_EQ(label(window, "DelayLabel"), " 1.5 seconds");
-    click(window, "DelayOK");
-    EXPECT_FALSE(window.isVisible());
-    EXPECT_EQ(settings.DelaySeconds, 2);
+    // Halves go to the even second.
+    for (const auto& [pages, length] : {std::pair{1, " 1.5 seconds"}, {2, " 2.5 seconds"}}) {
+        settings.DelaySeconds = 0;
+        press(open("SetDelay", "DelayInterval"), Qt::Key_PageUp, pages);
+        press(window, Qt::Key_Right, 5);
+        EXPECT_EQ(label(window, "DelayLabel"), length);
+        click(window, "DelayOK");
+        EXPECT_FALSE(window.isVisible());
+        EXPECT_EQ(settings.DelaySeconds, 2);
+    }
+    EXPECT_EQ(settings.SettingsChangeCount, 3);
 }
 
 TEST_F(DelayInterval, TriesTheLengthItShowsOnceAndAbandonsItWhenItClosesOrTheProgramEnds)
