@@ -5,8 +5,6 @@
 #include <cmath>
 #include <functional>
 #include <optional>
-#include <string>
-#include <utility>
 #include <vector>
 
 namespace tests {

@@ -12,10 +12,8 @@
 #include "verbdrills/quiz_inclusion.h"
 #include "verbdrills/verb_question.h"
 #include "verbs/verb_edits.h"
-#include "verbs/verb_list.h"
 #include "verbs/verb_tables.h"
 #include "vocabulary/vocabulary_edits.h"
-#include "vocabulary/vocabulary_list.h"
 #include "vocabulary/vocabulary_tester.h"
 
 #include <fstream>

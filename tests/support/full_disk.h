@@ -14,8 +14,6 @@ public:
         const rlimit full{bytes, before_.rlim_max};
         ::setrlimit(RLIMIT_FSIZE, &full);
     }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
     ~FullDisk()
     {
         ::setrlimit(RLIMIT_FSIZE, &before_);

@@ -1,14 +1,8 @@
 #include "app/application.h"
 #include "app/command_line.h"
 #include "app/working_folder.h"
-#include "tests/support/fresh_state.h"
 #include "tests/support/full_disk.h"
-
-#include <QEvent>
-
-#include <cstdlib>
-#include <stdexcept>
-#include <vector>
+#include "tests/support/window_test.h"
 
 namespace {
 
@@ -16,16 +10,18 @@ namespace fs = std::filesystem;
 
 TEST(CommandLine, TakesOneFolderAndKnowsItsOptions)
 {
-    const auto said = [](const std::vector<std::string>& arguments) {
-        const app::CommandLine line = app::readCommandLine(arguments);
-        return line.fault.value_or(line.answer.value_or(line.folder.value_or("here")).substr(0, 9));
+    const std::pair<std::vector<std::string>, const char*> cases[] = {
+        {{}, "here"},
+        {{"lists"}, "lists"},
+        {{"--help"}, "Usage: mo"},
+        {{"--version"}, "morvanti "},
+        {{"-x"}, "unknown option -x"},
+        {{"one", "two"}, "more than one folder: two"},
     };
-    EXPECT_EQ(said({}), "here");
-    EXPECT_EQ(said({"lists"}), "lists");
-    EXPECT_EQ(said({"--help"}), "Usage: mo");
-    EXPECT_EQ(said({"--version"}), "morvanti ");
-    EXPECT_EQ(said({"-x"}), "unknown option -x");
-    EXPECT_EQ(said({"one", "two"}), "more than one folder: two");
+    for (const auto& [arguments, said] : cases) {
+        const app::CommandLine line = app::readCommandLine(arguments);
+        EXPECT_EQ(line.fault.value_or(line.answer.value_or(line.folder.value_or("here")).substr(0, 9)), said);
+    }
 }
 
 // What is thrown while an event is handled, such as an index past a table, ends the program with one line.
@@ -35,7 +31,6 @@ TEST(Faults, EndTheProgramWithOneLineAndStatusOne)
         bool event(QEvent*) override { throw std::out_of_range("no such word"); }
     };
     const auto run = [] {
-        ::setenv("QT_QPA_PLATFORM", "offscreen", 1);
         std::string name = "morvanti";
         char* arguments[] = {name.data(), nullptr};
         int count = 1;
@@ -51,26 +46,21 @@ class WorkingFolder : public tests::FreshState {
 protected:
     WorkingFolder()
     {
-        ::setenv("XDG_DATA_HOME", fs::absolute("own").c_str(), 1);
+        qputenv("XDG_DATA_HOME", fs::absolute("own").c_str());
         fs::create_directory("samples");
         fs::create_directories("work/mine");
-        for (const auto& [name, bytes] : {std::pair{"verbs.cfg", "verbs"},
-                                          {"VELMOR2.WAV", "sound"},
-                                          {"right.wav", "ding"},
-                                          {"make-sounds", "#"}})
-            tests::writeFile(std::string("samples/") + name, bytes);
-        fs::current_path("work");
+        for (const std::string name : {"verbs.cfg", "VELMOR2.WAV", "right.wav", "make-sounds"})
+            tests::writeFile("samples/" + name, name);
     }
 
     // The fault, where there is one, or else the name of the folder that the program works in then.
     std::string enter(const std::optional<std::string>& folder = {}) const
     {
-        fs::current_path(work_);
-        return app::enterWorkingFolder(folder, samples_).value_or(fs::current_path().filename());
+        fs::current_path(top_ / "work");
+        return app::enterWorkingFolder(folder, top_ / "samples").value_or(fs::current_path().filename());
     }
 
-    const fs::path work_ = fs::current_path() / "work";
-    const fs::path samples_ = fs::current_path() / "samples";
+    const fs::path top_ = fs::current_path();
 };
 
 TEST_F(WorkingFolder, IsTheOneGivenOrTheCurrentOneWhereItHasAVerbListOrTheOwnCannotBeMade)
@@ -94,7 +84,7 @@ TEST_F(WorkingFolder, IsElseTheLearnersOwnFilledOnceAndWholeWithoutReplacingAnyt
     tests::writeFile((app::ownFolder() / "right.wav").string(), "my own");
     EXPECT_EQ(enter(), "morvanti");
     EXPECT_EQ(fs::current_path(), fs::canonical(app::ownFolder()));
-    EXPECT_EQ(tests::bytesOf("verbs.cfg") + tests::bytesOf("VELMOR2.WAV"), "verbssound");
+    EXPECT_EQ(tests::bytesOf("verbs.cfg") + tests::bytesOf("VELMOR2.WAV"), "verbs.cfgVELMOR2.WAV");
     EXPECT_EQ(tests::bytesOf("right.wav"), "my own");
     EXPECT_FALSE(fs::exists("make-sounds"));
 

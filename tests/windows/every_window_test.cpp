@@ -3,30 +3,22 @@
 
 namespace {
 
-struct Window {
-    const char* name;
-    QStringList way; // from the main window: a button, an item, or a list and its row
-};
-
+// Each window, and its way from the main window: a button, an item, or a list and its row.
 // clang-format off
-const std::vector<Window> Windows = {
-    {"MainMenu", {}},
-    {"About", {"MainABout"}}, {"Help", {"HELPME"}}, {"DelayInterval", {"SetDelay"}}, {"frmOptions", {"OptionsOptions"}},
-    {"VerbManager", {"FileVerbManager"}},
+const std::vector<std::pair<const char*, QStringList>> Windows = {
+    {"MainMenu", {}}, {"About", {"MainABout"}}, {"Help", {"HELPME"}},
+    {"DelayInterval", {"SetDelay"}}, {"frmOptions", {"OptionsOptions"}},
+    {"VerbManager", {"FileVerbManager"}}, {"NounHandler", {"FileNounManager"}}, {"VcabManager", {"FileVcabManager"}},
     {"ConjugationChoose", {"FileConj"}}, {"Conjugation", {"FileConj", "ConjugationList 0"}},
     {"TenseMoodChooser", {"FileConj", "ConjugationList 8"}},
-    {"Probatio", {"QuizButton"}}, {"QuizInclude", {"QuizButton", "QuizOptions"}},
+    {"Probatio", {"QuizButton"}}, {"QuizInclude", {"QuizButton", "QuizOptions"}}, {"NounQuiz", {"FileNounQuiz"}},
     {"DeclinationChoose", {"FileDecl"}}, {"Declination", {"FileDecl", "DeclinationList 0"}},
     {"PronounChooser", {"FilePron"}}, {"PronounSingular", {"FilePron", "PronounList 0"}},
-    {"NounQuiz", {"FileNounQuiz"}}, {"NounHandler", {"FileNounManager"}},
     {"Vcabtester", {"MainVocabulary"}}, {"VcabLoader", {"MainVocabulary", "VcabTesterFileOpen"}},
-    {"VcabManager", {"FileVcabManager"}},
     {"FileHandler", {"FileVcabManager", "VcabManLoad"}}, {"FileHandler", {"FileVcabManager", "VcabManSave"}},
     {"VcabReplace", {"FileVcabManager", "VcabManSave", "FHFileBox 0", "LoadSaveFH"}},
     {"VcabWarning", {"MainVocabulary", "VcabTesterEdit", "VcabManMainForm 0", "VcabManDelete", "VcabManExit"}},
 };
-
-constexpr std::array LanguageItems = {"EnglishLang", "FrenchLang", "GermanLang", "SpanishLang", "LatinLang"};
 
 // The interface's texts stay as they are, and so do these: no others may come to them.
 constexpr auto GivenClashes = R"(MainMenu, English: &Vocabulary, &Verbs
@@ -49,12 +41,6 @@ Probatio, Latin: Persona &prima, &Pluralis, O&ptiones
 Probatio, Latin: Persona &tertia, &Transgredire!)";
 // clang-format on
 
-bool takesTabs(const QWidget& widget)
-{
-    return widget.isVisible() && (widget.focusPolicy() & Qt::TabFocus) != 0 &&
-           !qobject_cast<const QMenuBar*>(&widget);
-}
-
 // The eye goes on to the right, or down: never back up to the left.
 bool followsTheEye(const QWidget& from, const QWidget& to)
 {
@@ -65,9 +51,9 @@ bool followsTheEye(const QWidget& from, const QWidget& to)
 
 bool hasName(const QWidget& widget)
 {
-    const auto* const button = qobject_cast<const QAbstractButton*>(&widget);
     const auto labels = widget.window()->findChildren<QLabel*>();
-    return (button != nullptr && !button->text().isEmpty()) || !widget.accessibleName().isEmpty() ||
+    const bool bearsText = widget.inherits("QAbstractButton") && widget.property("text") != "";
+    return bearsText || !widget.accessibleName().isEmpty() ||
            std::ranges::any_of(labels, [&](const QLabel* label) { return label->buddy() == &widget; });
 }
 
@@ -83,13 +69,10 @@ QStringList textsOf(const QWidget& menuOrBar)
 QStringList textsOnAltKeys(const QWidget& window)
 {
     QStringList texts;
-    for (const QWidget* const widget : window.findChildren<QWidget*>()) {
-        const auto* const label = qobject_cast<const QLabel*>(widget);
-        if (qobject_cast<const QAbstractButton*>(widget) || (label && label->buddy()))
-            texts << widget->property("text").toString();
-        if (const auto* const menuBar = qobject_cast<const QMenuBar*>(widget))
-            texts << textsOf(*menuBar);
-    }
+    for (const QMenuBar* const menuBar : window.findChildren<QMenuBar*>())
+        texts << textsOf(*menuBar);
+    for (const QWidget* const widget : window.findChildren<QWidget*>())
+        texts << widget->property("text").toString();
     return texts;
 }
 
@@ -98,34 +81,28 @@ void appendClashes(QStringList& clashes, const QString& place, const QStringList
 {
     QMap<QString, QStringList> onKey;
     for (const QString& text : texts)
-        if (const QString key = QKeySequence::mnemonic(text).toString(); !key.isEmpty())
-            onKey[key] << text;
+        onKey[QKeySequence::mnemonic(text).toString()] << text;
+    onKey.remove("");
+    const QString where = place + ", " + QString::fromStdString(shell::settings.CurrentLanguage) + ": ";
     for (const QStringList& rivals : onKey)
         if (rivals.size() > 1)
-            clashes << place + ", " + QString::fromStdString(shell::settings.CurrentLanguage) + ": " +
-                           rivals.join(", ");
-}
-
-// Labels that break their lines, and controls without a text of their own, take the room that there is.
-bool bearsOneLine(const QWidget& widget)
-{
-    const auto* const label = qobject_cast<const QLabel*>(&widget);
-    return label != nullptr ? !label->wordWrap() : qobject_cast<const QAbstractButton*>(&widget) != nullptr;
+            clashes << where + rivals.join(", ");
 }
 
 class EveryWindow : public tests::WindowTest {
 protected:
     static void goOn(const QString& step)
     {
-        const QStringList listAndRow = step.split(' ');
-        for (QWidget* const window : QApplication::topLevelWidgets())
-            if (QWidget* const control = window->findChild<QWidget*>(listAndRow.front());
-                control != nullptr && control->isVisible()) {
-                if (auto* const list = qobject_cast<QListWidget*>(control))
-                    return tests::doubleClickRow(*list, listAndRow.back().toInt());
+        const QString name = step.section(' ', 0, 0);
+        for (QWidget* const window : QApplication::topLevelWidgets()) {
+            QWidget* const control = window->findChild<QWidget*>(name);
+            if (control != nullptr && control->isVisible() && name != step)
+                return tests::doubleClickRow(tests::list(*window, name), step.section(' ', 1).toInt());
+            if (control != nullptr && control->isVisible())
                 return tests::click(*window, step);
-            } else if (window->isVisible() && window->findChild<QAction*>(step) != nullptr)
+            if (window->isVisible() && window->findChild<QAction*>(step) != nullptr)
                 return tests::choose(*window, step);
+        }
         ADD_FAILURE() << "no " << step.toStdString();
     }
 
@@ -134,7 +111,8 @@ protected:
     {
         for (const char* const sample : {"verbs.cfg", "nouns.cfg", "morvanti.hlp", "vr-vcab.lst"})
             tests::copySample(sample);
-        for (const char* const language : LanguageItems)
+        for (const char* const language :
+             {"EnglishLang", "FrenchLang", "GermanLang", "SpanishLang", "LatinLang"})
             for (const auto& [name, way] : Windows) {
                 SCOPED_TRACE(std::string(language) + ' ' + name);
                 tests::choose(start(), language);
@@ -157,7 +135,7 @@ TEST_F(EveryWindow, IsTabbedThroughAsTheEyeGoesAndNamesAllAndHasNoTwoTextsOnOneA
         QWidget* next = &window;
         do {
             next = next->nextInFocusChain();
-            if (!takesTabs(*next))
+            if (!next->isVisible() || !(next->focusPolicy() & Qt::TabFocus) || qobject_cast<QMenuBar*>(next))
                 continue;
             const std::string name = next->objectName().toStdString();
             EXPECT_FALSE(name.empty());
@@ -180,12 +158,15 @@ TEST_F(EveryWindow, CutsNothingOffInATypeTwiceAsLarge)
     QFont large = before;
     large.setPointSizeF(2 * before.pointSizeF());
     QApplication::setFont(large);
+    // Labels that break their lines, and controls without a text of their own, take the room that there is.
     inEveryLanguage([](const QWidget& window) {
-        for (const QWidget* const widget : window.findChildren<QWidget*>())
-            if (widget->isVisible() && bearsOneLine(*widget)) {
-                EXPECT_EQ(widget->size().expandedTo(widget->sizeHint()), widget->size())
-                    << widget->objectName().toStdString();
-            }
+        for (const QWidget* const widget : window.findChildren<QWidget*>()) {
+            const auto* const label = qobject_cast<const QLabel*>(widget);
+            const bool bearsOneLine = label ? !label->wordWrap() : widget->inherits("QAbstractButton");
+            const QSize room = widget->size();
+            EXPECT_TRUE(!widget->isVisible() || !bearsOneLine || room == room.expandedTo(widget->sizeHint()))
+                << widget->objectName().toStdString();
+        }
     });
     QApplication::setFont(before);
 }

@@ -14,22 +14,17 @@ using MainMenu = tests::WindowTest;
 TEST_F(MainMenu, SpeaksTheLanguageItIsSwitchedToAndKeepsTwoUnavailable)
 {
     QWidget& menu = start();
-    // By language: a button, a menu and an item.
-    const std::array<const char*, 5> languages[] = {{"GermanLang", "German", "&Verben", "&Datei", "Be&enden"},
-                                                    {"EnglishLang", "English", "&Verbs", "&File", "E&xit"}};
-    for (const auto& [chosen, name, verbs, file, exit] : languages) {
+    for (const auto& [chosen, verbs, exit] :
+         {std::array{"GermanLang", "&Verben", "Be&enden"}, std::array{"EnglishLang", "&Verbs", "E&xit"}}) {
         choose(menu, chosen);
-        EXPECT_EQ(settings.CurrentLanguage, name);
+        EXPECT_EQ(settings.CurrentLanguage + "Lang", chosen);
         EXPECT_EQ(tests::button(menu, "ConjugationButton").text(), verbs);
-        EXPECT_EQ(tests::control<QMenu>(menu, "FileMenu").title(), file);
         EXPECT_EQ(tests::control<QAction>(menu, "FileExit").text(), exit);
-        QStringList notAvailable;
-        for (const QAction* const language : tests::control<QMenu>(menu, "LanguageMenu").actions()) {
-            EXPECT_EQ(language->isChecked(), language->objectName() == chosen);
-            if (!language->isEnabled())
-                notAvailable << language->objectName();
+        for (const QAction* const item : tests::control<QMenu>(menu, "LanguageMenu").actions()) {
+            const QString language = item->objectName();
+            EXPECT_EQ(item->isChecked(), language == chosen);
+            EXPECT_EQ(item->isEnabled(), language != "ItalianLang" && language != "NorwegianLang");
         }
-        EXPECT_EQ(notAvailable.join(' '), "ItalianLang NorwegianLang");
     }
     EXPECT_EQ(settings.SettingsChangeCount, 2);
 }
@@ -37,15 +32,13 @@ TEST_F(MainMenu, SpeaksTheLanguageItIsSwitchedToAndKeepsTwoUnavailable)
 TEST_F(MainMenu, ChangesTheSettings)
 {
     QWidget& menu = start();
-    const auto linesAfter = [&menu](const QStringList& chosen) {
-        for (const QString& item : chosen)
+    const auto linesAfter = [&menu](const QStringList& items) {
+        for (const QString& item : items)
             choose(menu, item);
-        return QString::fromStdString(shell::settingsText()).split("\r\n").first(9).join('|').toStdString();
+        return QString::fromStdString(shell::settingsText()).split("\r\n").first(9).join('|');
     };
-    EXPECT_EQ(linesAfter({"RandomOrder", "NADGABOrder", "SoundStatus"}),
-              "6| 0|-1| 2|English|NAGDAb|Random| 2|-1");
-    EXPECT_EQ(settings.SettingsChangeCount, 3);
-    EXPECT_EQ(linesAfter({"SaveSettings", "VowelLengthVal"}), "6|-1|-1| 2|English|NAGDAb|Random| 2| 0");
+    EXPECT_EQ(linesAfter({"RandomOrder", "NADGABOrder", "SoundStatus", "SaveSettings", "VowelLengthVal"}),
+              "6|-1|-1| 2|English|NAGDAb|Random| 2| 0");
     EXPECT_EQ(settings.SettingsChangeCount, 3);
     EXPECT_EQ(linesAfter({"SoundStatus", "SequentialOrder", "NGDAABOrder"}),
               "6|-1| 0| 2|English|NGDAAb|Sequential| 2| 0");
@@ -68,7 +61,6 @@ TEST_F(MainMenu, OpensEachExerciseByButtonAndItemWithHelpAtHand)
         {{"FileNounManager"}, "NounHandler"},
         {{"FileVerbManager"}, "VerbManager"},
         {{"FileVcabManager"}, "VcabManager"},
-        {{"SetDelay"}, "DelayInterval"},
         {{"OptionsOptions", "OptionsOptionsForm"}, "frmOptions"},
         {{"MainABout"}, "About"},
     };
@@ -92,7 +84,6 @@ TEST_F(MainMenu, OpensTheGuideWhereNoViewerCanBeStarted)
     press(menu, Qt::Key_F1);
     EXPECT_EQ(fake.programs, std::vector<std::string>{"winhelp.exe morvanti.hlp"});
     tests::click(tests::shown("Help"), "Command1");
-    EXPECT_EQ(shownWindow("Help"), nullptr);
     fake.programsStart = true;
     choose(menu, "HELPME");
     EXPECT_EQ(shownWindow("Help"), nullptr);

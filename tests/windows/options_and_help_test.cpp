@@ -7,42 +7,43 @@ namespace {
 
 using shell::settings;
 using tests::click;
+using tests::label;
 using tests::press;
 
-class DelayInterval : public tests::WindowTest {
-protected:
-    QWidget& openWindow() { return open("SetDelay", "DelayInterval"); }
-
-    static std::string length(QWidget& window) { return tests::label(window, "DelayLabel").toStdString(); }
-};
+using DelayInterval = tests::WindowTest;
+using FrmOptions = tests::WindowTest;
+using Help = tests::WindowTest;
 
 TEST_F(DelayInterval, IsSetWithTheKeysAloneAndDividesTheDelayByTenWhereItIsLeftUnmoved)
 {
     for (const auto& leave : tests::waysToLeave("DelayCancel")) {
-        QWidget& left = openWindow();
-        EXPECT_EQ(length(left), " 0.2 seconds");
+        QWidget& left = open("SetDelay", "DelayInterval");
+        EXPECT_EQ(label(left, "DelayLabel"), " 0.2 seconds");
         press(left, Qt::Key_End);
-        EXPECT_EQ(length(left), " 100 seconds");
         leave(left);
         EXPECT_FALSE(left.isVisible());
     }
     EXPECT_EQ(settings.DelaySeconds, 2);
-    QWidget& window = openWindow();
+    QWidget& window = open("SetDelay", "DelayInterval");
     press(window, Qt::Key_Return);
     EXPECT_FALSE(window.isVisible());
     EXPECT_EQ(settings.DelaySeconds, 0);
-    press(openWindow(), Qt::Key_PageUp);
-    press(window, Qt::Key_Right, 5);
-    EXPECT_EQ(length(window), " 1.5 seconds");
-    click(window, "DelayOK");
-    EXPECT_FALSE(window.isVisible());
-    EXPECT_EQ(settings.DelaySeconds, 2);
-    EXPECT_EQ(settings.SettingsChangeCount, 2);
+    // Halves go to the even second.
+    for (const auto& [pages, length] : {std::pair{1, " 1.5 seconds"}, {2, " 2.5 seconds"}}) {
+        settings.DelaySeconds = 0;
+        press(open("SetDelay", "DelayInterval"), Qt::Key_PageUp, pages);
+        press(window, Qt::Key_Right, 5);
+        EXPECT_EQ(label(window, "DelayLabel"), length);
+        click(window, "DelayOK");
+        EXPECT_FALSE(window.isVisible());
+        EXPECT_EQ(settings.DelaySeconds, 2);
+    }
+    EXPECT_EQ(settings.SettingsChangeCount, 3);
 }
 
 TEST_F(DelayInterval, TriesTheLengthItShowsOnceAndAbandonsItWhenItClosesOrTheProgramEnds)
 {
-    QWidget& window = openWindow();
+    QWidget& window = open("SetDelay", "DelayInterval");
     auto& scroll = tests::control<QScrollBar>(window);
     const auto& lamp = tests::control<QLabel>(window, "DelayLabel");
     scroll.setValue(125);
@@ -54,9 +55,8 @@ TEST_F(DelayInterval, TriesTheLengthItShowsOnceAndAbandonsItWhenItClosesOrThePro
     });
     click(window, "DelayTest");
     EXPECT_NEAR(fake.clock - before, 12.5, 0.02);
-    EXPECT_EQ(length(window), " 100 seconds");
+    EXPECT_EQ(lamp.text(), " 100 seconds");
     EXPECT_FALSE(lamp.autoFillBackground());
-    EXPECT_EQ(settings.DelaySeconds, 2);
 
     const std::function<void()> endings[] = {[&] { window.close(); }, [this] { fake.endProgram(0); }};
     for (const auto& end : endings) {
@@ -65,16 +65,15 @@ TEST_F(DelayInterval, TriesTheLengthItShowsOnceAndAbandonsItWhenItClosesOrThePro
             fake.clock -= 1;
             end();
         });
-        click(openWindow(), "DelayTest");
+        click(open("SetDelay", "DelayInterval"), "DelayTest");
         EXPECT_EQ(fake.waits, 1);
+        EXPECT_FALSE(lamp.autoFillBackground() && window.isHidden());
     }
-    openWindow();
-    EXPECT_FALSE(lamp.autoFillBackground());
 }
 
 TEST_F(DelayInterval, StandsAboveTheMainWindowAndTheGuideThatStoodAboveIt)
 {
-    QWidget& window = openWindow();
+    QWidget& window = open("SetDelay", "DelayInterval");
     EXPECT_EQ(QApplication::activeModalWidget(), &window);
     press(window, Qt::Key_F1);
     QWidget& help = tests::shown("Help");
@@ -89,56 +88,38 @@ TEST_F(DelayInterval, StandsAboveTheMainWindowAndTheGuideThatStoodAboveIt)
     EXPECT_TRUE(window.isVisible());
 }
 
-using FrmOptions = tests::WindowTest;
-
-TEST_F(FrmOptions, BringsTheFrameOfTheChosenTabInAndSetsNothingAndSaysWhatIsMissing)
+TEST_F(FrmOptions, BringsTheFrameOfTheChosenTabInAndSaysWhatIsMissing)
 {
     tests::choose(start(), "RandomOrder");
-    settings.DelaySeconds = 7;
-    auto ways = tests::waysToLeave("cmdCancel");
-    ways.push_back([this](QWidget& window) {
-        click(window, "cmdApply");
-        EXPECT_EQ(fake.messages.back(), "Place code here to set options w/o closing dialog!");
-        click(window, "cmdOK");
-        EXPECT_EQ(fake.messages.back(), "Place code here to set options and close dialog!");
-        EXPECT_TRUE(window.isVisible());
-        fake.dismissMessage();
-    });
-    for (const auto& leave : ways) {
-        QWidget& window = open("OptionsOptions", "frmOptions");
-        auto& tabs = tests::control<QTabBar>(window);
-        auto& slider = tests::control<QSlider>(window, "GODelaySlider");
-        const auto& first = tests::control<QWidget>(window, "picOptions0");
-        const auto& second = tests::control<QWidget>(window, "picOptions1");
-        const auto expectShown = [](const QWidget& in, const QWidget& off) {
-            EXPECT_EQ(std::pair(in.x(), off.x()), std::pair(14, -1333));
-            EXPECT_TRUE(in.isEnabled() && !off.isEnabled());
-        };
-        EXPECT_EQ(QApplication::activeModalWidget(), &window);
-        expectShown(first, second);
-        EXPECT_EQ(slider.value(), 7);
-        slider.setFocus();
-        press(window, Qt::Key_End);
-        EXPECT_EQ(slider.value(), 100);
-        tabs.setFocus();
-        press(window, Qt::Key_Right);
-        window.resize(window.size() * 2);
-        expectShown(second, first);
-        QStringList orders;
-        for (const QLabel* const text : second.findChildren<QLabel*>())
-            orders << text->text();
-        EXPECT_EQ(orders.join(", "), "Order, Random Order, Case Order, Nom. Gen. Dat. Acc. Abl.");
-        QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(0).center());
-        expectShown(first, second);
-        leave(window);
-        EXPECT_FALSE(window.isVisible());
+    QWidget& window = open("OptionsOptions", "frmOptions");
+    EXPECT_EQ(tests::control<QSlider>(window).value(), 2);
+    QStringList orders;
+    for (const QLabel* const text : tests::control<QFrame>(window, "picOptions1").findChildren<QLabel*>())
+        orders << text->text();
+    EXPECT_EQ(orders.join(", "), "Order, Random Order, Case Order, Nom. Gen. Dat. Acc. Abl.");
+    auto& tabs = tests::control<QTabBar>(window);
+    for (const int chosen : {0, 1, 0, 1}) {
+        QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(chosen).center());
+        window.resize(window.size() + QSize(9, 9));
+        for (const int tab : {0, 1}) {
+            const auto& frame = tests::control<QFrame>(window, QStringLiteral("picOptions%1").arg(tab));
+            EXPECT_EQ(frame.isEnabled(), tab == chosen);
+            EXPECT_EQ(frame.x(), tab == chosen ? 14 : -1333);
+        }
     }
+    click(window, "cmdApply");
+    click(window, "cmdOK");
+    EXPECT_EQ(fake.messages, (std::vector<std::string>{"Place code here to set options w/o closing dialog!",
+                                                       "Place code here to set options and close dialog!"}));
+    EXPECT_TRUE(window.isVisible());
+    fake.dismissMessage();
+    for (const auto& leave : tests::waysToLeave("cmdCancel")) {
+        EXPECT_FALSE(window.isVisible());
+        leave(open("OptionsOptions", "frmOptions"));
+        EXPECT_EQ(tabs.currentIndex(), 0);
+    }
+    EXPECT_FALSE(window.isVisible());
 }
-
-class Help : public tests::WindowTest {
-protected:
-    QTextBrowser& openGuide() { return tests::control<QTextBrowser>(open("HELPME", "Help"), "HelpText"); }
-};
 
 // The desktop's frame and title count: at the first showing, and after the learner moved the window.
 TEST_F(Help, StandsInTheMiddleOfTheScreenWithItsFrameAsTheSmallWindowsDo)
@@ -147,59 +128,56 @@ TEST_F(Help, StandsInTheMiddleOfTheScreenWithItsFrameAsTheSmallWindowsDo)
          {std::pair{"HELPME", "Help"}, {"MainABout", "About"}, {"SetDelay", "DelayInterval"}})
         for (int opening = 1; opening <= 3; ++opening) {
             QWidget& window = open(item, name);
+            const QPoint off = window.frameGeometry().center() - window.screen()->geometry().center();
             EXPECT_NE(window.frameGeometry(), window.geometry());
-            EXPECT_LE(
-                (window.frameGeometry().center() - window.screen()->geometry().center()).manhattanLength(), 2)
-                << name << opening;
+            EXPECT_LE(off.manhattanLength(), 2) << name << opening;
             window.move(3, 3);
             window.close();
         }
 }
 
-TEST_F(Help, HasATargetForEveryLinkAndALinkToEveryChapter)
+TEST_F(Help, HasATargetForEveryLinkAndALinkToEveryChapterAndGoesThereAndBack)
 {
     tests::copySample("morvanti.hlp");
-    const QTextBrowser& text = openGuide();
-    std::set<QString> chapters;
-    std::set<QString> links;
-    for (QTextBlock block = text.document()->begin(); block.isValid(); block = block.next())
-        for (auto part = block.begin(); !part.atEnd(); ++part) {
-            const QTextCharFormat format = part.fragment().charFormat();
-            for (const QString& name : format.anchorNames())
-                chapters.insert('#' + name);
-            if (!format.anchorHref().isEmpty())
-                links.insert(format.anchorHref());
-        }
+    auto& text = tests::control<QTextBrowser>(open("HELPME", "Help"));
+    const auto all = [guide = text.toHtml()](const char* pattern) {
+        std::set<QString> found;
+        for (const auto& match : QRegularExpression(pattern).globalMatch(guide))
+            found.insert(match.captured(1));
+        return found;
+    };
+    const auto chapters = all("<a name=\"(.+?)\"");
+    const auto links = all("<a href=\"#(.+?)\"");
     EXPECT_GT(chapters.size(), 20U);
     EXPECT_TRUE(std::ranges::includes(chapters, links));
     EXPECT_EQ(links.size() + 1, chapters.size());
-}
 
-TEST_F(Help, GoesToTheChapterOfALinkAndBackAndOpensAtItsBeginning)
-{
-    tests::copySample("morvanti.hlp");
-    QTextBrowser& text = openGuide();
     QTextCursor cursor = text.document()->find("morvanti.ini");
     cursor.setPosition(cursor.selectionStart() + 2);
     QTest::mouseClick(text.viewport(), Qt::LeftButton, Qt::NoModifier, text.cursorRect(cursor).center());
     QApplication::processEvents();
     const QTextCursor top = text.cursorForPosition(QPoint(text.viewport()->width() / 2, 40));
-    EXPECT_GT(text.verticalScrollBar()->value(), 0);
+    const QScrollBar& scroll = *text.verticalScrollBar();
+    EXPECT_GT(scroll.value(), 0);
     EXPECT_GE(top.position(), text.document()->find("Your settings: 36 lines").position() - 60);
     QTest::keyClick(&text, Qt::Key_Left, Qt::AltModifier);
-    EXPECT_EQ(text.verticalScrollBar()->value(), 0);
-    text.verticalScrollBar()->setValue(100);
-    EXPECT_EQ(openGuide().verticalScrollBar()->value(), 0);
+    EXPECT_EQ(scroll.value(), 0);
+    press(tests::shown("Help"), Qt::Key_End);
+    EXPECT_GT(scroll.value(), 0);
+    open("HELPME", "Help");
+    EXPECT_EQ(scroll.value(), 0);
 }
 
 TEST_F(Help, ShowsAPlainTextAsItStandsAndSaysWhyThereIsNone)
 {
-    EXPECT_TRUE(openGuide().toPlainText().contains("morvanti.hlp"));
-    press(tests::shown("Help"), Qt::Key_Escape);
-    EXPECT_EQ(tests::shownWindow("Help"), nullptr);
     const std::string plain = "MY GUIDE\n\n* a *star* and   blanks\n  # no heading\n<b>x</b>";
-    tests::writeFile("morvanti.hlp", plain);
-    EXPECT_EQ(openGuide().toPlainText().toStdString(), plain);
+    for (const std::string& shown : {std::string("morvanti.hlp: No such file or directory"), plain}) {
+        QWidget& window = open("HELPME", "Help");
+        EXPECT_EQ(tests::control<QTextBrowser>(window).toPlainText().toStdString(), shown);
+        press(window, Qt::Key_Escape);
+        EXPECT_FALSE(window.isVisible());
+        tests::writeFile("morvanti.hlp", plain);
+    }
 }
 
 } // namespace

@@ -1,8 +1,5 @@
 #include "app/qt_platform.h"
-#include "tests/support/fake_platform.h"
-
-#include <QElapsedTimer>
-#include <QTimer>
+#include "tests/support/window_test.h"
 
 namespace {
 

@@ -9,11 +9,14 @@ using tests::choose;
 using tests::click;
 
 // Of a learner who saw marks, heard sounds, and went by the rarer orders, in German.
-std::string keptSettings(const std::string& order = "Random")
+const std::string Kept = "6\r\n-1\r\n-1\r\n 5\r\nGerman\r\nNAGDAb\r\nRandom\r\n 0\r\n-1\r\n";
+const std::string Defaults = "6\r\n 0\r\n 0\r\n 2\r\nEnglish\r\nNGDAAb\r\nSequential\r\n 2\r\n-1\r\n";
+
+// A file that includes so many of the seven classes and twenty tenses in the quiz.
+std::string fileOf(std::string text, int included)
 {
-    std::string text = "6\r\n-1\r\n-1\r\n 5\r\nGerman\r\nNAGDAb\r\n" + order + "\r\n 0\r\n-1\r\n";
     for (int entry = 0; entry < 7 + 20; ++entry)
-        text += "-1\r\n";
+        text += entry < included ? "-1\r\n" : " 0\r\n";
     return text;
 }
 
@@ -22,32 +25,31 @@ protected:
     // Starts the program and names what is checked in its menus.
     std::string checkedAtStart()
     {
-        QStringList checked;
+        std::string checked;
         for (const QAction* const item : start().findChildren<QAction*>())
             if (item->isChecked())
-                checked << item->objectName();
-        return checked.join(' ').toStdString();
+                checked += item->objectName().toStdString() + ' ';
+        return checked;
     }
 };
 
 TEST_F(StartAndEnd, StartsInAnEmptyFolderAndWritesThirtySixLines)
 {
-    EXPECT_EQ(checkedAtStart(), "SaveSettings SequentialOrder NGDAABOrder EnglishLang");
+    EXPECT_EQ(checkedAtStart(), "SaveSettings SequentialOrder NGDAABOrder EnglishLang ");
     QWidget& menu = tests::shown("MainMenu");
     EXPECT_TRUE(menu.isMaximized());
     EXPECT_EQ(shell::settings.ActiveWindowName, "main");
     click(menu, "ExitButton");
     EXPECT_EQ(fake.exitStatus, 0);
-    const std::string text = tests::bytesOf("morvanti.ini");
-    EXPECT_EQ(std::ranges::count(text, '\n'), 36);
-    EXPECT_TRUE(text.starts_with("6\r\n 0\r\n 0\r\n 2\r\nEnglish\r\nNGDAAb\r\nSequential\r\n 2\r\n-1\r\n"));
+    EXPECT_EQ(tests::bytesOf("morvanti.ini"), fileOf(Defaults, 0));
 }
 
 TEST_F(StartAndEnd, FindsTheSettingsThatItKeptAndSoundsOnTheWayOut)
 {
     tests::copySample("verbs.cfg");
-    tests::writeFile("morvanti.ini", keptSettings());
-    EXPECT_EQ(checkedAtStart(), "SaveSettings VowelLengthVal SoundStatus RandomOrder NADGABOrder GermanLang");
+    tests::writeFile("morvanti.ini", fileOf(Kept, 27));
+    EXPECT_EQ(checkedAtStart(),
+              "SaveSettings VowelLengthVal SoundStatus RandomOrder NADGABOrder GermanLang ");
     QWidget& menu = tests::shown("MainMenu");
     EXPECT_FALSE(menu.isMaximized());
     EXPECT_EQ(shell::settings.VowelMark, ":");
@@ -60,23 +62,26 @@ TEST_F(StartAndEnd, FindsTheSettingsThatItKeptAndSoundsOnTheWayOut)
     std::filesystem::remove("morvanti.ini");
     choose(menu, "GermanLang");
     menu.close();
-    EXPECT_EQ(tests::bytesOf("morvanti.ini"), keptSettings());
+    EXPECT_EQ(tests::bytesOf("morvanti.ini"), fileOf(Kept, 27));
     EXPECT_EQ(shell::settings.SettingsChangeCount, 0);
     EXPECT_FALSE(menu.isVisible());
     EXPECT_EQ(fake.sounds.size(), 2U);
     EXPECT_EQ(fake.exitStatus, 0);
 }
 
-TEST_F(StartAndEnd, MendsOrGivesUpTheSettingsAfterABrokenVerbListAndReadsNoNouns)
+TEST_F(StartAndEnd, MendsOrGivesUpTheSettingsFromABadLineOnAndReadsNoNounsAfterABrokenVerbList)
 {
     tests::writeFile("verbs.cfg", "h\nmany\n");
     tests::copySample("nouns.cfg");
-    tests::writeFile("morvanti.ini", keptSettings("at will"));
-    EXPECT_EQ(checkedAtStart(),
-              "SaveSettings VowelLengthVal SoundStatus SequentialOrder NADGABOrder GermanLang");
+    tests::writeFile("morvanti.ini", fileOf("6\n0\n0\n0\nGerman\nNAGDAb\nat will\n0\n0\n", 9));
+    EXPECT_EQ(checkedAtStart(), "SequentialOrder NADGABOrder GermanLang ");
     EXPECT_EQ(nouns::nounList.NounCount, nouns::NounList().NounCount);
-    tests::writeFile("morvanti.ini", keptSettings().substr(0, 100));
-    EXPECT_EQ(checkedAtStart(), "SaveSettings SequentialOrder NGDAABOrder EnglishLang");
+    tests::writeFile("morvanti.ini", fileOf(Kept, 27).substr(0, Kept.size() + 13 * 4));
+    EXPECT_EQ(checkedAtStart(), "SaveSettings SequentialOrder NGDAABOrder EnglishLang ");
+    EXPECT_EQ(shell::settings.QuizConjInclude[0] + shell::settings.QuizTenseInclude[0],
+              2 * platform::FlagTrue);
+    click(tests::shown("MainMenu"), "ExitButton");
+    EXPECT_EQ(tests::bytesOf("morvanti.ini"), fileOf(Defaults, 13));
 }
 
 TEST_F(StartAndEnd, EndsWithoutSavingByAltF4AndWhereItIsToldNotToSave)
