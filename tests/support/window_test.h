@@ -13,6 +13,17 @@
 
 namespace tests {
 
+/// A control of a window by its object name, or the first of its kind where the name is left out. Throws
+/// std::runtime_error where there is none.
+template <typename Control>
+Control& control(const QWidget& window, const QString& name = {})
+{
+    auto* const found = window.findChild<Control*>(name);
+    if (found == nullptr)
+        throw std::runtime_error("no control " + name.toStdString());
+    return *found;
+}
+
 /// Drives windows as a learner does: controls are found by their object names, and get real key and mouse
 /// events. While the program pauses, events are worked off.
 class WindowTest : public FreshState {
@@ -32,6 +43,21 @@ protected:
     /// Opens a window by a button of the main window and two clicks on a row of its chooser's list.
     QWidget& openRow(const QString& button, const QString& chooser, int row, const QString& window);
 
+    /// A list, a line, a button or check box by its name, and an answer box by its name and number.
+    static QListWidget& list(const QWidget& in, const QString& name)
+    {
+        return control<QListWidget>(in, name);
+    }
+    static QLineEdit& line(const QWidget& in, const QString& name) { return control<QLineEdit>(in, name); }
+    static QAbstractButton& button(const QWidget& in, const QString& name)
+    {
+        return control<QAbstractButton>(in, name);
+    }
+    static QLineEdit& box(const QWidget& in, const QString& name, int number)
+    {
+        return line(in, name + QString::number(number));
+    }
+
     /// Does something once, in the middle of the next pause.
     void duringPause(std::function<void()> action);
 
@@ -43,32 +69,6 @@ private:
 QWidget* shownWindow(const QString& name);
 /// The same; throws std::runtime_error where it is not shown.
 QWidget& shown(const QString& name);
-
-/// A control of a window by its object name, or the first of its kind where the name is left out. Throws
-/// std::runtime_error where there is none.
-template <typename Control>
-Control& control(const QWidget& window, const QString& name = {})
-{
-    auto* const found = window.findChild<Control*>(name);
-    if (found == nullptr)
-        throw std::runtime_error("no control " + name.toStdString());
-    return *found;
-}
-
-/// A list, a line, a button or check box by its name, and an answer box by its name and number.
-inline QListWidget& list(const QWidget& window, const QString& name)
-{
-    return control<QListWidget>(window, name);
-}
-inline QLineEdit& line(const QWidget& window, const QString& name)
-{
-    return control<QLineEdit>(window, name);
-}
-inline QAbstractButton& button(const QWidget& window, const QString& name)
-{
-    return control<QAbstractButton>(window, name);
-}
-QLineEdit& box(const QWidget& window, const QString& name, int number);
 
 /// The text of a label, and the texts of a list.
 QString label(const QWidget& window, const QString& name);

@@ -27,24 +27,21 @@ using verbdrills::conjugationDrill;
 using verbdrills::verbQuiz;
 
 struct Drill {
-    std::string_view window;
-    const char* opener;
-    std::string_view back; // where one comes to on leaving
-    const char* check;
-    const char* quit;
-    std::vector<const char*> others; // buttons that do nothing in a pause
-    const char* box;                 // with the number that is asked
-    std::string (*asked)();          // tells one question from another
-    std::string (*right)(QWidget&);  // what is to be typed, once all that is right is clicked
-    QColor colour = {};              // of what is typed after a hint
+    QString window, opener, back;   // the last is where one comes to on leaving
+    QString check, quit;            // buttons, as are
+    QStringList others;             // those that do nothing in a pause
+    QString box;                    // with the number that is asked
+    std::string (*asked)();         // tells one question from another
+    std::string (*right)(QWidget&); // what is to be typed, once all that is right is clicked
+    QColor colour = {};             // of what is typed after a hint
 };
 
 std::string chooseFirstForm(QWidget& quiz)
 {
     verbQuiz.QuizRow = 1;
     verbdrills::identifyForm();
-    clickRow(list(quiz, "QuizConjList"), 0);
-    clickRow(list(quiz, "QuizTenseList"), 0);
+    clickRow(control<QListWidget>(quiz, "QuizConjList"), 0);
+    clickRow(control<QListWidget>(quiz, "QuizTenseList"), 0);
     return {};
 }
 
@@ -55,8 +52,6 @@ std::string tickRightCases(QWidget& quiz)
             box->click();
     return {};
 }
-
-enum DrillNumber : std::size_t { Conjugation, Declension, Pronoun };
 
 // clang-format off
 // First the drills with a box for each form, then the one with a single line, then the quizzes.
@@ -78,8 +73,10 @@ const std::vector<Drill> Drills = {
     {"NounQuiz", "FileNounQuiz", "MainMenu", "NQOK", "NQCancel", {}, "", drawnIndexes, tickRightCases},
 };
 
+const Drill &Conjugation = Drills[0], &Declension = Drills[1], &Pronoun = Drills[2];
+
 // The drill, the row of its chooser, the order of the cases and of the questions, whether boxes are drawn, and these.
-using Order = std::tuple<DrillNumber, int, const char*, const char*, bool, std::vector<int>>;
+using Order = std::tuple<const Drill&, int, const char*, const char*, bool, std::vector<int>>;
 const Order Orders[] = {
     {Conjugation, 0, "NGDAAb", "Sequential", false, {0, 1, 2, 3, 4, 5}},
     {Conjugation, 1, "NGDAAb", "Random",     true,  {0, 1, 2, 3, 4, 5}},
@@ -108,15 +105,10 @@ protected:
 
     QWidget& open(const Drill& drill, int row = 0)
     {
-        const QString window = QLatin1String(drill.window), back = QLatin1String(drill.back);
-        return back == "MainMenu" ? WindowTest::open(drill.opener, window)
-                                  : openRow(drill.opener, back, row, window);
+        return drill.back == "MainMenu" ? WindowTest::open(drill.opener, drill.window)
+                                        : openRow(drill.opener, drill.back, row, drill.window);
     }
-    QWidget& open(DrillNumber drill, int row) { return open(Drills.at(drill), row); }
-    QWidget& openChooser(DrillNumber drill)
-    {
-        return WindowTest::open(Drills.at(drill).opener, QLatin1String(Drills.at(drill).back));
-    }
+    QWidget& openChooser(const Drill& drill) { return WindowTest::open(drill.opener, drill.back); }
 
     static QLineEdit& askedBox(QWidget& window, const Drill& drill)
     {
@@ -134,7 +126,7 @@ protected:
         type(window, "x?/");
         press(window, Qt::Key_Return);
         click(window, drill.check);
-        for (const char* const button : drill.others)
+        for (const QString& button : drill.others)
             click(window, button);
     }
 
@@ -168,8 +160,8 @@ protected:
 
 TEST_F(EveryDrill, AskEachBoxOnceInTheOrderThatIsSetAndThenOtherForms)
 {
-    for (const auto& [number, row, cases, questions, drawn, boxes] : Orders) {
-        const Drill& drill = Drills.at(number);
+    for (const auto& [drill, row, cases, questions, drawn, boxes] : Orders) {
+        SCOPED_TRACE(drill.window.toStdString() + ' ' + cases + ' ' + questions);
         settings.CaseOrder = cases;
         settings.QuestionOrder = questions;
         QWidget& window = open(drill, row);
@@ -188,11 +180,11 @@ TEST_F(EveryDrill, AskEachBoxOnceInTheOrderThatIsSetAndThenOtherForms)
             EXPECT_EQ(std::ranges::is_sorted(asked), !drawn && std::ranges::is_sorted(boxes));
             if (drawn)
                 std::ranges::sort(asked);
-            EXPECT_EQ(asked, boxes) << drill.window << ' ' << cases << ' ' << questions;
+            EXPECT_EQ(asked, boxes);
             rounds.insert(forms);
         }
-        EXPECT_GT(rounds.size(), 1U) << drill.window;
-        EXPECT_EQ(settings.RightCount, 4 * static_cast<int>(boxes.size())) << drill.window;
+        EXPECT_GT(rounds.size(), 1U);
+        EXPECT_EQ(settings.RightCount, 4 * static_cast<int>(boxes.size()));
     }
 }
 
@@ -201,14 +193,14 @@ TEST_F(EveryDrill, IsLeftAtOnceInAPauseAndDoesNotMoveOn)
     for (const Drill& drill : Drills)
         for (const bool right : {true, false})
             for (const auto& leave : waysToLeave(drill.quit)) {
-                SCOPED_TRACE(drill.window);
+                SCOPED_TRACE(drill.window.toStdString());
                 QWidget& window = open(drill);
                 fillIn(drill, window, right);
                 const std::string asked = drill.asked();
                 duringPause([&] {
                     leave(window);
                     EXPECT_FALSE(judgementIsShown());
-                    EXPECT_NE(shownWindow(QLatin1String(drill.back)), nullptr);
+                    EXPECT_NE(shownWindow(drill.back), nullptr);
                 });
                 click(window, drill.check);
                 EXPECT_FALSE(judgementIsShown() || window.isVisible());
@@ -221,9 +213,9 @@ TEST_F(EveryDrill, JudgesOnceWhateverIsPressedInThePauseAndMovesOnAfterARightAns
 {
     QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
     for (const Drill& drill : Drills) {
-        SCOPED_TRACE(drill.window);
+        SCOPED_TRACE(drill.window.toStdString());
         const bool keepsScore = drill.window != "NounQuiz";
-        const bool hasBoxes = *drill.box != '\0';
+        const bool hasBoxes = !drill.box.isEmpty();
         QWidget& window = open(drill);
         fake.waits = settings.AnsweredCount = settings.RightCount = 0;
         int judged = 0;
@@ -262,9 +254,7 @@ TEST_F(EveryDrill, ShowsTheAnswerInRedForOnePauseWithoutCounting)
     for (const Drill& drill : std::span(Drills).first(3)) {
         QWidget& window = open(drill);
         QLineEdit& box = askedBox(window, drill);
-        std::vector<const char*> ways = {"/", "?"};
-        ways.insert(ways.end(), drill.others.begin(), drill.others.end());
-        for (const QString way : ways) {
+        for (const QString& way : QStringList{"/", "?"} + drill.others) {
             box.setText("b");
             fake.waits = 0;
             duringPause([&] {
@@ -303,11 +293,11 @@ TEST_F(EveryDrill, IsChosenByEnterInTheListOrByOk)
     QApplication::setActiveWindow(&classes);
     EXPECT_FALSE(button(classes, "cchok").isEnabled());
     EXPECT_EQ(settings.ActiveWindowName, "conjchoose");
-    for (const DrillNumber drill : {Conjugation, Pronoun, Declension}) {
-        QWidget& chooser = openChooser(drill);
+    for (const Drill* const drill : {&Conjugation, &Pronoun, &Declension}) {
+        QWidget& chooser = openChooser(*drill);
         control<QListWidget>(chooser).setFocus();
         press(chooser, Qt::Key_Return);
-        EXPECT_NE(shownWindow(QLatin1String(Drills.at(drill).window)), nullptr);
+        EXPECT_NE(shownWindow(drill->window), nullptr);
     }
     EXPECT_EQ(declensionDrill.DrillParadigm, FirstDeclension);
     QWidget& chooser = openChooser(Declension);
@@ -370,12 +360,11 @@ TEST_F(EveryDrill, OfPronounsPlacesItsRowsInTheCaseOrderAndThatOfVerbsTheGlosses
     for (int above = 0; const int cell : {1, 4, 2, 3, 5}) {
         const int middle = control<QLabel>(pronouns, names.at(cell)).geometry().center().y();
         EXPECT_LT(std::exchange(above, middle), middle);
-        for (int column = 0, left = 0; column < 3; ++column) {
+        for (int column = 0; column < 3; ++column) {
             const QRect place = box(pronouns, "Pronoun", cell + column * 5).geometry();
             EXPECT_NEAR(place.center().y(), middle, 1);
             EXPECT_EQ(control<QLabel>(pronouns, QStringLiteral("ColumnLabel%1").arg(column + 1)).x(),
                       place.x());
-            EXPECT_LT(std::exchange(left, place.x()), place.x());
         }
     }
     const QWidget& verbs = open(Conjugation, 0);
@@ -481,8 +470,7 @@ TEST_F(EveryDrill, OfVerbsGoesTenseByTenseOrWithATenseThroughTheRegularClasses)
     expectNewRound(drill, "Present Indicative", "I love");
 }
 
-// Esse bears the title of velle, and velle that of esse: sic. The ear is told the verb, and the glosses of a
-// language that no menu has are German.
+// Esse bears the title of velle, and velle that of esse: sic. The ear is told the verb.
 TEST_F(EveryDrill, OfVerbsHasTheVerbOfEachRowToItsLastTense)
 {
     verbs::verbList.Count.fill(1);
@@ -493,12 +481,9 @@ TEST_F(EveryDrill, OfVerbsHasTheVerbOfEachRowToItsLastTense)
         const QString heading = row < 6 ? label(drill, "TitleLabel") : QString(verb).toLower();
         EXPECT_EQ(box(drill, "ConjText", 0).accessibleName(), heading + ": Present Indicative, I");
     }
-    settings.CurrentLanguage = "Kraut";
-    for (const auto& [row, title, tenses, gloss] :
-         {std::tuple{5, "Velle", 11, "ich bin"}, {6, "Esse", 10, "ich will"}}) {
+    for (const auto& [row, title, tenses] : {std::tuple{5, "Velle", 11}, {6, "Esse", 10}}) {
         QWidget& drill = open(Conjugation, row);
-        EXPECT_EQ(label(drill, "TitleLabel"), title);
-        EXPECT_EQ(label(drill, "Ctransl0"), gloss);
+        EXPECT_TRUE(label(drill, "TitleLabel").startsWith(title));
         for (int form = 0; form < tenses * 6; ++form) {
             EXPECT_TRUE(drill.isVisible()) << title;
             answer(drill, QString::fromStdString(conjugationDrill.CorrectForm));
