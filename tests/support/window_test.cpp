@@ -4,9 +4,6 @@ namespace tests {
 
 namespace {
 
-// A drill, its chooser of tenses, and its chooser of classes.
-constexpr int MostWindowsAboveTheMain = 3;
-
 QWidget& focused(QWidget& window)
 {
     return window.focusWidget() == nullptr ? window : *window.focusWidget();
@@ -32,18 +29,13 @@ QWidget& WindowTest::open(const QString& buttonOrItem, const QString& window)
 {
     if (navigation_ == nullptr)
         start();
-    for (int i = 0; i < MostWindowsAboveTheMain && shownWindow("MainMenu") == nullptr; ++i)
+    // A drill, its chooser of tenses, and its chooser of classes may hide it.
+    for (int hiding = 3; hiding > 0 && shownWindow("MainMenu") == nullptr; --hiding)
         for (QWidget* const above : QApplication::topLevelWidgets())
             if (above->isVisible() && above->objectName() != "MainMenu")
                 above->close();
     QWidget& menu = shown("MainMenu");
     menu.findChild<QAction*>(buttonOrItem) ? choose(menu, buttonOrItem) : click(menu, buttonOrItem);
-    return shown(window);
-}
-
-QWidget& WindowTest::openRow(const QString& button, const QString& chooser, int row, const QString& window)
-{
-    doubleClickRow(control<QListWidget>(open(button, chooser)), row);
     return shown(window);
 }
 

@@ -6,10 +6,8 @@
 #include <QTest>
 #include <QtWidgets>
 
-#include <functional>
 #include <memory>
 #include <stdexcept>
-#include <vector>
 
 namespace tests {
 
@@ -25,11 +23,13 @@ Control& control(const QWidget& window, const QString& name = {})
 }
 
 /// Drives windows as a learner does: controls are found by their object names, and get real key and mouse
-/// events. While the program pauses, events are worked off.
+/// events. While the program pauses, events are worked off. The sample lists of verbs and nouns are there.
 class WindowTest : public FreshState {
 protected:
     WindowTest()
     {
+        copySample("verbs.cfg");
+        copySample("nouns.cfg");
         fake.whileWaiting = [] { QApplication::processEvents(); };
     }
 
@@ -40,19 +40,10 @@ protected:
     /// yet, and else goes back to the main window, closing what hides it.
     QWidget& open(const QString& buttonOrItem, const QString& window);
 
-    /// Opens a window by a button of the main window and two clicks on a row of its chooser's list.
-    QWidget& openRow(const QString& button, const QString& chooser, int row, const QString& window);
-
     /// A list, a line, a button or check box by its name, and an answer box by its name and number.
-    static QListWidget& list(const QWidget& in, const QString& name)
-    {
-        return control<QListWidget>(in, name);
-    }
-    static QLineEdit& line(const QWidget& in, const QString& name) { return control<QLineEdit>(in, name); }
-    static QAbstractButton& button(const QWidget& in, const QString& name)
-    {
-        return control<QAbstractButton>(in, name);
-    }
+    static auto& list(const QWidget& in, const QString& name) { return control<QListWidget>(in, name); }
+    static auto& line(const QWidget& in, const QString& name) { return control<QLineEdit>(in, name); }
+    static auto& button(const QWidget& in, const QString& name) { return control<QAbstractButton>(in, name); }
     static QLineEdit& box(const QWidget& in, const QString& name, int number)
     {
         return line(in, name + QString::number(number));

@@ -20,7 +20,7 @@ TEST_F(MainMenu, SpeaksTheLanguageItIsSwitchedToAndKeepsTwoUnavailable)
     for (const auto& [chosen, name, verbs, file, exit] : languages) {
         choose(menu, chosen);
         EXPECT_EQ(settings.CurrentLanguage, name);
-        EXPECT_EQ(tests::button(menu, "ConjugationButton").text(), verbs);
+        EXPECT_EQ(button(menu, "ConjugationButton").text(), verbs);
         EXPECT_EQ(tests::control<QMenu>(menu, "FileMenu").title(), file);
         EXPECT_EQ(tests::control<QAction>(menu, "FileExit").text(), exit);
         QStringList notAvailable;

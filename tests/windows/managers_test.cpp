@@ -7,19 +7,12 @@ namespace {
 
 using namespace nouns;
 using namespace tests;
-using verbs::FirstConjugation;
-using verbs::verbList;
+using namespace verbs;
 
 using Messages = std::vector<std::string>;
 
 class Managers : public WindowTest {
 protected:
-    Managers()
-    {
-        copySample("verbs.cfg");
-        copySample("nouns.cfg");
-    }
-
     void openVerbs() { manager = &open("FileVerbManager", "VerbManager"); }
     void openNouns() { manager = &open("FileNounManager", "NounHandler"); }
     bool showsVerbs() { return manager->objectName() == "VerbManager"; }
@@ -28,22 +21,18 @@ protected:
     QListWidget& words() { return list(*manager, showsVerbs() ? "VMFormsList" : "NHNounList"); }
     QStringList listed() { return rows(words()); }
 
-    void chooseVerb(int verbClass, int verb)
+    void chooseWord(int wordClass, int word)
     {
-        clickRow(classes(), verbClass);
-        clickRow(words(), verb);
+        clickRow(classes(), wordClass);
+        clickRow(words(), word);
     }
-
-    void fillBox(const QString& name, const char* text) { fill(line(*manager, name), text); }
-
     void clickAdd() { click(*manager, showsVerbs() ? "VerbManagerAdd" : "NHAdd"); }
-
+    void fillBox(const QString& name, const char* text) { fill(line(*manager, name), text); }
     void storeWord(const char* stem)
     {
         fillBox(showsVerbs() ? "VerbManagerLatinForms0" : "NHStem", stem);
         clickAdd();
     }
-
     void beginNounOfFirstParadigm(int declension)
     {
         clickRow(classes(), declension);
@@ -69,10 +58,10 @@ TEST_F(Managers, FillTheBoxesFromTheListOfVerbsAloneAndPreviewTheirForms)
 {
     openVerbs();
     const QString first = shownRecord();
-    chooseVerb(1, 4);
+    chooseWord(1, 4);
     EXPECT_EQ(shownRecord(), "mov|mov|mot|move|moved|moved|moving");
     for (int row = 0; const char* const infinitive : {"amare", "monere", "regere", "capire", "audire"}) {
-        chooseVerb(row++, 12);
+        chooseWord(row++, 12);
         EXPECT_EQ(listed().front(), infinitive);
         EXPECT_EQ(listed().size(), 13);
         EXPECT_EQ(shownRecord(), "||||||");
@@ -88,27 +77,27 @@ TEST_F(Managers, FillTheBoxesFromTheListOfVerbsAloneAndPreviewTheirForms)
     press(*manager, Qt::Key_Escape);
     openVerbs();
     EXPECT_EQ(shownRecord(), first);
-    chooseVerb(4, 12);
+    chooseWord(4, 12);
     EXPECT_EQ(shownRecord(), "||||||");
 }
 
 TEST_F(Managers, StoreAVerbOnItsRowAndRefuseASixteenth)
 {
     openVerbs();
-    chooseVerb(0, 3);
+    chooseWord(0, 3);
     fillBox("VerbManagerGermanForms0", "extol");
     clickAdd();
     EXPECT_EQ(shownRecord(), "voc|vocav|vocat|extol|called|called|calling");
     verbList.Count[FirstConjugation] = 14;
-    chooseVerb(1, 0);
-    chooseVerb(0, 14);
+    chooseWord(1, 0);
+    chooseWord(0, 14);
     clickAdd();
     fillBox("VerbManagerGermanForms0", "sing");
     storeWord("cant");
-    EXPECT_EQ(verbs::verbAt(FirstConjugation, 15), (verbs::VerbRecord{"cant", "", "", {"sing", "", "", ""}}));
+    EXPECT_EQ(verbAt(FirstConjugation, 15), (VerbRecord{"cant", "", "", {"sing", "", "", ""}}));
     EXPECT_EQ(listed().mid(14), QStringList({"cantare", "** Add New Item Here **"}));
     EXPECT_EQ(shownRecord(), "cant|||sing|||");
-    chooseVerb(0, 15);
+    chooseWord(0, 15);
     storeWord("salt");
     EXPECT_EQ(fake.messages,
               (Messages{"A verb needs a present stem.", "A conjugation holds fifteen verbs at the most."}));
@@ -127,10 +116,9 @@ TEST_F(Managers, ShowTheNounsOfEachDeclensionAndLetThemBe)
                               {18, 1, "miles", "miles|milit|m. -itis|soldier|Soldat|soldat|soldado"},
                               {7, 3, "passus", "pass|| (m)|step|Treppe||paso"},
                               {7, 1, "dies", "di|| (f)|day|Tag||día"}}) {
-        clickRow(classes(), declension++);
+        chooseWord(declension++, row);
         EXPECT_EQ(listed().size(), count);
         EXPECT_EQ(listed().at(row), noun);
-        clickRow(words(), row);
         fillBox("NHStem", "x");
         EXPECT_EQ(shownRecord(), record);
     }
