@@ -69,7 +69,7 @@ std::string bytesOf(const fs::path& path)
 
 void copySample(const std::string& name)
 {
-    fs::copy_file(fs::path(MORVANTI_DATA) / name, name);
+    fs::copy_file(fs::path(MORVANTI_DATA) / name, name, fs::copy_options::overwrite_existing);
 }
 
 } // namespace tests

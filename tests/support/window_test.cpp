@@ -1,18 +1,12 @@
 #include "tests/support/window_test.h"
 
-#include <utility>
-
 namespace tests {
 
 namespace {
 
-// A drill, its chooser of tenses, and its chooser of classes.
-constexpr int MostWindowsAboveTheMain = 3;
-
 QWidget& focused(QWidget& window)
 {
-    QWidget* const widget = window.focusWidget();
-    return widget == nullptr ? window : *widget;
+    return window.focusWidget() == nullptr ? window : *window.focusWidget();
 }
 
 QPoint middleOf(QListWidget& list, int row)
@@ -35,21 +29,13 @@ QWidget& WindowTest::open(const QString& buttonOrItem, const QString& window)
 {
     if (navigation_ == nullptr)
         start();
-    for (int i = 0; i < MostWindowsAboveTheMain && shownWindow("MainMenu") == nullptr; ++i)
+    // A drill, its chooser of tenses, and its chooser of classes may hide it.
+    for (int hiding = 3; hiding > 0 && shownWindow("MainMenu") == nullptr; --hiding)
         for (QWidget* const above : QApplication::topLevelWidgets())
             if (above->isVisible() && above->objectName() != "MainMenu")
                 above->close();
     QWidget& menu = shown("MainMenu");
-    if (menu.findChild<QAction*>(buttonOrItem) != nullptr)
-        choose(menu, buttonOrItem);
-    else
-        click(menu, buttonOrItem);
-    return shown(window);
-}
-
-QWidget& WindowTest::openRow(const QString& button, const QString& chooser, int row, const QString& window)
-{
-    doubleClickRow(control<QListWidget>(open(button, chooser)), row);
+    menu.findChild<QAction*>(buttonOrItem) ? choose(menu, buttonOrItem) : click(menu, buttonOrItem);
     return shown(window);
 }
 
@@ -78,11 +64,6 @@ QWidget& shown(const QString& name)
     return *window;
 }
 
-QLineEdit& box(const QWidget& window, const QString& name, int number)
-{
-    return line(window, name + QString::number(number));
-}
-
 QString label(const QWidget& window, const QString& name)
 {
     return control<QLabel>(window, name).text();
@@ -98,7 +79,7 @@ QStringList rows(const QListWidget& list)
 
 void click(QWidget& window, const QString& name)
 {
-    QAbstractButton& clicked = button(window, name);
+    auto& clicked = control<QAbstractButton>(window, name);
     QTest::mouseClick(&clicked, Qt::LeftButton, Qt::NoModifier, QPoint(8, clicked.height() / 2));
     QApplication::processEvents();
 }
@@ -154,8 +135,7 @@ void press(QWidget& window, Qt::Key key, int times)
 
 QString focusIn(const QWidget& window)
 {
-    const QWidget* const widget = window.focusWidget();
-    return widget == nullptr ? QString() : widget->objectName();
+    return window.focusWidget() == nullptr ? "" : window.focusWidget()->objectName();
 }
 
 std::vector<std::function<void(QWidget&)>> waysToLeave(const QString& button)
@@ -165,3 +145,18 @@ std::vector<std::function<void(QWidget&)>> waysToLeave(const QString& button)
 }
 
 } // namespace tests
+
+int main(int argumentCount, char** arguments)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    // The screenless platform complains that it can neither raise nor grab.
+    qputenv("QT_LOGGING_RULES", "default.warning=false");
+    qputenv("QT_HASH_SEED", "0");
+    qputenv("LC_ALL", "C.UTF-8");
+    QLocale::setDefault(QLocale::c());
+    testing::InitGoogleTest(&argumentCount, arguments);
+    const QApplication application(argumentCount, arguments);
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setQuitOnLastWindowClosed(false);
+    return RUN_ALL_TESTS();
+}

@@ -6,43 +6,10 @@
 #include <QTest>
 #include <QtWidgets>
 
-#include <functional>
 #include <memory>
 #include <stdexcept>
-#include <vector>
 
 namespace tests {
-
-/// Drives windows as a learner does: controls are found by their object names, and get real key and mouse
-/// events. While the program pauses, events are worked off.
-class WindowTest : public FreshState {
-protected:
-    WindowTest()
-    {
-        fake.whileWaiting = [] { QApplication::processEvents(); };
-    }
-
-    /// Starts the program, anew where it runs already. Returns the main window.
-    QWidget& start();
-
-    /// Opens a window by a button or an item of the main window: starts the program where it does not run
-    /// yet, and else goes back to the main window, closing what hides it.
-    QWidget& open(const QString& buttonOrItem, const QString& window);
-
-    /// Opens a window by a button of the main window and two clicks on a row of its chooser's list.
-    QWidget& openRow(const QString& button, const QString& chooser, int row, const QString& window);
-
-    /// Does something once, in the middle of the next pause.
-    void duringPause(std::function<void()> action);
-
-private:
-    std::unique_ptr<app::Navigation> navigation_;
-};
-
-/// The visible window with this object name; nullptr where it is not shown.
-QWidget* shownWindow(const QString& name);
-/// The same; throws std::runtime_error where it is not shown.
-QWidget& shown(const QString& name);
 
 /// A control of a window by its object name, or the first of its kind where the name is left out. Throws
 /// std::runtime_error where there is none.
@@ -55,20 +22,44 @@ Control& control(const QWidget& window, const QString& name = {})
     return *found;
 }
 
-/// A list, a line, a button or check box by its name, and an answer box by its name and number.
-inline QListWidget& list(const QWidget& window, const QString& name)
-{
-    return control<QListWidget>(window, name);
-}
-inline QLineEdit& line(const QWidget& window, const QString& name)
-{
-    return control<QLineEdit>(window, name);
-}
-inline QAbstractButton& button(const QWidget& window, const QString& name)
-{
-    return control<QAbstractButton>(window, name);
-}
-QLineEdit& box(const QWidget& window, const QString& name, int number);
+/// Drives windows as a learner does: controls are found by their object names, and get real key and mouse
+/// events. While the program pauses, events are worked off. The sample lists of verbs and nouns are there.
+class WindowTest : public FreshState {
+protected:
+    WindowTest()
+    {
+        copySample("verbs.cfg");
+        copySample("nouns.cfg");
+        fake.whileWaiting = [] { QApplication::processEvents(); };
+    }
+
+    /// Starts the program, anew where it runs already. Returns the main window.
+    QWidget& start();
+
+    /// Opens a window by a button or an item of the main window: starts the program where it does not run
+    /// yet, and else goes back to the main window, closing what hides it.
+    QWidget& open(const QString& buttonOrItem, const QString& window);
+
+    /// A list, a line, a button or check box by its name, and an answer box by its name and number.
+    static auto& list(const QWidget& in, const QString& name) { return control<QListWidget>(in, name); }
+    static auto& line(const QWidget& in, const QString& name) { return control<QLineEdit>(in, name); }
+    static auto& button(const QWidget& in, const QString& name) { return control<QAbstractButton>(in, name); }
+    static QLineEdit& box(const QWidget& in, const QString& name, int number)
+    {
+        return line(in, name + QString::number(number));
+    }
+
+    /// Does something once, in the middle of the next pause.
+    void duringPause(std::function<void()> action);
+
+private:
+    std::unique_ptr<app::Navigation> navigation_;
+};
+
+/// The visible window with this object name; nullptr where it is not shown.
+QWidget* shownWindow(const QString& name);
+/// The same; throws std::runtime_error where it is not shown.
+QWidget& shown(const QString& name);
 
 /// The text of a label, and the texts of a list.
 QString label(const QWidget& window, const QString& name);

@@ -1,99 +1,88 @@
 // What all drills have in common: an answer counts once, a hint does not count, a pause can be left, and
-// boxes are asked in the order that is set.
+// boxes are asked in the order that is set. Then what each asks and shows.
 
 #include "nouns/declension_drill.h"
 #include "nouns/noun_question.h"
+#include "nouns/noun_tables.h"
 #include "nouns/pronoun_drill.h"
 #include "shell/settings.h"
 #include "tests/support/window_test.h"
 #include "verbdrills/conjugation_drill.h"
 #include "verbdrills/verb_question.h"
+#include "verbs/verb_list.h"
 #include "vocabulary/vocabulary_list.h"
 #include "vocabulary/vocabulary_tester.h"
 
-#include <QCheckBox>
-
-#include <algorithm>
 #include <set>
-#include <span>
 
 namespace {
 
+using namespace nouns;
 using namespace tests;
 using shell::settings;
 using std::to_string;
+using verbdrills::conjugationDrill;
+using verbdrills::verbQuiz;
 
 struct Drill {
-    const char* window;
-    const char* opener;
-    const char* back; // where one comes to on leaving
-    const char* check;
-    const char* quit;
-    std::vector<const char*> others; // buttons that do nothing in a pause
-    const char* box;                 // with the number that is asked
-    std::string (*asked)();          // tells one question from another
-    void (*answerRightly)(QWidget&); // without checking it
-    QColor colour = {};              // of what is typed after a hint
+    QString window, opener, back;   // the last is where one comes to on leaving
+    QString check, quit;            // buttons, as are
+    QStringList others;             // those that do nothing in a pause
+    QString box;                    // with the number that is asked
+    QColor colour;                  // of what is typed after a hint
+    std::string (*asked)();         // tells one question from another
+    std::string (*right)(QWidget&); // what is to be typed, once all that is right is clicked
 };
 
-void chooseFirstForm(QWidget& quiz)
+std::string chooseFirstForm(QWidget& quiz)
 {
-    verbdrills::verbQuiz.QuizRow = 1;
+    verbQuiz.QuizRow = 1;
     verbdrills::identifyForm();
-    clickRow(list(quiz, "QuizConjList"), 0);
-    clickRow(list(quiz, "QuizTenseList"), 0);
+    clickRow(control<QListWidget>(quiz, "QuizConjList"), 0);
+    clickRow(control<QListWidget>(quiz, "QuizTenseList"), 0);
+    return {};
 }
 
-void tickRightCases(QWidget& quiz)
+std::string tickRightCases(QWidget& quiz)
 {
-    int inCase = 0;
-    for (QCheckBox* const box : quiz.findChildren<QCheckBox*>())
-        if (nouns::nounQuestion.QuizRightCases[inCase++] == platform::FlagTrue)
+    for (int inCase = 0; QCheckBox* const box : quiz.findChildren<QCheckBox*>())
+        if (nounQuestion.QuizRightCases[inCase++] == platform::FlagTrue)
             box->click();
-}
-
-void typeText(QWidget& drill, const std::string& text)
-{
-    type(drill, QString::fromStdString(text));
+    return {};
 }
 
 // clang-format off
 // First the drills with a box for each form, then the one with a single line, then the quizzes.
 const std::vector<Drill> Drills = {
-    {"Conjugation", "ConjugationButton", "ConjugationChoose", "Ccontinue", "Cquit", {"ConjQuestion"}, "ConjText",
-        [] { return to_string(verbdrills::conjugationDrill.PersonIndex); },
-        [](QWidget& drill) { typeText(drill, verbdrills::conjugationDrill.CorrectForm); }, Qt::blue},
-    {"Declination", "DeclensionButton", "DeclinationChoose", "Continue", "DeclQuitButton", {"DeclQuestion"}, "DeclText",
-        [] { return to_string(nouns::declensionDrill.CurrentCaseIndex); },
-        [](QWidget& drill) { typeText(drill, nouns::declensionDrill.ExpectedAnswer); }, Qt::black},
-    {"PronounSingular", "PronounButton", "PronounChooser", "PronounOK", "PronounCancel", {}, "Pronoun",
-        [] { return to_string(nouns::pronounDrill.CurrentCell); },
-        [](QWidget& drill) { typeText(drill, nouns::pronounDrill.ExpectedAnswer); }, Qt::black},
-    {"Vcabtester", "VocabularyButton", "MainMenu", "VcabtesterOK", "VcabtesterCancel", {}, "",
-        [] { return to_string(vocabulary::vocabularyList.CurrentWord); },
-        [](QWidget& drill) { typeText(drill, vocabulary::expectedAnswer()); }},
-    {"Probatio", "QuizButton", "MainMenu", "QuizOK", "QuizCancel", {"QuizQuestion", "QuizSkip"}, "",
-        [] { return to_string(verbdrills::verbQuiz.QuizRow); }, chooseFirstForm},
-    {"NounQuiz", "FileNounQuiz", "MainMenu", "NQOK", "NQCancel", {}, "", nouns::drawnIndexes, tickRightCases},
+    {"Conjugation", "ConjugationButton", "ConjugationChoose", "Ccontinue", "Cquit", {"ConjQuestion"}, "ConjText", Qt::blue,
+        [] { return to_string(conjugationDrill.PersonIndex); }, [](QWidget&) { return conjugationDrill.CorrectForm; }},
+    {"Declination", "DeclensionButton", "DeclinationChoose", "Continue", "DeclQuitButton", {"DeclQuestion"}, "DeclText", Qt::black,
+        [] { return to_string(declensionDrill.CurrentCaseIndex); }, [](QWidget&) { return declensionDrill.ExpectedAnswer; }},
+    {"PronounSingular", "PronounButton", "PronounChooser", "PronounOK", "PronounCancel", {}, "Pronoun", Qt::black,
+        [] { return to_string(pronounDrill.CurrentCell); }, [](QWidget&) { return pronounDrill.ExpectedAnswer; }},
+    {"Vcabtester", "VocabularyButton", "MainMenu", "VcabtesterOK", "VcabtesterCancel", {}, "", {},
+        [] { return to_string(vocabulary::vocabularyList.CurrentWord); }, [](QWidget&) { return vocabulary::expectedAnswer(); }},
+    {"Probatio", "QuizButton", "MainMenu", "QuizOK", "QuizCancel", {"QuizQuestion", "QuizSkip"}, "", {},
+        [] { return to_string(verbQuiz.QuizRow); }, chooseFirstForm},
+    {"NounQuiz", "FileNounQuiz", "MainMenu", "NQOK", "NQCancel", {}, "", {}, drawnIndexes, tickRightCases},
 };
-// clang-format on
 
-// clang-format off
+const Drill &Conjugation = Drills[0], &Declension = Drills[1], &Pronoun = Drills[2];
+
 // The drill, the row of its chooser, the order of the cases and of the questions, whether boxes are drawn, and these.
-using Order = std::tuple<int, int, const char*, const char*, bool, std::vector<int>>;
+using Order = std::tuple<const Drill&, int, const char*, const char*, bool, std::vector<int>>;
 const Order Orders[] = {
-    // Persons.
-    {0, 0, "NGDAAb", "Sequential", false, {0, 1, 2, 3, 4, 5}},
-    {0, 1, "NGDAAb", "Random",     true,  {0, 1, 2, 3, 4, 5}},
+    {Conjugation, 0, "NGDAAb", "Sequential", false, {0, 1, 2, 3, 4, 5}},
+    {Conjugation, 1, "NGDAAb", "Random",     true,  {0, 1, 2, 3, 4, 5}},
     // Cases of both numbers.
-    {1, 0, "NGDAAb", "Sequential", false, {0, 1, 2, 3, 4, 5, 6, 7, 8, 9}},
-    {1, 3, "NAGDAb", "Sequential", false, {0, 3, 1, 2, 4, 5, 8, 6, 7, 9}},
-    {1, 1, "NGDAAb", "Random",     true,  {0, 1, 2, 3, 4, 5, 6, 7, 8, 9}},
+    {Declension,  0, "NGDAAb", "Sequential", false, {0, 1, 2, 3, 4, 5, 6, 7, 8, 9}},
+    {Declension,  3, "NAGDAb", "Sequential", false, {0, 3, 1, 2, 4, 5, 8, 6, 7, 9}},
+    {Declension,  1, "NGDAAb", "Random",     true,  {0, 1, 2, 3, 4, 5, 6, 7, 8, 9}},
     // Cases of three persons or genders: the reflexive has no nominative, and the order of the menu draws nothing.
-    {2, 3, "NAGDAb", "Sequential", false, {1, 4, 2, 3, 5, 6, 9, 7, 8, 10, 11, 14, 12, 13, 15}},
-    {2, 0, "NAGDAb", "Sequential", false, {1, 4, 2, 3, 5, 6, 9, 7, 8, 10, 14, 12, 13, 15}},
-    {2, 1, "NGDAAb", "Random",     false, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15}},
-    {2, 0, "NGDAAb", "random",     true,  {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 12, 13, 14, 15}},
+    {Pronoun,     3, "NAGDAb", "Sequential", false, {1, 4, 2, 3, 5, 6, 9, 7, 8, 10, 11, 14, 12, 13, 15}},
+    {Pronoun,     0, "NAGDAb", "Sequential", false, {1, 4, 2, 3, 5, 6, 9, 7, 8, 10, 14, 12, 13, 15}},
+    {Pronoun,     1, "NGDAAb", "Random",     false, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15}},
+    {Pronoun,     0, "NGDAAb", "random",     true,  {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 12, 13, 14, 15}},
 };
 // clang-format on
 
@@ -101,18 +90,19 @@ class EveryDrill : public WindowTest {
 protected:
     EveryDrill()
     {
-        copySample("verbs.cfg");
-        copySample("nouns.cfg");
         writeFile("vr-vcab.lst", "rosa,rose,f.\r\nre:x,king,m.\r\n");
         start();
         settings.QuizTenseInclude.fill(platform::FlagTrue);
     }
 
+    QWidget& openChooser(const Drill& drill) { return WindowTest::open(drill.opener, drill.back); }
+
     QWidget& open(const Drill& drill, int row = 0)
     {
-        if (drill.back == std::string("MainMenu"))
+        if (drill.back == "MainMenu")
             return WindowTest::open(drill.opener, drill.window);
-        return openRow(drill.opener, drill.back, row, drill.window);
+        doubleClickRow(control<QListWidget>(openChooser(drill)), row);
+        return shown(drill.window);
     }
 
     static QLineEdit& askedBox(QWidget& window, const Drill& drill)
@@ -120,9 +110,9 @@ protected:
         return box(window, drill.box, std::stoi(drill.asked()));
     }
 
-    static void answer(const Drill& drill, QWidget& window, bool right)
+    static void fillIn(const Drill& drill, QWidget& window, bool right)
     {
-        right ? drill.answerRightly(window) : type(window, "x");
+        type(window, right ? QString::fromStdString(drill.right(window)) : "x");
     }
 
     // Everything that a learner may press while an answer is judged or shown.
@@ -131,15 +121,46 @@ protected:
         type(window, "x?/");
         press(window, Qt::Key_Return);
         click(window, drill.check);
-        for (const char* const button : drill.others)
+        for (const QString& button : drill.others)
             click(window, button);
     }
+
+    // With a blank between them.
+    static void answerForms(QWidget& drill, const QString& forms)
+    {
+        for (const QString& form : forms.split(' '))
+            answer(drill, form);
+        EXPECT_EQ(label(drill, "ScoreLabel"), " 100% ") << forms.toStdString();
+    }
+
+    static void expectNewRound(QWidget& drill, const QString& tenseAndGloss)
+    {
+        EXPECT_EQ(label(drill, "TenseLabel") + ": " + label(drill, "Ctransl0"), tenseAndGloss);
+        EXPECT_EQ(label(drill, "Ctransl5"), "");
+        EXPECT_EQ(focusIn(drill), "ConjText0");
+        for (const QLineEdit* const line : drill.findChildren<QLineEdit*>())
+            EXPECT_TRUE(line->text().isEmpty() && !isGrey(*line));
+    }
+
+    static bool isGrey(const QLineEdit& box)
+    {
+        return box.palette().color(QPalette::Base) == QColor(0x80, 0x80, 0x80) &&
+               box.palette().color(QPalette::Text) == QColor(0xC0, 0xC0, 0xC0);
+    }
+
+    static int middleOf(const QWidget& widget)
+    {
+        return widget.mapTo(widget.window(), widget.rect().center()).y();
+    }
+
+    static bool judgementIsShown() { return shownWindow("Bravo") || shownWindow("Wrong"); }
 };
 
+// The eye goes down, or on to the next column: beside each row stands its name.
 TEST_F(EveryDrill, AskEachBoxOnceInTheOrderThatIsSetAndThenOtherForms)
 {
-    for (const auto& [number, row, cases, questions, drawn, boxes] : Orders) {
-        const Drill& drill = Drills.at(static_cast<std::size_t>(number));
+    for (const auto& [drill, row, cases, questions, drawn, boxes] : Orders) {
+        SCOPED_TRACE(drill.window.toStdString() + ' ' + cases + ' ' + questions);
         settings.CaseOrder = cases;
         settings.QuestionOrder = questions;
         QWidget& window = open(drill, row);
@@ -147,23 +168,27 @@ TEST_F(EveryDrill, AskEachBoxOnceInTheOrderThatIsSetAndThenOtherForms)
         for (int round = 0; round < 4; ++round) {
             std::vector<int> asked;
             QString forms;
+            QPoint place;
             for (std::size_t i = 0; i < boxes.size(); ++i) {
                 asked.push_back(std::stoi(drill.asked()));
                 QLineEdit& box = askedBox(window, drill);
-                EXPECT_EQ(box.text(), "");
-                EXPECT_TRUE(box.isEnabled());
-                drill.answerRightly(window);
+                EXPECT_TRUE(box.text().isEmpty() && box.isEnabled());
+                const QPoint before = std::exchange(place, box.mapTo(&window, QPoint()));
+                EXPECT_TRUE(drawn || i == 0 || before.x() < place.x() || before.y() < place.y());
+                fillIn(drill, window, true);
                 forms += box.text() + ' ';
                 press(window, Qt::Key_Return);
             }
             EXPECT_EQ(std::ranges::is_sorted(asked), !drawn && std::ranges::is_sorted(boxes));
             if (drawn)
                 std::ranges::sort(asked);
-            EXPECT_EQ(asked, boxes) << drill.window << ' ' << cases << ' ' << questions;
+            EXPECT_EQ(asked, boxes);
             rounds.insert(forms);
         }
-        EXPECT_GT(rounds.size(), 1U) << drill.window;
-        EXPECT_EQ(settings.RightCount, 4 * static_cast<int>(boxes.size())) << drill.window;
+        for (const QLabel* const name : window.findChildren<QLabel*>())
+            EXPECT_TRUE(!name->buddy() || std::abs(middleOf(*name) - middleOf(*name->buddy())) < 2);
+        EXPECT_GT(rounds.size(), 1U);
+        EXPECT_EQ(settings.RightCount, 4 * static_cast<int>(boxes.size()));
     }
 }
 
@@ -172,18 +197,18 @@ TEST_F(EveryDrill, IsLeftAtOnceInAPauseAndDoesNotMoveOn)
     for (const Drill& drill : Drills)
         for (const bool right : {true, false})
             for (const auto& leave : waysToLeave(drill.quit)) {
+                SCOPED_TRACE(drill.window.toStdString());
                 QWidget& window = open(drill);
-                answer(drill, window, right);
+                fillIn(drill, window, right);
                 const std::string asked = drill.asked();
                 duringPause([&] {
                     leave(window);
-                    EXPECT_FALSE(shownWindow("Bravo") || shownWindow("Wrong")) << drill.window;
-                    EXPECT_NE(shownWindow(drill.back), nullptr) << drill.window;
+                    EXPECT_FALSE(judgementIsShown());
+                    EXPECT_NE(shownWindow(drill.back), nullptr);
                 });
                 click(window, drill.check);
-                EXPECT_FALSE(shownWindow("Bravo") || shownWindow("Wrong")) << drill.window;
-                EXPECT_EQ(shownWindow(drill.window), nullptr);
-                EXPECT_EQ(drill.asked(), asked) << drill.window;
+                EXPECT_FALSE(judgementIsShown() || window.isVisible());
+                EXPECT_EQ(drill.asked(), asked);
             }
 }
 
@@ -192,38 +217,37 @@ TEST_F(EveryDrill, JudgesOnceWhateverIsPressedInThePauseAndMovesOnAfterARightAns
 {
     QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
     for (const Drill& drill : Drills) {
-        const bool keepsScore = drill.window != std::string("NounQuiz");
+        SCOPED_TRACE(drill.window.toStdString());
+        const bool keepsScore = drill.window != "NounQuiz";
+        const bool hasBoxes = !drill.box.isEmpty();
         QWidget& window = open(drill);
         fake.waits = settings.AnsweredCount = settings.RightCount = 0;
         int judged = 0;
         for (const bool right : keepsScore ? std::vector{false, false, true} : std::vector{true}) {
-            const bool hasBoxes = *drill.box != '\0';
             QLineEdit* const asksIn = hasBoxes ? &askedBox(window, drill) : nullptr;
             if (hasBoxes)
                 QTest::mouseClick(&box(window, drill.box, 4), Qt::LeftButton);
             QApplication::processEvents();
-            answer(drill, window, right);
+            fillIn(drill, window, right);
             const std::string asked = drill.asked();
             duringPause([&] {
-                EXPECT_EQ(shownWindow(right ? "Bravo" : "Wrong") != nullptr, keepsScore) << drill.window;
+                EXPECT_EQ(shownWindow(right ? "Bravo" : "Wrong") != nullptr, keepsScore);
                 pressEverything(drill, window);
-                EXPECT_EQ(drill.asked(), asked) << drill.window;
+                EXPECT_EQ(drill.asked(), asked);
             });
             click(window, drill.check);
             QApplication::sendEvent(window.focusWidget(), &held);
-            EXPECT_EQ(fake.waits, ++judged) << drill.window;
-            EXPECT_EQ(settings.AnsweredCount, keepsScore ? judged : 0) << drill.window;
-            EXPECT_EQ(settings.RightCount, keepsScore && right) << drill.window;
-            EXPECT_EQ(drill.asked() != asked, right) << drill.window;
-            EXPECT_FALSE(shownWindow("Bravo") || shownWindow("Wrong")) << drill.window;
+            EXPECT_EQ(fake.waits, ++judged);
+            EXPECT_EQ(settings.AnsweredCount, keepsScore ? judged : 0);
+            EXPECT_EQ(settings.RightCount, keepsScore && right);
+            EXPECT_EQ(drill.asked() != asked, right);
+            EXPECT_FALSE(judgementIsShown());
             for (const QLineEdit* const box : window.findChildren<QLineEdit*>()) {
-                const bool grey = right && box == asksIn;
-                EXPECT_EQ(box->text().isEmpty(), !grey) << drill.window;
-                EXPECT_EQ(box->palette().color(QPalette::Base) == QColor(0x80, 0x80, 0x80), grey);
-                EXPECT_EQ(box->palette().color(QPalette::Text) == QColor(0xC0, 0xC0, 0xC0), grey);
+                EXPECT_EQ(isGrey(*box), right && box == asksIn);
+                EXPECT_EQ(box->text().isEmpty(), !isGrey(*box));
             }
-            EXPECT_TRUE(!hasBoxes || window.focusWidget() == &askedBox(window, drill)) << drill.window;
-            EXPECT_TRUE(!hasBoxes || !right || label(window, "ScoreLabel") == " 33% ") << drill.window;
+            EXPECT_TRUE(!hasBoxes || window.focusWidget() == &askedBox(window, drill));
+            EXPECT_TRUE(!hasBoxes || !right || label(window, "ScoreLabel") == " 33% ");
         }
     }
 }
@@ -231,20 +255,17 @@ TEST_F(EveryDrill, JudgesOnceWhateverIsPressedInThePauseAndMovesOnAfterARightAns
 // Left while the answer is shown, it begins anew without it.
 TEST_F(EveryDrill, ShowsTheAnswerInRedForOnePauseWithoutCounting)
 {
-    for (const Drill& drill : std::span(Drills).first(3)) {
+    for (const Drill& drill : {Conjugation, Declension, Pronoun}) {
         QWidget& window = open(drill);
         QLineEdit& box = askedBox(window, drill);
-        answer(drill, window, true);
-        const QString right = box.text();
-        std::vector<const char*> ways = {"/", "?"};
-        ways.insert(ways.end(), drill.others.begin(), drill.others.end());
-        for (const QString way : ways) {
+        for (const QString& way : QStringList{"/", "?"} + drill.others) {
             box.setText("b");
             fake.waits = 0;
             duringPause([&] {
                 EXPECT_EQ(box.palette().color(QPalette::Text), QColor(Qt::red));
+                EXPECT_EQ(focusIn(window) == "DDummy", drill.window == "Declination");
                 pressEverything(drill, window);
-                EXPECT_EQ(box.text(), right);
+                EXPECT_EQ(box.text().toStdString(), drill.right(window));
             });
             way.size() == 1 ? type(window, way) : click(window, way);
             EXPECT_EQ(fake.waits, 1);
@@ -261,6 +282,194 @@ TEST_F(EveryDrill, ShowsTheAnswerInRedForOnePauseWithoutCounting)
         });
         type(window, "?");
         EXPECT_EQ(askedBox(window, drill).text(), "a");
+    }
+}
+
+// Enter takes the first row though none is chosen; a look at the help forgets the row that was. Where OK has
+// the focus, it waits for a row: chosen by a click at its very edge, and not forgotten by one below all rows.
+TEST_F(EveryDrill, IsChosenByEnterInTheListOrByOk)
+{
+    QWidget& classes = openChooser(Conjugation);
+    press(classes, Qt::Key_Down, 2);
+    EXPECT_TRUE(button(classes, "cchok").isEnabled());
+    press(classes, Qt::Key_F1);
+    press(shown("Help"), Qt::Key_Escape);
+    QApplication::setActiveWindow(&classes);
+    EXPECT_FALSE(button(classes, "cchok").isEnabled());
+    EXPECT_EQ(settings.ActiveWindowName, "conjchoose");
+    for (const Drill& drill : {Conjugation, Pronoun, Declension}) {
+        QWidget& chooser = openChooser(drill);
+        control<QListWidget>(chooser).setFocus();
+        press(chooser, Qt::Key_Return);
+        EXPECT_NE(shownWindow(drill.window), nullptr);
+    }
+    EXPECT_EQ(declensionDrill.DrillParadigm, FirstDeclension);
+    QWidget& chooser = openChooser(Declension);
+    EXPECT_EQ(focusIn(chooser), "SdeclOK");
+    press(chooser, Qt::Key_Return);
+    click(chooser, "SdeclOK");
+    EXPECT_EQ(settings.ActiveWindowName, "declchoose");
+    QListWidget& rows = list(chooser, "DeclinationList");
+    clickRow(rows, 4);
+    QTest::mouseClick(rows.viewport(), Qt::LeftButton, {}, rows.visualItemRect(rows.item(5)).topLeft());
+    QTest::mouseClick(rows.viewport(), Qt::LeftButton, {}, rows.viewport()->rect().bottomLeft());
+    click(chooser, "SdeclOK");
+    EXPECT_EQ(declensionDrill.DrillParadigm, ThirdDeclensionNeuter);
+}
+
+// German has no caption for most nouns: the nominative names them.
+TEST_F(EveryDrill, OfNounsOpensTheParadigmOfEachRow)
+{
+    settings.CurrentLanguage = shell::language::German;
+    EXPECT_EQ(label(open(Declension), "NounLabel").toStdString(), nounTables.NounForms[1][1]);
+    settings.CurrentLanguage = shell::language::English;
+    for (int row = 0; const int paradigm : {1, 2, 3, 4, 8, 9, 5, 6, 7}) {
+        QWidget& drill = open(Declension, row++);
+        EXPECT_EQ(declensionDrill.DrillParadigm, paradigm);
+        EXPECT_EQ(label(drill, "HeadingLabel").toStdString(), nounTables.DeclensionHeading[paradigm]);
+        EXPECT_EQ(label(drill, "NounLabel").toStdString(), nounTables.NounCaption[paradigm]);
+    }
+}
+
+// In pixels: the boxes below the top of their frame, the names of the cases below that of the window.
+TEST_F(EveryDrill, OfNounsPlacesItsRowsInTheCaseOrder)
+{
+    settings.MainWindowState = 0;
+    for (const auto& [order, names, thirdTop] :
+         {std::tuple{"NGDAAb", "DeclNom DeclGen DeclDat DeclAcc DeclAbl", 230},
+          {"NAGDAb", "DeclNom DeclAcc DeclGen DeclDat DeclAbl", 231}}) {
+        settings.CaseOrder = order;
+        QWidget& drill = open(Declension);
+        for (const char* const frame : {"Frame1", "Frame2"})
+            EXPECT_EQ(control<QGroupBox>(drill, frame).mapTo(&drill, QPoint()).y(), 126);
+        for (int row = 0; const QString& name : QString(names).split(' ')) {
+            const auto& label = control<QLabel>(drill, name);
+            EXPECT_EQ(label.mapTo(&drill, QPoint()).y(), row == 2 ? thirdTop : 150 + 40 * row);
+            EXPECT_EQ(label.buddy()->y(), 24 + 40 * row++);
+        }
+    }
+}
+
+TEST_F(EveryDrill, StandsInItsPlaceWithTheJudgementAndTheHelpBesideIt)
+{
+    settings.CurrentLanguage = shell::language::Latin;
+    settings.MainWindowState = 2;
+    QWidget& chooser = openChooser(Conjugation);
+    const auto& frame = control<QFrame>(chooser, "CCBigFrame");
+    const QSize screen = chooser.screen()->geometry().size();
+    EXPECT_EQ(frame.x(), static_cast<int>(screen.width() / 2.0 - frame.width() / 1.9));
+    EXPECT_EQ(frame.y(), static_cast<int>(screen.height() / 2.0 - frame.height() / 2.0));
+    QWidget& drill = open(Declension, 2);
+    declensionDrill.AnswerGiven = platform::FlagTrue;
+    QTest::mouseClick(&box(drill, "DeclText", 7), Qt::LeftButton);
+    EXPECT_EQ(declensionDrill.AnswerGiven, platform::FlagFalse);
+    EXPECT_EQ(drill.windowModality(), Qt::ApplicationModal);
+    press(drill, Qt::Key_F1);
+    QWidget& help = shown("Help");
+    const QAbstractButton& close = button(help, "Command1");
+    QTest::mouseClick(help.windowHandle(), Qt::LeftButton, {}, close.mapTo(&help, close.rect().center()));
+    EXPECT_FALSE(help.isVisible());
+    answer(drill, QString::fromStdString(declensionDrill.ExpectedAnswer));
+    EXPECT_EQ(declensionDrill.CurrentCaseIndex, 1);
+    duringPause([&] {
+        const QWidget& feedback = shown("Wrong");
+        EXPECT_EQ(control<QLabel>(feedback).text(), "Falsum");
+        EXPECT_EQ(feedback.pos(), QPoint(screen.width() - feedback.width() - feedback.width() / 10,
+                                         static_cast<int>(screen.height() / 1.5)));
+    });
+    answer(drill, "x");
+}
+
+// clang-format off
+// Heading, singular, plural, column by column: nominative, genitive, dative, accusative, ablative. The reflexive has
+// no nominative.
+constexpr std::array<const char*, 3> Grammar[] = {
+    {"Personal Pronouns: ego, tu, ***",
+     "ego mei: mihi me: me: tu: tui: tibi te: te: sui: sibi se: se:",
+     "no:s nostri: no:bi:s no:s no:bi:s vo:s vestri: vo:bi:s vo:s vo:bi:s sui: sibi se: se:"},
+    {"Demonstratives: is-ea-id (this/that)",
+     "is eius ei: eum eo: ea eius ei: eam ea: id eius ei: id eo:",
+     "ii: eo:rum ii:s eo:s ii:s eae ea:rum ii:s ea:s ii:s ea eo:rum ii:s ea ii:s"},
+    {"Demonstratives: hic-haec-hoc (this)",
+     "hic huius huic hunc ho:c haec huius huic hanc ha:c hoc huius huic hoc ho:c",
+     "hi: ho:rum hi:s ho:s hi:s hae ha:rum hi:s ha:s hi:s haec ho:rum hi:s haec hi:s"},
+    {"Demonstratives: ille-illa-illud (that)",
+     "ille illi:us illi: illum illo: illa illi:us illi: illam illa: illud illi:us illi: illud illo:",
+     "illi: illo:rum illi:s illo:s illi:s illae illa:rum illi:s illa:s illi:s illa illo:rum illi:s illa illi:s"},
+    {"Relatives: qui-quae-quod (who/which)",
+     "qui: cuius cui quem quo: quae cuius cui quam qua: quod cuius cui quod quo:",
+     "qui: quo:rum quibus quo:s quibus quae qua:rum quibus qua:s quibus quae quo:rum quibus quae quibus"},
+};
+// clang-format on
+
+TEST_F(EveryDrill, OfPronounsAsksTheGrammarsNumberByNumberWithMarksAndWithout)
+{
+    for (const char* const mark : {":", ""}) {
+        settings.VowelMark = mark;
+        for (int row = 0; const auto& [heading, singular, plural] : Grammar) {
+            QWidget& drill = open(Pronoun, row);
+            EXPECT_EQ(label(drill, "HeadingLabel"), heading);
+            for (const auto& [number, forms] :
+                 {std::pair{" Sing.", singular}, {" Plur.", plural}, {" Sing.", singular}}) {
+                EXPECT_EQ(label(drill, "ColumnLabel3"), QString(row == 0 ? "3 Pers." : "Neut.") + number);
+                EXPECT_EQ(box(drill, "Pronoun", 11).isEnabled(), row > 0);
+                EXPECT_EQ(box(drill, "Pronoun", 11).x(), control<QLabel>(drill, "ColumnLabel3").x());
+                answerForms(drill, QString(forms).replace(':', mark));
+            }
+            ++row;
+        }
+    }
+}
+
+// The chooser of classes is hidden: that it is activated late begins no choice anew.
+TEST_F(EveryDrill, OfVerbsGoesTenseByTenseOrWithATenseThroughTheRegularClasses)
+{
+    verbs::verbList.Count.fill(1);
+    QWidget& whole = open(Conjugation);
+    expectNewRound(whole, "Present Indicative: I love");
+    for (const int person : {0, 4, 5}) {
+        const auto& gloss = control<QLabel>(whole, QStringLiteral("Ctransl%1").arg(person));
+        EXPECT_EQ(gloss.x(), box(whole, "ConjText", person).x());
+        EXPECT_GT(gloss.y(), box(whole, "ConjText", person).y());
+    }
+    answerForms(whole, "amo amas amat amamus amatis amant");
+    expectNewRound(whole, "Imperfect Indicative: I was loving");
+    QWidget& chooser = openChooser(Conjugation);
+    doubleClickRow(control<QListWidget>(chooser), 8);
+    QApplication::setActiveWindow(&chooser);
+    QWidget& tenses = shown("TenseMoodChooser");
+    clickRow(list(tenses, "TenseMood"), 3);
+    press(tenses, Qt::Key_Return);
+    QWidget& drill = shown("Conjugation");
+    expectNewRound(drill, "Perfect Indicative: I loved,  have loved");
+    for (const char* const stem : {"amav", "monu", "rex", "audiv", "cep"})
+        answerForms(drill, QString("%1i %1isti %1it %1imus %1istis %1erunt").arg(stem));
+    EXPECT_EQ(settings.RightCount, 30);
+    click(shown("TenseMoodChooser"), "TenseMoodCancel");
+    EXPECT_NE(shownWindow("ConjugationChoose"), nullptr);
+    EXPECT_EQ(label(open(Conjugation), "ScoreLabel"), "");
+    expectNewRound(drill, "Present Indicative: I love");
+}
+
+// Esse bears the title of velle, and velle that of esse: sic. The ear is told the verb.
+TEST_F(EveryDrill, OfVerbsHasTheVerbOfEachRowToItsLastTense)
+{
+    verbs::verbList.Count.fill(1);
+    for (int row = 0; const char* const verb :
+                      {"amare", "monere", "regere", "capere", "audire", "Esse", "Velle", "ferre"}) {
+        QWidget& drill = open(Conjugation, row++);
+        EXPECT_EQ(label(drill, "VerbLabel"), verb);
+        const QString heading = row < 6 ? label(drill, "TitleLabel") : QString(verb).toLower();
+        EXPECT_EQ(box(drill, "ConjText", 0).accessibleName(), heading + ": Present Indicative, I");
+    }
+    for (const auto& [row, title, tenses] : {std::tuple{5, "Velle", 11}, {6, "Esse", 10}}) {
+        QWidget& drill = open(Conjugation, row);
+        EXPECT_TRUE(label(drill, "TitleLabel").startsWith(title));
+        for (int form = 0; form < tenses * 6; ++form) {
+            EXPECT_TRUE(drill.isVisible()) << title;
+            answer(drill, QString::fromStdString(conjugationDrill.CorrectForm));
+        }
+        EXPECT_NE(shownWindow("ConjugationChoose"), nullptr) << title;
     }
 }
 

@@ -3,54 +3,43 @@
 #include "tests/support/window_test.h"
 #include "verbs/verb_list.h"
 
-#include <QComboBox>
-
 namespace {
 
 using namespace nouns;
 using namespace tests;
-using verbs::FirstConjugation;
-using verbs::verbList;
+using namespace verbs;
 
 using Messages = std::vector<std::string>;
 
 class Managers : public WindowTest {
 protected:
-    Managers()
-    {
-        copySample("verbs.cfg");
-        copySample("nouns.cfg");
-    }
-
     void openVerbs() { manager = &open("FileVerbManager", "VerbManager"); }
     void openNouns() { manager = &open("FileNounManager", "NounHandler"); }
     bool showsVerbs() { return manager->objectName() == "VerbManager"; }
 
-    void chooseVerb(int verbClass, int verb)
+    QListWidget& classes() { return list(*manager, showsVerbs() ? "VMConjList" : "NHDeclList"); }
+    QListWidget& words() { return list(*manager, showsVerbs() ? "VMFormsList" : "NHNounList"); }
+    QStringList listed() { return rows(words()); }
+
+    void chooseWord(int wordClass, int word)
     {
-        clickRow(list(*manager, "VMConjList"), verbClass);
-        clickRow(list(*manager, "VMFormsList"), verb);
+        clickRow(classes(), wordClass);
+        clickRow(words(), word);
     }
-    void chooseDeclension(int row) { clickRow(list(*manager, "NHDeclList"), row); }
-
-    void fillBox(const QString& name, const char* text) { fill(line(*manager, name), text); }
-
     void clickAdd() { click(*manager, showsVerbs() ? "VerbManagerAdd" : "NHAdd"); }
-
-    void storeNoun(const char* stem)
+    void fillBox(const QString& name, const char* text) { fill(line(*manager, name), text); }
+    void storeWord(const char* stem)
     {
-        fillBox("NHStem", stem);
+        fillBox(showsVerbs() ? "VerbManagerLatinForms0" : "NHStem", stem);
         clickAdd();
     }
-
-    void beginNounOfFirstParadigm()
+    void beginNounOfFirstParadigm(int declension)
     {
+        clickRow(classes(), declension);
         clickAdd();
         control<QComboBox>(*manager).setFocus();
         press(*manager, Qt::Key_Home);
     }
-
-    QStringList listed() { return rows(list(*manager, showsVerbs() ? "VMFormsList" : "NHNounList")); }
 
     // The texts of all boxes, from top to bottom.
     QString shownRecord()
@@ -69,10 +58,10 @@ TEST_F(Managers, FillTheBoxesFromTheListOfVerbsAloneAndPreviewTheirForms)
 {
     openVerbs();
     const QString first = shownRecord();
-    chooseVerb(1, 4);
+    chooseWord(1, 4);
     EXPECT_EQ(shownRecord(), "mov|mov|mot|move|moved|moved|moving");
     for (int row = 0; const char* const infinitive : {"amare", "monere", "regere", "capire", "audire"}) {
-        chooseVerb(row++, 12);
+        chooseWord(row++, 12);
         EXPECT_EQ(listed().front(), infinitive);
         EXPECT_EQ(listed().size(), 13);
         EXPECT_EQ(shownRecord(), "||||||");
@@ -86,29 +75,30 @@ TEST_F(Managers, FillTheBoxesFromTheListOfVerbsAloneAndPreviewTheirForms)
         fillBox("VerbManagerGermanForms0", "sing");
     }
     press(*manager, Qt::Key_Escape);
-    EXPECT_FALSE(manager->isVisible());
     openVerbs();
     EXPECT_EQ(shownRecord(), first);
-    chooseVerb(4, 12);
+    chooseWord(4, 12);
     EXPECT_EQ(shownRecord(), "||||||");
 }
 
-TEST_F(Managers, AddAVerbOnTheLastRowAndRefuseASixteenth)
+TEST_F(Managers, StoreAVerbOnItsRowAndRefuseASixteenth)
 {
     openVerbs();
+    chooseWord(0, 3);
+    fillBox("VerbManagerGermanForms0", "extol");
+    clickAdd();
+    EXPECT_EQ(shownRecord(), "voc|vocav|vocat|extol|called|called|calling");
     verbList.Count[FirstConjugation] = 14;
-    chooseVerb(1, 0);
-    chooseVerb(0, 14);
+    chooseWord(1, 0);
+    chooseWord(0, 14);
     clickAdd();
-    fillBox("VerbManagerLatinForms0", "cant");
     fillBox("VerbManagerGermanForms0", "sing");
-    clickAdd();
-    EXPECT_EQ(verbs::verbAt(FirstConjugation, 15), (verbs::VerbRecord{"cant", "", "", {"sing", "", "", ""}}));
+    storeWord("cant");
+    EXPECT_EQ(verbAt(FirstConjugation, 15), (VerbRecord{"cant", "", "", {"sing", "", "", ""}}));
     EXPECT_EQ(listed().mid(14), QStringList({"cantare", "** Add New Item Here **"}));
     EXPECT_EQ(shownRecord(), "cant|||sing|||");
-    chooseVerb(0, 15);
-    fillBox("VerbManagerLatinForms0", "salt");
-    clickAdd();
+    chooseWord(0, 15);
+    storeWord("salt");
     EXPECT_EQ(fake.messages,
               (Messages{"A verb needs a present stem.", "A conjugation holds fifteen verbs at the most."}));
     EXPECT_EQ(shownRecord(), "salt||||||");
@@ -117,37 +107,18 @@ TEST_F(Managers, AddAVerbOnTheLastRowAndRefuseASixteenth)
     EXPECT_FALSE(std::filesystem::exists("morvanti.ini"));
 }
 
-TEST_F(Managers, KeepTheMarksOfAVerbThatIsEditedWhileNoneAreShown)
-{
-    openVerbs();
-    for (const auto& [box, typed, supine] : {std::tuple{"VerbManagerLatinForms2", "lau:dat", "lau:dat"},
-                                             {"VerbManagerLatinForms1", "vocav", "laudat"},
-                                             {"VerbManagerGermanForms0", "extol", "lau:dat"}}) {
-        manager->close();
-        choose(shown("MainMenu"), "VowelLengthVal");
-        openVerbs();
-        chooseVerb(0, 3);
-        fillBox(box, typed);
-        clickAdd();
-        EXPECT_EQ(verbList.SupineStem[FirstConjugation][4], supine);
-    }
-    EXPECT_TRUE(shownRecord().startsWith("voc|voca:v|lau:dat|extol|"));
-}
-
 TEST_F(Managers, ShowTheNounsOfEachDeclensionAndLetThemBe)
 {
     openNouns();
-    using Row = std::tuple<int, int, const char*, const char*>;
     for (int declension = 0; const auto& [count, row, noun, record] :
-                             {Row{12, 0, "puella", "puell||f. -ae|girl|Mädchen|jeune fille|muchacha"},
+                             {std::tuple{12, 0, "puella", "puell||f. -ae|girl|Mädchen|jeune fille|muchacha"},
                               {35, 20, "bellum", "bell||n. -i|war|Krieg|guerre|guerra"},
                               {18, 1, "miles", "miles|milit|m. -itis|soldier|Soldat|soldat|soldado"},
                               {7, 3, "passus", "pass|| (m)|step|Treppe||paso"},
                               {7, 1, "dies", "di|| (f)|day|Tag||día"}}) {
-        chooseDeclension(declension++);
+        chooseWord(declension++, row);
         EXPECT_EQ(listed().size(), count);
         EXPECT_EQ(listed().at(row), noun);
-        clickRow(list(*manager, "NHNounList"), row);
         fillBox("NHStem", "x");
         EXPECT_EQ(shownRecord(), record);
     }
@@ -162,29 +133,26 @@ TEST_F(Managers, AddANounToTheParadigmThatIsChosenWithItsMarksAsTheyAreShown)
     EXPECT_EQ(listed().back(), "** Add New Item Here **");
     EXPECT_EQ(focusIn(*manager), "NHStem");
     fillBox("NHMeaning0", "star");
-    storeNoun("ste:ll");
-    EXPECT_EQ(listed().size(), 13);
-    EXPECT_EQ(listed().back(), "stella");
+    storeWord("ste:ll");
+    EXPECT_EQ(listed().mid(12), QStringList{"stella"});
     EXPECT_EQ(nounAt(FirstDeclension, 13), (NounRecord{"", "stell", "", {"star", "", "", ""}}));
     clickAdd();
     EXPECT_EQ(shownRecord(), "||||||");
-    chooseDeclension(1);
+    clickRow(classes(), 1);
     clickAdd();
-    storeNoun("sax");
+    storeWord("sax");
     EXPECT_EQ(nounList.NounListStem[SecondDeclensionNeuter][15], "sax");
-    beginNounOfFirstParadigm();
+    beginNounOfFirstParadigm(1);
     shell::settings.ShowVowelLength = platform::FlagTrue;
-    storeNoun("ca:m");
+    storeWord("ca:m");
     EXPECT_EQ(nounList.NounListStem[SecondDeclensionUs][10], "ca:m");
-    EXPECT_EQ(listed().at(10), "ca:mus");
-    EXPECT_EQ(list(*manager, "NHNounList").currentRow(), 10);
+    EXPECT_EQ(listed().at(words().currentRow()), "ca:mus");
     nounList = {};
-    chooseDeclension(2);
-    EXPECT_TRUE(listed().empty());
-    EXPECT_EQ(shownRecord(), "||||||");
-    beginNounOfFirstParadigm();
+    clickRow(classes(), 2);
+    EXPECT_EQ(listed().join('|') + shownRecord(), "||||||");
+    beginNounOfFirstParadigm(2);
     fillBox("NHObliqueStem", "pac");
-    storeNoun("pax");
+    storeWord("pax");
     EXPECT_EQ(listed(), QStringList{"pax"});
     EXPECT_EQ(nounList.NounListObliqueStem[ThirdDeclension][0], "pac");
 }
@@ -192,26 +160,23 @@ TEST_F(Managers, AddANounToTheParadigmThatIsChosenWithItsMarksAsTheyAreShown)
 // What was typed for a declension stays there until it is stored.
 TEST_F(Managers, RefuseANounThatDoesNotFitOnlyWhenItIsStoredAndKeepIt)
 {
-    using Row = std::pair<const char*, const char*>;
-    constexpr std::array<Row, 5> Refused = {
-        {{"nov", "This paradigm holds 20 nouns at the most."},
-         {"", "A noun needs a stem."},
-         {"pax", "A noun of the third declension needs an oblique stem as well."},
-         {"man", "The nouns of the fourth and fifth declensions are fixed."},
-         {"spe", "The nouns of the fourth and fifth declensions are fixed."}}};
     openNouns();
     nounList.NounCount[FirstDeclension] = 20;
     nounList.NounCount[ThirdDeclension] = 9;
     nounList.NounCount[FourthDeclension] = 5;
     for (const auto& leave : waysToLeave("NHClose")) {
         const auto counts = nounList.NounCount;
-        for (int declension = 0; const auto& [stem, message] : Refused) {
-            clickRow(list(*manager, "NHNounList"), 0);
-            chooseDeclension(declension++);
-            beginNounOfFirstParadigm();
+        for (int declension = 0; const auto& [stem, message] :
+                                 {std::pair{"nov", "This paradigm holds 20 nouns at the most."},
+                                  {"", "A noun needs a stem."},
+                                  {"pax", "A noun of the third declension needs an oblique stem as well."},
+                                  {"man", "The nouns of the fourth and fifth declensions are fixed."},
+                                  {"spe", "The nouns of the fourth and fifth declensions are fixed."}}) {
+            clickRow(words(), 0);
+            beginNounOfFirstParadigm(declension++);
             EXPECT_EQ(listed().back(), "** Add New Item Here **");
             EXPECT_TRUE(fake.messages.empty());
-            storeNoun(stem);
+            storeWord(stem);
             EXPECT_EQ(std::exchange(fake.messages, {}), Messages{message});
             EXPECT_EQ(nounList.NounCount, counts);
         }
