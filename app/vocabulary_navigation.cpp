@@ -2,6 +2,8 @@
 
 #include "vocabulary/vocabulary_edits.h"
 
+#include <utility>
+
 namespace app {
 
 using shell::MainMenu;
@@ -57,7 +59,12 @@ void VocabularyNavigation::joinFileHandler(FileHandler& window)
     });
     connect(&window, &FileHandler::replacementRequested, this,
             [this](const std::filesystem::path& file) { replace_->open(file); });
-    whenLeft(window, [this] { manager_->comeBack(); });
+    whenLeft(window, [this] {
+        if (std::exchange(leavesOnceSaved_, false) && !vocabulary::changesArePending())
+            returnToTester();
+        else
+            manager_->comeBack();
+    });
 }
 
 void VocabularyNavigation::joinWarning(VcabWarning& window)
@@ -117,7 +124,11 @@ void VocabularyNavigation::leaveManager()
         vocabulary::discardChanges();
         returnToTester();
     };
-    warn([this] { chooseFile(file_mode::Save); }, discard);
+    const auto save = [this] {
+        leavesOnceSaved_ = true;
+        chooseFile(file_mode::Save);
+    };
+    warn(save, discard);
 }
 
 void VocabularyNavigation::warn(const Step& toSave, const Step& toDiscard)

@@ -52,6 +52,9 @@ private:
     /// A test was put aside for another window and goes on when that is left.
     bool testWaits_ = false;
 
+    /// The editor was left with changes to be saved first, and is left once they are.
+    bool leavesOnceSaved_ = false;
+
     /// What the warning leads to.
     Step toSave_;
     Step toDiscard_;

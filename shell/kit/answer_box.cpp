@@ -25,19 +25,20 @@ AnswerBox::AnswerBox(QWidget* parent) : QLineEdit(parent)
 
 void AnswerBox::lookIdle()
 {
-    looksAnswered_ = false;
+    keepsItsLook_ = false;
     setPalette(QApplication::palette(this));
 }
 
 void AnswerBox::lookAnswered()
 {
     setColours(Grey, LightGrey);
-    looksAnswered_ = true;
+    keepsItsLook_ = true;
 }
 
 void AnswerBox::lookGrey()
 {
     setColours(Grey, White);
+    keepsItsLook_ = true;
 }
 
 void AnswerBox::lookRevealed()
@@ -78,7 +79,7 @@ void AnswerBox::keyPressEvent(QKeyEvent* event)
 
 void AnswerBox::setColours(const QColor& background, const QColor& text)
 {
-    looksAnswered_ = false;
+    keepsItsLook_ = false;
     QPalette colours = QApplication::palette(this);
     for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
         colours.setColor(group, QPalette::Base, background);

@@ -18,10 +18,12 @@ public:
 
     /// Grey: answered right in this round.
     void lookAnswered();
-    bool looksAnswered() const { return looksAnswered_; }
 
     /// Grey ground alone, with which a round in random order begins.
     void lookGrey();
+
+    /// True for these two, which a box keeps until the round ends.
+    bool keepsItsLook() const { return keepsItsLook_; }
 
     /// Red: the answer is shown.
     void lookRevealed();
@@ -45,7 +47,7 @@ protected:
 private:
     void setColours(const QColor& background, const QColor& text);
 
-    bool looksAnswered_ = false;
+    bool keepsItsLook_ = false;
 };
 
 } // namespace shell

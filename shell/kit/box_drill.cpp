@@ -73,7 +73,7 @@ void BoxDrill::showQuestion()
     setQuestion();
     for (AnswerBox* const box : boxes_) {
         const bool asked = box == &askedBox();
-        if (!asked && !box->looksAnswered())
+        if (!asked && !box->keepsItsLook())
             box->lookIdle();
         box->setAsked(asked && !pausing());
     }

@@ -73,7 +73,7 @@ void Chooser::fill()
 {
     applyCurrentOrDesignedCaptions(*this, captions_);
     fillList(*list_, rows_);
-    list_->setCurrentRow(0, QItemSelectionModel::NoUpdate);
+    list_->setCurrentRow(0, beginsAtOk() ? QItemSelectionModel::Select : QItemSelectionModel::NoUpdate);
     list_->setAccessibleName(windowTitle());
     ok_->setEnabled(beginsAtOk());
     list_->setMinimumSize(roomForRows(*list_));

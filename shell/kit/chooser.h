@@ -32,7 +32,7 @@ public:
     Chooser(const ChooserNames& names, std::span<const Caption> captions,
             std::span<const LanguageTexts> rows);
 
-    /// Shows the window with its list filled anew and no row chosen.
+    /// Shows the window with its list filled anew and no row chosen, unless it begins at OK.
     void open();
 
 Q_SIGNALS:
@@ -42,11 +42,10 @@ protected:
     /// Called each time the list was filled anew.
     virtual void beginChoice() {}
 
-    /// True where the OK button has the focus at first. It is available then before a row is chosen, and does
-    /// nothing.
+    /// True where the OK button has the focus at first. The first row is chosen then at once.
     virtual bool beginsAtOk() const { return false; }
 
-    /// Fills the list anew, with no row chosen.
+    /// Fills the list anew, likewise.
     void fill();
 
 private:

@@ -97,7 +97,7 @@ protected:
         for (QWidget* const window : QApplication::topLevelWidgets()) {
             QWidget* const control = window->findChild<QWidget*>(name);
             if (control != nullptr && control->isVisible() && name != step)
-                return tests::doubleClickRow(tests::list(*window, name), step.section(' ', 1).toInt());
+                return tests::doubleClickRow(list(*window, name), step.section(' ', 1).toInt());
             if (control != nullptr && control->isVisible())
                 return tests::click(*window, step);
             if (window->isVisible() && window->findChild<QAction*>(step) != nullptr)

@@ -18,7 +18,7 @@ TEST_F(MainMenu, SpeaksTheLanguageItIsSwitchedToAndKeepsTwoUnavailable)
          {std::array{"GermanLang", "&Verben", "Be&enden"}, std::array{"EnglishLang", "&Verbs", "E&xit"}}) {
         choose(menu, chosen);
         EXPECT_EQ(settings.CurrentLanguage + "Lang", chosen);
-        EXPECT_EQ(tests::button(menu, "ConjugationButton").text(), verbs);
+        EXPECT_EQ(button(menu, "ConjugationButton").text(), verbs);
         EXPECT_EQ(tests::control<QAction>(menu, "FileExit").text(), exit);
         for (const QAction* const item : tests::control<QMenu>(menu, "LanguageMenu").actions()) {
             const QString language = item->objectName();

@@ -31,9 +31,11 @@ constexpr LanguageTexts Words{"Words in it: %1",              "Nombre de mots : 
 QString contentsOf(const std::filesystem::path& path)
 {
     const VocabularyFile file = readVocabularyFile(path);
-    if (file.fault && file.fault->refused())
+    const bool tooLong = file.fault && file.fault->kind == LoadFault::Kind::TooLong;
+    if (file.fault && file.fault->refused() && !tooLong)
         return {};
-    const auto words = static_cast<int>(file.records.size());
+    const QString words =
+        tooLong ? QStringLiteral("> %1").arg(MostWords) : QString::number(file.records.size());
     return QLatin1Char('\n') + shell::fromUtf8(Words.currentOrDesigned()).arg(words);
 }
 
