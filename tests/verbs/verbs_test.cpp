@@ -241,8 +241,7 @@ TEST_F(Verbs, AreAllDrawnWithTheirStemsAndTranslations)
         }
     }
     EXPECT_EQ(drawn.size(), 15U + 7 + 1 + 4 + 1);
-    EXPECT_TRUE(drawn.contains("115") && drawn.contains("27") && drawn.contains("44") &&
-                drawn.contains("51"));
+    EXPECT_TRUE(drawn.contains("115") && drawn.contains("27") && drawn.contains("44"));
 }
 
 TEST_F(Verbs, AreReadBySectionsWhateverEndsTheFieldsAndAgainWithTwoCountsSwapped)
