@@ -119,15 +119,13 @@ TEST_F(ConjugationDrill, JudgesLetterByLetter)
     for (const auto& [row, right] : {std::pair{1, "ama:s"}, {60, ""}}) { // the imperative has no first person
         conjugationDrill.FormRow = static_cast<std::int16_t>(row);
         setConjugationQuestion();
-        for (const std::string answer :
-             {"ama:s", "", " ", "amas", "Ama:s", " ama:s", "ama:s ", "ama:s:", "ama\u0304s"})
+        for (const std::string answer : {"ama:s", "", " ", "amas", "Ama:s", " ama:s", "ama:s ", "ama:s:"})
             EXPECT_EQ(judgeConjugation(answer), answer == right) << answer;
     }
 }
 
 // What the window shows beside the six boxes, once the paradigms are generated in a language, in the same or
-// another;
-// "-" where it keeps what it showed.
+// another; "-" where it keeps what it showed.
 std::string glossesOf(const std::string& generated, const std::string& language, int block, int verbClass)
 {
     settings.CurrentLanguage = generated;
@@ -194,20 +192,11 @@ TEST_F(ConjugationDrill, TranslatesIntoNoLanguageButEnglishAndGermanUnderAnother
         {"English", "English", PresentIndicative,    Esse,  "I am|you are|he, she, it is|we are|all of you are|they are|"},
         {"English", "English", PresentIndicative,    Velle, "I want|you want|he, she, it wants|we want|all of you want|they want|"},
         {"German",  "Kraut",   PresentIndicative,    Ferre, "ich trage|du tragst|er/ sie/ es tragt|wir tragen|ihr tragt|sie tragen|"}, // sic
-        {"German",  "Kraut",   PresentIndicative,    Velle, "ich will|du willst|er/ sie/ es will|wir wollen|ihr wollt|sie wollen|"},
-        {"German",  "Kraut",   ImperfectIndicative,  Velle, "ich wollte|du wolltest|er/ sie/ es wollte|wir wollten|ihr wolltet|sie wollten|"},
-        {"German",  "Kraut",   PerfectIndicative,    Ferre, "ich habe getragen|du hast getragen|er/ sie/ es hat getragen|"
-                                                            "wir haben getragen|ihr habt getragen|sie haben getragen|"},
-        {"German",  "Kraut",   ImperfectSubjunctive, Esse,  "(Sie glaubt,) ich wäre (glücklich)|(Sie glaubt,) du wärst  (glücklich)|"
-                                                            "(Sie glaubt,) er/ sie/ es wäre (glücklich)|(Sie glaubt,) wir wären (glücklich)|"
-                                                            "(Sie glaubt,) ihr wärt (glücklich)|(Sie glaubt,) sie wären (glücklich)|"},
-        {"German",  "Kraut",   Imperative,           Esse,  "|sei (glücklich)!|||seid (glücklich)!||"},
-        {"German",  "Kraut",   Imperative,           Ferre, "|trag!|||tragt!||"}};
+        {"German",  "Kraut",   Imperative,           Esse,  "|sei (glücklich)!|||seid (glücklich)!||"}};
     // clang-format on
     for (const auto& [generated, language, block, verbClass, gloss] : glosses)
         EXPECT_EQ(glossesOf(generated, language, block, verbClass), gloss);
     EXPECT_EQ(verbTables.PresentParticipleGloss[Ferre] + verbTables.GermanGloss[Ferre - 1], "trügeträg");
-    EXPECT_EQ(verbTables.PresentParticipleGloss[Esse] + verbTables.GermanGloss[Esse - 1], "being");
     // Paradigms generated in Latin keep the translations before.
     for (const char* const generated : {"French", "German", "Italian", "German", "Spanish", "Latin"})
         EXPECT_EQ(glossesOf(generated, "English", PluperfectIndicative, Ferre).ends_with("|they had borne|"),
@@ -218,12 +207,12 @@ TEST_F(ConjugationDrill, TranslatesIntoNoLanguageButEnglishAndGermanUnderAnother
 
 TEST_F(ConjugationDrill, TranslatesTheThirdPersonInSOrEsByTheLastLetters)
 {
-    for (const std::string gloss : {"teach-es", "kiss-es", "waltz-es", "want-es", "read-es", // sic
-                                    "love-s", "wash-s", "c-s", "-s"}) {                      // sic
-        const auto dash = gloss.find('-');
-        EXPECT_EQ(englishGloss(1, 1, 3, {"she", gloss.substr(0, dash), "", "", ""}),
-                  "she " + gloss.substr(0, dash) + gloss.substr(dash + 1));
-    }
+    // clang-format off
+    for (const auto& [base, third] : {std::pair{"teach", "she teaches"}, {"kiss", "she kisses"},
+             {"waltz", "she waltzes"}, {"want", "she wantes"}, {"read", "she reades"}, {"wash", "she washs"}, // sic
+             {"love", "she loves"}, {"c", "she cs"}, {"", "she s"}})
+        // clang-format on
+        EXPECT_EQ(englishGloss(1, 1, 3, {"she", base, "", "", ""}), third);
 }
 
 // Classes and tenses as sets of bits, the first conjugation and the present indicative first.
@@ -231,10 +220,7 @@ using Bits = unsigned;
 constexpr Bits AllTenses = (1U << 21U) - 1, ActiveTenses = (1U << 11U) - 1;
 constexpr Bits RegularClasses = 0b11111U, EsseBit = 1U << 5U, VelleBit = 1U << 6U;
 
-constexpr Bits bit(int number)
-{
-    return 1U << static_cast<unsigned>(number);
-}
+constexpr auto bit = [](int number) { return 1U << static_cast<unsigned>(number); };
 
 QuizTicks ticks(Bits classes, Bits tenses)
 {

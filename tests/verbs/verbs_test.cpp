@@ -167,12 +167,12 @@ TEST_F(Verbs, AreConjugatedAsOnThePagesOfAGrammarOverTheVerbBeforeWithMarksAndWi
 TEST_F(Verbs, HaveAShortImperativeOfThreeStemsOnly)
 {
     settings.ShowVowelLength = platform::FlagTrue;
-    for (const std::string stem : {"dic", "duc", "du:c", "di:c", "fac", "fer"}) {
+    for (const std::string imperative : {"dic", "duc", "du:c", "di:c-e", "fac-e", "fer-e"}) {
+        const std::string stem = imperative.substr(0, imperative.find('-'));
         for (const int verbClass : {ThirdConjugation, ThirdIoConjugation})
             storeVerb(verbClass, 1, {stem, "", "", {}});
         verbdrills::generateParadigms();
-        const bool bare = stem == "dic" || stem == "duc" || stem == "du:c";
-        EXPECT_EQ(verbTables.Forms[ThirdConjugation][62], bare ? stem : stem + "e");
+        EXPECT_EQ(verbTables.Forms[ThirdConjugation][62], imperative == stem ? stem : stem + "e");
         EXPECT_EQ(verbTables.Forms[ThirdIoConjugation][62], stem + "e");
     }
 }
@@ -241,8 +241,7 @@ TEST_F(Verbs, AreAllDrawnWithTheirStemsAndTranslations)
         }
     }
     EXPECT_EQ(drawn.size(), 15U + 7 + 1 + 4 + 1);
-    EXPECT_TRUE(drawn.contains("115") && drawn.contains("27") && drawn.contains("44") &&
-                drawn.contains("51"));
+    EXPECT_TRUE(drawn.contains("115") && drawn.contains("27") && drawn.contains("44"));
 }
 
 TEST_F(Verbs, AreReadBySectionsWhateverEndsTheFieldsAndAgainWithTwoCountsSwapped)

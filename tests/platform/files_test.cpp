@@ -1,4 +1,5 @@
 #include "platform/file_replacement.h"
+#include "platform/text_file.h"
 #include "tests/support/fresh_state.h"
 #include "tests/support/full_disk.h"
 
@@ -9,7 +10,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-using FileReplacement = tests::FreshState;
+using Files = tests::FreshState;
 
 const std::string OldBytes = "the old words\n";
 const std::string NewBytes(100, 'x');
@@ -33,7 +34,7 @@ std::set<fs::path> filesBeside()
 }
 
 // What a crash left beside the file, or another program writes there, is in nobody's way.
-TEST_F(FileReplacement, LeavesTheOldFileWholeOnAFullDiskOrKilledAtAnyByteAndWhatStandsBesideItAlone)
+TEST_F(Files, AreReplacedWholeOrNotAtAllOnAFullDiskOrKilledAtAnyByteAndWhatStandsBesideIsLeftAlone)
 {
     for (const rlim_t written : {0U, 1U, 50U, 99U}) {
         tests::writeFile("a.lst", OldBytes);
@@ -53,10 +54,10 @@ TEST_F(FileReplacement, LeavesTheOldFileWholeOnAFullDiskOrKilledAtAnyByteAndWhat
     }
 }
 
-TEST_F(FileReplacement, RefusesWhatIsNoFileOrHasNoFolder)
+TEST_F(Files, AreNeitherReadNorWrittenWhereTheyAreNoFilesOrHaveNoFolder)
 {
     fs::create_directory("folder");
-    ASSERT_EQ(::mkfifo("pipe", 0600), 0);
+    ASSERT_EQ(::mkfifo("pipe", 0600), 0); // a pipe would be waited for
     for (const auto& [target, link] :
          {std::pair{"pipe", "link"}, {"nowhere/b", "astray"}, {"round", "round"}})
         fs::create_symlink(target, link);
@@ -68,10 +69,13 @@ TEST_F(FileReplacement, RefusesWhatIsNoFileOrHasNoFolder)
                                        {"round", ": Too many levels of symbolic links"}})
         EXPECT_EQ(platform::replaceFile(name, "x").value().message(), std::string(name) + reason);
     EXPECT_TRUE(platform::replaceFile("nowhere/a.lst", "x"));
+    EXPECT_EQ(platform::readTextFile("nowhere").fault->message(), "nowhere: No such file or directory");
+    for (const std::string name : {"folder", "pipe"})
+        EXPECT_EQ(platform::readTextFile(name).fault->message(), name + ": not a file that can be read");
     EXPECT_EQ(filesBeside(), before);
 }
 
-TEST_F(FileReplacement, KeepsALinkAndTheRightsOfTheFileAndMakesOneThatIsMissing)
+TEST_F(Files, KeepTheirLinkAndTheirRightsAndAreMadeWhereTheyAreMissing)
 {
     fs::create_directory("folder");
     fs::create_symlink("../real.lst", "folder/link.lst");
@@ -83,6 +87,17 @@ TEST_F(FileReplacement, KeepsALinkAndTheRightsOfTheFileAndMakesOneThatIsMissing)
         EXPECT_EQ(tests::bytesOf("real.lst"), "new");
         EXPECT_EQ(fs::status("real.lst").permissions(), rights);
     }
+}
+
+TEST_F(Files, AreCutAfterAWholeLineWhereTheyAreOverlong)
+{
+    std::string bytes;
+    while (bytes.size() <= platform::LongestFile)
+        bytes += "amo:, I love\n";
+    tests::writeFile("long.lst", bytes);
+    const std::string text = platform::readTextFile("long.lst").text;
+    EXPECT_EQ(text.size(), platform::LongestFile / 13 * 13);
+    EXPECT_TRUE(text.ends_with("love\n"));
 }
 
 } // namespace
