@@ -61,8 +61,7 @@ protected:
     {
         QWidgetList shown = QApplication::topLevelWidgets();
         shown.removeIf([](const QWidget* window) {
-            return !window->isVisible() || window->objectName().isEmpty() ||
-                   qobject_cast<const QMenu*>(window);
+            return !window->isVisible() || window->objectName().isEmpty() || window->inherits("QMenu");
         });
         // Qt's own order changes from run to run.
         std::ranges::sort(shown, {}, &QWidget::objectName);
@@ -89,9 +88,8 @@ protected:
     Part* anyPart(const QWidget& window)
     {
         QList<Part*> parts = window.findChildren<Part*>();
-        parts.removeIf([this](const Part* part) {
-            return !part->isVisible() || !part->isEnabled() || !mayTouch(*part);
-        });
+        parts.removeIf(
+            [&](auto* part) { return !part->isVisible() || !part->isEnabled() || !mayTouch(*part); });
         return parts.isEmpty() ? nullptr : parts.at(below(parts.size()));
     }
 
@@ -112,8 +110,8 @@ protected:
         if (target == nullptr)
             return;
         const auto action = below(4) == 0 ? QTest::MouseDClick : QTest::MouseClick;
-        const QPoint place(below(std::max(1, target->width())), below(std::max(1, target->height())));
-        QTest::mouseEvent(action, target, Qt::LeftButton, Qt::NoModifier, place);
+        const QPoint place(below(target->width() + 1), below(target->height() + 1));
+        QTest::mouseEvent(action, target, Qt::LeftButton, {}, place);
     }
 
     // So that drills come to their end as well.

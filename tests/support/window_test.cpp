@@ -9,12 +9,6 @@ QWidget& focused(QWidget& window)
     return window.focusWidget() == nullptr ? window : *window.focusWidget();
 }
 
-QPoint middleOf(QListWidget& list, int row)
-{
-    list.scrollToItem(list.item(row));
-    return list.visualItemRect(list.item(row)).center();
-}
-
 } // namespace
 
 QWidget& WindowTest::start()
@@ -92,14 +86,15 @@ void choose(QWidget& window, const QString& item)
 
 void clickRow(QListWidget& list, int row)
 {
-    QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, middleOf(list, row));
+    list.scrollToItem(list.item(row));
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualItemRect(list.item(row)).center());
     QApplication::processEvents();
 }
 
 void doubleClickRow(QListWidget& list, int row)
 {
     clickRow(list, row);
-    QTest::mouseDClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, middleOf(list, row));
+    QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, list.visualItemRect(list.item(row)).center());
     QApplication::processEvents();
 }
 

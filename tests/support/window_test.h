@@ -44,10 +44,7 @@ protected:
     static auto& list(const QWidget& in, const QString& name) { return control<QListWidget>(in, name); }
     static auto& line(const QWidget& in, const QString& name) { return control<QLineEdit>(in, name); }
     static auto& button(const QWidget& in, const QString& name) { return control<QAbstractButton>(in, name); }
-    static QLineEdit& box(const QWidget& in, const QString& name, int number)
-    {
-        return line(in, name + QString::number(number));
-    }
+    static auto& box(const QWidget& in, QString name, int n) { return line(in, name += QString::number(n)); }
 
     /// Does something once, in the middle of the next pause.
     void duringPause(std::function<void()> action);

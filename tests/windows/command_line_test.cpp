@@ -27,55 +27,32 @@ TEST(CommandLine, TakesOneFolderAndKnowsItsOptions)
 // What is thrown while an event is handled, such as an index past a table, ends the program with one line.
 TEST(Faults, EndTheProgramWithOneLineAndStatusOne)
 {
-    class Faulty : public QObject {
-        bool event(QEvent*) override { throw std::out_of_range("no such word"); }
-    };
     const auto run = [] {
         std::string name = "morvanti";
         char* arguments[] = {name.data(), nullptr};
         int count = 1;
         app::Application application(count, arguments);
-        Faulty faulty;
-        QEvent event(QEvent::User);
-        QCoreApplication::sendEvent(&faulty, &event);
+        QTimer::singleShot(0, [] { throw std::out_of_range("no such word"); });
+        QCoreApplication::processEvents();
     };
     EXPECT_EXIT(run(), testing::ExitedWithCode(EXIT_FAILURE), "morvanti: no such word\n$");
 }
 
-class WorkingFolder : public tests::FreshState {
-protected:
-    WorkingFolder()
-    {
-        qputenv("XDG_DATA_HOME", fs::absolute("own").c_str());
-        fs::create_directory("samples");
-        fs::create_directories("work/mine");
-        for (const std::string name : {"verbs.cfg", "VELMOR2.WAV", "right.wav", "make-sounds"})
-            tests::writeFile("samples/" + name, name);
-    }
+using WorkingFolder = tests::FreshState;
 
+TEST_F(WorkingFolder, IsTheOneGivenOrTheCurrentOneWithAVerbListOrTheLearnersOwnFilledOnceAndWhole)
+{
+    const fs::path top = fs::current_path();
+    qputenv("XDG_DATA_HOME", (top / "own").c_str());
+    fs::create_directory("samples");
+    fs::create_directories("work/mine");
+    for (const std::string name : {"verbs.cfg", "VELMOR2.WAV", "right.wav", "make-sounds"})
+        tests::writeFile("samples/" + name, name);
     // The fault, where there is one, or else the name of the folder that the program works in then.
-    std::string enter(const std::optional<std::string>& folder = {}) const
-    {
-        fs::current_path(top_ / "work");
-        return app::enterWorkingFolder(folder, top_ / "samples").value_or(fs::current_path().filename());
-    }
-
-    const fs::path top_ = fs::current_path();
-};
-
-TEST_F(WorkingFolder, IsTheOneGivenOrTheCurrentOneWhereItHasAVerbListOrTheOwnCannotBeMade)
-{
-    EXPECT_EQ(enter("nowhere"), "nowhere: No such file or directory");
-    tests::writeFile("../own", "a file");
-    EXPECT_EQ(enter(), "work");
-    fs::remove("../own");
-    tests::writeFile("verbs.cfg", "");
-    EXPECT_EQ(enter("mine"), "mine");
-    EXPECT_EQ(enter(), "work");
-}
-
-TEST_F(WorkingFolder, IsElseTheLearnersOwnFilledOnceAndWholeWithoutReplacingAnything)
-{
+    const auto enter = [&](const std::optional<std::string>& folder = {}) {
+        fs::current_path(top / "work");
+        return app::enterWorkingFolder(folder, top / "samples").value_or(fs::current_path().filename());
+    };
     {
         const tests::FullDisk disk(1);
         EXPECT_EQ(enter(), "work");
@@ -87,10 +64,18 @@ TEST_F(WorkingFolder, IsElseTheLearnersOwnFilledOnceAndWholeWithoutReplacingAnyt
     EXPECT_EQ(tests::bytesOf("verbs.cfg") + tests::bytesOf("VELMOR2.WAV"), "verbs.cfgVELMOR2.WAV");
     EXPECT_EQ(tests::bytesOf("right.wav"), "my own");
     EXPECT_FALSE(fs::exists("make-sounds"));
-
     fs::remove("VELMOR2.WAV");
     EXPECT_EQ(enter(), "morvanti");
     EXPECT_FALSE(fs::exists("VELMOR2.WAV"));
+
+    EXPECT_EQ(enter("nowhere"), "nowhere: No such file or directory");
+    tests::writeFile("verbs.cfg", "");
+    EXPECT_EQ(enter("mine"), "mine");
+    EXPECT_EQ(enter(), "work");
+    fs::remove("verbs.cfg");
+    fs::remove_all("../own");
+    tests::writeFile("../own", "a file");
+    EXPECT_EQ(enter(), "work");
 }
 
 } // namespace

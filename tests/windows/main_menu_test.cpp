@@ -11,7 +11,7 @@ using tests::shownWindow;
 
 using MainMenu = tests::WindowTest;
 
-TEST_F(MainMenu, SpeaksTheLanguageItIsSwitchedToAndKeepsTwoUnavailable)
+TEST_F(MainMenu, SpeaksTheLanguageItIsSwitchedToWithTwoUnavailableAndChangesTheSettings)
 {
     QWidget& menu = start();
     for (const auto& [chosen, verbs, exit] :
@@ -26,12 +26,6 @@ TEST_F(MainMenu, SpeaksTheLanguageItIsSwitchedToAndKeepsTwoUnavailable)
             EXPECT_EQ(item->isEnabled(), language != "ItalianLang" && language != "NorwegianLang");
         }
     }
-    EXPECT_EQ(settings.SettingsChangeCount, 2);
-}
-
-TEST_F(MainMenu, ChangesTheSettings)
-{
-    QWidget& menu = start();
     const auto linesAfter = [&menu](const QStringList& items) {
         for (const QString& item : items)
             choose(menu, item);
@@ -39,12 +33,12 @@ TEST_F(MainMenu, ChangesTheSettings)
     };
     EXPECT_EQ(linesAfter({"RandomOrder", "NADGABOrder", "SoundStatus", "SaveSettings", "VowelLengthVal"}),
               "6|-1|-1| 2|English|NAGDAb|Random| 2| 0");
-    EXPECT_EQ(settings.SettingsChangeCount, 3);
+    EXPECT_EQ(settings.SettingsChangeCount, 5);
     EXPECT_EQ(linesAfter({"SoundStatus", "SequentialOrder", "NGDAABOrder"}),
               "6|-1| 0| 2|English|NGDAAb|Sequential| 2| 0");
 }
 
-TEST_F(MainMenu, OpensEachExerciseByButtonAndItemWithHelpAtHand)
+TEST_F(MainMenu, OpensEachExerciseByButtonAndItemWithTheGuideAtHandWhereNoViewerCanBeStarted)
 {
     struct Opener {
         QStringList controls;
@@ -76,16 +70,11 @@ TEST_F(MainMenu, OpensEachExerciseByButtonAndItemWithHelpAtHand)
                 EXPECT_EQ(settings.ExerciseType, exercise) << window;
                 EXPECT_NE(shownWindow("Help"), nullptr) << window;
             }
-}
-
-TEST_F(MainMenu, OpensTheGuideWhereNoViewerCanBeStarted)
-{
-    QWidget& menu = start();
-    press(menu, Qt::Key_F1);
-    EXPECT_EQ(fake.programs, std::vector<std::string>{"winhelp.exe morvanti.hlp"});
-    tests::click(tests::shown("Help"), "Command1");
+    fake.programs.clear();
     fake.programsStart = true;
-    choose(menu, "HELPME");
+    press(start(), Qt::Key_F1);
+    choose(tests::shown("MainMenu"), "HELPME");
+    EXPECT_EQ(fake.programs, std::vector<std::string>(2, "winhelp.exe morvanti.hlp"));
     EXPECT_EQ(shownWindow("Help"), nullptr);
 }
 

@@ -54,7 +54,7 @@ protected:
 };
 
 // Neither another row nor another opening brings a text back that was not added.
-TEST_F(Managers, FillTheBoxesFromTheListOfVerbsAloneAndPreviewTheirForms)
+TEST_F(Managers, FillTheBoxesFromTheListOfVerbsAlonePreviewFormsStoreAVerbOnItsRowAndRefuseASixteenth)
 {
     openVerbs();
     const QString first = shownRecord();
@@ -79,11 +79,7 @@ TEST_F(Managers, FillTheBoxesFromTheListOfVerbsAloneAndPreviewTheirForms)
     EXPECT_EQ(shownRecord(), first);
     chooseWord(4, 12);
     EXPECT_EQ(shownRecord(), "||||||");
-}
 
-TEST_F(Managers, StoreAVerbOnItsRowAndRefuseASixteenth)
-{
-    openVerbs();
     chooseWord(0, 3);
     fillBox("VerbManagerGermanForms0", "extol");
     clickAdd();
@@ -107,7 +103,7 @@ TEST_F(Managers, StoreAVerbOnItsRowAndRefuseASixteenth)
     EXPECT_FALSE(std::filesystem::exists("morvanti.ini"));
 }
 
-TEST_F(Managers, ShowTheNounsOfEachDeclensionAndLetThemBe)
+TEST_F(Managers, ShowTheNounsAndLetThemBeAndAddOneToTheParadigmThatIsChosenWithItsMarksAsTheyAreShown)
 {
     openNouns();
     for (int declension = 0; const auto& [count, row, noun, record] :
@@ -123,11 +119,8 @@ TEST_F(Managers, ShowTheNounsOfEachDeclensionAndLetThemBe)
         EXPECT_EQ(shownRecord(), record);
     }
     EXPECT_EQ(nounList.NounCount[FourthDeclension], 5);
-}
 
-TEST_F(Managers, AddANounToTheParadigmThatIsChosenWithItsMarksAsTheyAreShown)
-{
-    openNouns();
+    clickRow(classes(), 0);
     clickAdd();
     EXPECT_EQ(shell::settings.ActiveWindowName, "NHadd");
     EXPECT_EQ(listed().back(), "** Add New Item Here **");
