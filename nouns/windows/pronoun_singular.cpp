@@ -12,6 +12,7 @@
 #include <QBoxLayout>
 #include <QGridLayout>
 #include <QLabel>
+#include <QPushButton>
 
 namespace nouns {
 

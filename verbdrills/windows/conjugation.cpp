@@ -13,6 +13,7 @@
 #include <QBoxLayout>
 #include <QGridLayout>
 #include <QLabel>
+#include <QPushButton>
 
 namespace verbdrills {
 
