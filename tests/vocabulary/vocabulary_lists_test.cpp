@@ -57,7 +57,8 @@ TEST_F(VocabularyLists, AreEditedInPlaceAndGivenBackWithTheirTest)
     VocabularyTester& test = vocabularyTester;
     for (const WordRecord& record : {Rose, Rome, Rose})
         EXPECT_TRUE(addWord(record) && changesArePending());
-    EXPECT_FALSE(saveList("words.lst") || changesArePending());
+    vocabularyList.CurrentWord = 3;
+    EXPECT_FALSE(saveList("words.lst") || changesArePending() || vocabularyList.CurrentWord > 0);
     vocabularyList.CurrentWord = 2;
     test.RightAnswers[3] = test.Misses[150] = 7;
     test.Omitted[3] = platform::FlagTrue;
