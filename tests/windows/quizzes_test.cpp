@@ -49,6 +49,7 @@ protected:
     static void expectQuestion()
     {
         EXPECT_FALSE(text("QuizItem").isEmpty());
+        EXPECT_EQ(text("QuizBaseForm").toStdString(), verbdrills::titleOfFormAsked());
         EXPECT_EQ(text("QuizYourAnswer") + text("QuizHeading") + text("QuizCorrect"), "");
         for (const char* const name : {"QuizConjList", "QuizTenseList"})
             EXPECT_TRUE(list(quiz(), name).selectedItems().isEmpty());
