@@ -50,6 +50,12 @@ void closeGap(platform::Table<Value, Size>& table, int number)
     table[table.size() - 1] = {};
 }
 
+bool isMissing(const std::filesystem::path& path)
+{
+    std::error_code error;
+    return !std::filesystem::exists(path, error) && !error;
+}
+
 } // namespace
 
 bool changesArePending()
@@ -77,6 +83,14 @@ std::optional<LoadFault> loadList(const std::filesystem::path& path)
     if (!file.fault || !file.fault->refused())
         takeList(file.records, path);
     return file.fault;
+}
+
+std::string openDefaultList()
+{
+    vocabularyTester = {};
+    const auto fault = loadList(DefaultListName);
+    beginTest();
+    return fault && !isMissing(DefaultListName) ? fault->message() : "";
 }
 
 bool wouldReplaceAnotherFile(const std::filesystem::path& path)

@@ -47,6 +47,11 @@ void beginNewList();
 /// as it was.
 std::optional<LoadFault> loadList(const std::filesystem::path& path);
 
+/// Resets the tester and begins to test the default list, "vr-vcab.lst" of the working folder. Returns what
+/// the learner is to be told. Where the default list is missing, which is passed over silently, or refused,
+/// the list in memory is tested.
+std::string openDefaultList();
+
 /// True where a save would replace a file that the list was neither read from nor saved to.
 bool wouldReplaceAnotherFile(const std::filesystem::path& path);
 

@@ -2,12 +2,10 @@
 
 #include "platform/platform.h"
 #include "platform/random.h"
-#include "vocabulary/vocabulary_edits.h"
 #include "vocabulary/vocabulary_list.h"
 
 #include <algorithm>
 #include <cstdlib>
-#include <filesystem>
 #include <limits>
 #include <stdexcept>
 #include <string>
@@ -133,12 +131,6 @@ bool findRandomWord()
     return true;
 }
 
-bool isMissing(const std::filesystem::path& path)
-{
-    std::error_code error;
-    return !std::filesystem::exists(path, error) && !error;
-}
-
 void askCurrentWord(bool asked)
 {
     vocabularyTester.WordIsAsked = platform::flagOf(asked);
@@ -147,14 +139,6 @@ void askCurrentWord(bool asked)
 }
 
 } // namespace
-
-std::string openDefaultList()
-{
-    vocabularyTester = {};
-    const auto fault = loadList(DefaultListName);
-    beginTest();
-    return fault && !isMissing(DefaultListName) ? fault->message() : "";
-}
 
 void beginTest()
 {

@@ -64,11 +64,6 @@ struct VocabularyTester {
 
 inline VocabularyTester vocabularyTester;
 
-/// Resets the tester and begins to test the default list, "vr-vcab.lst" of the working folder. Returns what
-/// the learner is to be told. Where the default list is missing, which is passed over silently, or refused,
-/// the list in memory is tested.
-std::string openDefaultList();
-
 /// Begins to test the list in memory at its first word, or the first after it that can be asked. The counts,
 /// misses and omissions stay.
 void beginTest();

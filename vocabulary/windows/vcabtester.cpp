@@ -9,6 +9,7 @@
 #include "shell/language_texts.h"
 #include "shell/pause.h"
 #include "shell/settings.h"
+#include "vocabulary/vocabulary_edits.h"
 #include "vocabulary/vocabulary_list.h"
 #include "vocabulary/vocabulary_tester.h"
 #include "vocabulary/windows/vcabtester_menus.h"
