@@ -28,14 +28,19 @@ void ask(int box)
     declensionDrill.CurrentCaseIndex = static_cast<std::int16_t>(box);
 }
 
+shell::Round casesOfNoun()
+{
+    return {.inRandomOrder = settings.QuestionOrder == shell::question_order::Random,
+            .first = 0,
+            .last = CaseCount - 1,
+            .following = nextInCaseOrder};
+}
+
 // Asks the next box of the round; false when all ten have been asked.
 bool askNextBox()
 {
-    const shell::Round round{.inRandomOrder = settings.QuestionOrder == shell::question_order::Random,
-                             .first = 0,
-                             .last = CaseCount - 1,
-                             .following = nextInCaseOrder};
-    const auto next = shell::questionAfter(declensionDrill.CurrentCaseIndex, round, declensionDrill.CaseDone);
+    const auto next =
+        shell::questionAfter(declensionDrill.CurrentCaseIndex, casesOfNoun(), declensionDrill.CaseDone);
     if (next)
         ask(*next);
     return next.has_value();
@@ -93,6 +98,20 @@ Judgement judgeDeclension(const std::string& answer)
     if (answer == declensionDrill.ExpectedAnswer)
         return Judgement::Right;
     return judgedBefore ? Judgement::NotAgain : Judgement::Wrong;
+}
+
+bool answersAnotherCase(const std::string& answer)
+{
+    const auto& forms = nounTables.NounForms[declensionDrill.DrillParadigm];
+    for (int number = NominativeSingular; number <= CaseCount; ++number)
+        if (answer == forms[number])
+            return true;
+    return false;
+}
+
+shell::Place placeOfCase()
+{
+    return shell::placeInRound(declensionDrill.CurrentCaseIndex, casesOfNoun(), declensionDrill.CaseDone);
 }
 
 DeclensionAdvance advanceDeclension()

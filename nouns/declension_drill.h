@@ -3,6 +3,7 @@
 #include "nouns/noun_paradigm.h"
 #include "platform/flag.h"
 #include "platform/table.h"
+#include "shell/round.h"
 
 #include <cstdint>
 #include <string>
@@ -58,6 +59,12 @@ enum class Judgement { Right, Wrong, NotAgain };
 
 /// Checks an answer against `ExpectedAnswer`, letter by letter; sets `AnswerGiven`.
 Judgement judgeDeclension(const std::string& answer);
+
+/// Whether an answer is the form of another case of the noun.
+bool answersAnotherCase(const std::string& answer);
+
+/// The how-many-th form of the noun is asked.
+shell::Place placeOfCase();
 
 /// Where the drill goes after a right answer.
 enum class DeclensionAdvance {

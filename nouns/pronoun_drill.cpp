@@ -113,6 +113,19 @@ bool isRightPronoun(const std::string& answer)
     return answer == pronounDrill.ExpectedAnswer;
 }
 
+bool answersAnotherCell(const std::string& answer)
+{
+    for (int cell = 1; cell <= CellCount; ++cell)
+        if (hasForm(cell) && answer == pronounFormAt(cell))
+            return true;
+    return false;
+}
+
+shell::Place placeOfCell()
+{
+    return shell::placeInRound(pronounDrill.CurrentCell, cellsOfNumber(), pronounDrill.CellDone);
+}
+
 PronounAdvance advancePronouns()
 {
     if (askNextCell())

@@ -3,6 +3,7 @@
 #include "nouns/pronoun_forms.h"
 #include "platform/flag.h"
 #include "platform/table.h"
+#include "shell/round.h"
 
 #include <cstdint>
 #include <string>
@@ -57,6 +58,12 @@ void setPronounQuestion();
 
 /// Checks an answer against `ExpectedAnswer`, letter by letter.
 bool isRightPronoun(const std::string& answer);
+
+/// Whether an answer is the form of another box.
+bool answersAnotherCell(const std::string& answer);
+
+/// The how-many-th form of this number is asked.
+shell::Place placeOfCell();
 
 /// Where the drill goes after a right answer.
 enum class PronounAdvance {

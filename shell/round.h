@@ -22,6 +22,12 @@ struct Round {
     bool (*canBeAsked)(int question) = [](int) { return true; };
 };
 
+/// Where a question stands among those that are asked: the `number`th of `count`.
+struct Place {
+    int number;
+    int count;
+};
+
 /// Draws one of the questions that can be asked and are not done; none where all are.
 template <std::size_t Size>
 std::optional<int> drawQuestionLeft(const Round& round, const platform::Table<platform::Flag, Size>& done)
@@ -44,6 +50,27 @@ std::optional<int> questionAfter(int current, const Round& round, platform::Tabl
     }
     const int next = round.following(current);
     return next <= round.last ? std::optional(next) : std::nullopt;
+}
+
+/// The place of the question `current` in the order in which the round asks.
+template <std::size_t Size>
+Place placeInRound(int current, const Round& round, const platform::Table<platform::Flag, Size>& done)
+{
+    Place place{.number = 1, .count = 0};
+    for (int question = round.first; question <= round.last; ++question) {
+        if (!round.canBeAsked(question))
+            continue;
+        ++place.count;
+        if (round.inRandomOrder && question != current && done[question] == platform::FlagTrue)
+            ++place.number;
+    }
+    if (round.inRandomOrder)
+        return place;
+    for (int question = round.first; question != current && place.number < place.count;
+         question = round.following(question))
+        if (round.canBeAsked(question))
+            ++place.number;
+    return place;
 }
 
 } // namespace shell

@@ -113,6 +113,34 @@ bool judgeConjugation(const std::string& answer)
     return answer == conjugationDrill.CorrectForm;
 }
 
+bool answersAnotherPerson(const std::string& answer)
+{
+    const auto& column = verbTables.Forms[currentParadigm.ConjugationCode];
+    for (int person = verbs::FirstSingular; person <= verbs::PersonCount; ++person)
+        if (person != conjugationDrill.PersonIndex + 1 && !answer.empty() &&
+            answer == column[verbs::formNumber(currentParadigm.TenseMoodCode, person)])
+            return true;
+    return false;
+}
+
+shell::Place placeOfTense()
+{
+    shell::Place place{.number = 0, .count = 0};
+    for (int block = verbs::PresentIndicative; block <= verbs::BlockCount; ++block) {
+        if (!blockHasForms(block))
+            continue;
+        ++place.count;
+        if (block <= currentParadigm.TenseMoodCode)
+            ++place.number;
+    }
+    return place;
+}
+
+shell::Place placeOfClass()
+{
+    return {.number = currentParadigm.ConjugationCode, .count = verbs::LastRegularClass};
+}
+
 Advance advanceAfterRightAnswer()
 {
     if (askNextPerson())

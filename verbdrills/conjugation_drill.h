@@ -2,6 +2,7 @@
 
 #include "platform/flag.h"
 #include "platform/table.h"
+#include "shell/round.h"
 #include "verbs/paradigm.h"
 
 #include <cstdint>
@@ -56,6 +57,14 @@ void buildDrillHeading();
 
 /// Whether an answer is `CorrectForm`, letter by letter; notes the answer and sets `FeedbackPending`.
 bool judgeConjugation(const std::string& answer);
+
+/// Whether an answer is the form of another person of the tense.
+bool answersAnotherPerson(const std::string& answer);
+
+/// Which tense is drilled, of those of its class that have forms; which class, while one tense is drilled
+/// through the classes.
+shell::Place placeOfTense();
+shell::Place placeOfClass();
 
 /// Where the drill goes after a right answer.
 enum class Advance {

@@ -185,6 +185,11 @@ std::string hintText()
     return vocabularyTester.WordIsAsked == platform::FlagTrue ? currentRecord().hint : std::string();
 }
 
+bool hintGivesAnswerAway()
+{
+    return vocabularyTester.AsksWithTranslation == platform::FlagTrue;
+}
+
 Judgement judge(const std::string& answer)
 {
     vocabularyTester.LastAnswer = answer;

@@ -80,6 +80,9 @@ std::string questionText();
 std::string expectedAnswer();
 std::string hintText();
 
+/// Whether the hint would give the answer away: where the word itself is expected.
+bool hintGivesAnswerAway();
+
 /// What came of an answer. "?" asks for the right one, and is none itself.
 enum class Judgement { Right, Wrong, AnswerWanted, NothingAsked };
 

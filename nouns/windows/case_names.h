@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shell/language_texts.h"
+
 #include <array>
 #include <string_view>
 
@@ -8,5 +10,11 @@ namespace nouns {
 /// The names of the cases, from the nominative to the ablative, as windows label their rows.
 inline constexpr std::array<std::string_view, 5> CaseNames = {"Nominative", "Genitive", "Dative",
                                                               "Accusative", "Ablative"};
+
+// clang-format off
+//                                          English           French             Italian           German            Spanish          Latin
+inline constexpr shell::LanguageTexts FormOf{"form %1 of %2", "forme %1 sur %2", "forma %1 di %2", "Form %1 von %2", "forma %1 de %2", "forma %1 ex %2"};
+inline constexpr shell::LanguageTexts OtherCase{"This is the ending of another case.", "C'est la terminaison d'un autre cas.", "È la desinenza di un altro caso.", "Das ist die Endung eines anderen Falls.", "Es la terminación de otro caso.", "Haec est desinentia alius casus."};
+// clang-format on
 
 } // namespace nouns

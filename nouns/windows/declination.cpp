@@ -27,7 +27,7 @@ using shell::settings;
 
 namespace {
 
-constexpr QSize LargestBlock{92, 36};
+constexpr QSize LargestBlock{92, shell::AsItsLines};
 
 // Places in twips: of the frames and the names of the cases in the window, of the boxes in their frame. The
 // last row ends where a sixth would begin.
@@ -38,10 +38,17 @@ constexpr RowTops BoxTops = {360, 960, 1560, 2160, 2760, 3360};
 constexpr RowTops NameTops = {2250, 2850, 3450, 4050, 4650, 5250};
 constexpr RowTops NameTopsWithAccusativeSecond = {2250, 2850, 3465, 4050, 4650, 5250}; // sic
 
+int pixels(int twips, shell::Growth growth)
+{
+    return qRound(twips * growth / TwipsOfPixel);
+}
+
 void placeTops(QGridLayout& rows, const RowTops& tops)
 {
-    for (std::size_t row = 0; row + 1 < tops.size(); ++row)
-        rows.setRowMinimumHeight(static_cast<int>(row), (tops.at(row + 1) - tops.at(row)) / TwipsOfPixel);
+    shell::keepMeasure(rows, "tops", [&rows, &tops](shell::Growth growth) {
+        for (std::size_t row = 0; row + 1 < tops.size(); ++row)
+            rows.setRowMinimumHeight(static_cast<int>(row), pixels(tops.at(row + 1) - tops.at(row), growth));
+    });
 }
 
 QGridLayout* makeRows()
@@ -78,7 +85,7 @@ Declination::Declination() : BoxDrill("Declination", "declination", shell::exerc
 void Declination::makeControls()
 {
     heading_ = shell::makeLabel(this, "HeadingLabel", shell::FormType);
-    noun_ = shell::makeHeading(this, "NounLabel", shell::HeadingType);
+    noun_ = shell::makeHeading(this, "NounLabel", shell::QuestionType);
     shell::wrapText(*noun_, 1);
     singular_ = shell::makeControl<QGroupBox>(this, "Frame1");
     plural_ = shell::makeControl<QGroupBox>(this, "Frame2");
@@ -93,7 +100,9 @@ void Declination::makeBoxes()
     for (std::size_t i = 0; i < cases_.size(); ++i) {
         cases_.at(i) = shell::makeLabelOf(boxes().at(i), CaseLabels.at(i));
         cases_.at(i)->setText(shell::fromUtf8(CaseNames.at(i)));
-        cases_.at(i)->setMinimumHeight(boxes().at(i)->sizeHint().height());
+        shell::keepMeasure(*cases_.at(i), "height", [this, i](shell::Growth) {
+            cases_.at(i)->setMinimumHeight(boxes().at(i)->sizeHint().height());
+        });
     }
 }
 
@@ -104,16 +113,22 @@ void Declination::layOut()
     nameRows_ = makeRows();
     singularRows_ = makeRows();
     pluralRows_ = makeRows();
-    singular_->setLayout(shell::rowOf(shell::MediumSpace, {nameRows_, {singularRows_, 1}}));
-    plural_->setLayout(shell::rowOf(0, {pluralRows_}));
+    singular_->setLayout(singularRows_);
+    plural_->setLayout(pluralRows_);
     layOutLines(LargestBlock, shell::DrillMargins,
-                {heading, shell::rowOf(shell::LargeSpace, {{singular_, 4}, {plural_, 3}}), Part::gap(),
+                {heading, shell::rowOf(shell::LargeSpace, {nameRows_, {singular_, 1}, {plural_, 1}}),
+                 whyLabel(),
                  helpAndButtons({makeCheckButton("Continue"), makeQuestionButton("DeclQuestion"),
                                  makeQuitButton("DeclQuitButton")})});
     // Gives way on a small screen, where the buttons matter more than the frames' place.
-    const int above = layout()->contentsMargins().top() + shell::LargeSpace + shell::MediumSpace;
-    heading->addSpacerItem(
-        new QSpacerItem(0, FrameTop / TwipsOfPixel - above, QSizePolicy::Fixed, QSizePolicy::Maximum));
+    constexpr int above = shell::EdgeMargins.top() + shell::DrillMargins.top() + shell::MediumSpace;
+    auto* const space = new QSpacerItem(0, 0);
+    heading->addSpacerItem(space);
+    shell::keepMeasure(*heading, "frames", [=](shell::Growth growth) {
+        space->changeSize(0, pixels(FrameTop, growth) - qRound(above * growth), QSizePolicy::Fixed,
+                          QSizePolicy::Maximum);
+        heading->invalidate();
+    });
 }
 
 void Declination::placeRows()
@@ -127,12 +142,14 @@ void Declination::placeRows()
     }
     const bool accusativeSecond = settings.CaseOrder == shell::case_order::NAGDAb;
     placeTops(*nameRows_, accusativeSecond ? NameTopsWithAccusativeSecond : NameTops);
-    for (const QGroupBox* const frame : {singular_, plural_}) {
-        const int belowTitle =
-            std::max(shell::HairSpace, BoxTops.front() / TwipsOfPixel - frame->contentsMargins().top());
-        frame->layout()->setContentsMargins(shell::MediumSpace, belowTitle, shell::MediumSpace,
-                                            shell::SmallSpace);
-    }
+    shell::keepMeasure(*singular_, "firstBox", [this](shell::Growth growth) {
+        const int title = singular_->contentsMargins().top();
+        const int belowTitle = std::max(shell::HairSpace, pixels(BoxTops.front(), growth) - title);
+        for (const QGroupBox* const frame : {singular_, plural_})
+            frame->layout()->setContentsMargins(shell::MediumSpace, belowTitle, shell::MediumSpace,
+                                                shell::SmallSpace);
+        nameRows_->setContentsMargins(0, title + belowTitle, 0, 0);
+    });
 }
 
 void Declination::open()
@@ -167,6 +184,7 @@ int Declination::askedBoxNumber() const
 void Declination::setQuestion()
 {
     setDeclensionQuestion();
+    showPlace(FormOf, placeOfCase());
 }
 
 void Declination::boxEntered(int /*number*/)
@@ -182,9 +200,14 @@ std::optional<bool> Declination::judge(const std::string& typed)
     return judgement == Judgement::Right;
 }
 
-const std::string& Declination::answer() const
+std::string Declination::answer() const
 {
     return declensionDrill.ExpectedAnswer;
+}
+
+std::optional<shell::LanguageTexts> Declination::answersAnother(const std::string& typed) const
+{
+    return answersAnotherCase(typed) ? std::optional(OtherCase) : std::nullopt;
 }
 
 void Declination::answerShown()

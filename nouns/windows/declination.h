@@ -32,7 +32,8 @@ public:
 protected:
     int askedBoxNumber() const override;
     void setQuestion() override;
-    const std::string& answer() const override;
+    std::string answer() const override;
+    std::optional<shell::LanguageTexts> answersAnother(const std::string& typed) const override;
     std::optional<bool> judge(const std::string& typed) override;
     void boxEntered(int number) override;
     void answerShown() override;

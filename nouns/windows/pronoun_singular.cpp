@@ -22,7 +22,7 @@ using shell::Part;
 
 namespace {
 
-constexpr QSize LargestBlock{100, 34};
+constexpr QSize LargestBlock{100, shell::AsItsLines};
 
 // French and Italian keep the texts that the window is designed with.
 // clang-format off
@@ -75,7 +75,7 @@ PronounSingular::PronounSingular() : BoxDrill("PronounSingular", "pronoun", shel
 
 void PronounSingular::makeControls()
 {
-    heading_ = shell::makeHeading(this, "HeadingLabel", shell::HeadingType);
+    heading_ = shell::makeHeading(this, "HeadingLabel", shell::QuestionType);
     shell::wrapText(*heading_, 1);
     for (std::size_t i = 0; i < columns_.size(); ++i)
         columns_.at(i) = shell::makeLabel(this, ColumnLabels.at(i));
@@ -99,8 +99,9 @@ void PronounSingular::layOut()
         rows_->setColumnStretch(column + 1, 1);
     }
     layOutLines(LargestBlock, shell::DrillMargins,
-                {withScore({heading_, 1}), Part::space(shell::SmallSpace), rows_, Part::gap(),
-                 helpAndButtons({makeCheckButton("PronounOK"), makeQuitButton("PronounCancel")})});
+                {withScore({heading_, 1}), Part::space(shell::SmallSpace), rows_, whyLabel(),
+                 helpAndButtons({makeCheckButton("PronounOK"), makeQuestionButton("PronounQuestion"),
+                                 makeQuitButton("PronounCancel")})});
 }
 
 void PronounSingular::placeRows()
@@ -147,6 +148,7 @@ int PronounSingular::askedBoxNumber() const
 void PronounSingular::setQuestion()
 {
     setPronounQuestion();
+    showPlace(FormOf, placeOfCell());
 }
 
 std::optional<bool> PronounSingular::judge(const std::string& typed)
@@ -154,9 +156,14 @@ std::optional<bool> PronounSingular::judge(const std::string& typed)
     return isRightPronoun(typed);
 }
 
-const std::string& PronounSingular::answer() const
+std::string PronounSingular::answer() const
 {
     return pronounDrill.ExpectedAnswer;
+}
+
+std::optional<shell::LanguageTexts> PronounSingular::answersAnother(const std::string& typed) const
+{
+    return answersAnotherCell(typed) ? std::optional(OtherCase) : std::nullopt;
 }
 
 void PronounSingular::quit()

@@ -70,11 +70,15 @@ void AnswerBox::focusInEvent(QFocusEvent* event)
 
 void AnswerBox::keyPressEvent(QKeyEvent* event)
 {
-    const QString typed = event->text();
-    if (typed == QLatin1String("/") || typed == QLatin1String("?"))
+    if (asksForHint(event->text()))
         Q_EMIT hintRequested();
     else
         QLineEdit::keyPressEvent(event);
+}
+
+bool AnswerBox::asksForHint(const QString& typed) const
+{
+    return typed == QLatin1String("/") || typed == QLatin1String("?");
 }
 
 void AnswerBox::setColours(const QColor& background, const QColor& text)

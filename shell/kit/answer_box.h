@@ -4,7 +4,7 @@
 
 namespace shell {
 
-/// A box into which a form is typed. "/" and "?" are not entered: they ask for a hint. Its looks are the
+/// A box into which a form is typed. A key that asks for a hint is not entered. Its looks are the
 /// colours that all drills share; a fixed colour of the text always comes with one of the background that it
 /// can be read on.
 class AnswerBox : public QLineEdit {
@@ -35,6 +35,9 @@ public:
     /// Makes this the box that is asked: it takes text, and the focus by the keyboard. Another box only sends
     /// the focus on.
     void setAsked(bool asked);
+
+    /// Whether what a key would type asks for a hint: "/" and "?" do.
+    virtual bool asksForHint(const QString& typed) const;
 
 Q_SIGNALS:
     void focusReceived();

@@ -12,7 +12,7 @@
 namespace shell {
 
 BoxDrill::BoxDrill(std::string_view name, std::string_view activeName, std::string_view exerciseType)
-    : DrillWindow(name, activeName, exerciseType), score_(makeHeading(this, "ScoreLabel", HeadingType))
+    : TypingDrill(name, activeName, exerciseType), score_(makeHeading(this, "ScoreLabel", HeadingType))
 {
 }
 
@@ -23,13 +23,16 @@ AnswerBox* BoxDrill::addBox(QWidget* parent, const QString& name)
     connect(box, &AnswerBox::focusReceived, this, [this, number] { boxReceivedFocus(number); });
     connect(box, &AnswerBox::hintRequested, this, &BoxDrill::hint);
     connect(box, &AnswerBox::returnPressed, this, &BoxDrill::check);
+    watch(*box);
     boxes_.push_back(box);
     return box;
 }
 
 QBoxLayout* BoxDrill::withScore(const Part& heading)
 {
-    return rowOf(MediumSpace, {heading, {score_, 0, Qt::AlignRight | Qt::AlignTop}});
+    QBoxLayout* const scoreAndPlace =
+        columnOf(HairSpace, {{score_, 0, Qt::AlignRight}, {whereLabel(), 0, Qt::AlignRight}, Part::gap()});
+    return rowOf(MediumSpace, {heading, scoreAndPlace});
 }
 
 QPushButton* BoxDrill::makeCheckButton(QAnyStringView name)
@@ -103,7 +106,7 @@ void BoxDrill::check()
     if (!right)
         return;
     holdBoxes();
-    Q_EMIT answerJudged(*right);
+    announce(*right);
 }
 
 void BoxDrill::hint()

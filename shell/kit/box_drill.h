@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/kit/drill_window.h"
+#include "shell/kit/typing_drill.h"
 
 #include <initializer_list>
 #include <optional>
@@ -17,7 +17,7 @@ class AnswerBox;
 /// The window of a drill whose forms are typed into boxes, numbered from 0, of which one is asked at a time.
 /// Only that one can hold the focus. While an answer is judged or shown nothing can be typed, and nothing is
 /// checked or shown a second time.
-class BoxDrill : public DrillWindow {
+class BoxDrill : public TypingDrill {
     Q_OBJECT
 
 public:
@@ -32,11 +32,8 @@ protected:
     /// The box that is asked, as the drill's rules have it.
     virtual int askedBoxNumber() const = 0;
 
-    /// Sets the question by the drill's rules.
+    /// Sets the question by the drill's rules, and shows where it stands.
     virtual void setQuestion() = 0;
-
-    /// The form that the box asked must receive.
-    virtual const std::string& answer() const = 0;
 
     /// Whether this answer is right; nothing where it does not count.
     virtual std::optional<bool> judge(const std::string& typed) = 0;
@@ -53,13 +50,13 @@ protected:
 
     AnswerBox* addBox(QWidget* parent, const QString& name);
     AnswerBox& box(int number) const;
-    AnswerBox& askedBox() const;
+    AnswerBox& askedBox() const override;
     const std::vector<AnswerBox*>& boxes() const { return boxes_; }
     void emptyBoxes();
 
     QLabel* scoreLabel() const { return score_; }
 
-    /// The uppermost row of the window: what names the question, and the score.
+    /// The uppermost row of the window: what names the question, and the score with the question's place.
     QBoxLayout* withScore(const Part& heading);
 
     /// The button that checks, the one that shows the answer, and the one that leaves.
@@ -76,7 +73,7 @@ protected:
     void closeBoxPressed() override;
 
 private:
-    void check();
+    void check() override;
     void hint();
     void boxReceivedFocus(int number);
     void holdBoxes();

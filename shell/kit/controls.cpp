@@ -1,6 +1,7 @@
 #include "shell/kit/controls.h"
 
 #include "shell/kit/choice_list.h"
+#include "shell/kit/measure.h"
 #include "shell/kit/text.h"
 #include "shell/kit/type.h"
 
@@ -47,7 +48,9 @@ QLabel* makeLabelOf(QWidget* control, QAnyStringView name)
 void wrapText(QLabel& label, int lines)
 {
     label.setWordWrap(true);
-    label.setMinimumSize(1, lines * label.fontMetrics().lineSpacing());
+    keepMeasure(label, "lines", [&label, lines](Growth) {
+        label.setMinimumSize(1, lines * label.fontMetrics().lineSpacing());
+    });
 }
 
 ChoiceList* makeChoiceList(QWidget* parent, QAnyStringView name)

@@ -1,5 +1,7 @@
 #include "shell/kit/layout.h"
 
+#include "shell/kit/measure.h"
+
 #include <QBoxLayout>
 #include <QGridLayout>
 #include <QWidget>
@@ -10,10 +12,19 @@ namespace {
 
 QBoxLayout* filled(QBoxLayout* layout, int space, std::initializer_list<Part> parts)
 {
-    layout->setSpacing(space);
+    keepMeasure(*layout, "space", [=](Growth growth) { layout->setSpacing(qRound(space * growth)); });
     for (const Part& part : parts)
         part.addTo(*layout);
     return layout;
+}
+
+void setLength(QBoxLayout& layout, QSpacerItem& space, int pixels)
+{
+    const bool upright = layout.direction() == QBoxLayout::TopToBottom;
+    space.changeSize(upright ? 0 : pixels, upright ? pixels : 0,
+                     upright ? QSizePolicy::Minimum : QSizePolicy::Fixed,
+                     upright ? QSizePolicy::Fixed : QSizePolicy::Minimum);
+    layout.invalidate();
 }
 
 } // namespace
@@ -34,7 +45,12 @@ Part Part::gap(int stretch)
 
 Part Part::space(int pixels)
 {
-    return Part([=](QBoxLayout& layout) { layout.addSpacing(pixels); });
+    return Part([=](QBoxLayout& layout) {
+        layout.addSpacing(0);
+        QSpacerItem* const space = layout.itemAt(layout.count() - 1)->spacerItem();
+        keepMeasure(layout, nullptr,
+                    [=, &layout](Growth growth) { setLength(layout, *space, qRound(pixels * growth)); });
+    });
 }
 
 QBoxLayout* rowOf(int space, std::initializer_list<Part> parts)
@@ -61,14 +77,16 @@ QBoxLayout* buttonRow(std::initializer_list<QWidget*> left, std::initializer_lis
 QGridLayout* gridOf(int betweenColumns, int betweenRows)
 {
     auto* const grid = new QGridLayout;
-    grid->setHorizontalSpacing(betweenColumns);
-    grid->setVerticalSpacing(betweenRows);
+    keepMeasure(*grid, "space", [=](Growth growth) {
+        grid->setHorizontalSpacing(qRound(betweenColumns * growth));
+        grid->setVerticalSpacing(qRound(betweenRows * growth));
+    });
     return grid;
 }
 
 void setContent(QWidget* whole, const QMargins& margins, QLayout* content)
 {
-    content->setContentsMargins(margins);
+    keepMeasure(*content, "margins", [=](Growth growth) { content->setContentsMargins(margins * growth); });
     whole->setLayout(content);
 }
 

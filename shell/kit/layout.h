@@ -16,7 +16,9 @@ class QWidget;
 
 namespace shell {
 
-/// The space around a window's content: of a form or a list, and of a drill, whose lines are short.
+/// The space at the edge of every window, and around its content: of a form or a list, and of a drill, whose
+/// lines are short.
+inline constexpr QMargins EdgeMargins{MediumSpace, MediumSpace, MediumSpace, MediumSpace};
 inline constexpr QMargins FormMargins{LargeSpace, LargeSpace, LargeSpace, LargeSpace};
 inline constexpr QMargins DrillMargins{WideSpace, LargeSpace, WideSpace, LargeSpace};
 

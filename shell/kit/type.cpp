@@ -1,5 +1,7 @@
 #include "shell/kit/type.h"
 
+#include "shell/kit/measure.h"
+
 #include <QApplication>
 #include <QFont>
 #include <QWidget>
@@ -8,8 +10,19 @@ namespace shell {
 
 namespace {
 
+void setFont(QWidget& widget, double factor, QFont::Weight weight)
+{
+    keepMeasure(widget, "type", [&widget, factor, weight](Growth growth) {
+        QFont font = desktopFont(factor * growth);
+        font.setWeight(weight);
+        widget.setFont(font);
+    });
+}
+
+} // namespace
+
 // A desktop gives its font in points or, here and there, in pixels.
-QFont scaledFont(double factor)
+QFont desktopFont(double factor)
 {
     QFont font = QApplication::font();
     if (font.pointSizeF() > 0)
@@ -19,23 +32,21 @@ QFont scaledFont(double factor)
     return font;
 }
 
-} // namespace
-
 void setType(QWidget& widget, double factor)
 {
-    widget.setFont(scaledFont(factor));
-}
-
-void setLeastWidth(QWidget& widget, int characters)
-{
-    widget.setMinimumWidth(characters * widget.fontMetrics().averageCharWidth());
+    setFont(widget, factor, QApplication::font().weight());
 }
 
 void setBoldType(QWidget& widget, double factor)
 {
-    QFont font = scaledFont(factor);
-    font.setBold(true);
-    widget.setFont(font);
+    setFont(widget, factor, QFont::Bold);
+}
+
+void setLeastWidth(QWidget& widget, int characters)
+{
+    keepMeasure(widget, "width", [&widget, characters](Growth) {
+        widget.setMinimumWidth(characters * widget.fontMetrics().averageCharWidth());
+    });
 }
 
 } // namespace shell

@@ -1,5 +1,6 @@
 #pragma once
 
+class QFont;
 class QWidget;
 
 namespace shell {
@@ -13,11 +14,15 @@ inline constexpr int WideSpace = 24;
 
 /// Sizes of type, as multiples of the desktop's own.
 inline constexpr double TitleType = 2.4;
+inline constexpr double QuestionType = 1.9;
 inline constexpr double HeadingType = 1.6;
 inline constexpr double FormType = 1.5;
 inline constexpr double NoteType = 0.95;
 
-/// Sets a widget's font to a multiple of the application's, and such a one in bold type.
+/// A multiple of the application's font.
+QFont desktopFont(double factor);
+
+/// Sets a widget's font to such a one, and to one in bold type. It grows with the window.
 void setType(QWidget& widget, double factor);
 void setBoldType(QWidget& widget, double factor);
 

@@ -1,5 +1,6 @@
 #include "shell/kit/window.h"
 
+#include "shell/kit/content_area.h"
 #include "shell/kit/text.h"
 #include "shell/settings.h"
 
@@ -11,12 +12,20 @@
 #include <QShortcut>
 #include <QWindow>
 
+#include <algorithm>
+#include <cmath>
+
 namespace shell {
 
 namespace {
 
 // Beside it the spacers' stretch is so little that they grow only once the block has its greatest size.
 constexpr int BlockStretch = 1000;
+
+// A maximised window grows by the room that it has beyond this, by quarters of its size.
+constexpr QSize DesignedSize{960, 600};
+constexpr double StepsOfGrowth = 4;
+constexpr Growth GreatestGrowth = 2;
 
 // What the frame and the title of a window leave it of the screen.
 constexpr double ShareOfScreen = 0.9;
@@ -100,13 +109,20 @@ bool Window::eventFilter(QObject* watched, QEvent* event)
 
 QWidget* Window::centredBlock(QSize charactersAndLines)
 {
-    auto* const block = new QWidget(this);
-    const QFontMetrics metrics(font());
-    block->setMaximumSize(charactersAndLines.width() * metrics.averageCharWidth(),
-                          charactersAndLines.height() * metrics.lineSpacing());
+    auto* const area = new ContentArea(this);
+    auto* const block = new QWidget(area->widget());
+    const bool asHighAsItsLines = charactersAndLines.height() == AsItsLines;
+    keepMeasure(*block, "size", [=, this](Growth) {
+        const QFontMetrics metrics(font());
+        block->setMaximumWidth(charactersAndLines.width() * metrics.averageCharWidth());
+        if (!asHighAsItsLines)
+            block->setMaximumHeight(charactersAndLines.height() * metrics.lineSpacing());
+    });
 
     auto* const row = rowOf(0, {Part::gap(1), {block, BlockStretch}, Part::gap(1)});
-    setLayout(columnOf(0, {Part::gap(1), {row, BlockStretch}, Part::gap(1)}));
+    setContent(area->widget(), EdgeMargins,
+               columnOf(0, {Part::gap(1), {row, asHighAsItsLines ? 0 : BlockStretch}, Part::gap(1)}));
+    setContent(this, {}, columnOf(0, {area}));
     return block;
 }
 
@@ -115,9 +131,38 @@ void Window::layOutLines(QSize charactersAndLines, const QMargins& margins, std:
     setContent(centredBlock(charactersAndLines), margins, columnOf(MediumSpace, lines));
 }
 
+// By the size that it has, since a window manager may maximise a window before or after it gives it its size.
+void Window::grow()
+{
+    const double room =
+        std::min(width() / double{DesignedSize.width()}, height() / double{DesignedSize.height()});
+    const Growth growth =
+        isMaximized() ? std::clamp(std::floor(room * StepsOfGrowth) / StepsOfGrowth, 1.0, GreatestGrowth) : 1;
+    if (growth != growth_)
+        takeSize(growth);
+}
+
+// A window in the designed size has the desktop's own font.
+void Window::takeSize(Growth growth)
+{
+    growth_ = growth;
+    setFont(growth == 1 ? QFont() : desktopFont(growth));
+    takeMeasures(*this, growth);
+}
+
+void Window::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    grow();
+}
+
 void Window::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange)
+        grow();
+    if (event->type() == QEvent::ApplicationFontChange)
+        takeSize(growth_);
     if (event->type() != QEvent::ActivationChange || !isActiveWindow() || isHidden())
         return;
     if (!activeName_.empty())

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shell/kit/layout.h"
+#include "shell/kit/measure.h"
 
 #include <QSize>
 #include <QWidget>
@@ -9,9 +10,15 @@
 
 namespace shell {
 
+/// The height, in lines, of a block that is as high as what stands in it.
+inline constexpr int AsItsLines = 0;
+
 /// What all windows of the program share: the object name, `ActiveWindowName` on activation, the close box
 /// and Escape, the state that `MainWindowState` asks for, and a block that keeps a large window's content
 /// together.
+///
+/// A maximised window grows: type, spaces and all measures that were kept, in quarters of their size up to
+/// twice, as far as it has room beyond 960 x 600 pixels.
 class Window : public QWidget {
     Q_OBJECT
 
@@ -35,7 +42,7 @@ Q_SIGNALS:
 
 protected:
     /// A widget for the window's content. It fills the window up to so many characters and lines of the
-    /// window's font; a larger window keeps it in its middle.
+    /// window's font; a larger window keeps it in its middle, and a screen that is too small scrolls it.
     QWidget* centredBlock(QSize charactersAndLines);
 
     /// Makes such a block of parts from top to bottom, with these margins.
@@ -52,13 +59,18 @@ protected:
 
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void fitScreenAtFirst();
     void centreOnScreen();
 
+    void grow();
+    void takeSize(Growth growth);
+
     std::string_view activeName_;
+    Growth growth_ = 1;
 };
 
 } // namespace shell

@@ -24,7 +24,7 @@ using verbs::currentParadigm;
 
 namespace {
 
-constexpr QSize LargestBlock{96, 30};
+constexpr QSize LargestBlock{96, shell::AsItsLines};
 constexpr int PersonsOfNumber = 3;
 constexpr std::array PersonRows = {"FirstPerson", "SecondPerson", "ThirdPerson"};
 
@@ -40,6 +40,11 @@ constexpr std::array Captions = {
     Caption{"Plural",        {"Plural",   "Numerus Pluralis",   {}, "Merhzahl", "Plural",   "Numerus Pluralis"}},   // sic: French and German
     Caption{"HelpLabel",     {"Help=F1",  "Assistance=F1",      {}, "Hilfe=F1", "Ayuda=F1", "Auxilium=F1"}},
 };
+
+//                                     English             French               Italian                German                Spanish               Latin
+constexpr shell::LanguageTexts TenseOf{"tense %1 of %2",  "temps %1 sur %2",   "tempo %1 di %2",      "Tempus %1 von %2",   "tiempo %1 de %2",    "tempus %1 ex %2"};
+constexpr shell::LanguageTexts ClassOf{"class %1 of %2",  "classe %1 sur %2",  "classe %1 di %2",     "Klasse %1 von %2",   "clase %1 de %2",     "genus %1 ex %2"};
+constexpr shell::LanguageTexts OtherPerson{"This is the ending of another person.", "C'est la terminaison d'une autre personne.", "È la desinenza di un'altra persona.", "Das ist die Endung einer anderen Person.", "Es la terminación de otra persona.", "Haec est desinentia alius personae."};
 // clang-format on
 
 } // namespace
@@ -54,7 +59,7 @@ void Conjugation::makeControls()
 {
     title_ = makeLabel(this, "TitleLabel", shell::FormType);
     tense_ = makeLabel(this, "TenseLabel", shell::FormType);
-    verb_ = shell::makeHeading(this, "VerbLabel", shell::TitleType);
+    verb_ = shell::makeHeading(this, "VerbLabel", shell::QuestionType);
     for (std::size_t i = 0; i < glosses_.size(); ++i) {
         addBox(this, QStringLiteral("ConjText%1").arg(i));
         glosses_.at(i) = makeLabel(this, QStringLiteral("Ctransl%1").arg(i), shell::NoteType);
@@ -66,7 +71,7 @@ void Conjugation::layOut()
 {
     QBoxLayout* const names = shell::columnOf(shell::HairSpace, {title_, verb_, tense_});
     layOutLines(LargestBlock, shell::DrillMargins,
-                {withScore({names, 1}), Part::space(shell::SmallSpace), answerGrid(), Part::gap(),
+                {withScore({names, 1}), Part::space(shell::SmallSpace), answerGrid(), whyLabel(),
                  helpAndButtons({makeCheckButton("Ccontinue"), makeQuestionButton("ConjQuestion"),
                                  makeQuitButton("Cquit")})});
 }
@@ -86,8 +91,12 @@ QGridLayout* Conjugation::answerGrid()
         grid->addWidget(&box(person + PersonsOfNumber), row, 2);
         grid->addWidget(glosses_.at(singular), row + 1, 1);
         grid->addWidget(glosses_.at(singular + PersonsOfNumber), row + 1, 2);
-        grid->setRowMinimumHeight(row + 1, QFontMetrics(font()).lineSpacing() + shell::SmallSpace);
     }
+    shell::keepMeasure(*grid, "glosses", [=, this](shell::Growth growth) {
+        for (int person = 0; person < PersonsOfNumber; ++person)
+            grid->setRowMinimumHeight(2 + 2 * person,
+                                      fontMetrics().lineSpacing() + qRound(shell::SmallSpace * growth));
+    });
     return grid;
 }
 
@@ -121,6 +130,10 @@ void Conjugation::setQuestion()
     title_->setText(shell::fromUtf8(verbs::verbTables.ClassTitles[currentParadigm.ConjugationCode]));
     tense_->setText(shell::fromUtf8(currentParadigm.TenseLabel));
     verb_->setText(shell::fromUtf8(currentParadigm.VerbLabel));
+    if (currentParadigm.SingleTenseMode == 1)
+        showPlace(ClassOf, placeOfClass());
+    else
+        showPlace(TenseOf, placeOfTense());
 }
 
 void Conjugation::boxEntered(int number)
@@ -154,9 +167,14 @@ std::optional<bool> Conjugation::judge(const std::string& typed)
     return judgeConjugation(typed);
 }
 
-const std::string& Conjugation::answer() const
+std::string Conjugation::answer() const
 {
     return conjugationDrill.CorrectForm;
+}
+
+std::optional<shell::LanguageTexts> Conjugation::answersAnother(const std::string& typed) const
+{
+    return answersAnotherPerson(typed) ? std::optional(OtherPerson) : std::nullopt;
 }
 
 void Conjugation::answerShown()

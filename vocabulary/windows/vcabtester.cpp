@@ -29,7 +29,7 @@ using shell::Part;
 
 namespace {
 
-constexpr QSize LargestBlock{84, 24};
+constexpr QSize LargestBlock{84, shell::AsItsLines};
 constexpr int AnswerCharacters = 44;
 
 // clang-format off
@@ -39,16 +39,18 @@ constexpr std::array Captions = {
     Caption{"VcabTestOmit",     {"Leave &this word out", "Ne plus demander ce &mot", {},     "Dieses Wort &auslassen", "&Omitir esta palabra", "&Hoc verbum omitte"}},
     Caption{"VcabtesterOK",     {"&OK",                  "&OK",                      {},     "&OK",                    "&Aceptar",             "&Ita"}},
     Caption{"VcabtesterCancel", {"Q&uit",                "Q&uitter",                 {},     "&Beenden",               "&Salir",               "R&everte!"}},
+    Caption{"HelpLabel",        {"Help=F1",              "Assistance=F1",            {},     "Hilfe=F1",               "Ayuda=F1",             "Auxilium=F1"}},
 };
 
 constexpr LanguageTexts Title{"Vocabulary",                 "Vocabulaire",                     {}, "Wortschatz",                       "Vocabulario",                           "Verba nostra"};
 constexpr LanguageTexts NoWord{"There is no word to ask.",  "Il n'y a aucun mot à demander.",  {}, "Es gibt kein Wort zum Abfragen.",  "No hay ninguna palabra que preguntar.", "Nullum verbum restat."};
+constexpr LanguageTexts WordOf{"word %1 of %2",             "mot %1 sur %2",                   {}, "Wort %1 von %2",                   "palabra %1 de %2",                      "verbum %1 ex %2"};
 // clang-format on
 
 } // namespace
 
 Vcabtester::Vcabtester()
-    : DrillWindow("Vcabtester", {}, shell::exercise::Vcabtester), menuBar_(new QMenuBar(this))
+    : TypingDrill("Vcabtester", {}, shell::exercise::Vcabtester), menuBar_(new QMenuBar(this))
 {
     makeControls();
     layOut();
@@ -61,8 +63,10 @@ void Vcabtester::makeControls()
     question_ = shell::makeControl<WordLabel>(this, "VQuestion");
     hint_ = shell::makeControl<WordLabel>(this, "VHint");
     answer_ = shell::makeControl<WordBox>(this, "VcabAnswer");
+    watch(*answer_);
     omit_ = shell::makeControl<QCheckBox>(this, "VcabTestOmit");
     ok_ = shell::makeButton(this, "VcabtesterOK");
+    revealButton_ = shell::makeQuestionButton(this, "VcabtesterQuestion");
     cancel_ = shell::makeButton(this, "VcabtesterCancel");
     shell::setBoldType(*question_, shell::TitleType);
     shell::setType(*hint_, shell::FormType);
@@ -74,14 +78,14 @@ void Vcabtester::makeControls()
 void Vcabtester::layOut()
 {
     layOutLines(LargestBlock, shell::DrillMargins,
-                {Part::gap(1),
+                {{whereLabel(), 0, Qt::AlignRight},
                  shell::rowOf(shell::WideSpace, {{question_, 3}, {hint_, 2}}),
                  Part::space(shell::LargeSpace),
                  shell::makeLabelOf(answer_, "AnswerLabel"),
                  answer_,
+                 whyLabel(),
                  {omit_, 0, Qt::AlignLeft},
-                 Part::gap(2),
-                 shell::buttonRow({}, {ok_, cancel_})});
+                 shell::buttonRow({shell::makeLabel(this, "HelpLabel")}, {ok_, revealButton_, cancel_})});
     layout()->setMenuBar(menuBar_);
 }
 
@@ -89,6 +93,7 @@ void Vcabtester::connectControls()
 {
     connect(answer_, &WordBox::returnPressed, this, &Vcabtester::check);
     connect(ok_, &QPushButton::clicked, this, &Vcabtester::check);
+    connect(revealButton_, &QPushButton::clicked, this, &Vcabtester::reveal);
     connect(cancel_, &QPushButton::clicked, this, &Vcabtester::left);
     connect(question_, &WordLabel::doubleClicked, this, &Vcabtester::reveal);
     connect(omit_, &QCheckBox::clicked, this, &Vcabtester::omit);
@@ -147,36 +152,52 @@ void Vcabtester::showTheWord()
 {
     const bool asked = vocabularyTester.WordIsAsked == platform::FlagTrue;
     question_->setText(shell::fromUtf8(asked ? questionText() : NoWord.currentOrDesigned()));
-    hint_->setText(shell::fromUtf8(hintText()));
-    answer_->setAccessibleDescription(question_->text() + QStringLiteral(", ") + hint_->text());
+    showHint(hintGivesAnswerAway() ? std::string() : hintText());
+    if (asked)
+        showPlace(WordOf, {vocabularyList.CurrentWord, vocabularyList.WordCount});
+    else
+        whereLabel()->clear();
     omit_->setChecked(currentWordIsOmitted());
     omit_->setEnabled(vocabularyList.WordCount > 0);
     answer_->clear();
     answer_->lookIdle();
     question_->repaint();
+}
+
+void Vcabtester::showHint(const std::string& hint)
+{
+    hint_->setText(shell::fromUtf8(hint));
+    answer_->setAccessibleDescription(
+        hint.empty() ? question_->text() : question_->text() + QStringLiteral(", ") + hint_->text());
     hint_->repaint();
+}
+
+shell::AnswerBox& Vcabtester::askedBox() const
+{
+    return *answer_;
+}
+
+std::string Vcabtester::answer() const
+{
+    return expectedAnswer();
 }
 
 void Vcabtester::check()
 {
     if (!canAnswer())
         return;
-    switch (judge(answer_->text().toStdString())) {
-    case Judgement::AnswerWanted:
+    const Judgement judgement = judge(answer_->text().toStdString());
+    if (judgement == Judgement::AnswerWanted) {
         reveal();
         return;
-    case Judgement::NothingAsked:
+    }
+    if (judgement == Judgement::NothingAsked) {
         moveOn();
         return;
-    case Judgement::Right:
-        answer_->setReadOnly(true);
-        Q_EMIT answerJudged(true);
-        return;
-    case Judgement::Wrong:
-        answer_->setReadOnly(true);
-        Q_EMIT answerJudged(false);
-        return;
     }
+    answer_->setReadOnly(true);
+    showHint(hintText());
+    announce(judgement == Judgement::Right);
 }
 
 void Vcabtester::reveal()
@@ -188,6 +209,7 @@ void Vcabtester::reveal()
     answer_->lookRevealed();
     answer_->setText(shell::fromUtf8(expectedAnswer()));
     answer_->repaint();
+    showHint(hintText());
     if (!shell::pauseWithDrill())
         return;
     answer_->lookBlack();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/kit/drill_window.h"
+#include "shell/kit/typing_drill.h"
 
 #include <string_view>
 
@@ -13,8 +13,10 @@ namespace vocabulary {
 class WordBox;
 class WordLabel;
 
-/// The vocabulary tester: shows a word of the list and its hint, and judges the meaning that is typed.
-class Vcabtester : public shell::DrillWindow {
+/// The vocabulary tester: shows a word of the list and its hint, and judges the meaning that is typed. Where
+/// the translation is asked with, the hint would give the word away, and is shown once the answer was judged
+/// or shown.
+class Vcabtester : public shell::TypingDrill {
     Q_OBJECT
 
 public:
@@ -31,6 +33,11 @@ public:
     void focusQuestion() override;
     void askAgain() override;
 
+protected:
+    shell::AnswerBox& askedBox() const override;
+    std::string answer() const override;
+    void check() override;
+
 Q_SIGNALS:
     void listRequested();
     void editorRequested();
@@ -43,11 +50,11 @@ private:
     void connectPrompt(std::string_view item, std::string_view promptLanguage);
     void setCaptions();
 
-    void check();
     void reveal();
     void choosePrompt(std::string_view promptLanguage);
     void omit(bool omitted);
     void showTheWord();
+    void showHint(const std::string& hint);
 
     QMenuBar* menuBar_;
     WordLabel* question_ = nullptr;
@@ -55,6 +62,7 @@ private:
     WordBox* answer_ = nullptr;
     QCheckBox* omit_ = nullptr;
     QPushButton* ok_ = nullptr;
+    QPushButton* revealButton_ = nullptr;
     QPushButton* cancel_ = nullptr;
 };
 

@@ -15,8 +15,7 @@ class WordBox : public shell::AnswerBox {
 public:
     using AnswerBox::AnswerBox;
 
-protected:
-    void keyPressEvent(QKeyEvent* event) override { QLineEdit::keyPressEvent(event); }
+    bool asksForHint(const QString& /*typed*/) const override { return false; }
 };
 
 /// A label for a text of a list, shown letter by letter as it stands, in as many lines as it takes. It asks

@@ -1,0 +1,58 @@
+#include "shell/kit/content_area.h"
+
+#include "shell/kit/type.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QScreen>
+
+namespace shell {
+
+namespace {
+
+// What the frame, the title and the menus of a window leave its content of the screen.
+constexpr double ShareOfScreen = 0.85;
+
+} // namespace
+
+ContentArea::ContentArea(QWidget* parent) : QScrollArea(parent)
+{
+    setFrameShape(QFrame::NoFrame);
+    setWidgetResizable(true);
+    setFocusPolicy(Qt::NoFocus);
+    setWidget(new QWidget);
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](QWidget* /*before*/, QWidget* now) { showFocus(now); });
+}
+
+QSize ContentArea::sizeHint() const
+{
+    return widget()->sizeHint();
+}
+
+QSize ContentArea::minimumSizeHint() const
+{
+    return widget()->minimumSizeHint().boundedTo(screen()->availableSize() * ShareOfScreen);
+}
+
+// The window has to hear when its content asks for other room.
+bool ContentArea::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == widget() && event->type() == QEvent::LayoutRequest)
+        updateGeometry();
+    return QScrollArea::eventFilter(watched, event);
+}
+
+void ContentArea::resizeEvent(QResizeEvent* event)
+{
+    QScrollArea::resizeEvent(event);
+    showFocus(QApplication::focusWidget());
+}
+
+void ContentArea::showFocus(QWidget* focused)
+{
+    if (focused != nullptr && widget()->isAncestorOf(focused))
+        ensureWidgetVisible(focused, LargeSpace, LargeSpace);
+}
+
+} // namespace shell

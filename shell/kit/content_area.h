@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QScrollArea>
+
+namespace shell {
+
+/// What stands in a window. It is shown whole where the screen has room for it, and can be scrolled where the
+/// screen has not; what receives the focus comes into view.
+class ContentArea : public QScrollArea {
+    Q_OBJECT
+
+public:
+    explicit ContentArea(QWidget* parent);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void showFocus(QWidget* focused);
+};
+
+} // namespace shell

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+namespace shell {
+
+class AnswerBox;
+
+/// Keeps what is typed into a drill's window while an answer is announced, as long as it lives: letters, with
+/// Enter as a line end behind them. Backspace takes the last letter back; Enter alone, and a key that asks
+/// for a hint, are dropped. The keys that move the focus or leave the drill do as they always do, and so do
+/// Enter and the space bar on a button before anything was typed.
+class TypedAhead : public QObject {
+    Q_OBJECT
+
+public:
+    /// `keys` holds what was kept before and receives what is kept.
+    TypedAhead(const AnswerBox& box, QString& keys);
+
+protected:
+    bool eventFilter(QObject* receiver, QEvent* event) override;
+
+private:
+    bool somethingIsTyped() const;
+
+    const AnswerBox& box_;
+    QString& keys_;
+};
+
+} // namespace shell

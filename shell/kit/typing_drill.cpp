@@ -1,0 +1,135 @@
+#include "shell/kit/typing_drill.h"
+
+#include "shell/answer_fault.h"
+#include "shell/kit/answer_box.h"
+#include "shell/kit/controls.h"
+#include "shell/kit/text.h"
+#include "shell/kit/typed_ahead.h"
+
+#include <QKeyEvent>
+#include <QLabel>
+
+#include <array>
+
+namespace shell {
+
+namespace {
+
+struct FaultTexts {
+    FaultKind kind;
+    LanguageTexts texts;
+};
+
+// clang-format off
+constexpr std::array Faults = {
+    //                                  English                                        French                                             Italian                                     German                                               Spanish                                        Latin
+    FaultTexts{FaultKind::Capital,      {"Only a capital letter differs.",             "Seule une majuscule diffère.",                    "Solo una maiuscola è diversa.",            "Nur die Groß- oder Kleinschreibung ist anders.",    "Solo difiere una mayúscula.",                 "Sola littera maiuscula differt."}},
+    FaultTexts{FaultKind::BlankTooMany, {"There is a blank too many.",                 "Il y a une espace de trop.",                      "C'è uno spazio di troppo.",                "Ein Leerzeichen ist zu viel.",                      "Sobra un espacio.",                           "Spatium supervacaneum est."}},
+    FaultTexts{FaultKind::MarkMissing,  {"A mark of a long vowel (:) is missing.",     "Il manque une marque de voyelle longue (:).",     "Manca un segno di vocale lunga (:).",      "Ein Zeichen für einen langen Vokal (:) fehlt.",     "Falta una marca de vocal larga (:).",         "Signum vocalis longae (:) deest."}},
+    FaultTexts{FaultKind::MarkTooMany,  {"A mark of a long vowel (:) is too many.",    "Une marque de voyelle longue (:) est de trop.",   "C'è un segno di vocale lunga (:) di troppo.", "Ein Zeichen für einen langen Vokal (:) ist zu viel.", "Sobra una marca de vocal larga (:).",    "Signum vocalis longae (:) superest."}},
+    FaultTexts{FaultKind::MarkMoved,    {"A mark (:) stands behind another vowel.",    "Une marque (:) se trouve après une autre voyelle.", "Un segno (:) sta dopo un'altra vocale.", "Ein Zeichen (:) steht hinter einem anderen Vokal.", "Una marca (:) va detrás de otra vocal.",      "Signum (:) post aliam vocalem stat."}},
+};
+// clang-format on
+
+std::optional<LanguageTexts> textsOf(FaultKind kind)
+{
+    for (const FaultTexts& fault : Faults)
+        if (fault.kind == kind)
+            return fault.texts;
+    return {};
+}
+
+QString shown(std::string_view letters)
+{
+    return fromUtf8(letters).toHtmlEscaped().replace(u' ', QStringLiteral("&nbsp;"));
+}
+
+// The answer with the letter that differs underlined; where it stops too early, the place behind it.
+QString underlined(std::string_view answer, const AnswerFault& fault)
+{
+    const QString letter =
+        fault.length == 0 ? QStringLiteral("&nbsp;") : shown(answer.substr(fault.start, fault.length));
+    return shown(answer.substr(0, fault.start)) + QStringLiteral("<u>%1</u>").arg(letter) +
+           shown(answer.substr(fault.start + fault.length));
+}
+
+} // namespace
+
+TypingDrill::TypingDrill(std::string_view name, std::string_view activeName, std::string_view exerciseType)
+    : DrillWindow(name, activeName, exerciseType), why_(makeLabel(this, "WhyLabel", FormType)),
+      where_(makeLabel(this, "WhereLabel", NoteType))
+{
+    why_->setTextFormat(Qt::RichText);
+    wrapText(*why_, 1);
+}
+
+void TypingDrill::watch(AnswerBox& box)
+{
+    box.installEventFilter(this);
+}
+
+// The answer that is explained stands until the learner goes on typing.
+bool TypingDrill::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::KeyPress && !static_cast<QKeyEvent*>(event)->text().isEmpty())
+        why_->clear();
+    return DrillWindow::eventFilter(watched, event);
+}
+
+void TypingDrill::showPlace(const LanguageTexts& text, Place place)
+{
+    where_->setText(fromUtf8(text.currentOrDesigned()).arg(place.number).arg(place.count));
+}
+
+void TypingDrill::announce(bool right)
+{
+    why_->clear();
+    if (!right)
+        explain(askedBox().text().toStdString());
+    const Stay stay = drillStay();
+    {
+        const TypedAhead typedAhead(askedBox(), keys_);
+        Q_EMIT answerJudged(right);
+    }
+    if (stay.lasts())
+        typeKeysKept();
+    else
+        keys_.clear();
+}
+
+void TypingDrill::explain(const std::string& typed)
+{
+    if (typed.empty())
+        return;
+    const AnswerFault fault = faultOf(typed, answer());
+    const auto reason = fault.kind == FaultKind::Other ? answersAnother(typed) : textsOf(fault.kind);
+    QString text = underlined(typed, fault);
+    if (reason)
+        text += QStringLiteral(" &nbsp; ") + shown(reason->currentOrDesigned());
+    why_->setText(text);
+}
+
+// Enter checks from the event loop: the learner may be many answers ahead.
+void TypingDrill::typeKeysKept()
+{
+    const qsizetype enter = keys_.indexOf(u'\n');
+    const QString typed = keys_.left(enter);
+    const QString rest = enter < 0 ? QString() : keys_.sliced(enter + 1);
+    keys_.clear();
+    if (!canAnswer() || typed.isEmpty())
+        return;
+    why_->clear();
+    askedBox().insert(typed);
+    if (enter < 0)
+        return;
+    const auto checkThen = [this, rest, stay = drillStay()] {
+        if (!stay.lasts())
+            return;
+        keys_ = rest;
+        check();
+        keys_.clear();
+    };
+    QMetaObject::invokeMethod(this, checkThen, Qt::QueuedConnection);
+}
+
+} // namespace shell

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "shell/kit/drill_window.h"
+#include "shell/language_texts.h"
+#include "shell/round.h"
+
+#include <QString>
+
+#include <optional>
+#include <string>
+
+class QLabel;
+
+namespace shell {
+
+class AnswerBox;
+
+/// A drill whose answers are typed. What is typed while an answer is announced is kept, and goes into the box
+/// that is asked next, or again; when the drill is left it is lost. Under the boxes a label says why an
+/// answer was wrong, until the next key; another says how far the learner has come.
+class TypingDrill : public DrillWindow {
+    Q_OBJECT
+
+public:
+    TypingDrill(std::string_view name, std::string_view activeName, std::string_view exerciseType);
+
+protected:
+    /// The box of the question that is asked.
+    virtual AnswerBox& askedBox() const = 0;
+
+    /// What that box must receive.
+    virtual std::string answer() const = 0;
+
+    /// Checks what stands in that box.
+    virtual void check() = 0;
+
+    /// What a wrong answer is, where it is the right one to another question of the paradigm.
+    virtual std::optional<LanguageTexts> answersAnother(const std::string& /*typed*/) const { return {}; }
+
+    /// Announces a judged answer, which stands in the box asked.
+    void announce(bool right);
+
+    /// Makes a box one of those into which answers are typed.
+    void watch(AnswerBox& box);
+
+    /// Says that the question is the `number`th of `count`, in a text with "%1" for the one and "%2" for the
+    /// other.
+    void showPlace(const LanguageTexts& text, Place place);
+
+    QLabel* whyLabel() const { return why_; }
+    QLabel* whereLabel() const { return where_; }
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void explain(const std::string& typed);
+    void typeKeysKept();
+
+    QLabel* why_;
+    QLabel* where_;
+    QString keys_;
+};
+
+} // namespace shell
