@@ -55,6 +55,7 @@ QGridLayout* makeRows()
 {
     QGridLayout* const rows = shell::gridOf(0, 0);
     placeTops(*rows, BoxTops);
+    rows->setRowStretch(CasesOfNumber, 1);
     return rows;
 }
 

@@ -18,6 +18,11 @@ constexpr QColor White{0xFF, 0xFF, 0xFF};
 
 } // namespace
 
+bool asksForHint(const QString& typed)
+{
+    return typed == QLatin1String("/") || typed == QLatin1String("?");
+}
+
 AnswerBox::AnswerBox(QWidget* parent) : QLineEdit(parent)
 {
     setType(*this, FormType);
@@ -74,11 +79,6 @@ void AnswerBox::keyPressEvent(QKeyEvent* event)
         Q_EMIT hintRequested();
     else
         QLineEdit::keyPressEvent(event);
-}
-
-bool AnswerBox::asksForHint(const QString& typed) const
-{
-    return typed == QLatin1String("/") || typed == QLatin1String("?");
 }
 
 void AnswerBox::setColours(const QColor& background, const QColor& text)

@@ -4,6 +4,9 @@
 
 namespace shell {
 
+/// Whether what a key would type asks for a hint where forms are typed: "/" and "?" do.
+bool asksForHint(const QString& typed);
+
 /// A box into which a form is typed. A key that asks for a hint is not entered. Its looks are the
 /// colours that all drills share; a fixed colour of the text always comes with one of the background that it
 /// can be read on.
@@ -35,9 +38,6 @@ public:
     /// Makes this the box that is asked: it takes text, and the focus by the keyboard. Another box only sends
     /// the focus on.
     void setAsked(bool asked);
-
-    /// Whether what a key would type asks for a hint: "/" and "?" do.
-    virtual bool asksForHint(const QString& typed) const;
 
 Q_SIGNALS:
     void focusReceived();

@@ -27,7 +27,7 @@ bool wouldPressButton(const QKeyEvent& key)
 
 } // namespace
 
-TypedAhead::TypedAhead(const AnswerBox& box, QString& keys) : box_(box), keys_(keys)
+TypedAhead::TypedAhead(const QWidget& window, QString& keys) : window_(window), keys_(keys)
 {
     qApp->installEventFilter(this);
 }
@@ -40,7 +40,7 @@ bool TypedAhead::somethingIsTyped() const
 bool TypedAhead::eventFilter(QObject* receiver, QEvent* event)
 {
     if (event->type() != QEvent::KeyPress || !receiver->isWidgetType() ||
-        static_cast<QWidget*>(receiver)->window() != box_.window())
+        static_cast<QWidget*>(receiver)->window() != &window_)
         return false;
     const auto& key = *static_cast<QKeyEvent*>(event);
     if (wouldPressButton(key) && !somethingIsTyped())
@@ -56,7 +56,7 @@ bool TypedAhead::eventFilter(QObject* receiver, QEvent* event)
     }
     if (!isLetter(key))
         return false;
-    if (!box_.asksForHint(key.text()))
+    if (!asksForHint(key.text()))
         keys_ += key.text();
     return true;
 }

@@ -3,9 +3,9 @@
 #include <QObject>
 #include <QString>
 
-namespace shell {
+class QWidget;
 
-class AnswerBox;
+namespace shell {
 
 /// Keeps what is typed into a drill's window while an answer is announced, as long as it lives: letters, with
 /// Enter as a line end behind them. Backspace takes the last letter back; Enter alone, and a key that asks
@@ -16,7 +16,7 @@ class TypedAhead : public QObject {
 
 public:
     /// `keys` holds what was kept before and receives what is kept.
-    TypedAhead(const AnswerBox& box, QString& keys);
+    TypedAhead(const QWidget& window, QString& keys);
 
 protected:
     bool eventFilter(QObject* receiver, QEvent* event) override;
@@ -24,7 +24,7 @@ protected:
 private:
     bool somethingIsTyped() const;
 
-    const AnswerBox& box_;
+    const QWidget& window_;
     QString& keys_;
 };
 

@@ -88,7 +88,7 @@ void TypingDrill::announce(bool right)
         explain(askedBox().text().toStdString());
     const Stay stay = drillStay();
     {
-        const TypedAhead typedAhead(askedBox(), keys_);
+        const TypedAhead typedAhead(*this, keys_);
         Q_EMIT answerJudged(right);
     }
     if (stay.lasts())
@@ -105,7 +105,7 @@ void TypingDrill::explain(const std::string& typed)
     const auto reason = fault.kind == FaultKind::Other ? answersAnother(typed) : textsOf(fault.kind);
     QString text = underlined(typed, fault);
     if (reason)
-        text += QStringLiteral(" &nbsp; ") + shown(reason->currentOrDesigned());
+        text += QStringLiteral(" &nbsp; ") + fromUtf8(reason->currentOrDesigned()).toHtmlEscaped();
     why_->setText(text);
 }
 

@@ -58,9 +58,9 @@ const std::vector<Drill> Drills = {
         [] { return to_string(conjugationDrill.PersonIndex); }, [](QWidget&) { return conjugationDrill.CorrectForm; }},
     {"Declination", "DeclensionButton", "DeclinationChoose", "Continue", "DeclQuitButton", {"DeclQuestion"}, "DeclText", Qt::black,
         [] { return to_string(declensionDrill.CurrentCaseIndex); }, [](QWidget&) { return declensionDrill.ExpectedAnswer; }},
-    {"PronounSingular", "PronounButton", "PronounChooser", "PronounOK", "PronounCancel", {}, "Pronoun", Qt::black,
+    {"PronounSingular", "PronounButton", "PronounChooser", "PronounOK", "PronounCancel", {"PronounQuestion"}, "Pronoun", Qt::black,
         [] { return to_string(pronounDrill.CurrentCell); }, [](QWidget&) { return pronounDrill.ExpectedAnswer; }},
-    {"Vcabtester", "VocabularyButton", "MainMenu", "VcabtesterOK", "VcabtesterCancel", {}, "", {},
+    {"Vcabtester", "VocabularyButton", "MainMenu", "VcabtesterOK", "VcabtesterCancel", {"VcabtesterQuestion"}, "", {},
         [] { return to_string(vocabulary::vocabularyList.CurrentWord); }, [](QWidget&) { return vocabulary::expectedAnswer(); }},
     {"Probatio", "QuizButton", "MainMenu", "QuizOK", "QuizCancel", {"QuizQuestion", "QuizSkip"}, "", {},
         [] { return to_string(verbQuiz.QuizRow); }, chooseFirstForm},
@@ -115,11 +115,11 @@ protected:
         type(window, right ? QString::fromStdString(drill.right(window)) : "x");
     }
 
-    // Everything that a learner may press while an answer is judged or shown.
+    // Everything that a learner may press while an answer is judged or shown, but for letters.
     static void pressEverything(const Drill& drill, QWidget& window)
     {
-        type(window, "x?/");
         press(window, Qt::Key_Return);
+        type(window, "?/");
         click(window, drill.check);
         for (const QString& button : drill.others)
             click(window, button);
@@ -250,6 +250,68 @@ TEST_F(EveryDrill, JudgesOnceWhateverIsPressedInThePauseAndMovesOnAfterARightAns
             EXPECT_TRUE(!hasBoxes || !right || label(window, "ScoreLabel") == " 33% ");
         }
     }
+}
+
+// What was typed before Enter is judged once it stands in its box, and the rest goes on from there.
+TEST_F(EveryDrill, KeepsWhatIsTypedInAPauseForTheBoxThatIsAskedNextUnlessItIsLeft)
+{
+    for (const Drill& drill : Drills) {
+        if (drill.window == "Probatio" || drill.window == "NounQuiz")
+            continue;
+        QWidget& window = open(drill);
+        const auto text = [&] { return static_cast<QLineEdit*>(window.focusWidget())->text(); };
+        for (const bool right : {false, true}) {
+            fillIn(drill, window, right);
+            duringPause([&] {
+                press(window, Qt::Key_Return);
+                type(window, "ab?");
+                press(window, Qt::Key_Backspace);
+                EXPECT_EQ(label(window, "WhyLabel"), right ? "" : "<u>x</u>");
+            });
+            press(window, Qt::Key_Return);
+            EXPECT_EQ(text(), "a");
+            EXPECT_EQ(settings.AnsweredCount, right ? 4 : 1);
+            EXPECT_EQ(label(window, "WhyLabel"), "");
+            duringPause([&] {
+                answer(window, "c");
+                type(window, "d");
+            });
+            fake.waits = 0;
+            press(window, Qt::Key_Return);
+            QTRY_COMPARE(text(), "d");
+            EXPECT_EQ(fake.waits, 2);
+            fill(*static_cast<QLineEdit*>(window.focusWidget()), "");
+        }
+        duringPause([&] {
+            type(window, "e");
+            click(window, drill.quit);
+        });
+        fillIn(drill, window, false);
+        press(window, Qt::Key_Return);
+        EXPECT_EQ(static_cast<QLineEdit*>(open(drill).focusWidget())->text(), "");
+    }
+}
+
+TEST_F(EveryDrill, SaysWhyAnAnswerWasWrongUntilTheNextKeyAndHowFarOneIs)
+{
+    settings.CurrentLanguage = shell::language::German;
+    QWidget& verbs = open(Conjugation, 5);
+    EXPECT_EQ(label(verbs, "WhereLabel"), "Tempus 1 von 11");
+    answer(verbs, "es");
+    EXPECT_EQ(label(verbs, "WhyLabel"),
+              "<u>e</u>s &nbsp; Das ist die Endung einer anderen Person.");
+    press(verbs, Qt::Key_Right);
+    EXPECT_NE(label(verbs, "WhyLabel"), "");
+    type(verbs, "s");
+    EXPECT_EQ(label(verbs, "WhyLabel"), "");
+    settings.QuestionOrder = shell::question_order::Random;
+    for (const Drill& drill : {Declension, Pronoun})
+        for (int number = 1; number < 4; ++number) {
+            QWidget& window = number == 1 ? open(drill, 1) : shown(drill.window);
+            EXPECT_EQ(label(window, "WhereLabel"),
+                      QString("Form %1 von %2").arg(number).arg(drill.window == "Declination" ? 10 : 15));
+            answer(window, QString::fromStdString(drill.right(window)));
+        }
 }
 
 // Left while the answer is shown, it begins anew without it.

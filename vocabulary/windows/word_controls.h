@@ -15,7 +15,8 @@ class WordBox : public shell::AnswerBox {
 public:
     using AnswerBox::AnswerBox;
 
-    bool asksForHint(const QString& /*typed*/) const override { return false; }
+protected:
+    void keyPressEvent(QKeyEvent* event) override { QLineEdit::keyPressEvent(event); }
 };
 
 /// A label for a text of a list, shown letter by letter as it stands, in as many lines as it takes. It asks

@@ -1,0 +1,38 @@
+#include "shell/answer_fault.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using shell::FaultKind;
+
+TEST(AnswerFault, NamesWhatIsPlainAndFindsTheFirstLetterThatDiffers)
+{
+    const struct {
+        std::string_view answer, right, differs;
+        FaultKind kind;
+    } faults[] = {
+        {"ama:s", "ama:t", "s", FaultKind::Other},
+        {"", "amo:", "", FaultKind::Other},
+        {"ama", "amas", "", FaultKind::Other},
+        {"amass", "amas", "s", FaultKind::Other},
+        {"Rosa", "rosa", "R", FaultKind::Capital},
+        {"älter", "Älter", "ä", FaultKind::Capital},
+        {"ÀäZ", "ÀäĀ", "Z", FaultKind::Other},
+        {"a mas", "amas", " ", FaultKind::BlankTooMany},
+        {"amas ", "amas", " ", FaultKind::BlankTooMany},
+        {"tobe", "to be", "b", FaultKind::Other},
+        {"amo", "amo:", "", FaultKind::MarkMissing},
+        {"amat", "ama:t", "t", FaultKind::MarkMissing},
+        {"ama:t", "amat", ":", FaultKind::MarkTooMany},
+        {"a:mat", "ama:t", ":", FaultKind::MarkMoved},
+        {"né", "nè", "é", FaultKind::Other},
+    };
+    for (const auto& [answer, right, differs, kind] : faults) {
+        const auto fault = shell::faultOf(answer, right);
+        EXPECT_EQ(fault.kind, kind) << answer;
+        EXPECT_EQ(answer.substr(fault.start, fault.length), differs) << answer;
+    }
+}
+
+} // namespace
