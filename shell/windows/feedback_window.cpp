@@ -3,6 +3,7 @@
 #include "shell/kit/captions.h"
 #include "shell/kit/controls.h"
 #include "shell/kit/layout.h"
+#include "shell/kit/measure.h"
 #include "shell/kit/text.h"
 
 #include <QBoxLayout>
@@ -38,6 +39,7 @@ FeedbackWindow::FeedbackWindow(std::string_view name, const Caption& caption)
 void FeedbackWindow::showSurface()
 {
     applyCaptions(*this, {&caption_, 1});
+    takeMeasures(*this, 1);
     adjustSize();
     moveToLowerRight();
     show();
