@@ -298,8 +298,7 @@ TEST_F(EveryDrill, SaysWhyAnAnswerWasWrongUntilTheNextKeyAndHowFarOneIs)
     QWidget& verbs = open(Conjugation, 5);
     EXPECT_EQ(label(verbs, "WhereLabel"), "Tempus 1 von 11");
     answer(verbs, "es");
-    EXPECT_EQ(label(verbs, "WhyLabel"),
-              "<u>e</u>s &nbsp; Das ist die Endung einer anderen Person.");
+    EXPECT_EQ(label(verbs, "WhyLabel"), "<u>e</u>s &nbsp; Das ist die Endung einer anderen Person.");
     press(verbs, Qt::Key_Right);
     EXPECT_NE(label(verbs, "WhyLabel"), "");
     type(verbs, "s");
@@ -405,6 +404,30 @@ TEST_F(EveryDrill, OfNounsPlacesItsRowsInTheCaseOrder)
             EXPECT_EQ(label.buddy()->y(), 24 + 40 * row++);
         }
     }
+}
+
+// By the smaller of width / 960 and height / 600, in quarters.
+TEST_F(EveryDrill, GrowsWithItsMaximisedWindowUpToTwice)
+{
+    settings.MainWindowState = 2;
+    QWidget& drill = open(Declension);
+    const auto& frame = control<QGroupBox>(drill, "Frame1");
+    const auto& asked = box(drill, "DeclText", 0);
+    const double type = QApplication::font().pointSizeF() * 1.5;
+    for (const auto& [size, growth] :
+         {std::pair{QSize(959, 599), 1.0}, {{1920, 899}, 1.25}, {{1440, 2000}, 1.5}, {{4000, 3000}, 2.0}}) {
+        drill.resize(size);
+        QApplication::processEvents();
+        EXPECT_EQ(asked.font().pointSizeF(), type * growth);
+        EXPECT_EQ(asked.y(), 24 * growth);
+        EXPECT_EQ(box(drill, "DeclText", 1).y(), 64 * growth);
+        EXPECT_EQ(control<QLabel>(drill, "DeclNom").mapTo(&frame, QPoint()).y(), 24 * growth);
+    }
+    drill.showNormal();
+    drill.resize(drill.sizeHint());
+    QApplication::processEvents();
+    EXPECT_EQ(asked.font().pointSizeF(), type);
+    EXPECT_EQ(frame.mapTo(&drill, QPoint()).y(), 126);
 }
 
 TEST_F(EveryDrill, StandsInItsPlaceWithTheJudgementAndTheHelpBesideIt)

@@ -146,14 +146,28 @@ TEST_F(EveryWindow, IsTabbedThroughAsTheEyeGoesAndNamesAllAndHasNoTwoTextsOnOneA
     EXPECT_EQ(clashes.join('\n').toStdString(), GivenClashes);
 }
 
-TEST_F(EveryWindow, CutsNothingOffInATypeTwiceAsLarge)
+// On a small screen: a button whole, a line in its whole height, a list or a text as far as there is room.
+void expectFocusInView(QWidget& window)
+{
+    window.resize(window.sizeHint().boundedTo({700, 500}));
+    for (int tabs = 0; tabs < 30; ++tabs) {
+        tests::press(window, Qt::Key_Tab);
+        const QWidget& focused = *window.focusWidget();
+        const QRect seen = focused.visibleRegion().boundingRect();
+        EXPECT_FALSE(seen.isEmpty() || (focused.inherits("QAbstractButton") && seen != focused.rect()) ||
+                     (focused.inherits("QLineEdit") && seen.height() != focused.height()))
+            << focused.objectName().toStdString();
+    }
+}
+
+TEST_F(EveryWindow, CutsNothingOffAndPutsNothingOutOfReachInATypeTwiceAsLarge)
 {
     const QFont before = QApplication::font();
     QFont large = before;
     large.setPointSizeF(2 * before.pointSizeF());
     QApplication::setFont(large);
     // Labels that break their lines, and controls without a text of their own, take the room that there is.
-    inEveryLanguage([](const QWidget& window) {
+    inEveryLanguage([](QWidget& window) {
         for (const QWidget* const widget : window.findChildren<QWidget*>()) {
             const auto* const label = qobject_cast<const QLabel*>(widget);
             const bool bearsOneLine = label ? !label->wordWrap() : widget->inherits("QAbstractButton");
@@ -161,6 +175,7 @@ TEST_F(EveryWindow, CutsNothingOffInATypeTwiceAsLarge)
             EXPECT_TRUE(!widget->isVisible() || !bearsOneLine || room == room.expandedTo(widget->sizeHint()))
                 << widget->objectName().toStdString();
         }
+        expectFocusInView(window);
     });
     QApplication::setFont(before);
 }
