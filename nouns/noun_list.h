@@ -66,8 +66,8 @@ NounRecord nounAt(int paradigm, int number);
 /// The same with its stems as they were written.
 NounRecord nounAsWritten(int paradigm, int number);
 
-/// Stores a noun under its number; the stems that are shown lose their marks where vowel length is
-/// not. The oblique stem is kept in paradigm 8 alone.
+/// Stores a noun under its number. Its stems are kept as written, and lose their marks beside that where
+/// vowel length is not shown. The oblique stem is kept in paradigm 8 alone.
 void storeNoun(int paradigm, int number, const NounRecord& noun);
 
 } // namespace nouns

@@ -31,10 +31,10 @@ std::string written(std::string_view field)
 std::string lineOfFields(std::initializer_list<std::string_view> fields)
 {
     std::string line;
+    std::string_view separator;
     for (const std::string_view field : fields) {
-        if (!line.empty())
-            line += field.empty() ? "," : ", ";
-        line += written(field);
+        line.append(separator).append(written(field));
+        separator = ", ";
     }
     return line;
 }

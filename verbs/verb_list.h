@@ -59,7 +59,8 @@ VerbRecord verbAt(int verbClass, int number);
 /// The same with its stems as they were written.
 VerbRecord verbAsWritten(int verbClass, int number);
 
-/// Stores a verb under its number; the stems that are shown lose their marks where vowel length is not.
+/// Stores a verb under its number. Its stems are kept as written, and lose their marks beside that where
+/// vowel length is not shown.
 void storeVerb(int verbClass, int number, const VerbRecord& verb);
 
 } // namespace verbs

@@ -27,8 +27,8 @@ using shell::FieldNames;
 namespace {
 
 constexpr QSize LargestBlock{110, 36};
-constexpr int ListCharacters = 20;
-constexpr int CharactersOfField = 16;
+constexpr int ListCharacters = 30;
+constexpr int CharactersOfField = 20;
 constexpr int LinesOfKept = 2;
 
 constexpr std::array<std::string_view, DeclensionCount> Declensions = {
@@ -51,9 +51,9 @@ std::array<std::string_view, Fields.size()> textsOf(const NounRecord& noun)
     return {noun.stem, noun.obliqueStem, noun.note, english, german, french, spanish};
 }
 
-constexpr std::string_view Kept = "Changes last until the program ends. To keep one, copy the noun's line "
-                                  "into \"nouns.cfg\", where the number "
-                                  "of nouns stands above them.";
+constexpr std::string_view Kept =
+    "Changes last until the program ends. To keep one, copy the noun's line into "
+    "\"nouns.cfg\" and count new nouns there.";
 constexpr std::string_view Fixed = "The nouns of the fourth and fifth declensions are fixed.";
 
 constexpr std::string_view NewItem = "** Add New Item Here **";
@@ -274,6 +274,7 @@ void NounHandler::storeNewNoun()
     const int paradigm = chosenParadigm();
     switch (addNoun(paradigm, typedNoun())) {
     case NounEdit::NoParadigm:
+        paradigms_->setFocus();
         platform::current().showMessage("Choose the paradigm first: masculine/feminine or neuter.");
         return;
     case NounEdit::FixedNouns:

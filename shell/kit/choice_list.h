@@ -15,7 +15,7 @@ public:
     /// The chosen row, -1 where there is none.
     int chosenRow() const;
 
-    /// Makes the list as tall as its rows, and at least as wide.
+    /// Keeps the list as tall as its rows, and at least as wide.
     void fitRows();
 
 Q_SIGNALS:

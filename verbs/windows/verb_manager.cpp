@@ -23,9 +23,9 @@ using shell::FieldNames;
 namespace {
 
 constexpr QSize LargestBlock{110, 32};
-constexpr int ListCharacters = 20;
+constexpr int ListCharacters = 30;
 constexpr int StemCharacters = 14;
-constexpr int PreviewCharacters = 14;
+constexpr int PreviewCharacters = 12;
 constexpr int LinesOfKept = 2;
 
 struct ClassRow {
@@ -68,9 +68,9 @@ constexpr std::array<Preview, 3> Previews = {{{"LatInfinitive", "are"}, // sic: 
                                               {"LatPerfect", "i"},
                                               {"LatPastParticiple", "us"}}};
 
-constexpr std::string_view Kept = "Changes last until the program ends. To keep one, copy the verb's line "
-                                  "into \"verbs.cfg\", where the number "
-                                  "of verbs stands above them.";
+constexpr std::string_view Kept =
+    "Changes last until the program ends. To keep one, copy the verb's line into "
+    "\"verbs.cfg\" and count new verbs there.";
 
 constexpr std::string_view NewItem = "** Add New Item Here **";
 
