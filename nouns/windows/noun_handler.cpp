@@ -28,7 +28,7 @@ namespace {
 
 constexpr QSize LargestBlock{110, 36};
 constexpr int ListCharacters = 30;
-constexpr int CharactersOfField = 20;
+constexpr int CharactersOfField = 28;
 constexpr int LinesOfKept = 2;
 
 constexpr std::array<std::string_view, DeclensionCount> Declensions = {
