@@ -1,6 +1,7 @@
 #include "nouns/noun_edits.h"
 
 #include "nouns/fixed_nouns.h"
+#include "nouns/noun_list_file.h"
 
 #include <array>
 
@@ -60,6 +61,8 @@ void countFourthDeclension()
 
 NounEdit addNoun(int paradigm, const NounRecord& noun)
 {
+    if (paradigm == ParadigmUnchosen)
+        return NounEdit::NoParadigm;
     std::int16_t& count = nounList.NounCount[paradigm];
     if (hasFixedNouns(paradigm))
         return NounEdit::FixedNouns;
@@ -72,6 +75,13 @@ NounEdit addNoun(int paradigm, const NounRecord& noun)
     storeNoun(paradigm, count + 1, noun);
     ++count;
     return NounEdit::Stored;
+}
+
+std::string lineOfListedNoun(int paradigm, int number)
+{
+    if (hasFixedNouns(paradigm) || number > nounList.NounCount[paradigm])
+        return {};
+    return lineOfNoun(paradigm, nounAsWritten(paradigm, number));
 }
 
 } // namespace nouns

@@ -19,6 +19,9 @@ struct ListedParadigm {
 inline constexpr int DeclensionCount = 5;
 std::span<const ListedParadigm> paradigmsOf(int declension);
 
+/// Stands for a paradigm where none was chosen.
+inline constexpr int ParadigmUnchosen = 0;
+
 /// True for the paradigms whose nouns no list changes.
 bool hasFixedNouns(int paradigm);
 
@@ -32,11 +35,15 @@ std::string listedNominative(const ListedParadigm& paradigm, int number);
 void countFourthDeclension();
 
 /// What came of adding a noun.
-enum class NounEdit { Stored, FixedNouns, NoStem, NoObliqueStem, ListFull };
+enum class NounEdit { Stored, NoParadigm, FixedNouns, NoStem, NoObliqueStem, ListFull };
 
-/// Adds a noun at the end of a paradigm's list and counts it. Refused where the paradigm's nouns are fixed,
-/// the noun has no stem, the list is full, or a masculine or feminine noun of the third declension has no
-/// stem of the oblique cases. The change lasts until the program ends.
+/// Adds a noun at the end of a paradigm's list and counts it. Refused where no paradigm was chosen or
+/// its nouns are fixed, the noun has no stem, the list is full, or a masculine or feminine noun of the third
+/// declension has no stem of the oblique cases. The change lasts until the program ends.
 NounEdit addNoun(int paradigm, const NounRecord& noun);
+
+/// The line of the list file for a noun, with its marks whether they are shown or not; empty where the nouns
+/// are fixed, or the paradigm lists none under this number.
+std::string lineOfListedNoun(int paradigm, int number);
 
 } // namespace nouns

@@ -22,12 +22,24 @@ NounRecord nounAt(int paradigm, int number)
     return noun;
 }
 
+NounRecord nounAsWritten(int paradigm, int number)
+{
+    NounRecord noun = nounAt(paradigm, number);
+    noun.stem = nounList.StemAsWritten[paradigm][number - 1];
+    if (paradigm == ThirdDeclension)
+        noun.obliqueStem = nounList.ObliqueStemAsWritten[paradigm][number - 1];
+    return noun;
+}
+
 void storeNoun(int paradigm, int number, const NounRecord& noun)
 {
     nounList.NounListNote[paradigm][number] = noun.note;
     nounList.NounListStem[paradigm][number - 1] = shell::stemAsShown(noun.stem);
-    if (paradigm == ThirdDeclension)
+    nounList.StemAsWritten[paradigm][number - 1] = noun.stem;
+    if (paradigm == ThirdDeclension) {
         nounList.NounListObliqueStem[paradigm][number - 1] = shell::stemAsShown(noun.obliqueStem);
+        nounList.ObliqueStemAsWritten[paradigm][number - 1] = noun.obliqueStem;
+    }
     for (int column = 1; column <= MeaningCount; ++column)
         nounList.NounListMeaning[column][paradigm][number] =
             noun.meanings.at(static_cast<std::size_t>(column - 1));

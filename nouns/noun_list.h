@@ -43,6 +43,11 @@ struct NounList {
     /// one.
     ByParadigm<platform::Table<std::string, MostObliqueStems>> NounListObliqueStem;
 
+    /// Noun number minus one: both stems as they were written, with their marks whether they are shown or
+    /// not.
+    ByParadigm<platform::Table<std::string, MostNouns>> StemAsWritten;
+    ByParadigm<platform::Table<std::string, MostObliqueStems>> ObliqueStemAsWritten;
+
     /// Noun number 1 to 50.
     ByParadigm<Texts> NounListNote;
 
@@ -58,8 +63,11 @@ int mostNounsOf(int paradigm);
 /// The noun with number 1 to `mostNounsOf` of a paradigm.
 NounRecord nounAt(int paradigm, int number);
 
-/// Stores a noun under its number; the stems lose their marks where vowel length is not shown. The oblique
-/// stem is kept in paradigm 8 alone.
+/// The same with its stems as they were written.
+NounRecord nounAsWritten(int paradigm, int number);
+
+/// Stores a noun under its number. Its stems are kept as written, and lose their marks beside that where
+/// vowel length is not shown. The oblique stem is kept in paradigm 8 alone.
 void storeNoun(int paradigm, int number, const NounRecord& noun);
 
 } // namespace nouns

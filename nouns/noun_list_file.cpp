@@ -1,6 +1,6 @@
 #include "nouns/noun_list_file.h"
 
-#include "nouns/noun_list.h"
+#include "platform/field_line.h"
 #include "platform/field_reader.h"
 #include "platform/text_file.h"
 
@@ -76,6 +76,15 @@ bool readNounList(const std::filesystem::path& path)
     FieldReader reader(std::move(file.text));
     return std::ranges::all_of(Sections,
                                [&](const Section& section) { return readSection(reader, section); });
+}
+
+std::string lineOfNoun(int paradigm, const NounRecord& noun)
+{
+    const auto& [english, german, french, spanish] = noun.meanings;
+    if (paradigm == ThirdDeclension)
+        return platform::lineOfFields(
+            {noun.note, noun.stem, noun.obliqueStem, english, german, french, spanish});
+    return platform::lineOfFields({noun.note, noun.stem, english, german, french, spanish});
 }
 
 } // namespace nouns

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "nouns/noun_list.h"
+
 #include <filesystem>
+#include <string>
 #include <string_view>
 
 namespace nouns {
@@ -17,5 +20,8 @@ inline constexpr std::string_view NounListFileName = "nouns.cfg";
 /// negative, a noun more than the list can hold. What was read before stays, and the section with the fault
 /// counts the nouns that were read of it.
 bool readNounList(const std::filesystem::path& path);
+
+/// A noun of a paradigm as a line of the file, without the line's end.
+std::string lineOfNoun(int paradigm, const NounRecord& noun);
 
 } // namespace nouns

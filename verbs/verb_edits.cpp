@@ -2,6 +2,7 @@
 
 #include "shell/settings.h"
 #include "shell/vowel_marks.h"
+#include "verbs/verb_list_file.h"
 
 #include <algorithm>
 #include <array>
@@ -19,7 +20,6 @@ struct Edit {
     int number;
     VerbRecord verb;
     bool added;
-    bool marksShown;
 };
 
 std::vector<Edit> edits;
@@ -60,14 +60,11 @@ VerbEdit editVerb(int verbClass, int number, const VerbRecord& verb)
         return VerbEdit::NoPresentStem;
     if (number > MostVerbs)
         return VerbEdit::ListFull;
-    Edit edit{verbClass, number, verb, number > verbList.Count[verbClass],
-              settings.ShowVowelLength == platform::FlagTrue};
+    Edit edit{verbClass, number, verb, number > verbList.Count[verbClass]};
+    if (settings.ShowVowelLength != platform::FlagTrue)
+        keepMarks(edit.verb, verbAsWritten(verbClass, number));
     if (const auto before = editOf(verbClass, number); before != edits.end()) {
         edit.added = edit.added || before->added;
-        if (!edit.marksShown) {
-            keepMarks(edit.verb, before->verb);
-            edit.marksShown = before->marksShown;
-        }
         edits.erase(before);
     }
     store(edit);
@@ -77,11 +74,8 @@ VerbEdit editVerb(int verbClass, int number, const VerbRecord& verb)
 
 void repeatVerbEdits()
 {
-    for (Edit edit : edits) {
-        if (!edit.marksShown)
-            keepMarks(edit.verb, verbAt(edit.verbClass, edit.number));
+    for (const Edit& edit : edits)
         store(edit);
-    }
 }
 
 void forgetVerbEdits()
@@ -93,6 +87,13 @@ std::string listedInfinitive(int verbClass, int number)
 {
     const auto ending = ListedEndings.at(static_cast<std::size_t>(verbClass - FirstConjugation));
     return verbList.PresentStem[verbClass][number] + std::string(ending);
+}
+
+std::string lineOfListedVerb(int verbClass, int number)
+{
+    if (number > verbList.Count[verbClass] || verbList.PresentStem[verbClass][number].empty())
+        return {};
+    return lineOfVerb(verbAsWritten(verbClass, number));
 }
 
 } // namespace verbs

@@ -23,4 +23,8 @@ void forgetVerbEdits();
 /// How the verb manager names a verb: its present stem with the infinitive's ending without marks.
 std::string listedInfinitive(int verbClass, int number);
 
+/// The line of the list file for a verb, with its marks whether they are shown or not; empty where the class
+/// lists no verb under this number.
+std::string lineOfListedVerb(int verbClass, int number);
+
 } // namespace verbs

@@ -27,6 +27,7 @@ struct VerbList {
     template <typename Value>
     using ByClass = platform::Table<Value, LastRegularClass + 1>;
     using Stems = platform::Table<std::string, MostVerbs + 1>;
+    using WrittenStems = platform::Table<std::array<std::string, 3>, MostVerbs + 1>;
     using Translations = platform::Table<std::string, 40>;
 
     ByClass<std::int16_t> Count;
@@ -35,6 +36,10 @@ struct VerbList {
     ByClass<Stems> PresentStem;
     ByClass<Stems> PerfectStem;
     ByClass<Stems> SupineStem;
+
+    /// Verb number 1 to 15: its present, perfect and supine stem as they were written, with their marks
+    /// whether they are shown or not.
+    ByClass<WrittenStems> StemsAsWritten;
 
     /// Verb number minus one.
     ByClass<Translations> BaseForm;
@@ -51,7 +56,11 @@ inline VerbList verbList;
 /// The verb with number 1 to 15 of a class.
 VerbRecord verbAt(int verbClass, int number);
 
-/// Stores a verb under its number; the stems lose their marks where vowel length is not shown.
+/// The same with its stems as they were written.
+VerbRecord verbAsWritten(int verbClass, int number);
+
+/// Stores a verb under its number. Its stems are kept as written, and lose their marks beside that where
+/// vowel length is not shown.
 void storeVerb(int verbClass, int number, const VerbRecord& verb);
 
 } // namespace verbs

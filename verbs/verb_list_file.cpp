@@ -1,8 +1,8 @@
 #include "verbs/verb_list_file.h"
 
+#include "platform/field_line.h"
 #include "platform/field_reader.h"
 #include "platform/text_file.h"
-#include "verbs/verb_list.h"
 
 #include <algorithm>
 #include <array>
@@ -93,6 +93,13 @@ bool readVerbList(const std::filesystem::path& path)
 bool readVerbListAgain(const std::filesystem::path& path)
 {
     return readSections(path, SectionsAfterSwitch);
+}
+
+std::string lineOfVerb(const VerbRecord& verb)
+{
+    const auto& [baseForm, past, pastParticiple, presentParticiple] = verb.translations;
+    return platform::lineOfFields({verb.presentStem, verb.supineStem, verb.perfectStem, baseForm, past,
+                                   pastParticiple, presentParticiple});
 }
 
 } // namespace verbs

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "verbs/verb_list.h"
+
 #include <filesystem>
+#include <string>
 #include <string_view>
 
 namespace verbs {
@@ -22,5 +25,8 @@ bool readVerbList(const std::filesystem::path& path);
 /// Reads the list again after `ShowVowelLength` was switched. Here the count of the -io verbs becomes that of
 /// the fourth conjugation and the other way round.
 bool readVerbListAgain(const std::filesystem::path& path);
+
+/// A verb as a line of the file, without the line's end.
+std::string lineOfVerb(const VerbRecord& verb);
 
 } // namespace verbs

@@ -1,29 +1,35 @@
 #include "nouns/windows/noun_handler.h"
 
 #include "platform/platform.h"
+#include "shell/kit/choice_list.h"
 #include "shell/kit/controls.h"
 #include "shell/kit/layout.h"
 #include "shell/kit/record_form.h"
 #include "shell/kit/text.h"
 #include "shell/settings.h"
 
+#include <QApplication>
 #include <QBoxLayout>
+#include <QClipboard>
 #include <QComboBox>
+#include <QEvent>
+#include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QPushButton>
-#include <QScrollBar>
 
 #include <algorithm>
 
 namespace nouns {
 
+using shell::ChoiceList;
 using shell::FieldNames;
 
 namespace {
 
-constexpr QSize LargestBlock{110, 40};
-constexpr int CharactersOfField = 16;
+constexpr QSize LargestBlock{110, 36};
+constexpr int ListCharacters = 30;
+constexpr int CharactersOfField = 28;
+constexpr int LinesOfKept = 2;
 
 constexpr std::array<std::string_view, DeclensionCount> Declensions = {
     "First Declension", "Second Declension", "Third Declension", "Fourth Declension", "Fifth Declension"};
@@ -45,7 +51,22 @@ std::array<std::string_view, Fields.size()> textsOf(const NounRecord& noun)
     return {noun.stem, noun.obliqueStem, noun.note, english, german, french, spanish};
 }
 
+constexpr std::string_view Kept =
+    "Changes last until the program ends. To keep one, copy the noun's line into "
+    "\"nouns.cfg\" and count new nouns there.";
+constexpr std::string_view Fixed = "The nouns of the fourth and fifth declensions are fixed.";
+
 constexpr std::string_view NewItem = "** Add New Item Here **";
+
+// A text that cannot be changed stands on the window's own ground.
+void setTypable(QLineEdit& box, bool typable)
+{
+    box.setReadOnly(!typable);
+    QPalette colours = QApplication::palette(&box);
+    if (!typable)
+        colours.setBrush(QPalette::Base, colours.window());
+    box.setPalette(colours);
+}
 
 } // namespace
 
@@ -61,41 +82,47 @@ NounHandler::NounHandler() : Window("NounHandler", "nounmanager")
 // In the order in which Tab goes through them.
 void NounHandler::makeControls()
 {
-    declensions_ = shell::makeControl<QListWidget>(this, "NHDeclList");
+    declensions_ = shell::makeChoiceList(this, "NHDeclList");
     declensions_->setAccessibleName(QStringLiteral("Declensions"));
-    nouns_ = shell::makeControl<QListWidget>(this, "NHNounList");
+    for (const std::string_view name : Declensions)
+        declensions_->addItem(shell::fromUtf8(name));
+    nouns_ = shell::makeChoiceList(this, "NHNounList");
     nouns_->setAccessibleName(QStringLiteral("Nouns"));
+    shell::setLeastWidth(*nouns_, ListCharacters);
     paradigms_ = shell::makeControl<QComboBox>(this, "NHParadigm");
+    paradigms_->setPlaceholderText(QStringLiteral("choose one"));
     form_ = new shell::RecordForm;
     form_->addControl(paradigms_, "&Paradigm");
     form_->addBoxes(this, Fields);
-    add_ = shell::makeButton(this, "NHAdd", "&Add");
-    close_ = shell::makeButton(this, "NHClose", "&Close");
-    nouns_->setMinimumWidth(nouns_->fontMetrics().horizontalAdvance(shell::fromUtf8(NewItem)) +
-                            2 * nouns_->verticalScrollBar()->sizeHint().width());
-    for (const std::string_view name : Declensions)
-        declensions_->addItem(shell::fromUtf8(name));
-    declensions_->setMinimumWidth(declensions_->sizeHintForColumn(0) +
-                                  declensions_->verticalScrollBar()->sizeHint().width());
     shell::setLeastWidth(*form_->box(Stem), CharactersOfField);
+    add_ = shell::makeButton(this, "NHAdd", "&Add");
+    room_ = shell::makeLabel(this, "NHRoom");
+    copy_ = shell::makeButton(this, "NHCopy", "Cop&y Line");
+    kept_ = shell::makeLabel(this, "NHKept", shell::NoteType);
+    close_ = shell::makeButton(this, "NHClose", "&Close");
 }
 
 void NounHandler::layOut()
 {
+    declensions_->fitRows();
+    shell::wrapText(*kept_, LinesOfKept);
+    QBoxLayout* const lists = shell::columnOf(shell::MediumSpace, {declensions_, {nouns_, 1}});
     QBoxLayout* const record =
-        shell::columnOf(shell::LargeSpace, {form_, shell::Part::gap(), shell::buttonRow({add_}, {close_})});
+        shell::columnOf(shell::MediumSpace, {form_, shell::buttonRow({add_, room_}, {copy_}), kept_,
+                                             shell::Part::gap(1), shell::buttonRow({}, {close_})});
     shell::setContent(centredBlock(LargestBlock), shell::FormMargins,
-                      shell::rowOf(shell::LargeSpace, {{declensions_, 2}, {nouns_, 2}, {record, 4}}));
+                      shell::rowOf(shell::WideSpace, {{lists, 2}, {record, 5}}));
 }
 
 void NounHandler::connectControls()
 {
-    connect(declensions_, &QListWidget::currentRowChanged, this, &NounHandler::listNouns);
-    connect(nouns_, &QListWidget::currentRowChanged, this, &NounHandler::showNoun);
+    connect(declensions_, &ChoiceList::currentRowChanged, this, &NounHandler::listNouns);
+    connect(nouns_, &ChoiceList::currentRowChanged, this, &NounHandler::showNoun);
     connect(paradigms_, &QComboBox::currentIndexChanged, this, &NounHandler::chooseParadigm);
     connect(paradigms_, &QComboBox::activated, this, &NounHandler::keepDraft);
     connect(form_, &shell::RecordForm::edited, this, &NounHandler::keepDraft);
     connect(add_, &QPushButton::clicked, this, &NounHandler::add);
+    connect(copy_, &QPushButton::clicked, this, &NounHandler::copyLine);
     connect(close_, &QPushButton::clicked, this, &NounHandler::left);
 }
 
@@ -147,20 +174,59 @@ void NounHandler::showNoun(int row)
         paradigms_->setCurrentIndex(paradigms_->findData(static_cast<int>(paradigm->paradigm)));
         form_->show(textsOf(listedNoun(paradigm->paradigm, number)));
     }
-    allowTyping(isNewRow(row));
+    showWhatCanBeDone();
 }
 
-void NounHandler::allowTyping(bool allowed)
+// Fixed nouns have no room beside them, and no line of theirs would be read.
+void NounHandler::showWhatCanBeDone()
 {
-    paradigms_->setEnabled(allowed);
+    const bool fixed = hasFixedNouns(chosenParadigm());
+    const bool typable = isNewRow(nouns_->currentRow()) && !fixed;
+    paradigms_->setEnabled(typable);
     for (QLineEdit* const box : form_->boxes())
-        box->setReadOnly(!allowed);
-    form_->box(ObliqueStem)->setEnabled(chosenParadigm() == ThirdDeclension);
+        setTypable(*box, typable);
+    kept_->setText(shell::fromUtf8(fixed ? Fixed : Kept));
+    copy_->setEnabled(!lineOfChosenNoun().empty());
+    chooseParadigm();
 }
 
-void NounHandler::chooseParadigm(int /*row*/)
+// Without a paradigm the oblique stem may be typed: most nouns of the third declension need it.
+void NounHandler::chooseParadigm()
 {
-    form_->box(ObliqueStem)->setEnabled(chosenParadigm() == ThirdDeclension);
+    const int paradigm = chosenParadigm();
+    form_->box(ObliqueStem)->setEnabled(paradigm == ThirdDeclension || paradigm == ParadigmUnchosen);
+    const bool hasRoom = paradigm != ParadigmUnchosen && !hasFixedNouns(paradigm);
+    room_->setText(hasRoom
+                       ? QStringLiteral("%1 of %2").arg(listedNounCount(paradigm)).arg(mostNounsOf(paradigm))
+                       : QString());
+}
+
+// The paradigm of a new noun until another is chosen: the last one. The third declension has none, as the
+// gender decides there how a noun is declined.
+int NounHandler::presetParadigm() const
+{
+    return paradigms_->findData(static_cast<int>(ThirdDeclension)) < 0 ? paradigms_->count() - 1 : -1;
+}
+
+std::string NounHandler::lineOfChosenNoun() const
+{
+    const int row = nouns_->currentRow();
+    if (row < 0 || isNewRow(row))
+        return {};
+    const auto& [paradigm, number] = rows_.at(static_cast<std::size_t>(row));
+    return lineOfListedNoun(paradigm->paradigm, number);
+}
+
+void NounHandler::copyLine()
+{
+    QGuiApplication::clipboard()->setText(shell::fromUtf8(lineOfChosenNoun()));
+}
+
+void NounHandler::changeEvent(QEvent* event)
+{
+    Window::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        showWhatCanBeDone();
 }
 
 void NounHandler::keepDraft()
@@ -172,7 +238,7 @@ void NounHandler::showDraft()
 {
     const Draft& draft = drafts_.at(static_cast<std::size_t>(declensions_->currentRow()));
     const int chosen = paradigms_->findData(draft.paradigm);
-    paradigms_->setCurrentIndex(chosen < 0 ? paradigms_->count() - 1 : chosen);
+    paradigms_->setCurrentIndex(chosen < 0 ? presetParadigm() : chosen);
     form_->show(textsOf(draft.noun));
 }
 
@@ -207,8 +273,12 @@ void NounHandler::storeNewNoun()
 {
     const int paradigm = chosenParadigm();
     switch (addNoun(paradigm, typedNoun())) {
+    case NounEdit::NoParadigm:
+        paradigms_->setFocus();
+        platform::current().showMessage("Choose the paradigm first: masculine/feminine or neuter.");
+        return;
     case NounEdit::FixedNouns:
-        platform::current().showMessage("The nouns of the fourth and fifth declensions are fixed.");
+        platform::current().showMessage(std::string(Fixed));
         return;
     case NounEdit::NoStem:
         platform::current().showMessage("A noun needs a stem.");

@@ -7,17 +7,18 @@
 #include <vector>
 
 class QComboBox;
-class QListWidget;
+class QLabel;
 class QPushButton;
 
 namespace shell {
+class ChoiceList;
 class RecordForm;
-}
+} // namespace shell
 
 namespace nouns {
 
 /// The noun manager: shows the noun lists by declension and lets the learner add nouns. They are kept in
-/// memory: the list file is never written.
+/// memory: the list file is never written; a noun's line for it can be copied.
 ///
 /// `NHAdd` adds a last row for a new noun to any declension, whose fields can be filled in; pressed on that
 /// row it stores the noun, or says why it cannot. What was filled in waits there until it is stored.
@@ -30,6 +31,9 @@ public:
     /// Starts afresh with the first declension.
     void open();
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     void makeControls();
     void layOut();
@@ -41,9 +45,10 @@ private:
     };
 
     void listNouns();
-    void chooseParadigm(int row);
+    void chooseParadigm();
     void showNoun(int row);
-    void allowTyping(bool allowed);
+    void showWhatCanBeDone();
+    void copyLine();
     void keepDraft();
     void showDraft();
     NounRecord typedNoun() const;
@@ -53,12 +58,17 @@ private:
     void chooseLastOf(int paradigm);
     bool isNewRow(int row) const;
     int chosenParadigm() const;
+    int presetParadigm() const;
+    std::string lineOfChosenNoun() const;
 
-    QListWidget* declensions_ = nullptr;
-    QListWidget* nouns_ = nullptr;
+    shell::ChoiceList* declensions_ = nullptr;
+    shell::ChoiceList* nouns_ = nullptr;
     QComboBox* paradigms_ = nullptr;
     shell::RecordForm* form_ = nullptr;
     QPushButton* add_ = nullptr;
+    QLabel* room_ = nullptr;
+    QPushButton* copy_ = nullptr;
+    QLabel* kept_ = nullptr;
     QPushButton* close_ = nullptr;
 
     std::vector<ListRow> rows_;

@@ -1,3 +1,4 @@
+#include "platform/field_line.h"
 #include "platform/field_reader.h"
 
 #include <gtest/gtest.h>
@@ -43,6 +44,12 @@ TEST(FieldReader, TakesOnlyWholeNumbersThatFit)
         EXPECT_TRUE(FieldReader(text).read(number)) << text;
         EXPECT_EQ(number, expected);
     }
+}
+
+TEST(FieldReader, ReadsFieldsAgainThatWereWrittenAsALine)
+{
+    EXPECT_EQ(fieldsOf(platform::lineOfFields({"", "du:c", " a, b", "6\" long", "two\nlines", "\"x\"", ""})),
+              "1|du:c1| a, b1|6\" long1|two lines1|'x'1|1|");
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "shell/settings.h"
 #include "tests/support/window_test.h"
 #include "verbs/verb_list.h"
+#include "verbs/verb_list_file.h"
 
 namespace {
 
@@ -41,6 +42,12 @@ protected:
         press(*manager, Qt::Key_Home);
     }
 
+    std::string copied()
+    {
+        click(*manager, showsVerbs() ? "VMCopy" : "NHCopy");
+        return QApplication::clipboard()->text().toStdString();
+    }
+
     // The texts of all boxes, from top to bottom.
     QString shownRecord()
     {
@@ -74,9 +81,12 @@ TEST_F(Managers, FillTheBoxesFromTheListOfVerbsAlonePreviewFormsStoreAVerbOnItsR
         }
         fillBox("VerbManagerGermanForms0", "sing");
     }
-    press(*manager, Qt::Key_Escape);
-    openVerbs();
-    EXPECT_EQ(shownRecord(), first);
+    for (const auto& leave : waysToLeave("VerbManagerBack")) {
+        leave(*manager);
+        EXPECT_NE(shownWindow("MainMenu"), nullptr);
+        openVerbs();
+        EXPECT_EQ(shownRecord(), first);
+    }
     chooseWord(4, 12);
     EXPECT_EQ(shownRecord(), "||||||");
 
@@ -93,6 +103,7 @@ TEST_F(Managers, FillTheBoxesFromTheListOfVerbsAlonePreviewFormsStoreAVerbOnItsR
     EXPECT_EQ(verbAt(FirstConjugation, 15), (VerbRecord{"cant", "", "", {"sing", "", "", ""}}));
     EXPECT_EQ(listed().mid(14), QStringList({"cantare", "** Add New Item Here **"}));
     EXPECT_EQ(shownRecord(), "cant|||sing|||");
+    EXPECT_EQ(label(*manager, "VMRoom"), "15 of 15");
     chooseWord(0, 15);
     storeWord("salt");
     EXPECT_EQ(fake.messages,
@@ -106,17 +117,20 @@ TEST_F(Managers, FillTheBoxesFromTheListOfVerbsAlonePreviewFormsStoreAVerbOnItsR
 TEST_F(Managers, ShowTheNounsAndLetThemBeAndAddOneToTheParadigmThatIsChosenWithItsMarksAsTheyAreShown)
 {
     openNouns();
-    for (int declension = 0; const auto& [count, row, noun, record] :
-                             {std::tuple{12, 0, "puella", "puell||f. -ae|girl|Mädchen|jeune fille|muchacha"},
-                              {35, 20, "bellum", "bell||n. -i|war|Krieg|guerre|guerra"},
-                              {18, 1, "miles", "miles|milit|m. -itis|soldier|Soldat|soldat|soldado"},
-                              {7, 3, "passus", "pass|| (m)|step|Treppe||paso"},
-                              {7, 1, "dies", "di|| (f)|day|Tag||día"}}) {
+    for (int declension = 0;
+         const auto& [count, row, room, noun, record] :
+         {std::tuple{12, 0, "12 of 20", "puella", "puell||f. -ae|girl|Mädchen|jeune fille|muchacha"},
+          {35, 20, "15 of 20", "bellum", "bell||n. -i|war|Krieg|guerre|guerra"},
+          {18, 1, "10 of 10", "miles", "miles|milit|m. -itis|soldier|Soldat|soldat|soldado"},
+          {7, 3, "", "passus", "pass|| (m)|step|Treppe||paso"},
+          {7, 1, "", "dies", "di|| (f)|day|Tag||día"}}) {
         chooseWord(declension++, row);
         EXPECT_EQ(listed().size(), count);
         EXPECT_EQ(listed().at(row), noun);
         fillBox("NHStem", "x");
         EXPECT_EQ(shownRecord(), record);
+        EXPECT_EQ(label(*manager, "NHRoom"), room);
+        EXPECT_EQ(button(*manager, "NHCopy").isEnabled(), *room != '\0');
     }
     EXPECT_EQ(nounList.NounCount[FourthDeclension], 5);
 
@@ -148,6 +162,44 @@ TEST_F(Managers, ShowTheNounsAndLetThemBeAndAddOneToTheParadigmThatIsChosenWithI
     storeWord("pax");
     EXPECT_EQ(listed(), QStringList{"pax"});
     EXPECT_EQ(nounList.NounListObliqueStem[ThirdDeclension][0], "pac");
+}
+
+TEST_F(Managers, CopyAWordAsALineOfItsFileWithMarksThatAreNotShown)
+{
+    openVerbs();
+    chooseWord(1, 4);
+    EXPECT_EQ(copied(), "mov, mo:t, mo:v, move, moved, moved, moving");
+    fillBox("VerbManagerLatinForms2", "mo:ss");
+    fillBox("VerbManagerGermanForms0", "move, stir");
+    clickAdd();
+    writeFile("mine.cfg", "heading\n1\n" + copied());
+    words().setFocus();
+    press(*manager, Qt::Key_End);
+    EXPECT_FALSE(button(*manager, "VMCopy").isEnabled());
+
+    openNouns();
+    chooseWord(2, 1);
+    EXPECT_EQ(copied(), "m. -itis, mi:les, mi:lit, soldier, Soldat, soldat, soldado");
+    clickAdd();
+    EXPECT_FALSE(button(*manager, "NHCopy").isEnabled());
+    storeWord("fi:ni");
+    EXPECT_EQ(fake.messages, Messages{"Choose the paradigm first: masculine/feminine or neuter."});
+    EXPECT_EQ(focusIn(*manager), "NHParadigm");
+    EXPECT_TRUE(line(*manager, "NHObliqueStem").isEnabled());
+    chooseWord(0, 0);
+    chooseWord(2, 0);
+    clickAdd();
+    EXPECT_EQ(control<QComboBox>(*manager).currentIndex(), -1);
+    control<QComboBox>(*manager).setFocus();
+    press(*manager, Qt::Key_End);
+    clickAdd();
+    EXPECT_EQ(copied(), ", fi:ni, , , , ");
+    EXPECT_EQ(listed().back(), "fini");
+
+    shell::settings.ShowVowelLength = platform::FlagTrue;
+    readVerbList("mine.cfg");
+    EXPECT_EQ(verbAt(FirstConjugation, 1),
+              (VerbRecord{"mov", "mo:v", "mo:ss", {"move, stir", "moved", "moved", "moving"}}));
 }
 
 // What was typed for a declension stays there until it is stored.

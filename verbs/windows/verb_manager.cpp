@@ -1,6 +1,7 @@
 #include "verbs/windows/verb_manager.h"
 
 #include "platform/platform.h"
+#include "shell/kit/choice_list.h"
 #include "shell/kit/controls.h"
 #include "shell/kit/layout.h"
 #include "shell/kit/record_form.h"
@@ -8,21 +9,24 @@
 #include "verbs/verb_edits.h"
 
 #include <QBoxLayout>
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QPushButton>
 
 namespace verbs {
 
+using shell::ChoiceList;
 using shell::FieldNames;
 
 namespace {
 
-constexpr QSize LargestBlock{130, 32};
-constexpr int ListCharacters = 26;
-constexpr int StemCharacters = 18;
-constexpr int PreviewCharacters = 14;
+constexpr QSize LargestBlock{110, 32};
+constexpr int ListCharacters = 30;
+constexpr int StemCharacters = 14;
+constexpr int PreviewCharacters = 12;
+constexpr int LinesOfKept = 2;
 
 struct ClassRow {
     VerbClass verbClass;
@@ -64,6 +68,10 @@ constexpr std::array<Preview, 3> Previews = {{{"LatInfinitive", "are"}, // sic: 
                                               {"LatPerfect", "i"},
                                               {"LatPastParticiple", "us"}}};
 
+constexpr std::string_view Kept =
+    "Changes last until the program ends. To keep one, copy the verb's line into "
+    "\"verbs.cfg\" and count new verbs there.";
+
 constexpr std::string_view NewItem = "** Add New Item Here **";
 
 } // namespace
@@ -80,10 +88,13 @@ VerbManager::VerbManager() : Window("VerbManager", "verbmanager")
 // In the order in which Tab goes through them.
 void VerbManager::makeControls()
 {
-    classes_ = shell::makeControl<QListWidget>(this, "VMConjList");
+    classes_ = shell::makeChoiceList(this, "VMConjList");
     classes_->setAccessibleName(QStringLiteral("Conjugations"));
-    verbs_ = shell::makeControl<QListWidget>(this, "VMFormsList");
+    for (const ClassRow& row : Classes)
+        classes_->addItem(shell::fromUtf8(row.name));
+    verbs_ = shell::makeChoiceList(this, "VMFormsList");
     verbs_->setAccessibleName(QStringLiteral("Verbs"));
+    shell::setLeastWidth(*verbs_, ListCharacters);
     form_ = new shell::RecordForm;
     form_->addBoxes(this, Fields);
     for (std::size_t stem = 0; stem < previews_.size(); ++stem) {
@@ -92,11 +103,12 @@ void VerbManager::makeControls()
         shell::setLeastWidth(*previews_.at(stem), PreviewCharacters);
     }
     add_ = shell::makeButton(this, "VerbManagerAdd", "&Add");
+    room_ = shell::makeLabel(this, "VMRoom");
+    copy_ = shell::makeButton(this, "VMCopy", "Cop&y Line");
+    kept_ = shell::makeLabel(this, "VMKept", shell::NoteType);
+    kept_->setText(shell::fromUtf8(Kept));
+    back_ = shell::makeButton(this, "VerbManagerBack", "Bac&k");
     cancel_ = shell::makeButton(this, "VerbMangerCancel", "En&d Program");
-    for (QListWidget* const list : {classes_, verbs_})
-        shell::setLeastWidth(*list, ListCharacters);
-    for (const ClassRow& row : Classes)
-        classes_->addItem(shell::fromUtf8(row.name));
 }
 
 void VerbManager::layOut()
@@ -105,19 +117,25 @@ void VerbManager::layOut()
         form_->addWidget(previews_.at(stem), static_cast<int>(stem), 2);
     form_->setColumnStretch(1, 2);
     form_->setColumnStretch(2, 1);
+    classes_->fitRows();
+    shell::wrapText(*kept_, LinesOfKept);
+    QBoxLayout* const lists = shell::columnOf(shell::MediumSpace, {classes_, {verbs_, 1}});
     QBoxLayout* const record =
-        shell::columnOf(shell::LargeSpace, {form_, shell::Part::gap(), shell::buttonRow({add_}, {cancel_})});
+        shell::columnOf(shell::MediumSpace, {form_, shell::buttonRow({add_, room_}, {copy_}), kept_,
+                                             shell::Part::gap(1), shell::buttonRow({}, {back_, cancel_})});
     shell::setContent(centredBlock(LargestBlock), shell::FormMargins,
-                      shell::rowOf(shell::LargeSpace, {{classes_, 2}, {verbs_, 2}, {record, 5}}));
+                      shell::rowOf(shell::WideSpace, {{lists, 2}, {record, 5}}));
 }
 
 void VerbManager::connectControls()
 {
-    connect(classes_, &QListWidget::currentRowChanged, this, &VerbManager::listVerbs);
-    connect(verbs_, &QListWidget::currentRowChanged, this, &VerbManager::showVerb);
+    connect(classes_, &ChoiceList::currentRowChanged, this, &VerbManager::listVerbs);
+    connect(verbs_, &ChoiceList::currentRowChanged, this, &VerbManager::showVerb);
     for (std::size_t stem = 0; stem < previews_.size(); ++stem)
         connect(form_->box(stem), &QLineEdit::textChanged, this, &VerbManager::showPreviews);
     connect(add_, &QPushButton::clicked, this, &VerbManager::addVerb);
+    connect(copy_, &QPushButton::clicked, this, &VerbManager::copyLine);
+    connect(back_, &QPushButton::clicked, this, &VerbManager::left);
     connect(cancel_, &QPushButton::clicked, this, &VerbManager::endRequested);
 }
 
@@ -151,6 +169,7 @@ void VerbManager::listVerbs()
     for (int number = 1; number <= verbList.Count[verbClass]; ++number)
         verbs_->addItem(shell::fromUtf8(listedInfinitive(verbClass, number)));
     verbs_->addItem(shell::fromUtf8(NewItem));
+    room_->setText(QStringLiteral("%1 of %2").arg(verbList.Count[verbClass]).arg(MostVerbs));
     verbs_->setCurrentRow(0);
 }
 
@@ -160,6 +179,7 @@ void VerbManager::showVerb(int row)
         return;
     const bool isNew = row == verbs_->count() - 1;
     form_->show(textsOf(isNew ? VerbRecord{} : verbAt(chosenClass(), row + 1)));
+    copy_->setEnabled(!lineOfListedVerb(chosenClass(), row + 1).empty());
     showPreviews();
 }
 
@@ -167,6 +187,12 @@ void VerbManager::showPreviews()
 {
     for (std::size_t stem = 0; stem < previews_.size(); ++stem)
         previews_.at(stem)->setText(form_->box(stem)->text() + shell::fromUtf8(Previews.at(stem).ending));
+}
+
+void VerbManager::copyLine()
+{
+    QGuiApplication::clipboard()->setText(
+        shell::fromUtf8(lineOfListedVerb(chosenClass(), verbs_->currentRow() + 1)));
 }
 
 void VerbManager::addVerb()

@@ -6,18 +6,18 @@
 #include <array>
 
 class QLabel;
-class QListWidget;
 class QPushButton;
 
 namespace shell {
+class ChoiceList;
 class RecordForm;
-}
+} // namespace shell
 
 namespace verbs {
 
 /// Shows the verb lists by class and lets the learner change and add verbs. The changes are kept in memory:
-/// the list file is never written. What was typed and not added goes as soon as another row is chosen or the
-/// window is left.
+/// the list file is never written; a verb's line for it can be copied. What was typed and not added goes as
+/// soon as another row is chosen or the window is left.
 class VerbManager : public shell::Window {
     Q_OBJECT
 
@@ -38,15 +38,20 @@ private:
     void listVerbs();
     void showVerb(int row);
     void showPreviews();
+    void copyLine();
     void addVerb();
     int chosenClass() const;
     VerbRecord typedVerb() const;
 
-    QListWidget* classes_ = nullptr;
-    QListWidget* verbs_ = nullptr;
+    shell::ChoiceList* classes_ = nullptr;
+    shell::ChoiceList* verbs_ = nullptr;
     shell::RecordForm* form_ = nullptr;
     std::array<QLabel*, 3> previews_{};
     QPushButton* add_ = nullptr;
+    QLabel* room_ = nullptr;
+    QPushButton* copy_ = nullptr;
+    QLabel* kept_ = nullptr;
+    QPushButton* back_ = nullptr;
     QPushButton* cancel_ = nullptr;
 };
 
