@@ -421,7 +421,9 @@ TEST_F(EveryDrill, GrowsWithItsMaximisedWindowUpToTwice)
         EXPECT_EQ(asked.font().pointSizeF(), type * growth);
         EXPECT_EQ(asked.y(), 24 * growth);
         EXPECT_EQ(box(drill, "DeclText", 1).y(), 64 * growth);
-        EXPECT_EQ(control<QLabel>(drill, "DeclNom").mapTo(&frame, QPoint()).y(), 24 * growth);
+        EXPECT_EQ(control<QLabel>(drill, "DeclNom").mapTo(&drill, QPoint()).y() -
+                      frame.mapTo(&drill, QPoint()).y(),
+                  24 * growth);
     }
     drill.showNormal();
     drill.resize(drill.sizeHint());
