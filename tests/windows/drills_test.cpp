@@ -417,6 +417,9 @@ TEST_F(EveryDrill, GrowsWithItsMaximisedWindowUpToTwice)
     for (const auto& [size, growth] :
          {std::pair{QSize(959, 599), 1.0}, {{1920, 899}, 1.25}, {{1440, 2000}, 1.5}, {{4000, 3000}, 2.0}}) {
         drill.resize(size);
+        drill.overrideWindowState(Qt::WindowMaximized);
+        QResizeEvent resized(size, size);
+        QApplication::sendEvent(&drill, &resized);
         QApplication::processEvents();
         EXPECT_EQ(asked.font().pointSizeF(), type * growth);
         EXPECT_EQ(asked.y(), 24 * growth);
@@ -426,6 +429,7 @@ TEST_F(EveryDrill, GrowsWithItsMaximisedWindowUpToTwice)
                   24 * growth);
     }
     drill.showNormal();
+    QApplication::processEvents();
     drill.resize(drill.sizeHint());
     QApplication::processEvents();
     EXPECT_EQ(asked.font().pointSizeF(), type);
