@@ -4,6 +4,8 @@
 #include "nouns/noun_list_file.h"
 #include "platform/platform.h"
 #include "shell/drill.h"
+#include "shell/kit/text_size.h"
+#include "shell/looks_file.h"
 #include "shell/settings.h"
 #include "shell/settings_file.h"
 #include "shell/sound.h"
@@ -50,6 +52,8 @@ void loadProgram(shell::MainMenu& mainMenu)
         shell::applyDefaultSettings();
     shell::mendSettings();
     shell::setVowelMarkAsShown();
+    shell::readLooks(shell::LooksFileName);
+    shell::applyTextSize();
     mainMenu.showSettings();
     mainMenu.showInMainWindowState();
     shell::soundIfOn(ProgramSound);

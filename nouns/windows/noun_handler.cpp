@@ -2,6 +2,7 @@
 
 #include "platform/platform.h"
 #include "shell/kit/controls.h"
+#include "shell/kit/latin_text.h"
 #include "shell/kit/layout.h"
 #include "shell/kit/record_form.h"
 #include "shell/kit/text.h"
@@ -78,6 +79,8 @@ void NounHandler::makeControls()
     declensions_->setMinimumWidth(declensions_->sizeHintForColumn(0) +
                                   declensions_->verticalScrollBar()->sizeHint().width());
     shell::setLeastWidth(*form_->box(Stem), CharactersOfField);
+    for (const Field latin : {Stem, ObliqueStem, Note})
+        shell::takeMacrons(*form_->box(latin));
 }
 
 void NounHandler::layOut()
@@ -118,7 +121,7 @@ void NounHandler::listNouns()
         paradigms_->addItem(shell::fromUtf8(paradigm.name), static_cast<int>(paradigm.paradigm));
         for (int number = 1; number <= listedNounCount(paradigm.paradigm); ++number) {
             rows_.push_back({&paradigm, number});
-            nouns_->addItem(shell::fromUtf8(listedNominative(paradigm, number)));
+            nouns_->addItem(shell::latinText(listedNominative(paradigm, number)));
         }
     }
     nouns_->setCurrentRow(rows_.empty() ? -1 : 0);

@@ -84,6 +84,25 @@ std::vector<Caption> allCaptions()
 
 } // namespace
 
+const LanguageTexts FirstStepsTexts = {
+    .english = "1. Choose an exercise, and then what you want to practise.\n"
+               "2. Type the form that is asked, and press Enter.\n"
+               "3. If you do not know it, “?” shows it to you.",
+    .french = "1. Choisissez un exercice, puis ce que vous voulez apprendre.\n"
+              "2. Tapez la forme demandée et appuyez sur Entrée.\n"
+              "3. Si vous ne la savez pas, « ? » vous la montre.",
+    .italian = {},
+    .german = "1. Wählen Sie eine Übung und dann, was Sie üben möchten.\n"
+              "2. Tippen Sie die gefragte Form und drücken Sie die Eingabetaste.\n"
+              "3. Wissen Sie sie nicht, so zeigt „?“ sie Ihnen.",
+    .spanish = "1. Elija un ejercicio y luego lo que quiera practicar.\n"
+               "2. Escriba la forma que se pide y pulse Intro.\n"
+               "3. Si no la sabe, «?» se la muestra.",
+    .latin = "1. Elige exercitationem, deinde quid discere velis.\n"
+             "2. Scribe formam quae quaeritur et preme clavem «Enter».\n"
+             "3. Si eam nescis, «?» eam monstrat.",
+};
+
 void makeMainMenuItems(QMenuBar& menuBar, MainMenu& window)
 {
     makeMenus(menuBar, window, Rows);

@@ -3,6 +3,7 @@
 #include "platform/platform.h"
 #include "shell/kit/captions.h"
 #include "shell/kit/controls.h"
+#include "shell/kit/latin_text.h"
 #include "shell/kit/layout.h"
 #include "shell/kit/text.h"
 #include "shell/kit/type.h"
@@ -44,6 +45,13 @@ constexpr std::array Captions = {
 constexpr LanguageTexts Title{"Vocabulary",                 "Vocabulaire",                     {}, "Wortschatz",                       "Vocabulario",                           "Verba nostra"};
 constexpr LanguageTexts NoWord{"There is no word to ask.",  "Il n'y a aucun mot à demander.",  {}, "Es gibt kein Wort zum Abfragen.",  "No hay ninguna palabra que preguntar.", "Nullum verbum restat."};
 // clang-format on
+
+// A translation may hold a colon of its own.
+QString questionShown()
+{
+    const bool latin = vocabularyTester.AsksWithTranslation != platform::FlagTrue;
+    return latin ? shell::latinText(questionText()) : shell::fromUtf8(questionText());
+}
 
 } // namespace
 
@@ -146,8 +154,8 @@ void Vcabtester::comeBack()
 void Vcabtester::showTheWord()
 {
     const bool asked = vocabularyTester.WordIsAsked == platform::FlagTrue;
-    question_->setText(shell::fromUtf8(asked ? questionText() : NoWord.currentOrDesigned()));
-    hint_->setText(shell::fromUtf8(hintText()));
+    question_->setText(asked ? questionShown() : shell::fromUtf8(NoWord.currentOrDesigned()));
+    hint_->setText(shell::latinText(hintText()));
     answer_->setAccessibleDescription(question_->text() + QStringLiteral(", ") + hint_->text());
     omit_->setChecked(currentWordIsOmitted());
     omit_->setEnabled(vocabularyList.WordCount > 0);
