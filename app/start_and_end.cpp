@@ -44,6 +44,12 @@ void waitForSound()
 
 } // namespace
 
+void loadLooks()
+{
+    shell::readLooks(shell::LooksFileName);
+    shell::applyTextSize();
+}
+
 void loadProgram(shell::MainMenu& mainMenu)
 {
     if (verbs::readVerbList(verbs::VerbListFileName)) // sic: before the settings
@@ -52,8 +58,6 @@ void loadProgram(shell::MainMenu& mainMenu)
         shell::applyDefaultSettings();
     shell::mendSettings();
     shell::setVowelMarkAsShown();
-    shell::readLooks(shell::LooksFileName);
-    shell::applyTextSize();
     mainMenu.showSettings();
     mainMenu.showInMainWindowState();
     shell::soundIfOn(ProgramSound);

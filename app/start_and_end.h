@@ -11,9 +11,13 @@ namespace app {
 /// Heard at start and end.
 inline constexpr std::string_view ProgramSound = "VELMOR2.WAV";
 
-/// The start: reads the word lists, the settings and how the learner likes to see things from the working
-/// folder, mends what is odd in the settings, shows them on the main window, shows that window, and plays the
-/// sound when sound is on. Files that are missing or broken are passed over silently.
+/// Reads how the learner likes to see things, to be called before any window is made: each is made in the
+/// size of type that was kept.
+void loadLooks();
+
+/// The start: reads the word lists and the settings of the working folder, mends what is odd in them, shows
+/// them on the main window, shows that window, and plays the sound when sound is on. Files that are missing
+/// or broken are passed over silently.
 ///
 /// The word lists are read before the settings, and the noun list only after a sound verb list. So the stems
 /// have no marks at first; those of verbs get them when the option is switched, those of the nouns in the

@@ -15,6 +15,13 @@ namespace {
 // The desktop's own font, as long as another size of it is in use.
 std::optional<QFont> desktopFont;
 
+// Qt tells the windows later of its own accord, when they may be about to be maximised.
+void setFontOfAll(const QFont& font)
+{
+    QApplication::setFont(font);
+    QCoreApplication::sendPostedEvents(qApp, QEvent::ApplicationFontChange);
+}
+
 QFont desktopFontIn(int percent)
 {
     QFont font = *desktopFont;
@@ -32,9 +39,9 @@ void applyTextSize()
     if (looks.TextSize != DesktopTextSize) {
         if (!desktopFont)
             desktopFont = QApplication::font();
-        QApplication::setFont(desktopFontIn(looks.TextSize));
+        setFontOfAll(desktopFontIn(looks.TextSize));
     } else if (desktopFont) {
-        QApplication::setFont(*desktopFont);
+        setFontOfAll(*desktopFont);
         desktopFont.reset();
     }
 }

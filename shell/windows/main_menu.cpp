@@ -56,7 +56,7 @@ constexpr std::array<Choice, 10> Choices = {{
 }};
 // clang-format on
 
-// Of its own accord as large as three lines of its type; where these have no room, as its text.
+// At least three lines of its type high.
 class BigButton : public QPushButton {
 public:
     using QPushButton::QPushButton;
@@ -65,10 +65,10 @@ public:
     {
         const QSize large(ButtonCharacters * fontMetrics().averageCharWidth(),
                           ButtonLines * fontMetrics().lineSpacing());
-        return minimumSizeHint().expandedTo(large);
+        return QPushButton::sizeHint().expandedTo(large);
     }
 
-    QSize minimumSizeHint() const override { return QPushButton::sizeHint(); }
+    QSize minimumSizeHint() const override { return sizeHint(); }
 };
 
 } // namespace
@@ -155,7 +155,8 @@ void MainMenu::showFirstSteps()
     if (firstSteps_ == nullptr) {
         firstSteps_ = makeLabel(this, "FirstSteps");
         firstSteps_->setContentsMargins(0, LargeSpace, 0, 0);
-        column_->addWidget(firstSteps_, 0, Qt::AlignHCenter);
+        firstSteps_->setWordWrap(true);
+        column_->addWidget(firstSteps_);
     }
     firstSteps_->setText(fromUtf8(FirstStepsTexts.currentOrDesigned()));
 }
