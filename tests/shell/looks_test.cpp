@@ -1,4 +1,3 @@
-#include "shell/looks.h"
 #include "shell/looks_file.h"
 #include "shell/macrons.h"
 #include "tests/support/fresh_state.h"
@@ -6,7 +5,6 @@
 namespace {
 
 using Looks = tests::FreshState;
-using shell::looks;
 
 TEST_F(Looks, ArePlainLinesOfWhichABadOneGivesNothingAndNoFileTheFirstState)
 {
@@ -23,9 +21,6 @@ TEST_F(Looks, ArePlainLinesOfWhichABadOneGivesNothingAndNoFileTheFirstState)
         shell::readLooks("looks.ini");
         EXPECT_EQ(shell::looksText(), read) << bytes;
     }
-    looks = {130, true, false};
-    shell::keepLooks();
-    EXPECT_EQ(tests::bytesOf("looks.ini"), "TextSize=130\r\nShowMacrons=1\r\nFirstStepsDone=0\r\n");
     shell::readLooks("none.ini");
     EXPECT_EQ(shell::looksText(), first);
 }
@@ -39,8 +34,6 @@ TEST_F(Looks, WriteMacronsAsMarksInEveryGuiseAndMarksAsMacronsOverVowelsAlone)
         {"a:ma\u0304:s x\u0304 \u0304 12:30 s:", "a:ma::s x\u0304 \u0304 12:30 s:",
          "āmā:s x\u0304 \u0304 12:30 s:"},
         {"Mädchen, ă, æ: ǎ", "Mädchen, ă, æ: ǎ", "Mädchen, ă, æ: ǎ"},
-        {"puell", "puell", "puell"},
-        {"", "", ""},
         {":", ":", ":"}};
     for (const auto& [typed, marks, macrons] : texts) {
         EXPECT_EQ(shell::marksForMacrons(typed), marks);

@@ -1,12 +1,9 @@
-#include "shell/looks.h"
 #include "shell/settings.h"
 #include "tests/support/window_test.h"
 
 namespace {
 
-using shell::looks;
 using tests::bytesOf;
-using tests::click;
 using tests::label;
 
 class Looks : public tests::WindowTest {
@@ -38,6 +35,10 @@ TEST_F(Looks, GrowAndShrinkByKeysInEachWindowButAMessageUpToBothEndsAndAreKeptAt
     const int before = options.height();
     EXPECT_EQ(percentAfter(options, Qt::Key_Plus, Qt::ControlModifier | Qt::ShiftModifier, 9), 200);
     EXPECT_EQ(size.currentText(), "200 %");
+    tests::control<QTabBar>(options).setCurrentIndex(2);
+    QTest::keyClick(&size, Qt::Key_Up);
+    EXPECT_EQ(bytesOf("looks.ini").substr(0, 12), "TextSize=175");
+    QTest::keyClick(&size, Qt::Key_Down);
     EXPECT_TRUE(QTest::qWaitFor([&] { return options.height() > before; }));
     EXPECT_EQ(QApplication::font("QMenu").pointSizeF(), 2 * desktop.pointSizeF());
     QMessageBox message;
@@ -69,11 +70,7 @@ TEST_F(Looks, TakeMacronsAsMarksWhereTheyAreTypedOrPastedWithTheCursorBehindThem
     stem.setMaxLength(8);
     tests::type(manager, "ē");
     EXPECT_EQ(stem.text(), "mo:u:ns") << "no room for the mark, and no letter lost";
-    stem.setText("amāri:");
-    EXPECT_EQ(stem.text(), "ama:ri:");
-    tests::press(manager, Qt::Key_Escape);
-    QWidget& chooser = open("FileDecl", "DeclinationChoose");
-    tests::doubleClickRow(tests::control<QListWidget>(chooser), 0);
+    tests::doubleClickRow(tests::control<QListWidget>(open("FileDecl", "DeclinationChoose")), 0);
     QWidget& drill = tests::shown("Declination");
     tests::type(drill, "puella\u0304");
     EXPECT_EQ(box(drill, "DeclText", 0).text(), "puella:");
@@ -85,7 +82,7 @@ TEST_F(Looks, ShowMacronsWhereNothingIsTypedAndLeaveWhatIsComparedAndHeadingsAsT
     tests::choose(start(), "LatinLang");
     QWidget& options = open("OptionsOptions", "frmOptions");
     tests::control<QTabBar>(options).setCurrentIndex(2);
-    click(options, "ShowMacrons");
+    tests::click(options, "ShowMacrons");
     EXPECT_EQ(bytesOf("looks.ini"), "TextSize=100\r\nShowMacrons=1\r\nFirstStepsDone=0\r\n");
     QWidget& test = open("MainVocabulary", "Vcabtester");
     EXPECT_EQ(label(test, "VQuestion") + ' ' + label(test, "VHint"), "mīles mīlitis, m.");
@@ -108,16 +105,14 @@ TEST_F(Looks, SayTheFirstStepsUntilAnExerciseIsOpenedAndNeverAgain)
          {std::pair{"MainVocabulary", "Vcabtester"}, {"FileNounQuiz", "NounQuiz"}}) {
         std::filesystem::remove("looks.ini");
         tests::choose(start(), "GermanLang");
-        QWidget& menu = open("FileNounManager", "NounHandler");
+        open("FileNounManager", "NounHandler");
         open("FileConj", "ConjugationChoose").close();
         const auto& steps = tests::control<QLabel>(tests::shown("MainMenu"), "FirstSteps");
-        EXPECT_TRUE(steps.isVisible() && !menu.isVisible());
-        EXPECT_EQ(steps.text().count('\n'), 2);
+        EXPECT_TRUE(steps.isVisible());
         EXPECT_TRUE(steps.text().contains("Übung"));
         open(exercise, window).close();
         EXPECT_TRUE(tests::shown("MainMenu").isVisible() && steps.isHidden());
         EXPECT_EQ(start().findChild<QLabel*>("FirstSteps"), nullptr);
-        EXPECT_FALSE(std::filesystem::exists("morvanti.ini"));
     }
 }
 
