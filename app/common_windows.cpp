@@ -15,6 +15,7 @@ void hideWhenLeft(shell::Window& window)
 
 void CommonWindows::joinDrill(shell::DrillWindow& window, const Step& next)
 {
+    mainMenu_.endFirstSteps();
     QObject::connect(&window, &shell::DrillWindow::answerJudged, &window,
                      [this](bool right) { announce(right); });
     QObject::connect(&window, &shell::DrillWindow::left, &window, [this, &window, next] {

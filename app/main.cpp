@@ -2,6 +2,7 @@
 #include "app/command_line.h"
 #include "app/navigation.h"
 #include "app/qt_platform.h"
+#include "app/start_and_end.h"
 #include "app/working_folder.h"
 #include "platform/platform.h"
 #include "platform/random.h"
@@ -50,6 +51,7 @@ int run(int argumentCount, char** arguments)
     app::QtPlatform platform;
     platform::use(platform);
     platform::seedFromClock();
+    app::loadLooks();
     app::Navigation navigation;
     navigation.start();
     return app::Application::exec();

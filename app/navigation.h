@@ -3,6 +3,7 @@
 #include "app/common_windows.h"
 #include "app/key_filter.h"
 #include "app/noun_navigation.h"
+#include "app/text_size_keys.h"
 #include "app/verb_navigation.h"
 #include "app/verb_quiz_navigation.h"
 #include "app/vocabulary_navigation.h"
@@ -26,6 +27,7 @@ private:
     void showHelp();
 
     KeyFilter keyFilter_;
+    TextSizeKeys textSizeKeys_;
     CommonWindows common_;
     VerbNavigation verbs_{common_};
     NounNavigation nouns_{common_};

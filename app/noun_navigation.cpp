@@ -48,6 +48,7 @@ void NounNavigation::joinPronounSingular(PronounSingular& window)
 
 void NounNavigation::joinNounQuiz(NounQuiz& window)
 {
+    common_.mainMenu().endFirstSteps();
     connect(&window, &NounQuiz::optionsRequested, this, [this] { common_.openDelayInterval(); });
     connect(&window, &NounQuiz::left, this, &shell::leaveDrill);
     whenLeft(window, [this] { common_.toMainMenu(); });

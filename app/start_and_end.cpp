@@ -4,6 +4,8 @@
 #include "nouns/noun_list_file.h"
 #include "platform/platform.h"
 #include "shell/drill.h"
+#include "shell/kit/text_size.h"
+#include "shell/looks_file.h"
 #include "shell/settings.h"
 #include "shell/settings_file.h"
 #include "shell/sound.h"
@@ -41,6 +43,12 @@ void waitForSound()
 }
 
 } // namespace
+
+void loadLooks()
+{
+    shell::readLooks(shell::LooksFileName);
+    shell::applyTextSize();
+}
 
 void loadProgram(shell::MainMenu& mainMenu)
 {

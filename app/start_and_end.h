@@ -11,6 +11,10 @@ namespace app {
 /// Heard at start and end.
 inline constexpr std::string_view ProgramSound = "VELMOR2.WAV";
 
+/// Reads how the learner likes to see things, to be called before any window is made: each is made in the
+/// size of type that was kept.
+void loadLooks();
+
 /// The start: reads the word lists and the settings of the working folder, mends what is odd in them, shows
 /// them on the main window, shows that window, and plays the sound when sound is on. Files that are missing
 /// or broken are passed over silently.

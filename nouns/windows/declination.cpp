@@ -7,6 +7,7 @@
 #include "shell/kit/answer_box.h"
 #include "shell/kit/captions.h"
 #include "shell/kit/controls.h"
+#include "shell/kit/latin_text.h"
 #include "shell/kit/text.h"
 #include "shell/kit/type.h"
 #include "shell/settings.h"
@@ -168,7 +169,7 @@ void Declination::showNoun()
 {
     const int paradigm = declensionDrill.DrillParadigm;
     heading_->setText(shell::fromUtf8(nounTables.DeclensionHeading[paradigm]));
-    noun_->setText(shell::fromUtf8(nounName(paradigm)));
+    noun_->setText(shell::latinText(nounName(paradigm)));
     emptyBoxes();
     for (std::size_t i = 0; i < boxes().size(); ++i) {
         const QGroupBox* const frame = i < CasesOfNumber ? singular_ : plural_;

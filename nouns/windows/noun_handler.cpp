@@ -3,6 +3,7 @@
 #include "platform/platform.h"
 #include "shell/kit/choice_list.h"
 #include "shell/kit/controls.h"
+#include "shell/kit/latin_text.h"
 #include "shell/kit/layout.h"
 #include "shell/kit/record_form.h"
 #include "shell/kit/text.h"
@@ -100,6 +101,8 @@ void NounHandler::makeControls()
     copy_ = shell::makeButton(this, "NHCopy", "Cop&y Line");
     kept_ = shell::makeLabel(this, "NHKept", shell::NoteType);
     close_ = shell::makeButton(this, "NHClose", "&Close");
+    for (const Field latin : {Stem, ObliqueStem, Note})
+        shell::takeMacrons(*form_->box(latin));
 }
 
 void NounHandler::layOut()
@@ -145,7 +148,7 @@ void NounHandler::listNouns()
         paradigms_->addItem(shell::fromUtf8(paradigm.name), static_cast<int>(paradigm.paradigm));
         for (int number = 1; number <= listedNounCount(paradigm.paradigm); ++number) {
             rows_.push_back({&paradigm, number});
-            nouns_->addItem(shell::fromUtf8(listedNominative(paradigm, number)));
+            nouns_->addItem(shell::latinText(listedNominative(paradigm, number)));
         }
     }
     nouns_->setCurrentRow(rows_.empty() ? -1 : 0);

@@ -6,6 +6,7 @@
 #include "shell/feedback.h"
 #include "shell/kit/captions.h"
 #include "shell/kit/controls.h"
+#include "shell/kit/latin_text.h"
 #include "shell/kit/layout.h"
 #include "shell/kit/text.h"
 #include "shell/kit/type.h"
@@ -148,8 +149,8 @@ void NounQuiz::ask()
     for (QCheckBox* const box : checks_)
         box->setChecked(false);
     drawNounQuestion();
-    form_->setText(shell::fromUtf8(askedForm()));
-    info_->setText(shell::fromUtf8(askedNoun()));
+    form_->setText(shell::latinText(askedForm()));
+    info_->setText(shell::latinText(askedNoun()));
     indices_->setText(shell::fromUtf8(drawnIndexes()));
     const int drawn = DeclensionOf.at(static_cast<std::size_t>(nounQuestion.QuizParadigmIndex));
     for (int i = 0; i < NamedDeclensionCount; ++i) {

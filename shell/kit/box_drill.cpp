@@ -2,6 +2,7 @@
 
 #include "shell/kit/answer_box.h"
 #include "shell/kit/controls.h"
+#include "shell/kit/latin_text.h"
 #include "shell/kit/text.h"
 #include "shell/pause.h"
 
@@ -24,6 +25,7 @@ AnswerBox* BoxDrill::addBox(QWidget* parent, const QString& name)
     connect(box, &AnswerBox::hintRequested, this, &BoxDrill::hint);
     connect(box, &AnswerBox::returnPressed, this, &BoxDrill::check);
     watch(*box);
+    takeMacrons(*box);
     boxes_.push_back(box);
     return box;
 }

@@ -161,13 +161,20 @@ void Window::changeEvent(QEvent* event)
     QWidget::changeEvent(event);
     if (event->type() == QEvent::WindowStateChange)
         grow();
-    if (event->type() == QEvent::ApplicationFontChange)
-        takeSize(growth_);
     if (event->type() != QEvent::ActivationChange || !isActiveWindow() || isHidden())
         return;
     if (!activeName_.empty())
         settings.ActiveWindowName = activeName_;
     becameActive();
+}
+
+// A change of the desktop's font does not come as a change of the window where it has a font of its own.
+bool Window::event(QEvent* event)
+{
+    const bool known = QWidget::event(event);
+    if (event->type() == QEvent::ApplicationFontChange)
+        takeSize(growth_);
+    return known;
 }
 
 void Window::closeEvent(QCloseEvent* event)

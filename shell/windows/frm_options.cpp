@@ -6,10 +6,16 @@
 #include "shell/kit/controls.h"
 #include "shell/kit/layout.h"
 #include "shell/kit/text.h"
+#include "shell/kit/text_size.h"
+#include "shell/looks.h"
+#include "shell/looks_file.h"
 #include "shell/settings.h"
 #include "shell/windows/main_menu_items.h"
 
 #include <QBoxLayout>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QEvent>
 #include <QFormLayout>
 #include <QFrame>
 #include <QLabel>
@@ -39,11 +45,14 @@ constexpr std::array Captions = {
     Caption{"cmdCancel",    {"&Cancel",                "&Annuler",                 "&Annulla",               "&Abbruch",                  "&Cancelar",                    "&Reverte!"}},
     Caption{"cmdApply",     {"A&pply",                 "A&ppliquer",               "A&pplica",               "Über&nehmen",               "A&plicar",                     "A&dhibe!"}},
     Caption{"GODelayLabel", {"Pause after an answer:", "Pause après une réponse :", "Pausa dopo una risposta:", "Pause nach einer Antwort:", "Pausa después de una respuesta:", "Mora post responsum:"}},
+    Caption{"TextSizeLabel", {"&Text size (Ctrl and +, -, 0):", "&Taille du texte (Ctrl et +, -, 0) :", "&Dimensione del testo (Ctrl e +, -, 0):", "&Schriftgröße (Strg und +, -, 0):", "&Tamaño del texto (Ctrl y +, -, 0):", "&Magnitudo litterarum (Ctrl et +, -, 0):"}},
+    Caption{"ShowMacrons",  {"Show &macrons: ā, not a:", "&Macrons : ā et non a:",  "&Macron: ā e non a:",    "&Längenstriche: ā statt a:", "&Macrones: ā y no a:",         "&Lineolas ostende: ā pro a:"}},
 };
 
 constexpr std::array Tabs = {
     LanguageTexts{           "Pause",                  "Pause",                    "Pausa",                  "Pause",                     "Pausa",                        "Mora"},
     LanguageTexts{           "Order",                  "Ordre",                    "Ordine",                 "Ordnung",                   "Orden",                        "Ordo"},
+    LanguageTexts{           "Display",                "Affichage",                "Schermo",                "Anzeige",                   "Pantalla",                     "Aspectus"},
 };
 // clang-format on
 
@@ -80,7 +89,8 @@ void FrmOptions::makeControls()
         frames_.back()->setFrameStyle(QFrame::StyledPanel | QFrame::Plain);
     }
     fillDelayFrame(*frames_.front());
-    fillOrderFrame(*frames_.back());
+    fillOrderFrame(*frames_.at(1));
+    fillDisplayFrame(*frames_.back());
     ok_ = makeButton(this, "cmdOK");
     cancel_ = makeButton(this, "cmdCancel");
     apply_ = makeButton(this, "cmdApply");
@@ -110,6 +120,19 @@ void FrmOptions::fillOrderFrame(QFrame& frame)
     setContent(&frame, FormMargins, rows);
 }
 
+void FrmOptions::fillDisplayFrame(QFrame& frame)
+{
+    auto* const page = makeControl<QWidget>(&frame, "OptionsDisplay");
+    textSize_ = makeControl<QComboBox>(page, "TextSize");
+    for (const int size : TextSizes)
+        textSize_->addItem(QStringLiteral("%1 %").arg(size), size);
+    macrons_ = makeControl<QCheckBox>(page, "ShowMacrons");
+    page->setLayout(columnOf(
+        MediumSpace,
+        {makeLabelOf(textSize_, "TextSizeLabel"), {textSize_, 0, Qt::AlignLeft}, macrons_, Part::gap()}));
+    setContent(&frame, FormMargins, columnOf(0, {page}));
+}
+
 void FrmOptions::layOut()
 {
     constexpr QMargins margins{LeftOfChosenFrame, MediumSpace, LeftOfChosenFrame, LargeSpace};
@@ -122,6 +145,8 @@ void FrmOptions::connectControls()
 {
     connect(tabs_, &QTabBar::currentChanged, this, &FrmOptions::placeFrames);
     connect(slider_, &QSlider::valueChanged, this, &FrmOptions::showDelay);
+    connect(textSize_, &QComboBox::activated, this, &FrmOptions::chooseTextSizeInRow);
+    connect(macrons_, &QCheckBox::clicked, this, &FrmOptions::switchMacrons);
     connect(ok_, &QPushButton::clicked, this, &FrmOptions::confirm);
     connect(cancel_, &QPushButton::clicked, this, &FrmOptions::left);
     connect(apply_, &QPushButton::clicked, this, &FrmOptions::apply);
@@ -131,14 +156,10 @@ void FrmOptions::open()
 {
     showCaptions();
     showSettings();
+    showLooks();
     tabs_->setCurrentIndex(0);
     tabs_->setFocus();
-    QSize largest;
-    for (const QFrame* const frame : frames_)
-        largest = largest.expandedTo(frame->sizeHint());
-    space_->setMinimumSize(largest);
-    adjustSize();
-    placeFrames();
+    fitFrames();
     showInFront();
 }
 
@@ -163,9 +184,25 @@ void FrmOptions::showSettings()
         orders_.at(i)->setText(texts.at(i));
 }
 
+void FrmOptions::showLooks()
+{
+    textSize_->setCurrentIndex(textSize_->findData(looks.TextSize));
+    macrons_->setChecked(looks.ShowMacrons);
+}
+
 void FrmOptions::showDelay(int seconds)
 {
     delay_->setText(fromUtf8(platform::printedNumber(seconds) + " s"));
+}
+
+void FrmOptions::fitFrames()
+{
+    QSize largest;
+    for (const QFrame* const frame : frames_)
+        largest = largest.expandedTo(frame->sizeHint());
+    space_->setMinimumSize(largest);
+    adjustSize();
+    placeFrames();
 }
 
 void FrmOptions::placeFrames()
@@ -177,6 +214,17 @@ void FrmOptions::placeFrames()
         frame->move(chosen ? LeftOfChosenFrame : LeftOfOtherFrames, space_->y());
         frame->setEnabled(chosen);
     }
+}
+
+void FrmOptions::chooseTextSizeInRow(int row)
+{
+    chooseTextSize(textSize_->itemData(row).toInt());
+}
+
+void FrmOptions::switchMacrons(bool shown)
+{
+    looks.ShowMacrons = shown;
+    keepLooks();
 }
 
 void FrmOptions::apply()
@@ -191,6 +239,16 @@ void FrmOptions::confirm()
                                         if (window != nullptr)
                                             Q_EMIT window->left();
                                     });
+}
+
+// The controls hear of another font one after the other; all have it when the event is over.
+void FrmOptions::changeEvent(QEvent* event)
+{
+    Window::changeEvent(event);
+    if (event->type() != QEvent::FontChange)
+        return;
+    showLooks();
+    QMetaObject::invokeMethod(this, &FrmOptions::fitFrames, Qt::QueuedConnection);
 }
 
 void FrmOptions::resizeEvent(QResizeEvent* event)

@@ -4,6 +4,8 @@
 
 #include <vector>
 
+class QCheckBox;
+class QComboBox;
 class QFrame;
 class QLabel;
 class QPushButton;
@@ -12,7 +14,8 @@ class QTabBar;
 
 namespace shell {
 
-/// A tab strip over one frame a tab. It shows what is set, and sets nothing: its buttons say so.
+/// A tab strip over one frame a tab. It shows what is set, and its buttons say that they set nothing. How the
+/// learner likes to see things is set on the last frame, at once.
 class FrmOptions : public Window {
     Q_OBJECT
 
@@ -23,21 +26,29 @@ public:
     void open();
 
 protected:
+    void changeEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
     void makeControls();
     void fillDelayFrame(QFrame& frame);
     void fillOrderFrame(QFrame& frame);
+    void fillDisplayFrame(QFrame& frame);
     void layOut();
     void connectControls();
     void showCaptions();
     void showSettings();
+    void showLooks();
     void showDelay(int seconds);
+
+    /// Makes the window as large as its largest frame needs it.
+    void fitFrames();
 
     /// The frame of the chosen tab stands in the window and is enabled; all others stand far off it.
     void placeFrames();
 
+    void chooseTextSizeInRow(int row);
+    void switchMacrons(bool shown);
     void apply();
     void confirm();
 
@@ -47,6 +58,8 @@ private:
     QLabel* delay_ = nullptr;
     QSlider* slider_ = nullptr;
     std::vector<QLabel*> orders_;
+    QComboBox* textSize_ = nullptr;
+    QCheckBox* macrons_ = nullptr;
     QPushButton* ok_ = nullptr;
     QPushButton* cancel_ = nullptr;
     QPushButton* apply_ = nullptr;

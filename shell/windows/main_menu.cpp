@@ -4,6 +4,8 @@
 #include "shell/kit/controls.h"
 #include "shell/kit/text.h"
 #include "shell/kit/type.h"
+#include "shell/looks.h"
+#include "shell/looks_file.h"
 #include "shell/settings.h"
 #include "shell/windows/main_menu_items.h"
 
@@ -54,6 +56,21 @@ constexpr std::array<Choice, 10> Choices = {{
 }};
 // clang-format on
 
+// At least three lines of its type high.
+class BigButton : public QPushButton {
+public:
+    using QPushButton::QPushButton;
+
+    QSize sizeHint() const override
+    {
+        const QSize large(ButtonCharacters * fontMetrics().averageCharWidth(),
+                          ButtonLines * fontMetrics().lineSpacing());
+        return QPushButton::sizeHint().expandedTo(large);
+    }
+
+    QSize minimumSizeHint() const override { return sizeHint(); }
+};
+
 } // namespace
 
 MainMenu::MainMenu() : Window("MainMenu", "main"), menuBar_(new QMenuBar(this))
@@ -71,11 +88,11 @@ void MainMenu::layOut()
     constexpr QMargins margins{WideSpace, WideSpace, WideSpace, WideSpace};
     QLabel* const title = makeHeading(this, {}, TitleType);
     title->setText(QStringLiteral("Velmorane"));
-    setContent(centredBlock(LargestBlock), margins,
-               columnOf(HairSpace, {{title, 0, Qt::AlignHCenter},
-                                    {makeLabel(this, "VersionLine"), 0, Qt::AlignHCenter},
-                                    Part::space(WideSpace),
-                                    {buttonGrid(), 1}}));
+    column_ = columnOf(HairSpace, {{title, 0, Qt::AlignHCenter},
+                                   {makeLabel(this, "VersionLine"), 0, Qt::AlignHCenter},
+                                   Part::space(WideSpace),
+                                   {buttonGrid(), 1}});
+    setContent(centredBlock(LargestBlock), margins, column_);
     layout()->setMenuBar(menuBar_);
 }
 
@@ -92,11 +109,10 @@ QGridLayout* MainMenu::buttonGrid()
 
 QPushButton* MainMenu::makeBigButton(const MainMenuButton& row)
 {
-    QPushButton* const made = makeButton(this, row.name);
+    auto* const made = makeControl<BigButton>(this, row.name);
+    made->setAutoDefault(true);
     made->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setType(*made, FormType);
-    made->setMinimumSize(ButtonCharacters * made->fontMetrics().averageCharWidth(),
-                         ButtonLines * made->fontMetrics().lineSpacing());
     connect(made, &QPushButton::clicked, this, row.request);
     return made;
 }
@@ -113,6 +129,7 @@ void MainMenu::connectSettings()
         connect(&item(choice.item), &QAction::triggered, this, [this, &choice] {
             choice.choose(choice.value);
             applyCaptions(*this, mainMenuCaptions());
+            showFirstSteps();
         });
 }
 
@@ -127,6 +144,31 @@ void MainMenu::showSettings()
         if (settings.*choice.setting == choice.value)
             item(choice.item).setChecked(true);
     applyCurrentOrDesignedCaptions(*this, mainMenuCaptions());
+    showFirstSteps();
+}
+
+// Whoever has opened an exercise starts without the label.
+void MainMenu::showFirstSteps()
+{
+    if (looks.FirstStepsDone)
+        return;
+    if (firstSteps_ == nullptr) {
+        firstSteps_ = makeLabel(this, "FirstSteps");
+        firstSteps_->setContentsMargins(0, LargeSpace, 0, 0);
+        firstSteps_->setWordWrap(true);
+        column_->addWidget(firstSteps_);
+    }
+    firstSteps_->setText(fromUtf8(FirstStepsTexts.currentOrDesigned()));
+}
+
+void MainMenu::endFirstSteps()
+{
+    if (looks.FirstStepsDone)
+        return;
+    looks.FirstStepsDone = true;
+    keepLooks();
+    if (firstSteps_ != nullptr)
+        firstSteps_->hide();
 }
 
 // A window manager may turn Alt+F4 into a request to close: the Alt key held at that moment tells it from the

@@ -3,7 +3,9 @@
 #include "shell/kit/window.h"
 
 class QAction;
+class QBoxLayout;
 class QGridLayout;
+class QLabel;
 class QMenuBar;
 class QPushButton;
 
@@ -19,8 +21,12 @@ class MainMenu : public Window {
 public:
     MainMenu();
 
-    /// Shows the check marks and the captions for `settings` as they stand.
+    /// Shows the check marks and the captions for `settings` as they stand, and the first steps where `looks`
+    /// says that no exercise was opened yet.
     void showSettings();
+
+    /// An exercise was opened: the first steps go, for good.
+    void endFirstSteps();
 
     /// Keeps in `MainWindowState` whether the window is normal or maximised. One that is minimised, hidden or
     /// not yet on the screen changes nothing.
@@ -61,9 +67,12 @@ private:
     QGridLayout* buttonGrid();
     QPushButton* makeBigButton(const MainMenuButton& row);
     void connectSettings();
+    void showFirstSteps();
     QAction& item(std::string_view name) const;
 
     QMenuBar* menuBar_;
+    QBoxLayout* column_ = nullptr;
+    QLabel* firstSteps_ = nullptr;
 };
 
 } // namespace shell

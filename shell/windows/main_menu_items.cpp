@@ -84,6 +84,26 @@ std::vector<Caption> allCaptions()
 
 } // namespace
 
+// Each line is as short as two buttons side by side.
+const LanguageTexts FirstStepsTexts = {
+    .english = "1. Choose an exercise, and then what to practise.\n"
+               "2. Type the form that is asked and press Enter.\n"
+               "3. If you do not know it, “?” shows it to you.",
+    .french = "1. Choisissez un exercice, puis quoi apprendre.\n"
+              "2. Tapez la forme demandée et appuyez sur Entrée.\n"
+              "3. Si vous ne la savez pas, « ? » la montre.",
+    .italian = {},
+    .german = "1. Wählen Sie eine Übung und dann den Stoff.\n"
+              "2. Tippen Sie die Form ein und drücken Sie Enter.\n"
+              "3. Kennen Sie sie nicht, so zeigt „?“ sie Ihnen.",
+    .spanish = "1. Elija un ejercicio y luego qué practicar.\n"
+               "2. Escriba la forma que se pide y pulse Intro.\n"
+               "3. Si no la sabe, «?» se la muestra.",
+    .latin = "1. Elige exercitationem, deinde quid discas.\n"
+             "2. Scribe formam quae quaeritur et preme «Enter».\n"
+             "3. Si eam nescis, «?» eam monstrat.",
+};
+
 void makeMainMenuItems(QMenuBar& menuBar, MainMenu& window)
 {
     makeMenus(menuBar, window, Rows);

@@ -23,6 +23,9 @@ std::span<const MainMenuButton> mainMenuButtons();
 /// Fills the main window's menu bar, still without captions, and joins each item to what it requests.
 void makeMainMenuItems(QMenuBar& menuBar, MainMenu& window);
 
+/// What the main window says until the first exercise was opened: three lines.
+extern const LanguageTexts FirstStepsTexts;
+
 /// The captions of the main window's buttons, menus and items.
 std::span<const Caption> mainMenuCaptions();
 

@@ -7,6 +7,7 @@
 #include "nouns/pronoun_drill.h"
 #include "platform/random.h"
 #include "shell/drill.h"
+#include "shell/looks.h"
 #include "shell/settings.h"
 #include "verbdrills/conjugation_drill.h"
 #include "verbdrills/quiz_inclusion.h"
@@ -33,6 +34,7 @@ FreshState::FreshState() : before_(fs::current_path())
     platform::seedWith(1);
     shell::leaveDrill();
     shell::settings = {};
+    shell::looks = {};
     nouns::nounList = {};
     nouns::nounTables = {};
     nouns::declensionDrill = {};

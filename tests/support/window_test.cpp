@@ -1,5 +1,7 @@
 #include "tests/support/window_test.h"
 
+#include "app/start_and_end.h"
+
 namespace tests {
 
 namespace {
@@ -13,6 +15,7 @@ QWidget& focused(QWidget& window)
 
 QWidget& WindowTest::start()
 {
+    app::loadLooks();
     navigation_ = std::make_unique<app::Navigation>();
     navigation_->start();
     QApplication::processEvents();

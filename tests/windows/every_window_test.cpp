@@ -129,7 +129,8 @@ TEST_F(EveryWindow, IsTabbedThroughAsTheEyeGoesAndNamesAllAndHasNoTwoTextsOnOneA
     inEveryLanguage([&](QWidget& window) {
         const QWidget* before = nullptr;
         for (QWidget* next = window.nextInFocusChain(); next != &window; next = next->nextInFocusChain()) {
-            if (!next->isVisible() || !(next->focusPolicy() & Qt::TabFocus) || qobject_cast<QMenuBar*>(next))
+            if (!next->isVisible() || !next->isEnabled() || !(next->focusPolicy() & Qt::TabFocus) ||
+                qobject_cast<QMenuBar*>(next))
                 continue;
             const std::string name = next->objectName().toStdString();
             EXPECT_FALSE(name.empty());

@@ -4,6 +4,7 @@
 #include "shell/kit/answer_box.h"
 #include "shell/kit/captions.h"
 #include "shell/kit/controls.h"
+#include "shell/kit/latin_text.h"
 #include "shell/kit/text.h"
 #include "shell/kit/type.h"
 #include "shell/settings.h"
@@ -129,7 +130,7 @@ void Conjugation::setQuestion()
     setWindowTitle(shell::fromUtf8(currentParadigm.WindowTitle));
     title_->setText(shell::fromUtf8(verbs::verbTables.ClassTitles[currentParadigm.ConjugationCode]));
     tense_->setText(shell::fromUtf8(currentParadigm.TenseLabel));
-    verb_->setText(shell::fromUtf8(currentParadigm.VerbLabel));
+    verb_->setText(shell::latinText(currentParadigm.VerbLabel));
     if (currentParadigm.SingleTenseMode == 1)
         showPlace(ClassOf, placeOfClass());
     else

@@ -2,6 +2,7 @@
 
 #include "shell/kit/captions.h"
 #include "shell/kit/controls.h"
+#include "shell/kit/latin_text.h"
 #include "shell/kit/layout.h"
 #include "shell/kit/text.h"
 #include "shell/pause.h"
@@ -188,7 +189,7 @@ bool Probatio::askAnotherForm()
 void Probatio::showForm()
 {
     const bool asked = verbQuiz.formIsAsked;
-    item_->setText(asked ? shell::fromUtf8(formAsked()) : QString());
+    item_->setText(asked ? shell::latinText(formAsked()) : QString());
     baseForm_->setText(asked ? shell::fromUtf8(titleOfFormAsked()) : QString());
     ok_->setEnabled(asked);
     question_->setEnabled(asked);

@@ -3,6 +3,7 @@
 #include "platform/platform.h"
 #include "shell/kit/choice_list.h"
 #include "shell/kit/controls.h"
+#include "shell/kit/latin_text.h"
 #include "shell/kit/layout.h"
 #include "shell/kit/record_form.h"
 #include "shell/kit/text.h"
@@ -99,6 +100,7 @@ void VerbManager::makeControls()
     form_->addBoxes(this, Fields);
     for (std::size_t stem = 0; stem < previews_.size(); ++stem) {
         previews_.at(stem) = shell::makeLabel(this, Previews.at(stem).label);
+        shell::takeMacrons(*form_->box(stem));
         shell::setLeastWidth(*form_->box(stem), StemCharacters);
         shell::setLeastWidth(*previews_.at(stem), PreviewCharacters);
     }
@@ -167,7 +169,7 @@ void VerbManager::listVerbs()
     verbs_->clear();
     const int verbClass = chosenClass();
     for (int number = 1; number <= verbList.Count[verbClass]; ++number)
-        verbs_->addItem(shell::fromUtf8(listedInfinitive(verbClass, number)));
+        verbs_->addItem(shell::latinText(listedInfinitive(verbClass, number)));
     verbs_->addItem(shell::fromUtf8(NewItem));
     room_->setText(QStringLiteral("%1 of %2").arg(verbList.Count[verbClass]).arg(MostVerbs));
     verbs_->setCurrentRow(0);
@@ -185,8 +187,10 @@ void VerbManager::showVerb(int row)
 
 void VerbManager::showPreviews()
 {
-    for (std::size_t stem = 0; stem < previews_.size(); ++stem)
-        previews_.at(stem)->setText(form_->box(stem)->text() + shell::fromUtf8(Previews.at(stem).ending));
+    for (std::size_t stem = 0; stem < previews_.size(); ++stem) {
+        std::string form = form_->box(stem)->text().toStdString();
+        previews_.at(stem)->setText(shell::latinText(form.append(Previews.at(stem).ending)));
+    }
 }
 
 void VerbManager::copyLine()

@@ -5,6 +5,7 @@
 #include "shell/kit/captions.h"
 #include "shell/kit/choice_list.h"
 #include "shell/kit/controls.h"
+#include "shell/kit/latin_text.h"
 #include "shell/kit/layout.h"
 #include "shell/kit/record_form.h"
 #include "shell/kit/text.h"
@@ -149,7 +150,7 @@ void VcabManager::listWords()
     while (words_->count() > vocabularyList.WordCount)
         const std::unique_ptr<QListWidgetItem> surplus(words_->takeItem(words_->count() - 1));
     for (int row = 0; row < words_->count(); ++row)
-        words_->item(row)->setText(shell::fromUtf8(vocabularyList.Working[row + 1].word));
+        words_->item(row)->setText(shell::latinText(vocabularyList.Working[row + 1].word));
 }
 
 // Marks the record in the list, and leaves the boxes alone.

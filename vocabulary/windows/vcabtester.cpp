@@ -3,6 +3,7 @@
 #include "platform/platform.h"
 #include "shell/kit/captions.h"
 #include "shell/kit/controls.h"
+#include "shell/kit/latin_text.h"
 #include "shell/kit/layout.h"
 #include "shell/kit/text.h"
 #include "shell/kit/type.h"
@@ -46,6 +47,13 @@ constexpr LanguageTexts Title{"Vocabulary",                 "Vocabulaire",      
 constexpr LanguageTexts NoWord{"There is no word to ask.",  "Il n'y a aucun mot à demander.",  {}, "Es gibt kein Wort zum Abfragen.",  "No hay ninguna palabra que preguntar.", "Nullum verbum restat."};
 constexpr LanguageTexts WordOf{"word %1 of %2",             "mot %1 sur %2",                   {}, "Wort %1 von %2",                   "palabra %1 de %2",                      "verbum %1 ex %2"};
 // clang-format on
+
+// A translation may hold a colon of its own.
+QString questionShown()
+{
+    const bool latin = !hintGivesAnswerAway();
+    return latin ? shell::latinText(questionText()) : shell::fromUtf8(questionText());
+}
 
 } // namespace
 
@@ -151,7 +159,7 @@ void Vcabtester::comeBack()
 void Vcabtester::showTheWord()
 {
     const bool asked = vocabularyTester.WordIsAsked == platform::FlagTrue;
-    question_->setText(shell::fromUtf8(asked ? questionText() : NoWord.currentOrDesigned()));
+    question_->setText(asked ? questionShown() : shell::fromUtf8(NoWord.currentOrDesigned()));
     showHint(hintGivesAnswerAway() ? std::string() : hintText());
     if (asked)
         showPlace(WordOf, {vocabularyList.CurrentWord, vocabularyList.WordCount});
@@ -166,7 +174,7 @@ void Vcabtester::showTheWord()
 
 void Vcabtester::showHint(const std::string& hint)
 {
-    hint_->setText(shell::fromUtf8(hint));
+    hint_->setText(shell::latinText(hint));
     answer_->setAccessibleDescription(
         hint.empty() ? question_->text() : question_->text() + QStringLiteral(", ") + hint_->text());
     hint_->repaint();

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <array>
+
+namespace shell {
+
+/// The values of `TextSize`, in percent of the desktop's own size of type.
+inline constexpr std::array TextSizes = {80, 90, 100, 115, 130, 150, 175, 200};
+inline constexpr int DesktopTextSize = 100;
+
+/// How the learner likes to see things. There is one, `looks`; assigning `{}` to it gives the program's first
+/// state.
+struct Looks {
+    /// One of `TextSizes`.
+    int TextSize = DesktopTextSize;
+
+    /// Long vowels are shown with macrons where they cannot be typed.
+    bool ShowMacrons = false;
+
+    /// An exercise was opened: the main window no longer says how to begin.
+    bool FirstStepsDone = false;
+};
+
+inline Looks looks;
+
+/// The size next to `TextSize`; itself where there is no further one.
+int largerTextSize();
+int smallerTextSize();
+
+} // namespace shell

@@ -1,0 +1,119 @@
+#include "shell/settings.h"
+#include "tests/support/window_test.h"
+
+namespace {
+
+using tests::bytesOf;
+using tests::label;
+
+class Looks : public tests::WindowTest {
+protected:
+    // How large the type is after a key, in percent of what it was before the program started.
+    int percentAfter(QWidget& window, Qt::Key key, Qt::KeyboardModifiers with = Qt::ControlModifier,
+                     int times = 1)
+    {
+        QApplication::setActiveWindow(&window);
+        for (int i = 0; i < times; ++i)
+            QTest::keyClick(&window, key, with);
+        QApplication::processEvents();
+        return qRound(100 * QApplication::font().pointSizeF() / desktop.pointSizeF());
+    }
+
+    const QFont desktop = QApplication::font();
+};
+
+TEST_F(Looks, GrowAndShrinkByKeysInEachWindowButAMessageUpToBothEndsAndAreKeptAtOnce)
+{
+    QWidget& menu = start();
+    EXPECT_EQ(percentAfter(menu, Qt::Key_Equal), 115);
+    EXPECT_EQ(percentAfter(menu, Qt::Key_Plus, Qt::ControlModifier | Qt::KeypadModifier), 130);
+    EXPECT_EQ(percentAfter(menu, Qt::Key_Plus, Qt::ControlModifier | Qt::AltModifier), 130);
+    EXPECT_EQ(bytesOf("looks.ini").substr(0, 12), "TextSize=130");
+    QWidget& options = open("OptionsOptions", "frmOptions");
+    auto& size = tests::control<QComboBox>(options, "TextSize");
+    EXPECT_EQ(size.currentText(), "130 %");
+    const int before = options.height();
+    EXPECT_EQ(percentAfter(options, Qt::Key_Plus, Qt::ControlModifier | Qt::ShiftModifier, 9), 200);
+    EXPECT_EQ(size.currentText(), "200 %");
+    tests::control<QTabBar>(options).setCurrentIndex(2);
+    QTest::keyClick(&size, Qt::Key_Up);
+    EXPECT_EQ(bytesOf("looks.ini").substr(0, 12), "TextSize=175");
+    QTest::keyClick(&size, Qt::Key_Down);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return options.height() > before; }));
+    EXPECT_EQ(QApplication::font("QMenu").pointSizeF(), 2 * desktop.pointSizeF());
+    QMessageBox message;
+    message.show();
+    EXPECT_EQ(percentAfter(message, Qt::Key_Minus), 200);
+    message.close();
+    EXPECT_EQ(percentAfter(start(), Qt::Key_F5), 200);
+    std::filesystem::remove("looks.ini");
+    std::filesystem::create_directory("looks.ini");
+    QWidget& delay = open("SetDelay", "DelayInterval");
+    EXPECT_EQ(percentAfter(delay, Qt::Key_Minus, Qt::ControlModifier, 9), 80);
+    EXPECT_EQ(percentAfter(delay, Qt::Key_0), 100);
+    EXPECT_EQ(QApplication::font(), desktop);
+    EXPECT_TRUE(fake.messages.empty());
+}
+
+TEST_F(Looks, TakeMacronsAsMarksWhereTheyAreTypedOrPastedWithTheCursorBehindThem)
+{
+    QWidget& manager = open("FileVerbManager", "VerbManager");
+    auto& stem = line(manager, "VerbManagerLatinForms0");
+    tests::fill(stem, "mns");
+    stem.setCursorPosition(1);
+    QGuiApplication::clipboard()->setText("ōu\u0304");
+    QTest::keyClick(&stem, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(stem.text(), "mo:u:ns");
+    EXPECT_EQ(stem.cursorPosition(), 5);
+    QTest::keyClick(&stem, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(stem.text(), "mo:u:ns");
+    stem.setMaxLength(8);
+    tests::type(manager, "ē");
+    EXPECT_EQ(stem.text(), "mo:u:ns") << "no room for the mark, and no letter lost";
+    tests::doubleClickRow(tests::control<QListWidget>(open("FileDecl", "DeclinationChoose")), 0);
+    QWidget& drill = tests::shown("Declination");
+    tests::type(drill, "puella\u0304");
+    EXPECT_EQ(box(drill, "DeclText", 0).text(), "puella:");
+}
+
+TEST_F(Looks, ShowMacronsWhereNothingIsTypedAndLeaveWhatIsComparedAndHeadingsAsTheyAre)
+{
+    tests::writeFile("vr-vcab.lst", "mi:les,note: a soldier,mi:litis> m.\n");
+    tests::choose(start(), "LatinLang");
+    QWidget& options = open("OptionsOptions", "frmOptions");
+    tests::control<QTabBar>(options).setCurrentIndex(2);
+    tests::click(options, "ShowMacrons");
+    EXPECT_EQ(bytesOf("looks.ini"), "TextSize=100\r\nShowMacrons=1\r\nFirstStepsDone=0\r\n");
+    QWidget& test = open("MainVocabulary", "Vcabtester");
+    EXPECT_EQ(label(test, "VQuestion") + ' ' + label(test, "VHint"), "mīles mīlitis, m.");
+    tests::choose(test, "VcabtesterOptionsPromptLatin");
+    EXPECT_EQ(label(test, "VQuestion"), "note: a soldier");
+    tests::answer(test, "mi:les");
+    EXPECT_EQ(shell::settings.RightCount, 1);
+    tests::choose(test, "VcabTesterEdit");
+    QWidget& editor = tests::shown("VcabManager");
+    tests::clickRow(tests::control<QListWidget>(editor), 0);
+    EXPECT_EQ(tests::rows(tests::control<QListWidget>(editor)), QStringList{"mīles"});
+    EXPECT_EQ(line(editor, "VcabManWord").text(), "mi:les");
+    tests::doubleClickRow(tests::control<QListWidget>(open("FileDecl", "DeclinationChoose")), 0);
+    EXPECT_EQ(label(tests::shown("Declination"), "HeadingLabel"), "Prima Declinatio:");
+}
+
+TEST_F(Looks, SayTheFirstStepsUntilAnExerciseIsOpenedAndNeverAgain)
+{
+    for (const auto& [exercise, window] :
+         {std::pair{"MainVocabulary", "Vcabtester"}, {"FileNounQuiz", "NounQuiz"}}) {
+        std::filesystem::remove("looks.ini");
+        tests::choose(start(), "GermanLang");
+        open("FileNounManager", "NounHandler");
+        open("FileConj", "ConjugationChoose").close();
+        const auto& steps = tests::control<QLabel>(tests::shown("MainMenu"), "FirstSteps");
+        EXPECT_TRUE(steps.isVisible());
+        EXPECT_TRUE(steps.text().contains("Übung"));
+        open(exercise, window).close();
+        EXPECT_TRUE(tests::shown("MainMenu").isVisible() && steps.isHidden());
+        EXPECT_EQ(start().findChild<QLabel*>("FirstSteps"), nullptr);
+    }
+}
+
+} // namespace
