@@ -26,8 +26,8 @@ public:
     // A comma promises one more field, be it empty, even at the end of the text.
     bool atEnd() const { return place_ == text_.size() && !isAfterComma_; }
 
-    // True where the last field read ended at a comma.
-    bool isAfterComma() const { return isAfterComma_; }
+    // True where every line that was read, but for empty ones, has three fields.
+    bool areThreeALine() const { return areThreeALine_; }
 
     // The line that the last field read stands in.
     int line() const { return line_; }
@@ -41,9 +41,11 @@ public:
         const std::size_t begin = place_ + (quoted ? 1 : 0);
         const std::size_t inside = quoted ? closingQuote(begin) : begin;
         const std::size_t end = std::min(line.find(Comma, inside), lineEnd_);
+        const std::string_view field = quoted ? line.substr(begin, inside - begin)
+                                              : withoutBlanksAtItsEnd(line.substr(begin, end - begin));
         takeSeparator(end);
-        return quoted ? line.substr(begin, inside - begin)
-                      : withoutBlanksAtItsEnd(line.substr(begin, end - begin));
+        countInLine(field);
+        return field;
     }
 
 private:
@@ -81,13 +83,25 @@ private:
         findLineEnd();
     }
 
+    void countInLine(std::string_view field)
+    {
+        ++inLine_;
+        if (isAfterComma_)
+            return;
+        const bool isEmptyLine = inLine_ == 1 && field.empty();
+        areThreeALine_ = areThreeALine_ && (isEmptyLine || inLine_ == WordFields.size());
+        inLine_ = 0;
+    }
+
     std::string_view text_;
     std::size_t place_ = 0;
     std::size_t lineEnd_ = 0;
     std::size_t closing_ = 0;
     int line_ = 0;
     int nextLine_ = 1;
+    std::size_t inLine_ = 0;
     bool isAfterComma_ = false;
+    bool areThreeALine_ = true;
 };
 
 bool isEmpty(const WordRecord& record)
@@ -138,17 +152,12 @@ CommaList readCommaList(std::string_view text)
     CommaList list;
     WordRecord record;
     while (!fields.atEnd() && list.records.size() <= MostWordsRead) {
-        const int lineBefore = fields.line();
-        const bool wasAfterComma = fields.isAfterComma();
-        const bool isWhole = readRecord(fields, record);
-        if (isWhole)
+        if (readRecord(fields, record))
             list.records.push_back(record);
         else if (!isEmpty(record))
             list.cutOffLine = fields.line();
-        const bool isOnOneLine = isWhole && !wasAfterComma && !fields.isAfterComma();
-        if (!isEmpty(record) && (!isOnOneLine || fields.line() != lineBefore + 1))
-            list.isRecordALine = false;
     }
+    list.hasThreeFieldsALine = fields.areThreeALine();
     return list;
 }
 

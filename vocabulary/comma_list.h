@@ -20,8 +20,8 @@ struct CommaList {
     /// The line of a last record that lacks a field or two and was left out; 0 where there is none.
     int cutOffLine = 0;
 
-    /// True where every record stands alone on its line, as the program writes it.
-    bool isRecordALine = true;
+    /// True where every line that is not empty makes three fields, as the program writes them.
+    bool hasThreeFieldsALine = true;
 };
 
 CommaList readCommaList(std::string_view text);

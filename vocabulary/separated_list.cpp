@@ -194,7 +194,7 @@ std::string tabListOf(std::span<const WordRecord> records)
     std::string text;
     for (const WordRecord& record : records)
         text += lineOf(record);
-    const bool readsAsCommaList = !records.empty() && readCommaList(text).isRecordALine;
+    const bool readsAsCommaList = !records.empty() && readCommaList(text).hasThreeFieldsALine;
     return readsAsCommaList ? std::string(TabComment) + text : text;
 }
 

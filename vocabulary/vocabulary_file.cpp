@@ -73,7 +73,7 @@ VocabularyFile kvtmlFile(const Path& path, std::string_view text)
 VocabularyFile fileOf(const Path& path, std::string_view text)
 {
     CommaList commaList = readCommaList(text);
-    if (commaList.isRecordALine)
+    if (commaList.hasThreeFieldsALine)
         return ownFile(path, std::move(commaList));
     if (isKvtml(text))
         return kvtmlFile(path, text);

@@ -45,11 +45,12 @@ struct VocabularyFile {
 };
 
 /// Reads a word list in one of four formats. What it holds tells which, not its name:
-/// - the program's own where each line makes three fields by its commas, whatever stands in these, and where
-///   none of the others fits;
+/// - the program's own where each line that is not empty makes three fields by its commas, whatever stands in
+///   these, and where none of the others fits;
 /// - KVTML, the format of some flash-card programs, where it begins with "<" and has a tag "<kvtml";
-/// - fields divided by tabs, or else by semicolons, where every line has one, be it in a comma's company,
-///   apart from empty lines and comments.
+/// - fields divided by tabs, or else by semicolons, where every line has one that is not in quotes, apart
+/// from
+///   empty lines and those that begin with "#".
 VocabularyFile readVocabularyFile(const std::filesystem::path& path);
 
 /// What a reader of KVTML found: the words that have a translation, no more than one past `MostWordsRead`,
