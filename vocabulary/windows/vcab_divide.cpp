@@ -24,18 +24,18 @@ constexpr std::array Captions = {
 };
 
 // The name of the file stands in the place of %1, then the number of its words, the most that a list holds, the
-// number of lists, and the words of each.
+// number of the new lists, and the most words of each.
 constexpr LanguageTexts Question{
-    "The file %1 holds %2 words, a list no more than %3.\n"
-    "Shall it be written beside it as lists of %5 words each (%4 lists), and the first be opened?",
+    "The file %1 holds %2 words, a list %3 at the most.\n"
+    "Divide it into %4 lists of up to %5 words beside it, and open the first?",
     "Le fichier %1 contient %2 mots, une liste %3 au plus.\n"
-    "Faut-il l’écrire à côté en listes de %5 mots (%4 listes) et ouvrir la première ?", {},
+    "Le diviser en %4 listes de %5 mots au plus, à côté de lui, et ouvrir la première ?", {},
     "Die Datei %1 enthält %2 Wörter, eine Liste höchstens %3.\n"
-    "Soll sie daneben in Listen zu je %5 Wörtern geschrieben (%4 Listen) und die erste geöffnet werden?",
+    "Soll sie daneben in %4 Listen zu höchstens %5 Wörtern aufgeteilt und die erste geöffnet werden?",
     "El archivo %1 contiene %2 palabras; una lista, %3 como máximo.\n"
-    "¿Se debe escribir al lado en listas de %5 palabras (%4 listas) y abrir la primera?",
-    "Fasciculus %1 verba %2 continet, index non plura quam %3.\n"
-    "Visne eum iuxta in indices verborum %5 dividi (indices: %4) primumque aperiri?"};
+    "¿Dividirlo en %4 listas de %5 palabras como máximo, a su lado, y abrir la primera?",
+    "Fasciculus %1 verba %2 continet, index summum %3.\n"
+    "Visne eum iuxta in indices %4 verborum summum %5 dividi primumque aperiri?"};
 // clang-format on
 
 } // namespace
