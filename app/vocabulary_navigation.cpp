@@ -1,5 +1,8 @@
 #include "app/vocabulary_navigation.h"
 
+#include "platform/platform.h"
+#include "vocabulary/kvtml/kvtml_list.h"
+#include "vocabulary/list_division.h"
 #include "vocabulary/vocabulary_edits.h"
 
 #include <utility>
@@ -8,16 +11,20 @@ namespace app {
 
 using shell::MainMenu;
 using vocabulary::FileHandler;
+using vocabulary::LoadFault;
+using vocabulary::VcabDivide;
 using vocabulary::VcabLoader;
 using vocabulary::VcabManager;
 using vocabulary::VcabReplace;
 using vocabulary::Vcabtester;
 using vocabulary::VcabWarning;
 
+using Path = std::filesystem::path;
 namespace file_mode = vocabulary::file_mode;
 
 VocabularyNavigation::VocabularyNavigation(CommonWindows& common) : common_(common)
 {
+    vocabulary::useKvtmlReader(&vocabulary::readKvtml);
     connect(&common_.mainMenu(), &MainMenu::vocabularyRequested, this, &VocabularyNavigation::beginTest);
     connect(&common_.mainMenu(), &MainMenu::vocabularyManagerRequested, this,
             &VocabularyNavigation::showManager);
@@ -39,6 +46,9 @@ void VocabularyNavigation::joinTester(Vcabtester& window)
 void VocabularyNavigation::joinLoader(VcabLoader& window)
 {
     whenLeft(window, [this] { returnToTester(); });
+    connect(
+        &window, &VcabLoader::divisionRequested, this,
+        [this, &window](const Path& file, const LoadFault& fault) { offerDivision(window, file, fault); });
 }
 
 void VocabularyNavigation::joinManager(VcabManager& window)
@@ -57,8 +67,11 @@ void VocabularyNavigation::joinFileHandler(FileHandler& window)
     connect(&window, &FileHandler::warningRequested, this, [this, &window] {
         warn([&window] { window.saveBeforeLoad(); }, [&window] { window.replaceList(); });
     });
+    connect(
+        &window, &FileHandler::divisionRequested, this,
+        [this, &window](const Path& file, const LoadFault& fault) { offerDivision(window, file, fault); });
     connect(&window, &FileHandler::replacementRequested, this,
-            [this](const std::filesystem::path& file) { replace_->open(file); });
+            [this](const Path& file) { replace_->open(file); });
     whenLeft(window, [this] {
         if (std::exchange(leavesOnceSaved_, false) && !vocabulary::changesArePending())
             returnToTester();
@@ -74,6 +87,13 @@ void VocabularyNavigation::joinWarning(VcabWarning& window)
     connect(&window, &VcabWarning::discardRequested, this, [this] { toDiscard_(); });
     connect(&window, &VcabWarning::saveRequested, &window, &VcabWarning::hide);
     connect(&window, &VcabWarning::saveRequested, this, [this] { toSave_(); });
+}
+
+void VocabularyNavigation::joinDivide(VcabDivide& window)
+{
+    hideWhenLeft(window);
+    connect(&window, &VcabDivide::divisionAllowed, &window, &VcabDivide::hide);
+    connect(&window, &VcabDivide::divisionAllowed, this, &VocabularyNavigation::divide);
 }
 
 void VocabularyNavigation::joinReplace(VcabReplace& window)
@@ -136,6 +156,22 @@ void VocabularyNavigation::warn(const Step& toSave, const Step& toDiscard)
     toSave_ = toSave;
     toDiscard_ = toDiscard;
     warning_->open();
+}
+
+template <typename Chooser>
+void VocabularyNavigation::offerDivision(Chooser& window, const Path& file, const LoadFault& fault)
+{
+    toLoad_ = [&window](const Path& list) { window.load(list); };
+    divide_->open(file, fault);
+}
+
+void VocabularyNavigation::divide(const Path& file)
+{
+    const vocabulary::Division division = vocabulary::divideList(file);
+    if (division.fault)
+        platform::current().showMessage("The file was not divided. " + division.fault->message());
+    else
+        toLoad_(division.lists.front());
 }
 
 void VocabularyNavigation::chooseFile(std::string_view mode)

@@ -2,6 +2,7 @@
 
 #include "app/common_windows.h"
 #include "vocabulary/windows/file_handler.h"
+#include "vocabulary/windows/vcab_divide.h"
 #include "vocabulary/windows/vcab_loader.h"
 #include "vocabulary/windows/vcab_manager.h"
 #include "vocabulary/windows/vcab_replace.h"
@@ -10,6 +11,8 @@
 
 #include <QObject>
 
+#include <filesystem>
+#include <functional>
 #include <string_view>
 
 namespace app {
@@ -25,6 +28,7 @@ private:
     void joinManager(vocabulary::VcabManager& window);
     void joinFileHandler(vocabulary::FileHandler& window);
     void joinWarning(vocabulary::VcabWarning& window);
+    void joinDivide(vocabulary::VcabDivide& window);
     void joinReplace(vocabulary::VcabReplace& window);
 
     void beginTest();
@@ -38,6 +42,12 @@ private:
     /// Warns of pending changes; one of the steps comes next, or none.
     void warn(const Step& toSave, const Step& toDiscard);
 
+    /// Offers to divide a file; its first list is then loaded by the window where the file was chosen.
+    template <typename Chooser>
+    void offerDivision(Chooser& window, const std::filesystem::path& file,
+                       const vocabulary::LoadFault& fault);
+    void divide(const std::filesystem::path& file);
+
     /// Lets the learner choose a file, for one of the values of `FileMode`.
     void chooseFile(std::string_view mode);
 
@@ -47,6 +57,7 @@ private:
     OnDemand<vocabulary::VcabManager> manager_{this, &VocabularyNavigation::joinManager};
     OnDemand<vocabulary::FileHandler> fileHandler_{this, &VocabularyNavigation::joinFileHandler};
     OnDemand<vocabulary::VcabWarning> warning_{this, &VocabularyNavigation::joinWarning};
+    OnDemand<vocabulary::VcabDivide> divide_{this, &VocabularyNavigation::joinDivide};
     OnDemand<vocabulary::VcabReplace> replace_{this, &VocabularyNavigation::joinReplace};
 
     /// A test was put aside for another window and goes on when that is left.
@@ -58,6 +69,9 @@ private:
     /// What the warning leads to.
     Step toSave_;
     Step toDiscard_;
+
+    /// Loads the first list of a file that was divided.
+    std::function<void(const std::filesystem::path&)> toLoad_;
 };
 
 } // namespace app

@@ -15,20 +15,21 @@ void forgetPendingChanges()
     vocabularyEditor.SavedChangeCount = vocabularyEditor.ChangeCount;
 }
 
-void takeList(const std::vector<WordRecord>& records, const std::filesystem::path& path)
+void takeList(const VocabularyFile& file, const std::filesystem::path& path)
 {
     vocabularyList = {};
-    for (const WordRecord& record : records)
+    for (const WordRecord& record : file.records)
         vocabularyList.Loaded[++vocabularyList.WordCount] = record;
     vocabularyList.Working = vocabularyList.Loaded;
     vocabularyList.File = path;
+    vocabularyList.FileIsForeign = file.isForeign;
     clearCounts();
     forgetPendingChanges();
 }
 
-std::span<WordRecord> workingWords()
+std::span<WordRecord> wordsOf(VocabularyList::Words& table)
 {
-    return std::span(vocabularyList.Working.begin(), vocabularyList.Working.end())
+    return std::span(table.begin(), table.end())
         .subspan(1, static_cast<std::size_t>(vocabularyList.WordCount));
 }
 
@@ -79,9 +80,9 @@ void beginNewList()
 
 std::optional<LoadFault> loadList(const std::filesystem::path& path)
 {
-    VocabularyFile file = readVocabularyFile(path);
+    const VocabularyFile file = readVocabularyFile(path);
     if (!file.fault || !file.fault->refused())
-        takeList(file.records, path);
+        takeList(file, path);
     return file.fault;
 }
 
@@ -93,21 +94,31 @@ std::string openDefaultList()
     return fault && !isMissing(DefaultListName) ? fault->message() : "";
 }
 
+std::filesystem::path fileToSave()
+{
+    std::filesystem::path file = vocabularyList.File;
+    return vocabularyList.FileIsForeign ? file.replace_extension(".lst") : file;
+}
+
 bool wouldReplaceAnotherFile(const std::filesystem::path& path)
 {
     std::error_code error;
     return std::filesystem::exists(path, error) && !std::filesystem::is_directory(path, error) &&
-           !std::filesystem::equivalent(path, vocabularyList.File, error);
+           (vocabularyList.FileIsForeign || !std::filesystem::equivalent(path, vocabularyList.File, error));
 }
 
+// The words are taken as they were loaded: since an earlier save the working ones may have ">" for commas,
+// which stands for them in no list with tabs.
 std::optional<platform::Fault> saveList(const std::filesystem::path& path)
 {
-    const std::span words = workingWords();
+    const std::span words = wordsOf(vocabularyList.Loaded);
     if (const auto fault = writeVocabularyFile(path, words))
         return fault;
-    std::ranges::transform(words, words.begin(), asWritten);
+    std::ranges::transform(words, wordsOf(vocabularyList.Working).begin(),
+                           [&](const WordRecord& word) { return asWritten(path, word); });
     vocabularyList.CurrentWord = 0;
     vocabularyList.File = path;
+    vocabularyList.FileIsForeign = false;
     forgetPendingChanges();
     return {};
 }

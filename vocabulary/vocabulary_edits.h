@@ -52,12 +52,17 @@ std::optional<LoadFault> loadList(const std::filesystem::path& path);
 /// the list in memory is tested.
 std::string openDefaultList();
 
-/// True where a save would replace a file that the list was neither read from nor saved to.
+/// Where a save goes unless another file is chosen: the list's own file or, beside one of another program,
+/// one of that name in the program's own format. Empty for a new list.
+std::filesystem::path fileToSave();
+
+/// True where a save would replace a file that the list was neither read from nor saved to, or one of another
+/// program's format.
 bool wouldReplaceAnotherFile(const std::filesystem::path& path);
 
-/// Replaces a file with the working table, in which ">" then stands where commas were, and sets `CurrentWord`
-/// to 0. No change is pending then. Where that fails, the file and the list are as they were, and the fault
-/// is returned.
+/// Replaces a file with the list, and sets `CurrentWord` to 0. The working table then holds what was written:
+/// ">" where commas were, unless it was written with tabs. No change is pending then. Where that fails, the
+/// file and the list are as they were, and the fault is returned.
 std::optional<platform::Fault> saveList(const std::filesystem::path& path);
 
 /// Puts a record in the place of number 1 to `WordCount`. A field that is as it stands in the working table

@@ -3,181 +3,130 @@
 #include "platform/code_page.h"
 #include "platform/file_replacement.h"
 #include "platform/text_file.h"
+#include "vocabulary/comma_list.h"
+#include "vocabulary/separated_list.h"
 
 #include <algorithm>
-#include <string_view>
+#include <cctype>
+#include <utility>
 
 namespace vocabulary {
 
 namespace {
 
-constexpr std::string_view Blanks = " \t";
-constexpr std::string_view LineEnds = "\r\n";
-constexpr char Comma = ',';
-constexpr char EscapedComma = '>';
-constexpr char Quote = '"';
+constexpr std::string_view TabEnding = ".tsv";
 
-bool needsQuotes(std::string_view field)
+KvtmlReader kvtmlReader;
+
+using Path = std::filesystem::path;
+
+bool isWrittenWithTabs(const Path& path)
 {
-    if (field.empty())
-        return false;
-    return Blanks.find(field.front()) != std::string_view::npos ||
-           Blanks.find(field.back()) != std::string_view::npos || field.front() == Quote;
+    return std::ranges::equal(path.extension().string(), TabEnding, {},
+                              [](unsigned char letter) { return std::tolower(letter); });
 }
 
-// The place of the closing quote in a line after its opening one. Where no quote can close the field, the
-// first one does, or the end of the line.
-std::size_t closingQuote(std::string_view line)
-{
-    for (std::size_t quote = line.find(Quote); quote != line.npos; quote = line.find(Quote, quote + 1)) {
-        const std::size_t next = line.find_first_not_of(Blanks, quote + 1);
-        if (next == line.npos || line[next] == Comma)
-            return quote;
-    }
-    return std::min(line.find(Quote), line.size());
-}
-
-std::string_view withoutBlanksAtItsEnd(std::string_view text)
-{
-    return text.substr(0, text.find_last_not_of(Blanks) + 1);
-}
-
-// The fields of a text, one after the other.
-class Fields {
-public:
-    explicit Fields(std::string_view text) : rest_(text) {}
-
-    // A comma promises one more field, be it empty, even at the end of the text.
-    bool atEnd() const { return rest_.empty() && !afterComma_; }
-
-    // The line that the last field read stands in.
-    int line() const { return line_; }
-
-    std::string_view next()
-    {
-        line_ = nextLine_;
-        drop(rest_.find_first_not_of(Blanks));
-        const std::string_view line = rest_.substr(0, rest_.find_first_of(LineEnds));
-        const bool quoted = line.starts_with(Quote);
-        const std::size_t inside = quoted ? closingQuote(line.substr(1)) : 0;
-        const std::size_t end = std::min(line.find(Comma, quoted ? inside + 1 : 0), line.size());
-        drop(end);
-        takeSeparator();
-        return quoted ? line.substr(1, inside) : withoutBlanksAtItsEnd(line.substr(0, end));
-    }
-
-private:
-    void drop(std::size_t letters) { rest_.remove_prefix(std::min(letters, rest_.size())); }
-
-    void takeSeparator()
-    {
-        afterComma_ = rest_.starts_with(Comma);
-        if (!rest_.empty() && !afterComma_)
-            ++nextLine_;
-        drop(rest_.starts_with("\r\n") ? 2 : 1);
-    }
-
-    std::string_view rest_;
-    int line_ = 0;
-    int nextLine_ = 1;
-    bool afterComma_ = false;
-};
-
-bool isEmpty(const WordRecord& record)
-{
-    return record == WordRecord{};
-}
-
-// Reads one record; false, with the fields that there are, where the text ends before its third.
-bool readRecord(Fields& fields, WordRecord& record)
-{
-    record = {};
-    for (const WordField field : WordFields) {
-        if (fields.atEnd())
-            return false;
-        record.*field = fields.next();
-        std::ranges::replace(record.*field, EscapedComma, Comma);
-    }
-    return true;
-}
-
-LoadFault faultOf(LoadFault::Kind kind, const std::filesystem::path& path, int line, std::string reason)
+LoadFault faultOf(LoadFault::Kind kind, const Path& path, int line, std::string reason)
 {
     return {kind, {path.filename().string(), line, std::move(reason)}};
 }
 
-VocabularyFile tooLong(const std::filesystem::path& path, std::string reason)
+VocabularyFile refused(LoadFault::Kind kind, const Path& path, std::string reason)
 {
-    return {{}, faultOf(LoadFault::Kind::TooLong, path, 0, std::move(reason))};
+    return {{}, faultOf(kind, path, 0, std::move(reason))};
 }
 
 // Of a file past this length only the beginning would be read.
-bool isPastLongestFile(const std::filesystem::path& path)
+bool isPastLongestFile(const Path& path)
 {
     std::error_code error;
     const auto size = std::filesystem::file_size(path, error);
     return !error && size >= platform::LongestFile;
 }
 
-// The line of a record, with CR LF at its end. Fields that begin or end with a blank, or begin with a double
-// quote, stand in double quotes.
-std::string lineOf(const WordRecord& record)
+VocabularyFile ownFile(const Path& path, CommaList list)
 {
-    const WordRecord written = asWritten(record);
-    std::string line;
-    for (const WordField field : WordFields) {
-        const std::string& text = written.*field;
-        const std::string quote(needsQuotes(text) ? 1 : 0, Quote);
-        line += quote + text + quote + Comma;
-    }
-    line.back() = '\r';
-    return line + '\n';
+    VocabularyFile file{std::move(list.records), {}};
+    if (list.cutOffLine > 0)
+        file.fault = faultOf(LoadFault::Kind::CutOff, path, list.cutOffLine,
+                             "the last word is cut off and was left out");
+    return file;
+}
+
+bool isKvtml(std::string_view text)
+{
+    return kvtmlReader && text.starts_with('<') && text.find("<kvtml") != text.npos;
+}
+
+VocabularyFile kvtmlFile(const Path& path, std::string_view text)
+{
+    KvtmlList list = kvtmlReader(text);
+    if (list.records.empty())
+        return refused(LoadFault::Kind::NoWords, path, "no word in the file has a translation");
+    VocabularyFile file{std::move(list.records), {}, true};
+    if (list.brokenLine > 0)
+        file.fault = faultOf(LoadFault::Kind::CutOff, path, list.brokenLine,
+                             "the file breaks off here; the words above were read");
+    return file;
+}
+
+VocabularyFile fileOf(const Path& path, std::string_view text)
+{
+    CommaList commaList = readCommaList(text);
+    if (commaList.hasThreeFieldsALine)
+        return ownFile(path, std::move(commaList));
+    if (isKvtml(text))
+        return kvtmlFile(path, text);
+    for (const char separator : {Tab, Semicolon})
+        if (auto records = readSeparatedList(text, separator)) {
+            const bool isForeign = !isWrittenWithTabs(path) || tabListOf(*records) != text;
+            return {*std::move(records), {}, isForeign};
+        }
+    return ownFile(path, std::move(commaList));
+}
+
+void refuseMoreThanAListHolds(VocabularyFile& file, const Path& path)
+{
+    const std::size_t words = file.records.size();
+    if (words <= MostWords)
+        return;
+    file.fault = faultOf(LoadFault::Kind::TooLong, path, 0, "the file holds more than 300 words");
+    if (words > MostWordsRead)
+        file.records.clear();
+    file.fault->words = static_cast<int>(file.records.size());
 }
 
 } // namespace
 
-VocabularyFile readVocabularyFile(const std::filesystem::path& path)
+VocabularyFile readVocabularyFile(const Path& path)
 {
     const platform::TextFile text = platform::readTextFile(path);
     if (text.fault)
         return {{}, LoadFault{LoadFault::Kind::Unreadable, *text.fault}};
     if (isPastLongestFile(path))
-        return tooLong(path, "the file is too long for a word list");
-    Fields fields(text.text);
-    VocabularyFile file;
-    WordRecord record;
-    while (!fields.atEnd()) {
-        if (readRecord(fields, record))
-            file.records.push_back(record);
-        else if (!isEmpty(record))
-            file.fault = faultOf(LoadFault::Kind::CutOff, path, fields.line(),
-                                 "the last word is cut off and was left out");
-        if (file.records.size() > MostWords)
-            return tooLong(path, "the file holds more than 300 words");
-    }
+        return refused(LoadFault::Kind::TooLong, path, "the file is too long for a word list");
+    VocabularyFile file = fileOf(path, text.text);
+    refuseMoreThanAListHolds(file, path);
     return file;
 }
 
-std::optional<platform::Fault> writeVocabularyFile(const std::filesystem::path& path,
-                                                   std::span<const WordRecord> records)
+void useKvtmlReader(KvtmlReader reader)
 {
-    std::string text;
-    for (const WordRecord& record : records)
-        text += lineOf(record);
+    kvtmlReader = std::move(reader);
+}
+
+std::optional<platform::Fault> writeVocabularyFile(const Path& path, std::span<const WordRecord> records)
+{
+    const std::string text = isWrittenWithTabs(path) ? tabListOf(records) : commaListOf(records);
     const std::string bytes = platform::encoded(text);
     if (bytes.size() >= platform::LongestFile)
         return platform::Fault{path.filename().string(), 0, "the list is too long to be read again"};
     return platform::replaceFile(path, bytes);
 }
 
-WordRecord asWritten(WordRecord record)
+WordRecord asWritten(const Path& path, const WordRecord& record)
 {
-    const auto endsLine = [](char letter) { return LineEnds.find(letter) != LineEnds.npos; };
-    for (const WordField field : WordFields) {
-        std::ranges::replace(record.*field, Comma, EscapedComma);
-        std::ranges::replace_if(record.*field, endsLine, ' ');
-    }
-    return record;
+    return isWrittenWithTabs(path) ? asWrittenWithTabs(record) : asWrittenWithCommas(record);
 }
 
 } // namespace vocabulary

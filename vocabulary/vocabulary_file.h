@@ -4,9 +4,11 @@
 #include "vocabulary/vocabulary_list.h"
 
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace vocabulary {
@@ -16,11 +18,15 @@ struct LoadFault {
     enum class Kind {
         Unreadable, ///< there is no such file, or none that can be read
         TooLong,    ///< it holds more than `MostWords` words, or more than a reader takes
-        CutOff,     ///< its last record lacks a field or two and was left out
+        NoWords,    ///< it is KVTML, and no word in it has a translation
+        CutOff,     ///< its end is missing: a last record that lacks something was left out
     };
 
     Kind kind;
     platform::Fault fault;
+
+    /// How many words a file holds that is too long, but can be divided; else 0.
+    int words = 0;
 
     /// True where nothing of the file was taken.
     bool refused() const { return kind != Kind::CutOff; }
@@ -29,23 +35,43 @@ struct LoadFault {
     std::string message() const { return fault.message(); }
 };
 
-/// What a file holds: three fields a word, of which each ends at a comma or at the end of its line, and in
-/// which ">" stands for a comma. Blanks around a field are not part of it, but those in double quotes are,
-/// and so are commas there: a field that begins with a double quote ends at the first one that has only
-/// blanks between itself and a comma or the line's end. A file that is refused has no records.
+/// What a file holds. A file that is refused has no records, but one that can be divided has them all.
 struct VocabularyFile {
     std::vector<WordRecord> records;
     std::optional<LoadFault> fault;
+
+    /// True where a save under the same name would not write what the file holds now.
+    bool isForeign = false;
 };
 
+/// Reads a word list in one of four formats. What it holds tells which, not its name:
+/// - the program's own where each line that is not empty makes three fields by its commas, whatever stands in
+///   these, and where none of the others fits;
+/// - KVTML, the format of some flash-card programs, where it begins with "<" and has a tag "<kvtml";
+/// - fields divided by tabs, or else by semicolons, where every line has one that is not in quotes, apart
+/// from
+///   empty lines and those that begin with "#".
 VocabularyFile readVocabularyFile(const std::filesystem::path& path);
 
-/// Replaces a file with these records, each `asWritten`; each reads back as it was, but that ">" reads back
-/// as a comma and a line end as a blank. Where that fails, the file is as it was, and the fault is returned.
+/// What a reader of KVTML found: the words that have a translation, no more than one past `MostWordsRead`,
+/// and the line where the text breaks off, 0 where it is whole.
+struct KvtmlList {
+    std::vector<WordRecord> records;
+    int brokenLine = 0;
+};
+
+/// Sets the reader of KVTML; without one such files are read like any other text.
+using KvtmlReader = std::function<KvtmlList(std::string_view text)>;
+void useKvtmlReader(KvtmlReader reader);
+
+/// Replaces a file with these records, each `asWritten`, divided by tabs where its name ends in ".tsv" and in
+/// the program's own format elsewhere. Each reads back as it was, but that with commas ">" reads back as a
+/// comma, a line end as a blank, and with tabs a tab or line end as a blank. Where that fails, the file is as
+/// it was, and the fault is returned.
 std::optional<platform::Fault> writeVocabularyFile(const std::filesystem::path& path,
                                                    std::span<const WordRecord> records);
 
-/// The record with ">" in the place of every comma, and a blank in that of every line end.
-WordRecord asWritten(WordRecord record);
+/// The record as a file of this name holds it.
+WordRecord asWritten(const std::filesystem::path& path, const WordRecord& record);
 
 } // namespace vocabulary

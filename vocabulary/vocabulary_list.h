@@ -12,6 +12,10 @@ namespace vocabulary {
 /// The most words that a list holds.
 inline constexpr int MostWords = 300;
 
+/// The most words that are read of a file with more than a list holds, which can be divided. One with still
+/// more is only refused.
+inline constexpr std::size_t MostWordsRead = 15'000;
+
 /// One word of a list: the word itself, what it means, and a hint such as its gender and genitive.
 struct WordRecord {
     std::string word;
@@ -45,6 +49,9 @@ struct VocabularyList {
 
     /// The file that the list was read from or saved to; empty for a new list.
     std::filesystem::path File;
+
+    /// True where the file is in a format that a save would not keep: a save asks before it replaces that.
+    bool FileIsForeign = false;
 };
 
 inline VocabularyList vocabularyList;

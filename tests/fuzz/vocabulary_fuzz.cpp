@@ -1,4 +1,5 @@
 #include "tests/fuzz/one_file.h"
+#include "vocabulary/kvtml/kvtml_list.h"
 #include "vocabulary/vocabulary_edits.h"
 #include "vocabulary/vocabulary_tester.h"
 
@@ -8,15 +9,29 @@ void fuzz::readFile(const std::filesystem::path& path)
 {
     using namespace vocabulary;
     vocabularyList = {};
+    useKvtmlReader(&readKvtml);
     loadList(path);
     const auto words = vocabularyList.Loaded;
     const int count = vocabularyList.WordCount;
     require(std::count(words.begin() + count + 1, words.end(), WordRecord{}) == MostWords - count,
             "Past the last word there is none");
-    require(!saveList(path), "A list can be written");
-    loadList(path);
-    require(vocabularyList.WordCount == count && vocabularyList.Loaded == words,
-            "What was written is what is read");
+    for (const char* const ending : {".lst", ".tsv"}) {
+        std::filesystem::path copy = path;
+        copy += ending;
+        loadList(path);
+        require(!saveList(copy), "A list can be written");
+        loadList(copy);
+        std::filesystem::remove(copy);
+        auto expected = words;
+        for (WordRecord& record : expected) {
+            record = asWritten(copy, record);
+            for (const WordField field : WordFields)
+                if (copy.extension() == ".lst")
+                    std::ranges::replace(record.*field, '>', ',');
+        }
+        require(vocabularyList.WordCount == count && vocabularyList.Loaded == expected,
+                "What was written is what is read");
+    }
     // Past its last counted word the tester ends the program.
     if (count > LastCountedWord)
         return;

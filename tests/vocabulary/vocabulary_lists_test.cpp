@@ -1,4 +1,5 @@
 #include "tests/support/fresh_state.h"
+#include "vocabulary/list_division.h"
 #include "vocabulary/vocabulary_edits.h"
 
 namespace {
@@ -32,6 +33,68 @@ TEST_F(VocabularyLists, ReadEveryFormOfARecordAndLeaveOutOneThatIsCutOffButNoneO
         }
     for (const auto& file : std::filesystem::directory_iterator(MORVANTI_DATA))
         EXPECT_FALSE(file.path().extension() == ".lst" && readVocabularyFile(file.path()).fault) << file;
+}
+
+TEST_F(VocabularyLists, AreReadAsOtherProgramsWriteThemAndOnlyWhereTheCommasMakeNoListOfOurs)
+{
+    const WordRecord love{"amo:", "love, like", "a:re"};
+    const std::pair<std::string, Records> cases[] = {
+        {"rosa\trose\tf.", {Rose}},
+        {"\xEF\xBB\xBF#separator:tab\r\nrosa\t rose \tf.\tflowers\r\n\r\nRoma\tRome > Gaul",
+         {Rose, {"Roma", "Rome > Gaul", ""}}},
+        {"amo:; love, like ;a:re\n;;;\nmu:s;f\xE9;m.\n", {love, {"mu:s", "fé", "m."}}},
+        {"\"a;\"\"b\"\"\";\"two\r\nlines\" ;\"#\"", {{"a;\"b\"", "two lines", "#"}}},
+        {"\"Salve\" dixit\tsaid \"hi\"\n\"#a\t\"b",
+         {{"\"Salve\" dixit", "said \"hi\"", ""}, {"\"#a", "\"b", ""}}},
+        {"rosa;x\trose;y\n", {{"rosa;x", "rose;y", ""}}},
+        // Lists of ours, whatever stands between the commas.
+        {"rosa;x,rose;y,f.;z\n\nmu:s;,\tmouse;,m.;\n",
+         {{"rosa;x", "rose;y", "f.;z"}, {"", "mu:s;", "mouse;"}}},
+        {"a\tb,c,d\r\n#e\t,f,g", {{"a\tb", "c", "d"}, {"#e", "f", "g"}}},
+        {"#a;b\n#c;d\n#e;f", {{"#a;b", "#c;d", "#e;f"}}},
+        {"rosa\nrose;\nf.", {{"rosa", "rose;", "f."}}},
+        {";;\n;\n;", {{";;", ";", ";"}}},
+    };
+    for (const auto& [bytes, expected] : cases) {
+        tests::writeFile("words.lst", bytes);
+        EXPECT_EQ(readVocabularyFile("words.lst").records, expected) << bytes;
+    }
+}
+
+TEST_F(VocabularyLists, AreSavedWithTabsAndReadBackWhateverTheyHold)
+{
+    addWord(Rome);
+    addWord({"#1", "a\tb\nc", "\"q\" "});
+    EXPECT_FALSE(saveList("words.lst") || saveList("Words.TSV"));
+    EXPECT_EQ(tests::bytesOf("Words.TSV"), "Ro:ma\tRome, Italy\tf.\r\n\"#1\"\ta b c\t\"\"\"q\"\" \"\r\n");
+    EXPECT_EQ(vocabularyList.Working[1], Rome);
+    for (const std::string text : {"", "#", "<kvtml", "\"", " a", "a, b, c", ";", "\uFEFF", ",", ">"}) {
+        for (const Records& records : {Records{{text, "", ""}}, Records(2, {text, text, text})}) {
+            EXPECT_FALSE(writeVocabularyFile("words.tsv", records));
+            const auto file = readVocabularyFile("words.tsv");
+            EXPECT_TRUE(file.records == records && !file.isForeign) << text << records.size();
+        }
+    }
+}
+
+TEST_F(VocabularyLists, AreDividedBesideTheirFileAndReplaceNothing)
+{
+    std::string words;
+    for (int word = 1; word <= 301; ++word)
+        words += std::to_string(word) + "; a, b\n";
+    tests::writeFile("long.list.csv", words);
+    tests::writeFile("long.list-2.lst", "mine");
+    const Division division = divideList("long.list.csv");
+    EXPECT_EQ(division.lists,
+              (std::vector<std::filesystem::path>{"long.list-3.lst", "long.list-4.lst", "long.list-5.lst"}));
+    EXPECT_EQ(readVocabularyFile("long.list-4.lst").records.front(), (WordRecord{"151", "a, b", ""}));
+    EXPECT_EQ(tests::bytesOf("long.list-5.lst"), "301,a> b,\r\n");
+    EXPECT_EQ(tests::bytesOf("long.list-2.lst") + tests::bytesOf("long.list.csv"), "mine" + words);
+    std::string huge;
+    while (huge.size() < 60'004)
+        huge += "a\tb\n";
+    tests::writeFile("huge.tsv", huge);
+    EXPECT_EQ(divideList("huge.tsv").fault->message(), "huge.tsv: the file holds more than 300 words");
 }
 
 TEST_F(VocabularyLists, ReadBackWhatWasTypedAndSaved)

@@ -17,6 +17,7 @@ const std::vector<std::pair<const char*, QStringList>> Windows = {
     {"Vcabtester", {"MainVocabulary"}}, {"VcabLoader", {"MainVocabulary", "VcabTesterFileOpen"}},
     {"FileHandler", {"FileVcabManager", "VcabManLoad"}}, {"FileHandler", {"FileVcabManager", "VcabManSave"}},
     {"VcabReplace", {"FileVcabManager", "VcabManSave", "FHFileBox 0", "LoadSaveFH"}},
+    {"VcabDivide", {"MainVocabulary", "VcabTesterFileOpen", "VcabFile 0"}},
     {"VcabWarning", {"MainVocabulary", "VcabTesterEdit", "VcabManMainForm 0", "VcabManDelete", "VcabManExit"}},
 };
 
@@ -108,6 +109,7 @@ protected:
     {
         for (const char* const sample : {"morvanti.hlp", "vr-vcab.lst"})
             tests::copySample(sample);
+        tests::writeFile("301 words.lst", QByteArray("a,b,c\n").repeated(301).toStdString());
         for (const std::string language : {"English", "French", "German", "Spanish", "Latin"})
             for (const auto& [name, way] : Windows) {
                 SCOPED_TRACE(language + ' ' + name);

@@ -195,6 +195,81 @@ TEST_F(VcabWindows, WarnOnlyWhereALoadWouldReplaceChangesAndGoOnAsIsWished)
     EXPECT_EQ(bytesOf("rose.lst"), RoseInAFile);
 }
 
+TEST_F(VcabWindows, LoadListsOfOtherProgramsAndWriteThemOverOnlyWhereThatIsAllowed)
+{
+    const std::string flashCards = R"(<?xml version="1.0" encoding="ISO-8859-1"?><!DOCTYPE kvtml>
+<kvtml version="2.0"><lessons><container><entry id="0"/></container></lessons><entries>
+<entry id="0"><translation id="1"><text>mouse</text><comment>small</comment></translation>
+<translation id="0"><text> mu:s &lt;é&gt;
+2</text><comment>mu:ris, m.</comment><article/></translation></entry>
+<entry id="1"><translation id="0"><text>rosa</text><comment>rose</comment></translation>
+<translation id="2"><text>Rose</text></translation><translation id="1"><text></text></translation></entry>
+<entry id="2"><translation id="0"><text>Ro:ma</text><comment>Rome</comment></translation>
+<translation id="1"><text>Rome</text></translation></entry>)";
+    writeFile("a.kvtml", flashCards + "</entries></kvtml>");
+    writeFile("b.kvtml", "<kvtml><entry><translation id='0'><text>rosa</text>");
+    writeFile("c.csv", "rosa;rose;f.\n#Rome\nRo:ma;Rome, Italy;\n");
+    writeFile("d.kvtml", flashCards + "<entry id='3'><translation id='0'>");
+    openManager();
+    clickIn("VcabManLoad");
+    EXPECT_EQ(rows(list(files(), "FHFileBox")), QStringList({"a.kvtml", "b.kvtml", "c.csv", "d.kvtml"}));
+    doubleClickRow(list(files(), "FHFileBox"), 0);
+    expectWords({"mu:s <é> 2", "Ro:ma"}, "a.kvtml");
+    clickIn("VcabManSave");
+    EXPECT_EQ(line(files(), "FHFileName").text(), "a.lst");
+    press(files(), Qt::Key_Return);
+    EXPECT_EQ(bytesOf("a.lst"), "mu:s <é> 2,mouse,mu:ris> m.\r\nRo:ma,Rome,\r\n");
+    for (const char* const name : {"b.kvtml", "d.kvtml", "c.csv"}) {
+        if (manager->isVisible())
+            clickIn("VcabManLoad");
+        confirm(name);
+    }
+    EXPECT_EQ(fake.messages, std::vector<std::string>(
+                                 {"b.kvtml: no word in the file has a translation",
+                                  "d.kvtml, line 9: the file breaks off here; the words above were read"}));
+    expectWords({"rosa", "Ro:ma"}, "c.csv");
+    saveAs("c.csv");
+    press(shown("VcabReplace"), Qt::Key_Escape);
+    confirm("c.tsv");
+    EXPECT_EQ(bytesOf("c.tsv"), "rosa\trose\tf.\r\nRo:ma\tRome, Italy\t\r\n");
+    clickIn("VcabManLoad");
+    confirm("c.tsv");
+    saveAs("c.tsv");
+    expectWords({"rosa", "Ro:ma"}, "c.tsv");
+}
+
+TEST_F(VcabWindows, OfferToDivideAListThatIsTooLongAndOpenItsFirst)
+{
+    std::string words;
+    for (int word = 1; word <= 301; ++word)
+        words += std::to_string(word) + "\tx\n";
+    writeFile("long.txt", words);
+    openManager();
+    add(Rome);
+    clickIn("VcabManLoad");
+    confirm("long.txt");
+    EXPECT_TRUE(label(shown("VcabDivide"), "VcabDivideText").startsWith("The file long.txt holds 301 words"));
+    press(shown("VcabDivide"), Qt::Key_Escape);
+    EXPECT_FALSE(std::filesystem::exists("long-1.lst"));
+    click(files(), "LoadSaveFH");
+    press(shown("VcabDivide"), Qt::Key_Return);
+    click(shown("VcabWarning"), "VcabWarningDiscard");
+    EXPECT_EQ(manager->windowTitle(), "Vocabulary Editor - long-1.lst");
+    EXPECT_EQ(list(*manager, "VcabManMainForm").count(), 150);
+    QWidget& tester = openTester();
+    choose(tester, "VcabTesterFileOpen");
+    doubleClickRow(list(shown("VcabLoader"), "VcabFile"), 3);
+    {
+        const FullDisk roomForTheFirst{1150};
+        click(shown("VcabDivide"), "VcabDivideOK");
+    }
+    EXPECT_TRUE(fake.messages.back().starts_with("The file was not divided. long-5.lst: "));
+    EXPECT_FALSE(std::filesystem::exists("long-4.lst"));
+    doubleClickRow(list(shown("VcabLoader"), "VcabFile"), 3);
+    click(shown("VcabDivide"), "VcabDivideOK");
+    EXPECT_TRUE(question(tester) == "1" && tester.windowTitle().endsWith("long-4.lst"));
+}
+
 TEST_F(VcabWindows, RefuseTheThreeHundredAndFirstWordAndKeepItsText)
 {
     editFrom(openTester(QByteArray(RoseInAFile).repeated(300).toStdString()));
@@ -290,10 +365,8 @@ TEST_F(VcabWindows, OpenAnotherListWithoutCountsOrGoOnWithTheirOwn)
         press(loader, Qt::Key_Down);
         EXPECT_EQ(label(loader, "VcabLoaderCount"), count);
     }
-    for (const int tooLong : {1, 3})
-        doubleClickRow(lists, tooLong);
-    EXPECT_EQ(fake.messages, std::vector<std::string>({"c.txt: the file holds more than 300 words",
-                                                       "e.lst: the file is too long for a word list"}));
+    doubleClickRow(lists, 3);
+    EXPECT_EQ(fake.messages, std::vector<std::string>{"e.lst: the file is too long for a word list"});
     press(loader, Qt::Key_Escape);
     EXPECT_TRUE(question(tester) == "rosa" && button(tester, "VcabTestOmit").isChecked());
     choose(tester, "VcabTesterFileOpen");

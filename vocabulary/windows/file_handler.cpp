@@ -124,7 +124,7 @@ void FileHandler::open(std::string_view mode)
     setCaptions();
     goToListFolder();
     showFolder();
-    name_->setText(isLoading() ? QString() : shell::fromUtf8(vocabularyList.File.filename().string()));
+    name_->setText(isLoading() ? QString() : shell::fromUtf8(fileToSave().filename().string()));
     action_->setEnabled(!name_->text().isEmpty());
     showInMainWindowState();
     if (isLoading())
@@ -188,14 +188,14 @@ void FileHandler::loadOrSave()
     if (!isVisible() || !action_->isEnabled())
         return;
     if (isLoading())
-        load();
+        load(path());
     else
         save();
 }
 
-void FileHandler::load()
+void FileHandler::load(const std::filesystem::path& file)
 {
-    toLoad_ = path();
+    toLoad_ = file;
     if (changesArePending() && isReadable(toLoad_))
         Q_EMIT warningRequested();
     else
@@ -204,12 +204,14 @@ void FileHandler::load()
 
 void FileHandler::replaceList()
 {
-    loadAndTell(toLoad_, [this] { Q_EMIT loaded(); });
+    loadAndTell(
+        toLoad_, [this] { Q_EMIT loaded(); },
+        [this](const LoadFault& fault) { Q_EMIT divisionRequested(toLoad_, fault); });
 }
 
 void FileHandler::saveBeforeLoad()
 {
-    if (vocabularyList.File.empty())
+    if (vocabularyList.File.empty() || vocabularyList.FileIsForeign)
         chooseFileBeforeLoad();
     else if (const auto fault = saveList(vocabularyList.File))
         tellThatSaveFailed(*fault);

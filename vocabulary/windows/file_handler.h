@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shell/kit/window.h"
+#include "vocabulary/vocabulary_file.h"
 
 #include <QDir>
 
@@ -28,6 +29,9 @@ public:
     /// Shows the window for one of the values of `FileMode`, in the folder of the list in memory.
     void open(std::string_view mode);
 
+    /// Loads a file as if it had been chosen.
+    void load(const std::filesystem::path& file);
+
     /// Loads the chosen file, whatever is pending.
     void replaceList();
 
@@ -44,6 +48,9 @@ Q_SIGNALS:
     /// The chosen file can be loaded, and changes are pending.
     void warningRequested();
 
+    /// The chosen file holds too many words, but can be divided.
+    void divisionRequested(const std::filesystem::path& path, const vocabulary::LoadFault& fault);
+
     /// The list is to be saved to a file that holds another.
     void replacementRequested(const std::filesystem::path& path);
 
@@ -59,7 +66,6 @@ private:
     void takeName(int row);
     void activateFile(int row);
     void loadOrSave();
-    void load();
     void save();
     void chooseFileBeforeLoad();
     std::filesystem::path path() const;

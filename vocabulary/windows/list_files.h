@@ -12,13 +12,16 @@
 
 namespace vocabulary {
 
-/// The endings of the word lists; a new list gets the first.
-inline constexpr std::array ListEndings = {".lst", ".txt", ".voc"};
+/// The endings of the word lists; a new list gets the first. Those of ".tsv" are written with tabs.
+inline constexpr std::array ListEndings = {".lst", ".txt", ".voc", ".tsv", ".csv"};
+
+/// That of lists which are read, but never written.
+inline constexpr auto KvtmlEnding = ".kvtml";
 
 /// The names of the word lists in a folder, in the order of the alphabet.
 inline QStringList listFilesIn(const QDir& folder)
 {
-    QStringList patterns;
+    QStringList patterns{QLatin1Char('*') + QLatin1String(KvtmlEnding)};
     for (const char* const ending : ListEndings)
         patterns << QLatin1Char('*') + QLatin1String(ending);
     return folder.entryList(patterns, QDir::Files, QDir::Name | QDir::IgnoreCase);
@@ -35,13 +38,17 @@ inline QString withEnding(const QDir& folder, const QString& name)
 }
 
 /// Loads the list of a file in the place of the one in memory, and takes the next step where it is not
-/// refused. What was wrong is told last, so that the message stands above the window that is shown then.
-inline void loadAndTell(const std::filesystem::path& file, const std::function<void()>& next)
+/// refused. What was wrong is told last, so that the message stands above the window that is shown then; of a
+/// file that can be divided it is offered to do so.
+inline void loadAndTell(const std::filesystem::path& file, const std::function<void()>& next,
+                        const std::function<void(const LoadFault&)>& offerDivision)
 {
     const auto fault = loadList(file);
     if (!fault || !fault->refused())
         next();
-    if (fault)
+    if (fault && fault->words > 0)
+        offerDivision(*fault);
+    else if (fault)
         platform::current().showMessage(fault->message());
 }
 

@@ -104,7 +104,14 @@ std::filesystem::path VcabLoader::fileIn(int row) const
 void VcabLoader::loadChosen()
 {
     if (isVisible() && files_->chosenRow() >= 0)
-        loadAndTell(fileIn(files_->chosenRow()), [this] { Q_EMIT left(); });
+        load(fileIn(files_->chosenRow()));
+}
+
+void VcabLoader::load(const std::filesystem::path& file)
+{
+    loadAndTell(
+        file, [this] { Q_EMIT left(); },
+        [&](const LoadFault& fault) { Q_EMIT divisionRequested(file, fault); });
 }
 
 } // namespace vocabulary

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shell/kit/window.h"
+#include "vocabulary/vocabulary_file.h"
 
 #include <filesystem>
 
@@ -22,6 +23,13 @@ public:
 
     /// Shows the lists that there are now; none is chosen.
     void open();
+
+    /// Loads a file as if it had been chosen.
+    void load(const std::filesystem::path& file);
+
+Q_SIGNALS:
+    /// The chosen file holds too many words, but can be divided.
+    void divisionRequested(const std::filesystem::path& path, const vocabulary::LoadFault& fault);
 
 private:
     void makeControls();

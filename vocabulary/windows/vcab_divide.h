@@ -1,0 +1,28 @@
+#pragma once
+
+#include "vocabulary/vocabulary_file.h"
+#include "vocabulary/windows/list_question.h"
+
+#include <filesystem>
+
+namespace vocabulary {
+
+/// Asks whether a file with more words than a list holds may be divided into several lists.
+class VcabDivide : public ListQuestion {
+    Q_OBJECT
+
+public:
+    VcabDivide();
+
+    /// The fault says how many words the file holds.
+    void open(const std::filesystem::path& file, const LoadFault& fault);
+
+Q_SIGNALS:
+    void divisionAllowed(const std::filesystem::path& file);
+
+private:
+    std::filesystem::path file_;
+    QPushButton* divide_ = nullptr;
+};
+
+} // namespace vocabulary
