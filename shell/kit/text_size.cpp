@@ -1,5 +1,6 @@
 #include "shell/kit/text_size.h"
 
+#include "shell/kit/type.h"
 #include "shell/looks.h"
 #include "shell/looks_file.h"
 
@@ -22,16 +23,6 @@ void setFontOfAll(const QFont& font)
     QCoreApplication::sendPostedEvents(qApp, QEvent::ApplicationFontChange);
 }
 
-QFont desktopFontIn(int percent)
-{
-    QFont font = *desktopFont;
-    if (font.pointSizeF() > 0)
-        font.setPointSizeF(font.pointSizeF() * percent / DesktopTextSize);
-    else
-        font.setPixelSize(font.pixelSize() * percent / DesktopTextSize);
-    return font;
-}
-
 } // namespace
 
 void applyTextSize()
@@ -39,7 +30,7 @@ void applyTextSize()
     if (looks.TextSize != DesktopTextSize) {
         if (!desktopFont)
             desktopFont = QApplication::font();
-        setFontOfAll(desktopFontIn(looks.TextSize));
+        setFontOfAll(timesAsLarge(*desktopFont, double(looks.TextSize) / DesktopTextSize));
     } else if (desktopFont) {
         setFontOfAll(*desktopFont);
         desktopFont.reset();

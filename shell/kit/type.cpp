@@ -13,7 +13,7 @@ namespace {
 void setFont(QWidget& widget, double factor, QFont::Weight weight)
 {
     keepMeasure(widget, "type", [&widget, factor, weight](Growth growth) {
-        QFont font = desktopFont(factor * growth);
+        QFont font = timesAsLarge(QApplication::font(), factor * growth);
         font.setWeight(weight);
         widget.setFont(font);
     });
@@ -22,9 +22,8 @@ void setFont(QWidget& widget, double factor, QFont::Weight weight)
 } // namespace
 
 // A desktop gives its font in points or, here and there, in pixels.
-QFont desktopFont(double factor)
+QFont timesAsLarge(QFont font, double factor)
 {
-    QFont font = QApplication::font();
     if (font.pointSizeF() > 0)
         font.setPointSizeF(font.pointSizeF() * factor);
     else

@@ -19,10 +19,11 @@ inline constexpr double HeadingType = 1.6;
 inline constexpr double FormType = 1.5;
 inline constexpr double NoteType = 0.95;
 
-/// A multiple of the application's font.
-QFont desktopFont(double factor);
+/// A font in a multiple of its size.
+QFont timesAsLarge(QFont font, double factor);
 
-/// Sets a widget's font to such a one, and to one in bold type. It grows with the window.
+/// Sets a widget's font to a multiple of the application's, and such a one in bold type. It grows with the
+/// window.
 void setType(QWidget& widget, double factor);
 void setBoldType(QWidget& widget, double factor);
 

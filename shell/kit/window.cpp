@@ -146,7 +146,7 @@ void Window::grow()
 void Window::takeSize(Growth growth)
 {
     growth_ = growth;
-    setFont(growth == 1 ? QFont() : desktopFont(growth));
+    setFont(growth == 1 ? QFont() : timesAsLarge(QApplication::font(), growth));
     takeMeasures(*this, growth);
 }
 
