@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QScreen>
+#include <QScrollBar>
 
 namespace shell {
 
@@ -27,12 +28,20 @@ ContentArea::ContentArea(QWidget* parent) : QScrollArea(parent)
 
 QSize ContentArea::sizeHint() const
 {
-    return widget()->sizeHint();
+    return withScrollBar(widget()->sizeHint());
 }
 
 QSize ContentArea::minimumSizeHint() const
 {
-    return widget()->minimumSizeHint().boundedTo(screen()->availableSize() * ShareOfScreen);
+    return withScrollBar(widget()->minimumSizeHint()).boundedTo(screen()->availableSize() * ShareOfScreen);
+}
+
+// Content that is too high for the screen must not become too wide by its scroll bar.
+QSize ContentArea::withScrollBar(QSize content) const
+{
+    if (content.height() > screen()->availableSize().height() * ShareOfScreen)
+        content += {verticalScrollBar()->sizeHint().width(), 0};
+    return content;
 }
 
 // The window has to hear when its content asks for other room.

@@ -20,6 +20,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    QSize withScrollBar(QSize content) const;
     void showFocus(QWidget* focused);
 };
 

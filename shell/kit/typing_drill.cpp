@@ -56,7 +56,7 @@ QString underlined(std::string_view answer, const AnswerFault& fault)
 } // namespace
 
 TypingDrill::TypingDrill(std::string_view name, std::string_view activeName, std::string_view exerciseType)
-    : DrillWindow(name, activeName, exerciseType), why_(makeLabel(this, "WhyLabel", FormType)),
+    : DrillWindow(name, activeName, exerciseType), why_(makeLabel(this, "WhyLabel", SentenceType)),
       where_(makeLabel(this, "WhereLabel", NoteType))
 {
     why_->setTextFormat(Qt::RichText);
