@@ -23,7 +23,7 @@ public:
     void start();
 
 private:
-    void showHelp();
+    void showHelp(const shell::Window& asking);
 
     KeyFilter keyFilter_;
     CommonWindows common_;

@@ -2,9 +2,9 @@
 
 #include "shell/kit/type.h"
 
+#include <QRegularExpression>
+#include <QScrollBar>
 #include <QTextBlock>
-#include <QTextBrowser>
-#include <QTextCursor>
 #include <QTextTable>
 
 namespace shell {
@@ -24,21 +24,37 @@ QString anchorOf(const QString& heading)
     return anchor;
 }
 
+// Takes the names in braces from the end of a heading.
+QStringList takeWindows(const QTextBlock& heading)
+{
+    static const QRegularExpression namesInBraces(QStringLiteral(R"(\s*\{([^}]*)\}$)"));
+    const auto match = namesInBraces.match(heading.text());
+    if (!match.hasMatch())
+        return {};
+    QTextCursor cursor(heading);
+    cursor.setPosition(heading.position() + static_cast<int>(match.capturedStart()));
+    cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
+    cursor.removeSelectedText();
+    return match.captured(1).split(u' ', Qt::SkipEmptyParts);
+}
+
 // Markdown gives its headings no anchors.
-void makeAnchor(const QTextBlock& heading)
+void setAnchors(const QTextBlock& heading, const QStringList& anchors)
 {
     QTextCharFormat format;
     format.setAnchor(true);
-    format.setAnchorNames({anchorOf(heading.text())});
+    format.setAnchorNames(anchors);
     QTextCursor cursor(heading);
     cursor.select(QTextCursor::BlockUnderCursor);
     cursor.mergeCharFormat(format);
 }
 
+// Lines of a file may be longer than the guide is wide: they break as all others do.
 void setSpace(const QTextBlock& block)
 {
     QTextBlockFormat format;
     format.setLineHeight(LineHeightPercent, QTextBlockFormat::ProportionalHeight);
+    format.setNonBreakableLines(false);
     if (block.blockFormat().headingLevel() > 1)
         format.setTopMargin(WideSpace);
     QTextCursor(block).mergeBlockFormat(format);
@@ -55,38 +71,107 @@ void setTable(QTextTable& table, const QBrush& border)
     table.setFormat(format);
 }
 
-void setUp(QTextDocument& guide, const QBrush& border)
-{
-    for (QTextBlock block = guide.begin(); block.isValid(); block = block.next()) {
-        setSpace(block);
-        if (block.blockFormat().headingLevel() > 0)
-            makeAnchor(block);
-    }
-    for (QTextFrame* const frame : guide.rootFrame()->childFrames())
-        if (auto* const table = qobject_cast<QTextTable*>(frame))
-            setTable(*table, border);
-}
-
 } // namespace
 
-void showGuideText(QTextBrowser& browser, const QString& text)
+// What was found is marked as plainly while the field for it has the focus.
+GuideText::GuideText(QWidget* parent) : QTextBrowser(parent)
 {
-    browser.setSource(QUrl());
-    if (text.startsWith(QStringLiteral("# "))) {
-        browser.setMarkdown(text);
-        setUp(*browser.document(), browser.palette().mid());
-    } else {
-        browser.setPlainText(text);
-    }
-    showBeginning(browser);
+    document()->setDocumentMargin(WideSpace);
+    QPalette colours = palette();
+    for (const auto role : {QPalette::Highlight, QPalette::HighlightedText})
+        colours.setColor(QPalette::Inactive, role, colours.color(QPalette::Active, role));
+    setPalette(colours);
 }
 
-void showBeginning(QTextBrowser& browser)
+void GuideText::setGuide(const QString& guide)
 {
-    browser.moveCursor(QTextCursor::Start);
-    // A place for the history to come back to: no heading has this anchor.
-    browser.setSource(QUrl(QStringLiteral("#-")));
-    browser.clearHistory();
+    if (guide == guide_)
+        return;
+    guide_ = guide;
+    sections_.clear();
+    setSource(QUrl());
+    if (guide.startsWith(QStringLiteral("# "))) {
+        setMarkdown(guide);
+        setUp();
+    } else {
+        setPlainText(guide);
+    }
+}
+
+void GuideText::setUp()
+{
+    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
+        setSpace(block);
+        if (block.blockFormat().headingLevel() > 0)
+            openSections(block);
+    }
+    for (QTextFrame* const frame : document()->rootFrame()->childFrames())
+        if (auto* const table = qobject_cast<QTextTable*>(frame))
+            setTable(*table, palette().mid());
+}
+
+void GuideText::openSections(const QTextBlock& heading)
+{
+    const QStringList windows = takeWindows(heading);
+    sections_.unite({windows.begin(), windows.end()});
+    setAnchors(heading, QStringList{anchorOf(heading.text())} + windows);
+}
+
+void GuideText::goToSection(const QString& window)
+{
+    const bool isFirst = source().isEmpty();
+    if (sections_.contains(window)) {
+        setSource(QUrl(u'#' + window));
+    } else {
+        // A place for the history to come back to: no heading has this anchor.
+        setSource(QUrl(QStringLiteral("#-")));
+        moveCursor(QTextCursor::Start);
+    }
+    if (isFirst)
+        clearHistory();
+}
+
+bool GuideText::findHere(const QString& words)
+{
+    const QTextCursor found = document()->find(words, readersPlace().selectionStart());
+    return mark(found.isNull() ? document()->find(words) : found);
+}
+
+bool GuideText::findNext(const QString& words)
+{
+    const QTextCursor found = document()->find(words, readersPlace().selectionEnd());
+    return mark(found.isNull() ? document()->find(words) : found);
+}
+
+bool GuideText::findPrevious(const QString& words)
+{
+    constexpr auto Backward = QTextDocument::FindBackward;
+    const QTextCursor found = document()->find(words, readersPlace().selectionStart(), Backward);
+    return mark(found.isNull() ? document()->find(words, document()->characterCount() - 1, Backward) : found);
+}
+
+// What is marked, as long as it is in sight, else the first letter that is.
+QTextCursor GuideText::readersPlace() const
+{
+    const QTextCursor marked = textCursor();
+    return marked.hasSelection() && viewport()->rect().intersects(cursorRect(marked))
+               ? marked
+               : cursorForPosition(QPoint(0, 0));
+}
+
+bool GuideText::mark(const QTextCursor& found)
+{
+    if (!found.isNull())
+        setTextCursor(found);
+    return !found.isNull();
+}
+
+void GuideText::resizeEvent(QResizeEvent* event)
+{
+    const QTextCursor top = cursorForPosition(QPoint(0, 0));
+    const int before = cursorRect(top).top();
+    QTextBrowser::resizeEvent(event);
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + cursorRect(top).top() - before);
 }
 
 } // namespace shell
