@@ -81,6 +81,14 @@ GuideText::GuideText(QWidget* parent) : QTextBrowser(parent)
     for (const auto role : {QPalette::Highlight, QPalette::HighlightedText})
         colours.setColor(QPalette::Inactive, role, colours.color(QPalette::Active, role));
     setPalette(colours);
+    connect(horizontalScrollBar(), &QScrollBar::rangeChanged, this, &GuideText::offerToScrollSideways);
+}
+
+// A table may be rounded up by a pixel. Nothing is hidden as long as that is the margin alone.
+void GuideText::offerToScrollSideways(int /*least*/, int most)
+{
+    setHorizontalScrollBarPolicy(most > document()->documentMargin() ? Qt::ScrollBarAsNeeded
+                                                                     : Qt::ScrollBarAlwaysOff);
 }
 
 void GuideText::setGuide(const QString& guide)
@@ -90,24 +98,29 @@ void GuideText::setGuide(const QString& guide)
     guide_ = guide;
     sections_.clear();
     setSource(QUrl());
-    if (guide.startsWith(QStringLiteral("# "))) {
-        setMarkdown(guide);
-        setUp();
-    } else {
+    if (guide.startsWith(QStringLiteral("# ")))
+        setDocument(madeReady(guide));
+    else
         setPlainText(guide);
-    }
 }
 
-void GuideText::setUp()
+// Returns it ready to be shown: one that is shown already would be laid out anew after each step.
+QTextDocument* GuideText::madeReady(const QString& guide)
 {
-    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
+    auto* const ready = new QTextDocument(document()->parent());
+    ready->setUndoRedoEnabled(false);
+    ready->setDefaultFont(font());
+    ready->setDocumentMargin(WideSpace);
+    ready->setMarkdown(guide);
+    for (QTextBlock block = ready->begin(); block.isValid(); block = block.next()) {
         setSpace(block);
         if (block.blockFormat().headingLevel() > 0)
             openSections(block);
     }
-    for (QTextFrame* const frame : document()->rootFrame()->childFrames())
+    for (QTextFrame* const frame : ready->rootFrame()->childFrames())
         if (auto* const table = qobject_cast<QTextTable*>(frame))
             setTable(*table, palette().mid());
+    return ready;
 }
 
 void GuideText::openSections(const QTextBlock& heading)
@@ -159,11 +172,16 @@ QTextCursor GuideText::readersPlace() const
                : cursorForPosition(QPoint(0, 0));
 }
 
+// A place that is out of sight comes to the middle, with what stands around it.
 bool GuideText::mark(const QTextCursor& found)
 {
-    if (!found.isNull())
-        setTextCursor(found);
-    return !found.isNull();
+    if (found.isNull())
+        return false;
+    const QRect place = cursorRect(found);
+    if (!viewport()->rect().contains(place))
+        verticalScrollBar()->setValue(verticalScrollBar()->value() + place.top() - viewport()->height() / 2);
+    setTextCursor(found);
+    return true;
 }
 
 void GuideText::resizeEvent(QResizeEvent* event)

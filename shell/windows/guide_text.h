@@ -36,7 +36,8 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    void setUp();
+    void offerToScrollSideways(int least, int most);
+    QTextDocument* madeReady(const QString& guide);
     void openSections(const QTextBlock& heading);
     QTextCursor readersPlace() const;
     bool mark(const QTextCursor& found);
