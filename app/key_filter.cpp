@@ -11,10 +11,11 @@ namespace app {
 namespace {
 
 // Not a menu that is open, nor a message.
-bool windowHasTheKeys()
+const shell::Window* windowWithTheKeys()
 {
-    return QApplication::activePopupWidget() == nullptr &&
-           qobject_cast<shell::Window*>(QApplication::activeWindow()) != nullptr;
+    return QApplication::activePopupWidget() == nullptr
+               ? qobject_cast<const shell::Window*>(QApplication::activeWindow())
+               : nullptr;
 }
 
 } // namespace
@@ -24,9 +25,10 @@ bool KeyFilter::eventFilter(QObject* /*receiver*/, QEvent* event)
     if (event->type() != QEvent::KeyPress)
         return false;
     const auto& key = *static_cast<QKeyEvent*>(event);
-    if (key.key() == Qt::Key_F1 && key.modifiers() == Qt::NoModifier && windowHasTheKeys()) {
+    const shell::Window* const window = windowWithTheKeys();
+    if (key.key() == Qt::Key_F1 && key.modifiers() == Qt::NoModifier && window != nullptr) {
         if (!key.isAutoRepeat())
-            Q_EMIT helpRequested();
+            Q_EMIT helpRequested(*window);
         return true;
     }
     return key.isAutoRepeat() && (shell::isEnter(key) || key.key() == Qt::Key_Escape);

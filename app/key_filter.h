@@ -2,6 +2,10 @@
 
 #include <QObject>
 
+namespace shell {
+class Window;
+}
+
 namespace app {
 
 /// Sees every key before the windows do. F1 asks for the guide in each window of the program, though not
@@ -11,7 +15,8 @@ class KeyFilter : public QObject {
     Q_OBJECT
 
 Q_SIGNALS:
-    void helpRequested();
+    /// By this window.
+    void helpRequested(const shell::Window& window);
 
 protected:
     bool eventFilter(QObject* receiver, QEvent* event) override;

@@ -31,7 +31,7 @@ Navigation::Navigation()
     connect(mainMenu, &MainMenu::vowelLengthSwitched, this, &prepareVerbListAgain);
     connect(mainMenu, &MainMenu::exitRequested, this, [this] { exitProgram(common_.mainMenu()); });
     connect(mainMenu, &MainMenu::quietEndRequested, this, &endProgramQuietly);
-    connect(mainMenu, &MainMenu::helpRequested, this, &Navigation::showHelp);
+    connect(mainMenu, &MainMenu::helpRequested, this, [this] { showHelp(common_.mainMenu()); });
     connect(mainMenu, &MainMenu::delayRequested, this, [this] { common_.openDelayInterval(); });
     connect(mainMenu, &MainMenu::optionsRequested, this, [this] { options_->open(); });
     connect(mainMenu, &MainMenu::aboutRequested, this, [this] { about_->open(); });
@@ -42,10 +42,10 @@ void Navigation::start()
     loadProgram(common_.mainMenu());
 }
 
-void Navigation::showHelp()
+void Navigation::showHelp(const shell::Window& asking)
 {
     if (!platform::current().startProgram(HelpCommand))
-        help_->showGuide();
+        help_->showGuide(asking);
 }
 
 } // namespace app

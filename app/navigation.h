@@ -24,7 +24,7 @@ public:
     void start();
 
 private:
-    void showHelp();
+    void showHelp(const shell::Window& asking);
 
     KeyFilter keyFilter_;
     TextSizeKeys textSizeKeys_;

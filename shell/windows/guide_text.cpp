@@ -2,9 +2,9 @@
 
 #include "shell/kit/type.h"
 
+#include <QRegularExpression>
+#include <QScrollBar>
 #include <QTextBlock>
-#include <QTextBrowser>
-#include <QTextCursor>
 #include <QTextTable>
 
 namespace shell {
@@ -24,21 +24,37 @@ QString anchorOf(const QString& heading)
     return anchor;
 }
 
+// Takes the names in braces from the end of a heading.
+QStringList takeWindows(const QTextBlock& heading)
+{
+    static const QRegularExpression namesInBraces(QStringLiteral(R"(\s*\{([^}]*)\}$)"));
+    const auto match = namesInBraces.match(heading.text());
+    if (!match.hasMatch())
+        return {};
+    QTextCursor cursor(heading);
+    cursor.setPosition(heading.position() + static_cast<int>(match.capturedStart()));
+    cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
+    cursor.removeSelectedText();
+    return match.captured(1).split(u' ', Qt::SkipEmptyParts);
+}
+
 // Markdown gives its headings no anchors.
-void makeAnchor(const QTextBlock& heading)
+void setAnchors(const QTextBlock& heading, const QStringList& anchors)
 {
     QTextCharFormat format;
     format.setAnchor(true);
-    format.setAnchorNames({anchorOf(heading.text())});
+    format.setAnchorNames(anchors);
     QTextCursor cursor(heading);
     cursor.select(QTextCursor::BlockUnderCursor);
     cursor.mergeCharFormat(format);
 }
 
+// Lines of a file may be longer than the guide is wide: they break as all others do.
 void setSpace(const QTextBlock& block)
 {
     QTextBlockFormat format;
     format.setLineHeight(LineHeightPercent, QTextBlockFormat::ProportionalHeight);
+    format.setNonBreakableLines(false);
     if (block.blockFormat().headingLevel() > 1)
         format.setTopMargin(WideSpace);
     QTextCursor(block).mergeBlockFormat(format);
@@ -55,38 +71,125 @@ void setTable(QTextTable& table, const QBrush& border)
     table.setFormat(format);
 }
 
-void setUp(QTextDocument& guide, const QBrush& border)
-{
-    for (QTextBlock block = guide.begin(); block.isValid(); block = block.next()) {
-        setSpace(block);
-        if (block.blockFormat().headingLevel() > 0)
-            makeAnchor(block);
-    }
-    for (QTextFrame* const frame : guide.rootFrame()->childFrames())
-        if (auto* const table = qobject_cast<QTextTable*>(frame))
-            setTable(*table, border);
-}
-
 } // namespace
 
-void showGuideText(QTextBrowser& browser, const QString& text)
+// What was found is marked as plainly while the field for it has the focus.
+GuideText::GuideText(QWidget* parent) : QTextBrowser(parent)
 {
-    browser.setSource(QUrl());
-    if (text.startsWith(QStringLiteral("# "))) {
-        browser.setMarkdown(text);
-        setUp(*browser.document(), browser.palette().mid());
-    } else {
-        browser.setPlainText(text);
-    }
-    showBeginning(browser);
+    document()->setDocumentMargin(WideSpace);
+    QPalette colours = palette();
+    for (const auto role : {QPalette::Highlight, QPalette::HighlightedText})
+        colours.setColor(QPalette::Inactive, role, colours.color(QPalette::Active, role));
+    setPalette(colours);
+    connect(horizontalScrollBar(), &QScrollBar::rangeChanged, this, &GuideText::offerToScrollSideways);
 }
 
-void showBeginning(QTextBrowser& browser)
+// A table may be rounded up by a pixel. Nothing is hidden as long as that is the margin alone.
+void GuideText::offerToScrollSideways(int /*least*/, int most)
 {
-    browser.moveCursor(QTextCursor::Start);
-    // A place for the history to come back to: no heading has this anchor.
-    browser.setSource(QUrl(QStringLiteral("#-")));
-    browser.clearHistory();
+    setHorizontalScrollBarPolicy(most > document()->documentMargin() ? Qt::ScrollBarAsNeeded
+                                                                     : Qt::ScrollBarAlwaysOff);
+}
+
+void GuideText::setGuide(const QString& guide)
+{
+    if (guide == guide_)
+        return;
+    guide_ = guide;
+    sections_.clear();
+    setSource(QUrl());
+    if (guide.startsWith(QStringLiteral("# ")))
+        setDocument(madeReady(guide));
+    else
+        setPlainText(guide);
+}
+
+// Returns it ready to be shown: one that is shown already would be laid out anew after each step.
+QTextDocument* GuideText::madeReady(const QString& guide)
+{
+    auto* const ready = new QTextDocument(document()->parent());
+    ready->setUndoRedoEnabled(false);
+    ready->setDefaultFont(font());
+    ready->setDocumentMargin(WideSpace);
+    ready->setMarkdown(guide);
+    for (QTextBlock block = ready->begin(); block.isValid(); block = block.next()) {
+        setSpace(block);
+        if (block.blockFormat().headingLevel() > 0)
+            openSections(block);
+    }
+    for (QTextFrame* const frame : ready->rootFrame()->childFrames())
+        if (auto* const table = qobject_cast<QTextTable*>(frame))
+            setTable(*table, palette().mid());
+    return ready;
+}
+
+void GuideText::openSections(const QTextBlock& heading)
+{
+    const QStringList windows = takeWindows(heading);
+    sections_.unite({windows.begin(), windows.end()});
+    setAnchors(heading, QStringList{anchorOf(heading.text())} + windows);
+}
+
+void GuideText::goToSection(const QString& window)
+{
+    const bool isFirst = source().isEmpty();
+    if (sections_.contains(window)) {
+        setSource(QUrl(u'#' + window));
+    } else {
+        // A place for the history to come back to: no heading has this anchor.
+        setSource(QUrl(QStringLiteral("#-")));
+        moveCursor(QTextCursor::Start);
+    }
+    if (isFirst)
+        clearHistory();
+}
+
+bool GuideText::findHere(const QString& words)
+{
+    const QTextCursor found = document()->find(words, readersPlace().selectionStart());
+    return mark(found.isNull() ? document()->find(words) : found);
+}
+
+bool GuideText::findNext(const QString& words)
+{
+    const QTextCursor found = document()->find(words, readersPlace().selectionEnd());
+    return mark(found.isNull() ? document()->find(words) : found);
+}
+
+bool GuideText::findPrevious(const QString& words)
+{
+    constexpr auto Backward = QTextDocument::FindBackward;
+    const QTextCursor found = document()->find(words, readersPlace().selectionStart(), Backward);
+    return mark(found.isNull() ? document()->find(words, document()->characterCount() - 1, Backward) : found);
+}
+
+// What is marked, as long as it is in sight, else the first letter that is.
+QTextCursor GuideText::readersPlace() const
+{
+    const QTextCursor marked = textCursor();
+    return marked.hasSelection() && viewport()->rect().intersects(cursorRect(marked))
+               ? marked
+               : cursorForPosition(QPoint(0, 0));
+}
+
+// A place that is out of sight comes to the middle, with what stands around it.
+bool GuideText::mark(const QTextCursor& found)
+{
+    if (found.isNull())
+        return false;
+    const QRect place = cursorRect(found);
+    if (!viewport()->rect().contains(place))
+        verticalScrollBar()->setValue(verticalScrollBar()->value() + place.top() - viewport()->height() / 2);
+    setTextCursor(found);
+    return true;
+}
+
+void GuideText::resizeEvent(QResizeEvent* event)
+{
+    const QTextCursor top = cursorForPosition(QPoint(0, 0));
+    const int before = cursorRect(top).top();
+    QTextBrowser::resizeEvent(event);
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + cursorRect(top).top() - before);
 }
 
 } // namespace shell

@@ -1,16 +1,49 @@
 #pragma once
 
-class QString;
-class QTextBrowser;
+#include <QSet>
+#include <QTextBrowser>
 
 namespace shell {
 
-/// Shows a guide. One that begins with a heading, "# ", is Markdown; a link to "#the-words-of-a-heading"
-/// leads to that heading: its words in small letters, without signs, with hyphens between them. Any other
-/// text is shown as it is.
-void showGuideText(QTextBrowser& browser, const QString& text);
+/// The text of a guide, in which one can follow links, come back, and find words.
+///
+/// A guide that begins with a heading, "# ", is Markdown. A link to "#the-words-of-a-heading" leads to that
+/// heading: its words in small letters, without signs, with hyphens between them. A heading that ends with
+/// names in braces, "## The pause {DelayInterval}", opens the section of the windows so named; the braces are
+/// not shown. Any other text is shown as it is.
+class GuideText : public QTextBrowser {
+    Q_OBJECT
 
-/// Goes to the beginning of the guide that is shown, and forgets which way the reader went.
-void showBeginning(QTextBrowser& browser);
+public:
+    explicit GuideText(QWidget* parent);
+
+    /// Shows a guide. One that is shown already is not laid out again.
+    void setGuide(const QString& guide);
+
+    /// Goes to the section of a window, or to the beginning where it has none. One can come back from there,
+    /// but for the first section that is seen of a guide.
+    void goToSection(const QString& window);
+
+    /// These mark the words where they stand next, from where the reader is, and go on at the other end of
+    /// the guide. What is marked already counts for `findHere` alone. Return whether the words were found; if
+    /// not, all stays as it is.
+    bool findHere(const QString& words);
+    bool findNext(const QString& words);
+    bool findPrevious(const QString& words);
+
+protected:
+    /// Keeps the line at the top where it is.
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void offerToScrollSideways(int least, int most);
+    QTextDocument* madeReady(const QString& guide);
+    void openSections(const QTextBlock& heading);
+    QTextCursor readersPlace() const;
+    bool mark(const QTextCursor& found);
+
+    QString guide_;
+    QSet<QString> sections_;
+};
 
 } // namespace shell

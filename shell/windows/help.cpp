@@ -5,60 +5,219 @@
 #include "shell/kit/controls.h"
 #include "shell/kit/layout.h"
 #include "shell/kit/text.h"
+#include "shell/settings.h"
+#include "shell/windows/find_field.h"
 #include "shell/windows/guide_text.h"
 
 #include <QBoxLayout>
+#include <QLabel>
 #include <QPushButton>
 #include <QScreen>
-#include <QTextBrowser>
+#include <QShortcut>
+#include <QWindow>
 
+#include <algorithm>
 #include <array>
 
 namespace shell {
 
 namespace {
 
+// In characters and lines.
 constexpr QSize LargestBlock{100, 50};
 constexpr QSize NormalSize{92, 36};
+constexpr int LeastWidthBeside = 66;
+constexpr int WidthOfFind = 24;
 
 // clang-format off
 constexpr std::array HelpCaptions = {
-    Caption{"Help",     {"Help", "Assistance", "Aiuto", "Hilfe", "Ayuda", "Auxilium"}},
-    Caption{"Command1", {"&OK",  "&Oui",       "&OK",   "&OK",   "&Si",   "&Ita"}},
+    Caption{"Help",     {"Help",  "Assistance", "Aiuto",     "Hilfe",   "Ayuda",  "Auxilium"}},
+    Caption{"HelpBack", {"&Back", "&Retour",    "&Indietro", "&Zurück", "&Atrás", "&Retro"}},
+    Caption{"Command1", {"&OK",   "&Oui",       "&OK",       "&OK",     "&Si",    "&Ita"}},
 };
+
+constexpr LanguageTexts Find    {"Find = Ctrl+F",     "Chercher = Ctrl+F",       "Cerca = Ctrl+F",    "Suchen = Strg+F",    "Buscar = Ctrl+F",   "Quaere = Ctrl+F"};
+constexpr LanguageTexts FindName{"Find in the guide", "Chercher dans l'aide",    "Cerca nella guida", "In der Hilfe suchen", "Buscar en la ayuda", "Quaere in auxilio"};
+constexpr LanguageTexts NotFound{"Not found",         "Introuvable",             "Non trovato",       "Nicht gefunden",     "No se encuentra",   "Non invenitur"};
 // clang-format on
+
+std::string guide()
+{
+    if (settings.CurrentLanguage == language::German)
+        if (const platform::TextFile german = platform::readTextFile(GermanHelpFileName); !german.fault)
+            return german.text;
+    const platform::TextFile english = platform::readTextFile(HelpFileName);
+    return english.fault ? english.fault->message() : english.text;
+}
+
+QSize inLetters(const QFontMetrics& metrics, QSize charactersAndLines)
+{
+    return {charactersAndLines.width() * metrics.averageCharWidth(),
+            charactersAndLines.height() * metrics.lineSpacing()};
+}
+
+// At the side of the window where there is more room, as wide as that allows; none where it is too narrow.
+std::optional<QRect> placeBeside(const QRect& window, const QRect& screen, QSize size, int leastWidth)
+{
+    const int left = window.left() - screen.left();
+    const int right = screen.right() - window.right();
+    const int width = std::min(size.width(), std::max(left, right));
+    if (width < leastWidth)
+        return {};
+    const int height = std::min(size.height(), screen.height());
+    const int x = right >= left ? window.right() + 1 : window.left() - width;
+    const int y = std::clamp(window.top(), screen.top(), screen.bottom() + 1 - height);
+    return QRect(x, y, width, height);
+}
 
 } // namespace
 
-Help::Help() : Window("Help"), text_(makeControl<QTextBrowser>(this, "HelpText"))
+Help::Help()
+    : Window("Help"), back_(makeButton(this, "HelpBack")), state_(makeLabel(this, "HelpFindState")),
+      find_(makeControl<FindField>(this, "HelpFind")), text_(makeControl<GuideText>(this, "HelpText"))
 {
-    text_->document()->setDocumentMargin(WideSpace);
     auto* const close = makeButton(this, "Command1");
     close->setDefault(true);
-    closeOnEscape();
+    back_->setEnabled(false);
+    setLeastWidth(*find_, WidthOfFind);
+    find_->setClearButtonEnabled(true);
 
-    centredBlock(LargestBlock)->setLayout(columnOf(MediumSpace, {text_, buttonRow({}, {close})}));
-    const QSize letter(fontMetrics().averageCharWidth(), fontMetrics().lineSpacing());
-    resize(QSize(NormalSize.width() * letter.width(), NormalSize.height() * letter.height())
-               .boundedTo(screen()->availableSize() * 9 / 10));
-
-    connect(close, &QPushButton::clicked, this, &Help::left);
+    layOut(close);
+    connectControls(close);
     applyDesignedCaptions(*this, HelpCaptions);
 }
 
-void Help::showGuide()
+void Help::layOut(QPushButton* close)
 {
-    const platform::TextFile guide = platform::readTextFile(HelpFileName);
-    const QString text = fromUtf8(guide.fault ? guide.fault->message() : guide.text);
-    if (text == shownText_)
-        showBeginning(*text_);
-    else
-        showGuideText(*text_, text);
-    shownText_ = text;
+    auto* const top = rowOf(SmallSpace, {back_, Part::gap(1), state_, find_});
+    centredBlock(LargestBlock)->setLayout(columnOf(MediumSpace, {top, text_, buttonRow({}, {close})}));
+    resize(inLetters(fontMetrics(), NormalSize).boundedTo(screen()->availableSize() * 9 / 10));
+}
+
+void Help::connectControls(const QPushButton* close)
+{
+    connect(close, &QPushButton::clicked, this, &Help::left);
+    connect(back_, &QPushButton::clicked, this, &Help::goBack);
+    connect(text_, &QTextBrowser::backwardAvailable, back_, &QWidget::setEnabled);
+    connect(find_, &QLineEdit::textChanged, this, &Help::findTyped);
+    connect(find_, &FindField::nextRequested, this, &Help::findNext);
+    connect(find_, &FindField::previousRequested, this, &Help::findPrevious);
+    connect(find_, &FindField::escaped, text_, [this] { text_->setFocus(); });
+
+    closeOnEscape();
+    addShortcut(Qt::ALT | Qt::Key_Left, &Help::goBack);
+    addShortcut(QKeySequence::Find, &Help::beginToFind);
+    addShortcut(Qt::Key_F3, &Help::findNext);
+    addShortcut(Qt::SHIFT | Qt::Key_F3, &Help::findPrevious);
+}
+
+void Help::addShortcut(const QKeySequence& keys, void (Help::*action)())
+{
+    connect(new QShortcut(keys, this), &QShortcut::activated, this, action);
+}
+
+void Help::setCaptions()
+{
     applyCaptions(*this, HelpCaptions);
     text_->setAccessibleName(windowTitle());
-    showInFront();
+    find_->setPlaceholderText(fromUtf8(Find.currentOrDesigned()));
+    find_->setAccessibleName(fromUtf8(FindName.currentOrDesigned()));
+    tellFound(true);
+}
+
+void Help::showGuide(const QWidget& asking)
+{
+    text_->setGuide(fromUtf8(guide()));
+    setCaptions();
+    if (&asking != this)
+        showBeside(asking);
+    text_->goToSection(asking.objectName());
     text_->setFocus();
+}
+
+// A guide that is open already stays where the learner has put it, as long as it covers nothing.
+void Help::showBeside(const QWidget& asking)
+{
+    const bool standsWell = isVisible() && !frameGeometry().intersects(asking.frameGeometry());
+    if (!isVisible())
+        takeOwnSize();
+    asking_ = &asking;
+    showInFront();
+    if (!standsWell)
+        standBesideAsking();
+}
+
+void Help::takeOwnSize()
+{
+    if (ownSize_)
+        resize(*ownSize_);
+    ownSize_.reset();
+}
+
+void Help::standBesideAsking()
+{
+    if (asking_ == nullptr || isMaximized())
+        return;
+    const QSize whole = ownSize_.value_or(size());
+    const QMargins frame = windowHandle()->frameMargins();
+    const int leastWidth =
+        std::max(minimumSizeHint().width(), LeastWidthBeside * fontMetrics().averageCharWidth());
+    const auto place = placeBeside(asking_->frameGeometry(), asking_->screen()->availableGeometry(),
+                                   whole.grownBy(frame), leastWidth + frame.left() + frame.right());
+    if (!place)
+        return;
+    if (place->marginsRemoved(frame).width() < whole.width())
+        ownSize_ = whole;
+    setGeometry(place->marginsRemoved(frame));
+}
+
+// The desktop has framed the window by the time that it was put in the middle once more.
+bool Help::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool isDone = Window::eventFilter(watched, event);
+    if (event->type() == QEvent::Expose && windowHandle()->isExposed())
+        standBesideAsking();
+    return isDone;
+}
+
+void Help::goBack()
+{
+    text_->backward();
+    if (!text_->isBackwardAvailable())
+        text_->setFocus();
+}
+
+void Help::beginToFind()
+{
+    find_->setFocus(Qt::ShortcutFocusReason);
+    find_->selectAll();
+}
+
+void Help::findTyped(const QString& words)
+{
+    tellFound(words.isEmpty() || text_->findHere(words));
+}
+
+void Help::findNext()
+{
+    if (find_->text().isEmpty())
+        beginToFind();
+    else
+        tellFound(text_->findNext(find_->text()));
+}
+
+void Help::findPrevious()
+{
+    if (find_->text().isEmpty())
+        beginToFind();
+    else
+        tellFound(text_->findPrevious(find_->text()));
+}
+
+void Help::tellFound(bool found)
+{
+    find_->showFound(found);
+    state_->setText(found ? QString() : fromUtf8(NotFound.currentOrDesigned()));
 }
 
 } // namespace shell

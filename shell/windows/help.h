@@ -2,11 +2,20 @@
 
 #include "shell/kit/window.h"
 
-class QTextBrowser;
+#include <QPointer>
+
+#include <optional>
+
+class QLabel;
+class QPushButton;
 
 namespace shell {
 
+class FindField;
+class GuideText;
+
 inline constexpr std::string_view HelpFileName = "morvanti.hlp";
+inline constexpr std::string_view GermanHelpFileName = "morvanti.de.hlp";
 
 /// Shows the help file where the system has no viewer for it.
 class Help : public Window {
@@ -15,13 +24,37 @@ class Help : public Window {
 public:
     Help();
 
-    /// Reads the help file of the working folder and shows its text from the beginning, or why it cannot be
-    /// read. A text that is shown already is not laid out again.
-    void showGuide();
+    /// Shows the section of the window that asks, and stands beside that window where the screen has room,
+    /// else in the middle. Reads the help file of the working folder, the German one for a German interface
+    /// where there is one; shows why it cannot be read.
+    void showGuide(const QWidget& asking);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    QTextBrowser* text_;
-    QString shownText_;
+    void layOut(QPushButton* close);
+    void connectControls(const QPushButton* close);
+    void setCaptions();
+    void addShortcut(const QKeySequence& keys, void (Help::*action)());
+    void showBeside(const QWidget& asking);
+    void takeOwnSize();
+    void standBesideAsking();
+
+    void goBack();
+    void beginToFind();
+    void findTyped(const QString& words);
+    void findNext();
+    void findPrevious();
+    void tellFound(bool found);
+
+    QPushButton* back_;
+    QLabel* state_;
+    FindField* find_;
+    GuideText* text_;
+    QPointer<const QWidget> asking_;
+    /// The size of the window before it was narrowed to stand beside another.
+    std::optional<QSize> ownSize_;
 };
 
 } // namespace shell

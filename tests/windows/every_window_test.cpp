@@ -107,7 +107,7 @@ protected:
     // Opens each window in each language, and tells of a fault where it was found.
     void inEveryLanguage(const std::function<void(QWidget&)>& look)
     {
-        for (const char* const sample : {"morvanti.hlp", "vr-vcab.lst"})
+        for (const char* const sample : {"morvanti.hlp", "morvanti.de.hlp", "vr-vcab.lst"})
             tests::copySample(sample);
         tests::writeFile("301 words.lst", QByteArray("a,b,c\n").repeated(301).toStdString());
         for (const std::string language : {"English", "French", "German", "Spanish", "Latin"})
@@ -142,6 +142,10 @@ TEST_F(EveryWindow, IsTabbedThroughAsTheEyeGoesAndNamesAllAndHasNoTwoTextsOnOneA
         }
         for (const QPushButton* const button : window.findChildren<QPushButton*>())
             EXPECT_TRUE(button->autoDefault() || button->isDefault()) << button->objectName().toStdString();
+        for (const char* const guide : {"morvanti.hlp", "morvanti.de.hlp"})
+            EXPECT_TRUE(
+                QString::fromStdString(tests::bytesOf(guide))
+                    .contains(QRegularExpression("#[^\n]+\\{[^}]*\\b" + window.objectName() + "\\b")));
         appendClashes(clashes, window.objectName(), textsOnAltKeys(window));
         for (const QMenu* const menu : window.findChildren<QMenu*>())
             appendClashes(clashes, menu->objectName(), textsOf(*menu));

@@ -133,33 +133,115 @@ TEST_F(Help, StandsInTheMiddleOfTheScreenWithItsFrameAsTheSmallWindowsDo)
         }
 }
 
-TEST_F(Help, HasATargetForEveryLinkAndALinkToEveryChapterAndGoesThereAndBack)
+QString headingAtTheTop(const QTextBrowser& text)
+{
+    return text.cursorForPosition(QPoint(text.viewport()->width() / 2, 2)).block().text();
+}
+
+TEST_F(Help, OpensAtTheSectionOfTheWindowThatAsksInGermanWhereThatGuideIsThere)
 {
     tests::copySample("morvanti.hlp");
-    auto& text = tests::control<QTextBrowser>(open("HELPME", "Help"));
-    QSet<QString> chapters;
-    QSet<QString> links;
-    const QRegularExpression anchor(R"(<a (?:name|href)="(#?)([^"]+))");
-    for (const auto& match : anchor.globalMatch(text.toHtml()))
-        (match.captured(1).isEmpty() ? chapters : links).insert(match.captured(2));
-    EXPECT_GT(chapters.size(), 20);
-    EXPECT_TRUE(chapters.contains(links));
-    EXPECT_EQ(links.size() + 1, chapters.size());
+    const std::vector<std::array<const char*, 4>> cases = {
+        {"SetDelay", "DelayInterval", "The pause", "Die Pause"},
+        {"FileConj", "ConjugationChoose", "Conjugating verbs", "Verben konjugieren"},
+        {"QuizButton", "Probatio", "Verb quiz", "Verbenprüfung"}};
+    for (const bool hasGerman : {false, true})
+        for (const std::string language : {"English", "German", "Latin"})
+            for (const auto& [item, name, english, german] : cases) {
+                if (hasGerman)
+                    tests::copySample("morvanti.de.hlp");
+                settings.CurrentLanguage = language;
+                press(open(item, name), Qt::Key_F1);
+                const auto& text = tests::control<QTextBrowser>(tests::shown("Help"));
+                EXPECT_EQ(headingAtTheTop(text).toStdString(),
+                          hasGerman && language == "German" ? german : english);
+            }
+}
 
-    QTextCursor cursor = text.document()->find("morvanti.ini");
-    cursor.setPosition(cursor.selectionStart() + 2);
-    QTest::mouseClick(text.viewport(), Qt::LeftButton, Qt::NoModifier, text.cursorRect(cursor).center());
-    QApplication::processEvents();
-    const QTextCursor top = text.cursorForPosition(QPoint(text.viewport()->width() / 2, 40));
-    const QScrollBar& scroll = *text.verticalScrollBar();
-    EXPECT_GT(scroll.value(), 0);
-    EXPECT_GE(top.position(), text.document()->find("Your settings: 36 lines").position() - 60);
+TEST_F(Help, StandsBesideTheWindowThatAsksWhereThereIsRoom)
+{
+    for (const int x : {5, 500}) {
+        QWidget& window = open("MainABout", "About");
+        window.setGeometry(x, 40, 200, 200);
+        press(window, Qt::Key_F1);
+        QWidget& help = tests::shown("Help");
+        EXPECT_FALSE(help.frameGeometry().intersects(window.frameGeometry())) << x;
+        EXPECT_TRUE(help.screen()->availableGeometry().contains(help.frameGeometry())) << x;
+        help.close();
+    }
+}
+
+TEST_F(Help, FindsWordsAsOneTypesAndBeginsAnewAtTheEnd)
+{
+    tests::writeFile("morvanti.hlp", "# Sol\n\nluna sol Luna");
+    QWidget& help = open("HELPME", "Help");
+    const auto& text = tests::control<QTextBrowser>(help);
+    const auto found = [&] { return text.textCursor().selectionStart(); };
+    QTest::keyClick(help.focusWidget(), Qt::Key_F, Qt::ControlModifier);
+    EXPECT_EQ(tests::focusIn(help), "HelpFind");
+    tests::type(help, "lun");
+    EXPECT_EQ(found(), 4);
+    for (const int next : {13, 4, 13}) {
+        press(help, Qt::Key_Return);
+        EXPECT_EQ(found(), next);
+    }
+    for (const int before : {4, 13}) {
+        QTest::keyClick(help.focusWidget(), Qt::Key_Return, Qt::ShiftModifier);
+        EXPECT_EQ(found(), before);
+    }
+    tests::type(help, "o");
+    EXPECT_EQ(label(help, "HelpFindState"), "Not found");
+    EXPECT_EQ(found(), 13);
+    press(help, Qt::Key_Escape);
+    EXPECT_EQ(tests::focusIn(help), "HelpText");
+    press(help, Qt::Key_Escape);
+    EXPECT_FALSE(help.isVisible());
+}
+
+TEST_F(Help, HasTheSameChaptersInBothLanguagesATargetForEveryLinkAndALinkToEach)
+{
+    for (const char* const guide : {"morvanti.hlp", "morvanti.de.hlp"})
+        tests::copySample(guide);
+    for (const std::string language : {"English", "German"}) {
+        settings.CurrentLanguage = language;
+        auto& text = tests::control<QTextBrowser>(open("HELPME", "Help"));
+        QSet<QString> chapters;
+        QSet<QString> links;
+        const QRegularExpression anchor(R"(<a (?:name|href)="(#?)([^"A-Z]+)\")");
+        for (const auto& match : anchor.globalMatch(text.toHtml()))
+            (match.captured(1).isEmpty() ? chapters : links).insert(match.captured(2));
+        EXPECT_GT(chapters.size(), 20);
+        EXPECT_TRUE(chapters.contains(links));
+        EXPECT_EQ(links.size() + 1, chapters.size());
+    }
+    // Both guides have the same chapters, and open them from the same windows.
+    const auto outline = [](const char* guide) {
+        QStringList lines;
+        const QRegularExpression heading(R"(\n(#+)[^{\n]*(\{.*\})?)");
+        for (const auto& match : heading.globalMatch(QString::fromStdString(tests::bytesOf(guide))))
+            lines << match.captured(1) + match.captured(2);
+        return lines;
+    };
+    EXPECT_EQ(outline("morvanti.hlp"), outline("morvanti.de.hlp"));
+}
+
+TEST_F(Help, GoesBackFromLinksAndOpenings)
+{
+    tests::copySample("morvanti.hlp");
+    auto& help = open("HELPME", "Help");
+    auto& text = tests::control<QTextBrowser>(help);
+    EXPECT_FALSE(text.horizontalScrollBar()->isVisible());
+    EXPECT_FALSE(button(help, "HelpBack").isEnabled());
+    QTextCursor link = text.document()->find("Verb quiz", text.cursorForPosition(QPoint(2, 2)));
+    link.setPosition(link.selectionStart() + 2);
+    QTest::mouseClick(text.viewport(), Qt::LeftButton, {}, text.cursorRect(link).center());
+    press(open("SetDelay", "DelayInterval"), Qt::Key_F1);
+    EXPECT_EQ(headingAtTheTop(text), "The pause");
+    click(help, "HelpBack");
+    EXPECT_EQ(headingAtTheTop(text), "Verb quiz");
     QTest::keyClick(&text, Qt::Key_Left, Qt::AltModifier);
-    EXPECT_EQ(scroll.value(), 0);
-    press(tests::shown("Help"), Qt::Key_End);
-    EXPECT_GT(scroll.value(), 0);
-    open("HELPME", "Help");
-    EXPECT_EQ(scroll.value(), 0);
+    EXPECT_EQ(headingAtTheTop(text), "Main window");
+    EXPECT_FALSE(button(help, "HelpBack").isEnabled());
 }
 
 TEST_F(Help, ShowsAPlainTextAsItStandsAndSaysWhyThereIsNone)
