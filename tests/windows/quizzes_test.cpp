@@ -69,12 +69,12 @@ TEST_F(Quizzes, OfVerbsAreAnsweredFromTheKeyboardAndShowBothAnswersInTheLanguage
     verbQuiz.QuizRow = 21;
     verbdrills::identifyForm();
     for (const auto& [name, steps] :
-         {std::pair{"QuizConjList", 7}, {"QuizTenseList", 17}, {"QuizFirst", 1}, {"QuizSing", 1}}) {
+         {std::pair{"QuizConjList", 7}, {"QuizFirst", 1}, {"QuizSing", 1}, {"QuizTenseList", 17}}) {
         EXPECT_EQ(focusIn(quiz()), name);
         const QString before = text("QuizYourAnswer");
         press(quiz(), Qt::Key_Down, steps);
         EXPECT_NE(text("QuizYourAnswer"), before);
-        if (name != std::string_view("QuizSing"))
+        if (name != std::string_view("QuizTenseList"))
             press(quiz(), Qt::Key_Tab);
     }
     press(quiz(), Qt::Key_Return);
