@@ -121,6 +121,18 @@ TEST_F(Quizzes, OfVerbsAskWhatIsIncludedAndAreLeftForTheChoiceInAPause)
     expectQuestion();
 }
 
+TEST_F(Quizzes, OfVerbsKeepTheTensesOfAMoodAndAVoiceInOneColumn)
+{
+    click(quiz(), "QuizOptions");
+    const auto column = [](int tense) {
+        return button(choice(), QStringLiteral("InclTense%1").arg(tense)).mapTo(&choice(), QPoint()).x();
+    };
+    for (const auto& [first, last] : {std::pair{0, 5}, {6, 10}, {11, 20}})
+        for (int tense = first; tense <= last; ++tense)
+            EXPECT_EQ(column(tense), column(first)) << tense;
+    EXPECT_TRUE(column(5) < column(6) && column(10) < column(11));
+}
+
 // The passive of esse does not exist: the quiz asks for more to choose from, and can be left.
 TEST_F(Quizzes, OfVerbsLeadToTheChoiceWhereNothingCanBeAsked)
 {
