@@ -3,6 +3,7 @@
 #include "nouns/declensions.h"
 #include "nouns/noun_tables.h"
 #include "platform/random.h"
+#include "shell/score.h"
 #include "shell/settings.h"
 
 #include <algorithm>
@@ -82,6 +83,12 @@ CaseSet casesOfOneForm(int paradigmIndex, int caseIndex)
     return cases;
 }
 
+void beginNounQuiz()
+{
+    nounQuestion.formsJudged = 0;
+    nounQuestion.formsRight = 0;
+}
+
 void drawNounQuestion()
 {
     platform::seedFromClock();
@@ -107,9 +114,18 @@ std::string drawnIndexes()
     return std::to_string(nounQuestion.QuizParadigmIndex) + ":" + std::to_string(nounQuestion.QuizCaseIndex);
 }
 
-bool ticksAreRight()
+bool judgeTicks()
 {
-    return nounQuestion.QuizTickedCases == nounQuestion.QuizRightCases;
+    const bool right = nounQuestion.QuizTickedCases == nounQuestion.QuizRightCases;
+    ++nounQuestion.formsJudged;
+    if (right)
+        ++nounQuestion.formsRight;
+    return right;
+}
+
+std::string nounQuizScore()
+{
+    return shell::scoreText(nounQuestion.formsRight, nounQuestion.formsJudged);
 }
 
 std::string rightCasesInWords()

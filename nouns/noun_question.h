@@ -24,6 +24,11 @@ struct NounQuestion {
     /// The cases that the form can stand for, and those that the learner ticked.
     CaseSet QuizRightCases;
     CaseSet QuizTickedCases;
+
+    /// How many forms were judged since the quiz began, and how many of them rightly ticked. They are counts
+    /// of the quiz's own: those that the drills share stay as they are.
+    int formsJudged = 0;
+    int formsRight = 0;
 };
 
 inline NounQuestion nounQuestion;
@@ -33,6 +38,9 @@ inline NounQuestion nounQuestion;
 /// alone goes by `ShowVowelLength`: with marks its nominative singular is never marked, not even where it was
 /// drawn.
 CaseSet casesOfOneForm(int paradigmIndex, int caseIndex);
+
+/// Begins the counts anew.
+void beginNounQuiz();
 
 /// Draws the next question, generates the nouns, and unticks all cases. The neuter of the third declension
 /// and the ablative plural are never drawn.
@@ -45,8 +53,12 @@ const std::string& askedNoun();
 /// The indexes that were drawn, with ":" between them.
 std::string drawnIndexes();
 
-/// True when exactly the right cases are ticked.
-bool ticksAreRight();
+/// Judges the ticks and counts the form: true when exactly the right cases are ticked.
+bool judgeTicks();
+
+/// The share of the forms that were rightly ticked, as the drills show their score. Not before one was
+/// judged.
+std::string nounQuizScore();
 
 /// The right cases in words: "singular Genitive Dative Plural Nominative".
 std::string rightCasesInWords();

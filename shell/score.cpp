@@ -10,10 +10,20 @@ namespace shell {
 
 namespace {
 
+std::int16_t percent(int right, int answered)
+{
+    const double share = static_cast<double>(right) / answered;
+    return static_cast<std::int16_t>(std::nearbyint(share * 100));
+}
+
 void workOutPercent()
 {
-    const double share = static_cast<double>(settings.RightCount) / settings.AnsweredCount;
-    settings.ScorePercent = static_cast<std::int16_t>(std::nearbyint(share * 100));
+    settings.ScorePercent = percent(settings.RightCount, settings.AnsweredCount);
+}
+
+std::string inPrintForm(std::int16_t percent)
+{
+    return platform::printedNumber(percent) + "% ";
 }
 
 bool countsAreFull()
@@ -49,7 +59,12 @@ void scoreWrongAnswer()
 
 std::string scoreText()
 {
-    return platform::printedNumber(settings.ScorePercent) + "% ";
+    return inPrintForm(settings.ScorePercent);
+}
+
+std::string scoreText(int right, int answered)
+{
+    return inPrintForm(percent(right, answered));
 }
 
 } // namespace shell

@@ -15,4 +15,7 @@ void scoreWrongAnswer();
 /// `ScorePercent` as the drills show it, in print form: " 75% " for seventy-five.
 std::string scoreText();
 
+/// So many right answers of so many, worked out and shown likewise. The shared counts stay as they are.
+std::string scoreText(int right, int answered);
+
 } // namespace shell

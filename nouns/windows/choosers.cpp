@@ -22,6 +22,7 @@ constexpr ChooserNames DeclensionNames = {
 constexpr std::array DeclensionCaptions = {
     //                            English                French                         Italian  German                        Spanish                   Latin
     Caption{"DeclinationChoose", {"Choose a Declension", "Choississez une déclinasion", {},      "Eine Deklination Auswählen", "Elegir una declinación", "Declinationem elige!"}}, // sic: French
+    Caption{"ChooserHeading",    {"Choose a declension", "Choisissez une déclinaison",  {},      "Deklination auswählen",      "Elija una declinación",  "Declinationem elige"}},
     Caption{"SdeclOK",           {"&OK",                 "&OK",                         {},      "&OK",                        "&Si",                    "&Ita"}},
     Caption{"DeclinationCancel", {"&Cancel",             "&Cancel",                     {},      "&Abbruch",                   "&Cancelar",              "&Reverte!"}},
 };
@@ -49,6 +50,7 @@ constexpr ChooserNames PronounNames = {
 constexpr std::array PronounCaptions = {
     //                               English              French  Italian  German                     Spanish                 Latin
     Caption{"PronounChooser",       {"Select a Pronoun:", {},     {},      "Ein Pronomen auswählen:", "Elegir un pronombre:", "Pronomen elige!"}},
+    Caption{"ChooserHeading",       {"Choose a pronoun",  {},     {},      "Pronomen auswählen",      "Elija un pronombre",   "Pronomen elige"}},
     Caption{"PronounChooserOK",     {"&OK",               {},     {},      "&OK",                     "&Si",                  "&Ita"}},
     Caption{"PronounChooserCancel", {"&Cancel",           {},     {},      "&Abbruch",                "&Cancelar",            "&Reverte!"}},
 };

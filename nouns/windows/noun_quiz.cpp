@@ -16,6 +16,7 @@
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
+#include <QPalette>
 #include <QPushButton>
 
 namespace nouns {
@@ -34,11 +35,14 @@ constexpr int LinesOfAnswer = 2;
 
 // clang-format off
 constexpr std::array Captions = {
-    //                       English      French        Italian      German      Spanish      Latin
-    Caption{"NQOK",         {"&OK",       "&OK",       "&OK",       "&OK",      "&Si",       "&Ita"}},
-    Caption{"NQCancel",     {"&Cancel",   "&Cancel",   "&Cancel",   "&Abbruch", "&Cancelar", "&Reverte!"}},
-    Caption{"QuizSingular", {"Singular",  "Singulier", "Singular",  "Einzahl",  "Singular",  "numerus singularis"}},
-    Caption{"QuizPlural",   {"Plural",    "Pluriel",   "Plural",    "Mehrzahl", "Plural",    "numerus pluralis"}},
+    //                       English        French                 Italian        German            Spanish              Latin
+    Caption{"NounQuiz",     {"Noun Quiz",   "Quiz de substantifs", "Noun Quiz",   "Substantivquiz", "Prueba de nombres", "Probatio nominum"}},
+    Caption{"NQOK",         {"&OK",         "&OK",                 "&OK",         "&OK",            "&Si",               "&Ita"}},
+    Caption{"NQSkip",       {"S&kip",       "P&asser",             "S&kip",       "Aus&lassen",     "S&altar",           "&Transgredire!"}},
+    Caption{"NQCancel",     {"&Cancel",     "&Cancel",             "&Cancel",     "&Abbruch",       "&Cancelar",         "&Reverte!"}},
+    Caption{"NQOptions",    {"O&ptions...", "O&ptions...",         "O&ptions...", "O&ptionen...",   "&Opciones...",      "O&ptiones..."}},
+    Caption{"QuizSingular", {"Singular",    "Singulier",           "Singular",    "Einzahl",        "Singular",          "numerus singularis"}},
+    Caption{"QuizPlural",   {"Plural",      "Pluriel",             "Plural",      "Mehrzahl",       "Plural",            "numerus pluralis"}},
 };
 
 constexpr std::array CheckNames = {
@@ -49,6 +53,23 @@ constexpr std::array<std::string_view, NamedDeclensionCount> Declensions = {
     "First Declension", "Second Declension", "Third Declension", "Third i-stem Declension", "Fourth Declension", "Fifth Declension"}; // sic: no noun of the third i-stem is asked
 // clang-format on
 
+// The colours of a verdict on a light window and on a dark one. Red is the darker one of each pair, so that
+// who sees both hues alike tells them apart; each stands out from the window.
+struct VerdictColours {
+    QRgb onLight;
+    QRgb onDark;
+};
+
+constexpr VerdictColours Green = {0xFF2A772E, 0xFF8BE08F};
+constexpr VerdictColours Red = {0xFF8B0000, 0xFFFF7B72};
+
+QRgb colourOn(const QPalette& palette, const VerdictColours& colours)
+{
+    const bool dark =
+        palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
+    return dark ? colours.onDark : colours.onLight;
+}
+
 // The declension that a paradigm belongs to, by the index of the paradigm.
 constexpr std::array DeclensionOf = {0, 1, 1, 1, 4, 4, 5, 2, 2};
 
@@ -56,7 +77,6 @@ constexpr std::array DeclensionOf = {0, 1, 1, 1, 4, 4, 5, 2, 2};
 
 NounQuiz::NounQuiz() : Window("NounQuiz")
 {
-    setWindowTitle(QStringLiteral("Noun Quiz"));
     makeControls();
     makeChecks();
     makeButtons();
@@ -71,12 +91,12 @@ void NounQuiz::makeControls()
     form_ = makeHeading(this, "NounQuizForm", shell::TitleType);
     info_ = makeLabel(this, "NounQuizInfo", shell::FormType);
     indices_ = makeLabel(this, "NounQuizIndices", shell::NoteType);
-    verdict_ = makeHeading(this, "NounQuizVerdict", shell::HeadingType);
+    score_ = makeHeading(this, "NounQuizScore", shell::HeadingType);
+    verdict_ = makeHeading(this, "NounVerdict", shell::HeadingType);
     answer_ = makeLabel(this, "NounRightAnswer", shell::FormType);
     answer_->setAlignment(Qt::AlignTop);
     shell::wrapText(*info_, 1);
     shell::wrapText(*answer_, LinesOfAnswer);
-    verdict_->setMinimumHeight(verdict_->fontMetrics().lineSpacing());
     for (std::size_t i = 0; i < declensions_.size(); ++i) {
         declensions_.at(i) = makeLabel(this, QStringLiteral("NounQuizDeclension%1").arg(i));
         declensions_.at(i)->setText(shell::fromUtf8(Declensions.at(i)));
@@ -96,18 +116,19 @@ void NounQuiz::makeChecks()
 
 void NounQuiz::makeButtons()
 {
-    options_ = makeButton(this, "NQOptions", "O&ptions...");
+    options_ = makeButton(this, "NQOptions");
     ok_ = makeButton(this, "NQOK");
-    skip_ = makeButton(this, "NQSkip", "S&kip");
+    skip_ = makeButton(this, "NQSkip");
     cancel_ = makeButton(this, "NQCancel");
 }
 
 void NounQuiz::layOut()
 {
     layOutLines(LargestBlock, shell::DrillMargins,
-                {form_, rowOf(shell::MediumSpace, {{info_, 1}, {indices_, 0, Qt::AlignRight | Qt::AlignTop}}),
+                {Part::gap(1), rowOf(shell::MediumSpace, {{form_, 1}, {score_, 0, Qt::AlignTop}}),
+                 rowOf(shell::MediumSpace, {{info_, 1}, {indices_, 0, Qt::AlignRight | Qt::AlignTop}}),
                  checkRow(), rowOf(shell::LargeSpace, {{verdict_, 0, Qt::AlignTop}, {answer_, 1}}),
-                 Part::gap(), shell::buttonRow({options_}, {ok_, skip_, cancel_})});
+                 shell::buttonRow({options_}, {ok_, skip_, cancel_}), Part::gap(1)});
 }
 
 QBoxLayout* NounQuiz::checkRow()
@@ -138,6 +159,8 @@ void NounQuiz::connectControls()
 void NounQuiz::open()
 {
     shell::applyCaptions(*this, Captions);
+    beginNounQuiz();
+    score_->clear();
     ask();
     showInMainWindowState();
 }
@@ -169,8 +192,13 @@ void NounQuiz::check()
 {
     if (shell::pausing() || !isVisible())
         return;
-    const shell::LanguageTexts& verdict = ticksAreRight() ? shell::RightTexts : shell::WrongTexts;
+    const bool right = judgeTicks();
+    const shell::LanguageTexts& verdict = right ? shell::RightTexts : shell::WrongTexts;
+    QPalette colours = palette();
+    colours.setColor(QPalette::WindowText, colourOn(colours, right ? Green : Red));
+    verdict_->setPalette(colours);
     verdict_->setText(shell::fromUtf8(verdict.currentOrDesigned()));
+    score_->setText(shell::fromUtf8(nounQuizScore()));
     answer_->setText(shell::fromUtf8(rightCasesInWords()));
     if (shell::pauseWithDrill())
         ask();

@@ -50,6 +50,7 @@ private:
     QLabel* form_ = nullptr;
     QLabel* info_ = nullptr;
     QLabel* indices_ = nullptr;
+    QLabel* score_ = nullptr;
     QLabel* verdict_ = nullptr;
     QLabel* answer_ = nullptr;
     QPushButton* ok_ = nullptr;

@@ -1,15 +1,20 @@
 #include "shell/kit/choice_list.h"
 
 #include "shell/kit/controls.h"
+#include "shell/kit/type.h"
 
 #include <QKeyEvent>
+#include <QStyle>
 #include <QStyledItemDelegate>
+
+#include <algorithm>
 
 namespace shell {
 
 namespace {
 
 constexpr int AirOfRow = 2;
+constexpr int FewestRows = 5;
 
 // Gives each row air above and below its text, so that no click falls between two rows.
 class AiryRows : public QStyledItemDelegate {
@@ -73,6 +78,31 @@ void ChoiceList::activateChosenRow()
 {
     if (chosenRow() >= 0)
         Q_EMIT rowActivated(chosenRow());
+}
+
+ListOfItsRows::ListOfItsRows(QWidget* parent) : ChoiceList(parent)
+{
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
+    connect(model(), &QAbstractItemModel::rowsInserted, this, &ListOfItsRows::updateGeometry);
+}
+
+QSize ListOfItsRows::sizeHint() const
+{
+    return roomForRows(count());
+}
+
+QSize ListOfItsRows::minimumSizeHint() const
+{
+    return roomForRows(std::min(count(), FewestRows));
+}
+
+// The scroll bar has its room also while all rows are seen: the longest of them never comes under it.
+QSize ListOfItsRows::roomForRows(int rows) const
+{
+    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+    return {sizeHintForColumn(0) + bar + SmallSpace + 2 * frameWidth(),
+            rows * sizeHintForRow(0) + 2 * frameWidth()};
 }
 
 } // namespace shell

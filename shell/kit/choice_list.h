@@ -34,4 +34,19 @@ private:
     void activateChosenRow();
 };
 
+/// A list that takes just the room of its rows, in the type that it has: no row is cut off, and none is
+/// empty. Where there is less room it scrolls, and shows a few of them at the least.
+class ListOfItsRows : public ChoiceList {
+    Q_OBJECT
+
+public:
+    explicit ListOfItsRows(QWidget* parent = nullptr);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+private:
+    QSize roomForRows(int rows) const;
+};
+
 } // namespace shell

@@ -7,11 +7,11 @@
 #include "shell/kit/type.h"
 
 #include <QBoxLayout>
+#include <QCoreApplication>
 #include <QFrame>
+#include <QKeyEvent>
+#include <QLabel>
 #include <QPushButton>
-#include <QScreen>
-
-#include <algorithm>
 
 namespace shell {
 
@@ -19,14 +19,10 @@ namespace {
 
 constexpr double RowType = 1.2;
 
-// Room for every row, up to most of the screen's height; a longer list scrolls.
-QSize roomForRows(const ChoiceList& list)
+bool movesInList(int key)
 {
-    int height = 2 * list.frameWidth();
-    for (int row = 0; row < list.count(); ++row)
-        height += list.sizeHintForRow(row);
-    const int width = list.sizeHintForColumn(0) + 2 * list.frameWidth() + WideSpace;
-    return {width, std::min(height, list.screen()->geometry().height() * 7 / 10)};
+    return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_Home || key == Qt::Key_End ||
+           key == Qt::Key_PageUp || key == Qt::Key_PageDown;
 }
 
 } // namespace
@@ -34,11 +30,11 @@ QSize roomForRows(const ChoiceList& list)
 Chooser::Chooser(const ChooserNames& names, std::span<const Caption> captions,
                  std::span<const LanguageTexts> rows)
     : FramedWindow(names.window, names.active, names.frame), captions_(captions), rows_(rows),
-      list_(makeControl<ChoiceList>(frame(), names.list)), ok_(makeButton(frame(), names.ok)),
-      cancel_(makeButton(frame(), names.cancel))
+      list_(makeControl<ListOfItsRows>(frame(), names.list)), heading_(makeLabelOf(list_, "ChooserHeading")),
+      ok_(makeButton(frame(), names.ok)), cancel_(makeButton(frame(), names.cancel))
 {
     setType(*list_, RowType);
-    list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setBoldType(*heading_, HeadingType);
     layOut();
     connectControls();
     closeOnEscape();
@@ -46,7 +42,8 @@ Chooser::Chooser(const ChooserNames& names, std::span<const Caption> captions,
 
 void Chooser::layOut()
 {
-    setContent(frame(), FormMargins, columnOf(MediumSpace, {list_, buttonRow({}, {ok_, cancel_})}));
+    setContent(frame(), FormMargins,
+               columnOf(MediumSpace, {heading_, list_, buttonRow({}, {ok_, cancel_}), Part::gap()}));
 }
 
 void Chooser::connectControls()
@@ -57,6 +54,17 @@ void Chooser::connectControls()
     connect(list_, &ChoiceList::unchosenRowEntered, this, &Chooser::choose);
     connect(ok_, &QPushButton::clicked, this, [this] { choose(list_->chosenRow()); });
     connect(cancel_, &QPushButton::clicked, this, &Chooser::left);
+    ok_->installEventFilter(this);
+}
+
+// A button would take the arrow keys for steps to the next one.
+bool Chooser::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched != ok_ || event->type() != QEvent::KeyPress ||
+        !movesInList(static_cast<QKeyEvent*>(event)->key()))
+        return FramedWindow::eventFilter(watched, event);
+    QCoreApplication::sendEvent(list_, event);
+    return true;
 }
 
 void Chooser::open()
@@ -74,9 +82,8 @@ void Chooser::fill()
     applyCurrentOrDesignedCaptions(*this, captions_);
     fillList(*list_, rows_);
     list_->setCurrentRow(0, beginsAtOk() ? QItemSelectionModel::Select : QItemSelectionModel::NoUpdate);
-    list_->setAccessibleName(windowTitle());
+    list_->setAccessibleName(heading_->text());
     ok_->setEnabled(beginsAtOk());
-    list_->setMinimumSize(roomForRows(*list_));
     fitFrame();
     beginChoice();
 }

@@ -6,6 +6,7 @@
 #include <span>
 #include <string_view>
 
+class QLabel;
 class QPushButton;
 
 namespace shell {
@@ -22,9 +23,10 @@ struct ChooserNames {
     std::string_view frame;
 };
 
-/// A small window in which one row of a list is chosen. The OK button is available once a row is chosen; a
-/// double click or Enter in the list activates a row as well. Enter takes the first row where none is chosen
-/// yet.
+/// A small window in which one row of a list is chosen, under a heading that says of what: the label
+/// `ChooserHeading` of its captions. The OK button is available once a row is chosen; the keys that move in a
+/// list move in it from there as well. A double click or Enter in the list activates a row. Enter takes the
+/// first row where none is chosen yet.
 class Chooser : public FramedWindow {
     Q_OBJECT
 
@@ -48,6 +50,8 @@ protected:
     /// Fills the list anew, likewise.
     void fill();
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     void layOut();
     void connectControls();
@@ -56,6 +60,7 @@ private:
     std::span<const Caption> captions_;
     std::span<const LanguageTexts> rows_;
     ChoiceList* list_;
+    QLabel* heading_;
     QPushButton* ok_;
     QPushButton* cancel_;
 };

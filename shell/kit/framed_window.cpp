@@ -2,6 +2,7 @@
 
 #include "shell/kit/text.h"
 
+#include <QEvent>
 #include <QFrame>
 #include <QScreen>
 
@@ -13,12 +14,19 @@ FramedWindow::FramedWindow(std::string_view name, std::string_view activeName, s
     : Window(name, activeName), frame_(new QFrame(this))
 {
     frame_->setObjectName(fromUtf8(frame));
+    frame_->installEventFilter(this);
 }
 
+QSize FramedWindow::sizeHint() const
+{
+    return frame_->sizeHint();
+}
+
+// The frame may have changed since the window was last seen: its size is sought anew.
 void FramedWindow::showFrame()
 {
     if (!isVisible())
-        resize(frame_->sizeHint());
+        setAttribute(Qt::WA_Resized, false);
     showInMainWindowState();
     placeFrame();
 }
@@ -27,6 +35,13 @@ void FramedWindow::fitFrame()
 {
     setMinimumSize(frame_->minimumSizeHint());
     placeFrame();
+}
+
+bool FramedWindow::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == frame_ && event->type() == QEvent::LayoutRequest)
+        fitFrame();
+    return Window::eventFilter(watched, event);
 }
 
 void FramedWindow::resizeEvent(QResizeEvent* event)

@@ -14,15 +14,19 @@ class FramedWindow : public Window {
 public:
     FramedWindow(std::string_view name, std::string_view activeName, std::string_view frame);
 
+    /// That of the frame.
+    QSize sizeHint() const override;
+
 protected:
     QFrame* frame() const { return frame_; }
 
-    /// Shows the window, at first in the size of its frame.
+    /// Shows the window, at first in the size of its frame, as far as the screen allows.
     void showFrame();
 
-    /// To be called when what stands in the frame has changed.
+    /// Fits the window to what stands in the frame. It does so itself a little after a change.
     void fitFrame();
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:

@@ -347,7 +347,7 @@ TEST_F(EveryDrill, ShowsTheAnswerInRedForOnePauseWithoutCounting)
 }
 
 // Enter takes the first row though none is chosen; a look at the help forgets the row that was. Where OK has
-// the focus, it waits for a row: chosen by a click at its very edge, and not forgotten by one below all rows.
+// the focus, the keys move in the list from there. A row is chosen by a click at its very edge.
 TEST_F(EveryDrill, IsChosenByEnterInTheListOrByOk)
 {
     QWidget& classes = openChooser(Conjugation);
@@ -368,9 +368,27 @@ TEST_F(EveryDrill, IsChosenByEnterInTheListOrByOk)
     QListWidget& rows = list(chooser, "DeclinationList");
     clickRow(rows, 4);
     QTest::mouseClick(rows.viewport(), Qt::LeftButton, {}, rows.visualItemRect(rows.item(5)).topLeft());
-    QTest::mouseClick(rows.viewport(), Qt::LeftButton, {}, rows.viewport()->rect().bottomLeft());
     click(chooser, "SdeclOK");
     EXPECT_EQ(declensionDrill.DrillParadigm, ThirdDeclensionNeuter);
+    press(openChooser(Declension), Qt::Key_End);
+    press(chooser, Qt::Key_Up);
+    EXPECT_EQ(focusIn(chooser), "SdeclOK");
+    press(chooser, Qt::Key_Return);
+    EXPECT_EQ(declensionDrill.DrillParadigm, FourthDeclensionNeuter);
+}
+
+TEST_F(EveryDrill, IsChosenUnderAHeadingFromAListThatJustHoldsItsRows)
+{
+    for (const char* const language : {"German", "English"})
+        for (const Drill& drill : {Conjugation, Pronoun, Declension}) {
+            settings.CurrentLanguage = language;
+            QWidget& chooser = openChooser(drill);
+            const auto& rows = control<QListWidget>(chooser);
+            const auto& heading = control<QLabel>(chooser, "ChooserHeading");
+            EXPECT_TRUE(heading.buddy() == &rows && heading.text() == rows.accessibleName());
+            EXPECT_TRUE(heading.text().startsWith("Choose a ") || heading.text().endsWith(" auswählen"));
+            EXPECT_EQ(rows.viewport()->height(), rows.count() * rows.visualItemRect(rows.item(0)).height());
+        }
 }
 
 // German has no caption for most nouns: the nominative names them.

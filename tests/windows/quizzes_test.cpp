@@ -69,12 +69,12 @@ TEST_F(Quizzes, OfVerbsAreAnsweredFromTheKeyboardAndShowBothAnswersInTheLanguage
     verbQuiz.QuizRow = 21;
     verbdrills::identifyForm();
     for (const auto& [name, steps] :
-         {std::pair{"QuizConjList", 7}, {"QuizTenseList", 17}, {"QuizFirst", 1}, {"QuizSing", 1}}) {
+         {std::pair{"QuizConjList", 7}, {"QuizFirst", 1}, {"QuizSing", 1}, {"QuizTenseList", 17}}) {
         EXPECT_EQ(focusIn(quiz()), name);
         const QString before = text("QuizYourAnswer");
         press(quiz(), Qt::Key_Down, steps);
         EXPECT_NE(text("QuizYourAnswer"), before);
-        if (name != std::string_view("QuizSing"))
+        if (name != std::string_view("QuizTenseList"))
             press(quiz(), Qt::Key_Tab);
     }
     press(quiz(), Qt::Key_Return);
@@ -121,6 +121,18 @@ TEST_F(Quizzes, OfVerbsAskWhatIsIncludedAndAreLeftForTheChoiceInAPause)
     expectQuestion();
 }
 
+TEST_F(Quizzes, OfVerbsKeepTheTensesOfAMoodAndAVoiceInOneColumn)
+{
+    click(quiz(), "QuizOptions");
+    const auto column = [](int tense) {
+        return button(choice(), QStringLiteral("InclTense%1").arg(tense)).mapTo(&choice(), QPoint()).x();
+    };
+    for (const auto& [first, last] : {std::pair{0, 5}, {6, 10}, {11, 20}})
+        for (int tense = first; tense <= last; ++tense)
+            EXPECT_EQ(column(tense), column(first)) << tense;
+    EXPECT_TRUE(column(5) < column(6) && column(10) < column(11));
+}
+
 // The passive of esse does not exist: the quiz asks for more to choose from, and can be left.
 TEST_F(Quizzes, OfVerbsLeadToTheChoiceWhereNothingCanBeAsked)
 {
@@ -143,12 +155,15 @@ TEST_F(Quizzes, OfVerbsLeadToTheChoiceWhereNothingCanBeAsked)
 }
 
 // Every third answer has a case too many, every other third a tick that was taken back. A form can be skipped
-// while it is judged.
+// while it is judged, and then counts; one skipped before does not.
 TEST_F(Quizzes, OfNounsJudgeTheTicksAndAskAnew)
 {
     QWidget& nounQuiz = open("FileNounQuiz", "NounQuiz");
     constexpr std::array Declensions = {0, 1, 1, 1, 4, 4, 5, 2};
+    const QStringList scores = {" 100% ", " 50% ", " 67% "};
+    QColor right;
     for (int questions = 0; questions < 60; ++questions) {
+        click(nounQuiz, "NQSkip");
         EXPECT_EQ(label(nounQuiz, "NounQuizForm").toStdString(), askedForm());
         EXPECT_EQ(label(nounQuiz, "NounQuizInfo").toStdString(), askedNoun());
         const int declension = Declensions.at(static_cast<std::size_t>(nounQuestion.QuizParadigmIndex));
@@ -164,15 +179,22 @@ TEST_F(Quizzes, OfNounsJudgeTheTicksAndAskAnew)
             click(nounQuiz, "AblativePluralCheck");
         const QString words = QString::fromStdString(rightCasesInWords());
         duringPause([&] {
-            EXPECT_EQ(label(nounQuiz, "NounQuizVerdict") == "Right!", questions % 3 != 1);
+            EXPECT_EQ(label(nounQuiz, "NounVerdict") == "Right!", questions % 3 != 1);
+            const auto& colours = control<QLabel>(nounQuiz, "NounVerdict").palette();
+            if (questions % 3 == 0)
+                right = colours.color(QPalette::WindowText);
+            EXPECT_EQ(colours.color(QPalette::WindowText) == right, questions % 3 != 1);
+            EXPECT_TRUE(questions > 2 || label(nounQuiz, "NounQuizScore") == scores.at(questions));
             EXPECT_EQ(label(nounQuiz, "NounRightAnswer"), words);
             if (questions % 5 == 0)
                 click(nounQuiz, "NQSkip");
             EXPECT_EQ(label(nounQuiz, "NounRightAnswer").isEmpty(), questions % 5 == 0);
         });
         click(nounQuiz, "NQOK");
-        EXPECT_EQ(label(nounQuiz, "NounQuizVerdict") + label(nounQuiz, "NounRightAnswer"), "");
+        EXPECT_EQ(label(nounQuiz, "NounVerdict") + label(nounQuiz, "NounRightAnswer"), "");
     }
+    open("FileNounQuiz", "NounQuiz");
+    EXPECT_EQ(label(nounQuiz, "NounQuizScore"), "");
     click(nounQuiz, "NQOptions");
     EXPECT_NE(shownWindow("DelayInterval"), nullptr);
 }

@@ -24,6 +24,7 @@ constexpr ChooserNames ConjugationNames = {
 constexpr std::array ConjugationCaptions = {
     //                             English                 French                           Italian  German                   Spanish                   Latin
     Caption{"ConjugationChoose",   {"Choose a Conjugation", "Choisez Vous une conjugation!", {}, "Eine Konjugation Auswählen", "Elegir una conjugatión", "Conjugationem elige!"}}, // sic: French and Spanish
+    Caption{"ChooserHeading",      {"Choose a conjugation", "Choisissez une conjugaison",    {}, "Konjugation auswählen",      "Elija una conjugación",  "Conjugationem elige"}},
     Caption{"cchok",               {"&OK",                  "&Oui",                          {}, "&OK",                        "&Si",                    "&Ita"}},
     Caption{"Command2",            {"&Cancel",              "&Annule",                       {}, "&Abbruch",                   "&Cancelar",              "&Reverte!"}},
 };
@@ -50,6 +51,7 @@ constexpr ChooserNames TenseNames = {
 constexpr std::array TenseCaptions = {
     //                                     English, French, Italian    German                         Spanish                   Latin
     Caption{"TenseMoodChooser", englishToo("Select a Tense/Mood",      "Eine Zeitform Auswählen",     "Elegir un timpo o modo", "Tempus et Modum elige!")}, // sic: Spanish
+    Caption{"ChooserHeading",   englishToo("Choose a tense or mood",   "Zeitform auswählen",          "Elija un tiempo o modo", "Tempus et modum elige")},
     Caption{"TenseMoodOK",      englishToo("&OK",                      "&OK",                         "&Si",                    "&Sic")},
     Caption{"TenseMoodCancel",  englishToo("&Cancel",                  "&Abbruch",                    "&Cancelar",              "&Reverte!")},
 };

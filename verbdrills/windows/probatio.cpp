@@ -31,10 +31,8 @@ using shell::rowOf;
 
 namespace {
 
-constexpr QSize LargestBlock{120, 43};
-
-// Beside it a spacer's stretch is so little that a list grows first.
-constexpr int FillsColumn = 1000;
+constexpr QSize LargestBlock{120, 60};
+constexpr int LinesOfAnswer = 2;
 
 // clang-format off
 constexpr std::array Captions = {
@@ -72,13 +70,15 @@ void Probatio::makeControls()
     item_ = shell::makeHeading(this, "QuizItem", shell::TitleType);
     baseForm_ = makeLabel(this, "QuizBaseForm", shell::FormType);
     classes_ = new QuizList("QuizConjList", QStringLiteral("Conjugations"), this);
-    tenses_ = new QuizList("QuizTenseList", QStringLiteral("Tenses"), this);
     personAndNumber_ = new PersonAndNumber(this);
+    tenses_ = new QuizList("QuizTenseList", QStringLiteral("Tenses"), this);
     yourAnswer_ = makeLabel(this, "QuizYourAnswer");
     correctHeading_ = shell::makeHeading(this, "QuizHeading", 1);
     correct_ = makeLabel(this, "QuizCorrect");
-    yourAnswer_->setWordWrap(true);
-    correct_->setWordWrap(true);
+    for (QLabel* const answer : {yourAnswer_, correct_}) {
+        shell::wrapText(*answer, LinesOfAnswer);
+        answer->setAlignment(Qt::AlignTop);
+    }
     ok_ = makeButton(this, "QuizOK");
     question_ = shell::makeQuestionButton(this, "QuizQuestion");
     skip_ = makeButton(this, "QuizSkip");
@@ -92,20 +92,17 @@ void Probatio::layOut()
     identify->setWordWrap(true);
     QBoxLayout* const form =
         rowOf(shell::WideSpace, {item_, {baseForm_, 1, Qt::AlignRight | Qt::AlignBottom}});
-    layOutLines(
-        LargestBlock, shell::DrillMargins,
-        {columnOf(shell::HairSpace, {identify, form}),
-         {answerColumns(), 1},
-         answersInWords(),
-         shell::buttonRow({makeLabel(this, "HelpLabel")}, {ok_, question_, skip_, options_, cancel_})});
+    layOutLines(LargestBlock, shell::DrillMargins,
+                {Part::gap(1), columnOf(shell::HairSpace, {identify, form}), answerColumns(),
+                 answersInWords(),
+                 shell::buttonRow({makeLabel(this, "HelpLabel")}, {ok_, question_, skip_, options_, cancel_}),
+                 Part::gap(1)});
 }
 
 QBoxLayout* Probatio::answerColumns()
 {
-    auto* const left =
-        columnOf(shell::MediumSpace, {{classes_, FillsColumn}, personAndNumber_, Part::gap(1)});
-    auto* const right = columnOf(shell::MediumSpace, {{tenses_, FillsColumn}, Part::gap(1)});
-    return rowOf(shell::LargeSpace, {{left, 1}, {right, 1}});
+    auto* const left = columnOf(shell::MediumSpace, {classes_, personAndNumber_, Part::gap()});
+    return rowOf(shell::LargeSpace, {{left, 1}, {tenses_, 1}});
 }
 
 QGridLayout* Probatio::answersInWords()
@@ -117,7 +114,6 @@ QGridLayout* Probatio::answersInWords()
     grid->addWidget(correctHeading_, 0, 1);
     grid->addWidget(yourAnswer_, 1, 0, Qt::AlignTop);
     grid->addWidget(correct_, 1, 1, Qt::AlignTop);
-    grid->setRowMinimumHeight(1, 2 * QFontMetrics(font()).lineSpacing());
     return grid;
 }
 

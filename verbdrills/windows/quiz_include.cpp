@@ -13,6 +13,8 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 
 #include <algorithm>
 
@@ -26,7 +28,52 @@ using shell::makeControl;
 namespace {
 
 constexpr int ClassColumns = 4;
-constexpr int TenseRows = 7;
+constexpr int FewestLines = 8;
+
+// Shows its content whole, or on a small screen as much as there is room for. It scrolls to the box that gets
+// the focus.
+class ScrollingPart : public QScrollArea {
+public:
+    ScrollingPart(QWidget* content, QWidget* parent) : QScrollArea(parent)
+    {
+        setWidget(content);
+        setWidgetResizable(true);
+        setFrameShape(NoFrame);
+        setFocusPolicy(Qt::NoFocus);
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
+    }
+
+    QSize sizeHint() const override { return {roomAcross(), widget()->sizeHint().height()}; }
+    QSize minimumSizeHint() const override
+    {
+        return {roomAcross(), FewestLines * fontMetrics().lineSpacing()};
+    }
+
+protected:
+    // A change of the content reaches the viewport, which has no layout of its own to tell.
+    bool event(QEvent* event) override
+    {
+        if (event->type() == QEvent::LayoutRequest)
+            updateGeometry();
+        return QScrollArea::event(event);
+    }
+
+private:
+    int roomAcross() const { return widget()->sizeHint().width() + verticalScrollBar()->sizeHint().width(); }
+};
+
+// A column of tenses, and its last one.
+struct TenseColumn {
+    const char* heading;
+    std::size_t last;
+};
+
+constexpr std::array TenseColumns = {TenseColumn{"InclIndicative", verbs::FuturePerfectIndicative},
+                                     TenseColumn{"InclSubjunctive", verbs::Imperative},
+                                     TenseColumn{"InclPassive", verbs::PassivePluperfectSubjunctive}};
+
+static_assert(TenseColumns.back().last == verbs::BlockCount);
 
 // clang-format off
 constexpr std::array Captions = {
@@ -68,6 +115,9 @@ constexpr std::array Captions = {
     Caption{"InclTense19", englishToo("Passive Perf. Subj.",        "Passiv Perf. Konj.",                             "Perfecto de subj. pasivo",          "Passivum Perf. Subj.")},
     Caption{"InclTense20", englishToo("Passive Pluperf. Subj.",     "Passiv Plusq. Konj.",                            "Pluscuamperfecto de subj. pasivo",  "Passivum Plusq. Subj.")},
 
+    Caption{"InclIndicative",  englishToo("Indicative",                 "Indikativ",                "Indicativo",               "Indicativus")},
+    Caption{"InclSubjunctive", englishToo("Subjunctive and imperative", "Konjunktiv und Imperativ", "Subjuntivo e imperativo",  "Subjunctivus et imperativus")},
+    Caption{"InclPassive",     englishToo("Passive",                    "Passiv",                   "Pasivo",                   "Passivum")},
     Caption{"InclNote",    englishToo("None of this can be asked. Choose more:", "Davon kann nichts abgefragt werden.", "De esto no se puede preguntar nada. Elija más:", "Nihil horum rogari potest. Elige plura:")},
 };
 // clang-format on
@@ -75,9 +125,10 @@ constexpr std::array Captions = {
 } // namespace
 
 QuizInclude::QuizInclude()
-    : FramedWindow("QuizInclude", "quizinclude", "CIBigFrame"),
-      classFrame_(makeControl<QGroupBox>(frame(), "ConjFrame")),
-      tenseFrame_(makeControl<QGroupBox>(frame(), "TenseFrame")), note_(shell::makeLabel(frame(), "InclNote"))
+    : FramedWindow("QuizInclude", "quizinclude", "CIBigFrame"), note_(shell::makeLabel(frame(), "InclNote")),
+      ticks_(new QWidget(frame())), scrolled_(new ScrollingPart(ticks_, frame())),
+      classFrame_(makeControl<QGroupBox>(ticks_, "ConjFrame")),
+      tenseFrame_(makeControl<QGroupBox>(ticks_, "TenseFrame"))
 {
     makeControls();
     layOut();
@@ -107,18 +158,26 @@ void QuizInclude::layOut()
     }
     classFrame_->setLayout(classes);
 
-    QGridLayout* const tenses = shell::gridOf(shell::WideSpace, shell::HairSpace);
-    for (int place = 0; QCheckBox* const box : tenses_) {
-        tenses->addWidget(box, place % TenseRows, place / TenseRows);
-        ++place;
-    }
-    tenseFrame_->setLayout(tenses);
+    layOutTenses();
+    shell::setContent(ticks_, {}, shell::columnOf(shell::MediumSpace, {classFrame_, tenseFrame_}));
+    shell::setContent(frame(), shell::FormMargins,
+                      shell::columnOf(shell::MediumSpace,
+                                      {note_, scrolled_, shell::buttonRow({all_, none_}, {ok_, cancel_}),
+                                       shell::Part::gap()}));
+}
 
-    shell::setContent(
-        frame(), shell::FormMargins,
-        shell::columnOf(
-            shell::MediumSpace,
-            {note_, classFrame_, {tenseFrame_, 1}, shell::buttonRow({all_, none_}, {ok_, cancel_})}));
+void QuizInclude::layOutTenses()
+{
+    QBoxLayout* const columns = shell::rowOf(shell::WideSpace, {});
+    for (std::size_t next = 0; const auto& [heading, last] : TenseColumns) {
+        QBoxLayout* const column =
+            shell::columnOf(shell::HairSpace, {shell::makeHeading(tenseFrame_, heading, 1)});
+        while (next < last)
+            column->addWidget(tenses_.at(next++));
+        column->addStretch();
+        columns->addLayout(column);
+    }
+    tenseFrame_->setLayout(columns);
 }
 
 void QuizInclude::connectControls()
@@ -143,10 +202,13 @@ void QuizInclude::openAsNothingCanBeAsked()
     appear();
 }
 
+// What a window that is hidden holds within its parts tells it of no new size.
 void QuizInclude::appear()
 {
     shell::applyCaptions(*this, Captions);
     showTicks(ticksOfQuiz());
+    for (QWidget* const part : std::initializer_list<QWidget*>{classFrame_, tenseFrame_, scrolled_})
+        part->updateGeometry();
     fitFrame();
     showFrame();
     classes_.front()->setFocus();

@@ -35,6 +35,7 @@ protected:
 private:
     void makeControls();
     void layOut();
+    void layOutTenses();
     void connectControls();
     void appear();
     QuizTicks ticks() const;
@@ -44,9 +45,11 @@ private:
 
     std::array<QCheckBox*, verbs::LastClass> classes_{};
     std::array<QCheckBox*, verbs::BlockCount> tenses_{};
+    QLabel* note_;
+    QWidget* ticks_;
+    QWidget* scrolled_;
     QGroupBox* classFrame_;
     QGroupBox* tenseFrame_;
-    QLabel* note_;
     QPushButton* ok_ = nullptr;
     QPushButton* all_ = nullptr;
     QPushButton* none_ = nullptr;

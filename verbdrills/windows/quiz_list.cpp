@@ -9,26 +9,28 @@ namespace verbdrills {
 
 namespace {
 
-constexpr int FewestRows = 5;
+// The longest answer in words takes two lines of so many.
+constexpr int CharactersOfAnswer = 48;
 constexpr double RowType = 1.1;
 
 } // namespace
 
-QuizList::QuizList(QAnyStringView name, const QString& accessibleName, QWidget* parent) : ChoiceList(parent)
+QuizList::QuizList(QAnyStringView name, const QString& accessibleName, QWidget* parent)
+    : ListOfItsRows(parent)
 {
     setObjectName(name);
     setAccessibleName(accessibleName);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     shell::setType(*this, RowType);
 }
 
 void QuizList::fill(std::span<const shell::LanguageTexts> rows)
 {
     shell::fillList(*this, rows);
-    const int frame = 2 * frameWidth();
-    const int row = sizeHintForRow(0);
-    setMinimumSize(sizeHintForColumn(0) + frame + shell::WideSpace, FewestRows * row + frame);
-    setMaximumHeight(count() * row + frame);
+}
+
+QSize QuizList::sizeHint() const
+{
+    return ListOfItsRows::sizeHint().expandedTo({CharactersOfAnswer * fontMetrics().averageCharWidth(), 0});
 }
 
 void QuizList::reset()

@@ -7,13 +7,15 @@
 
 namespace verbdrills {
 
-/// A list of the verb quiz. It takes the height of its rows where there is room, and scrolls where there is
-/// little.
-class QuizList : public shell::ChoiceList {
+/// A list of the verb quiz.
+class QuizList : public shell::ListOfItsRows {
     Q_OBJECT
 
 public:
     QuizList(QAnyStringView name, const QString& accessibleName, QWidget* parent);
+
+    /// Also wide enough for half an answer in words, where there is room.
+    QSize sizeHint() const override;
 
     /// Fills the list anew for `CurrentLanguage`.
     void fill(std::span<const shell::LanguageTexts> rows);
