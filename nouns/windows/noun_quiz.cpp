@@ -30,7 +30,7 @@ using shell::rowOf;
 
 namespace {
 
-constexpr QSize LargestBlock{88, 38};
+constexpr QSize LargestBlock{88, shell::AsItsLines};
 constexpr int LinesOfAnswer = 2;
 
 // clang-format off
@@ -125,10 +125,10 @@ void NounQuiz::makeButtons()
 void NounQuiz::layOut()
 {
     layOutLines(LargestBlock, shell::DrillMargins,
-                {Part::gap(1), rowOf(shell::MediumSpace, {{form_, 1}, {score_, 0, Qt::AlignTop}}),
+                {rowOf(shell::MediumSpace, {{form_, 1}, {score_, 0, Qt::AlignTop}}),
                  rowOf(shell::MediumSpace, {{info_, 1}, {indices_, 0, Qt::AlignRight | Qt::AlignTop}}),
                  checkRow(), rowOf(shell::LargeSpace, {{verdict_, 0, Qt::AlignTop}, {answer_, 1}}),
-                 shell::buttonRow({options_}, {ok_, skip_, cancel_}), Part::gap(1)});
+                 shell::buttonRow({options_}, {ok_, skip_, cancel_})});
 }
 
 QBoxLayout* NounQuiz::checkRow()

@@ -17,8 +17,6 @@ namespace shell {
 
 namespace {
 
-constexpr double RowType = 1.2;
-
 bool movesInList(int key)
 {
     return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_Home || key == Qt::Key_End ||
@@ -33,7 +31,7 @@ Chooser::Chooser(const ChooserNames& names, std::span<const Caption> captions,
       list_(makeControl<ListOfItsRows>(frame(), names.list)), heading_(makeLabelOf(list_, "ChooserHeading")),
       ok_(makeButton(frame(), names.ok)), cancel_(makeButton(frame(), names.cancel))
 {
-    setType(*list_, RowType);
+    setType(*list_, ListType);
     setBoldType(*heading_, HeadingType);
     layOut();
     connectControls();

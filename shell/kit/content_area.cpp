@@ -16,12 +16,12 @@ constexpr double ShareOfScreen = 0.85;
 
 } // namespace
 
-ContentArea::ContentArea(QWidget* parent) : QScrollArea(parent)
+ContentArea::ContentArea(QWidget* content, QWidget* parent) : QScrollArea(parent)
 {
     setFrameShape(QFrame::NoFrame);
     setWidgetResizable(true);
     setFocusPolicy(Qt::NoFocus);
-    setWidget(new QWidget);
+    setWidget(content);
     connect(qApp, &QApplication::focusChanged, this,
             [this](QWidget* /*before*/, QWidget* now) { showFocus(now); });
 }

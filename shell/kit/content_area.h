@@ -4,13 +4,13 @@
 
 namespace shell {
 
-/// What stands in a window. It is shown whole where the screen has room for it, and can be scrolled where the
-/// screen has not; what receives the focus comes into view.
+/// Content of a window, or of a part of it. It is shown whole where the screen has room for it, and can be
+/// scrolled where the screen has not; what receives the focus comes into view.
 class ContentArea : public QScrollArea {
     Q_OBJECT
 
 public:
-    explicit ContentArea(QWidget* parent);
+    ContentArea(QWidget* content, QWidget* parent);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

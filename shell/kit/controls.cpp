@@ -11,12 +11,6 @@
 
 namespace shell {
 
-namespace {
-
-constexpr double ListType = 1.15;
-
-} // namespace
-
 QLabel* makeLabel(QWidget* parent, QAnyStringView name)
 {
     auto* const label = makeControl<QLabel>(parent, name);

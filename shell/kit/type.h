@@ -18,6 +18,7 @@ inline constexpr double QuestionType = 1.9;
 inline constexpr double HeadingType = 1.6;
 inline constexpr double FormType = 1.5;
 inline constexpr double SentenceType = 1.2;
+inline constexpr double ListType = 1.15;
 inline constexpr double NoteType = 0.95;
 
 /// A font in a multiple of its size.

@@ -109,7 +109,7 @@ bool Window::eventFilter(QObject* watched, QEvent* event)
 
 QWidget* Window::centredBlock(QSize charactersAndLines)
 {
-    auto* const area = new ContentArea(this);
+    auto* const area = new ContentArea(new QWidget, this);
     auto* const block = new QWidget(area->widget());
     const bool asHighAsItsLines = charactersAndLines.height() == AsItsLines;
     keepMeasure(*block, "size", [=, this](Growth) {

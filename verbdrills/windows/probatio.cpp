@@ -31,7 +31,7 @@ using shell::rowOf;
 
 namespace {
 
-constexpr QSize LargestBlock{120, 60};
+constexpr QSize LargestBlock{120, shell::AsItsLines};
 constexpr int LinesOfAnswer = 2;
 
 // clang-format off
@@ -92,11 +92,10 @@ void Probatio::layOut()
     identify->setWordWrap(true);
     QBoxLayout* const form =
         rowOf(shell::WideSpace, {item_, {baseForm_, 1, Qt::AlignRight | Qt::AlignBottom}});
-    layOutLines(LargestBlock, shell::DrillMargins,
-                {Part::gap(1), columnOf(shell::HairSpace, {identify, form}), answerColumns(),
-                 answersInWords(),
-                 shell::buttonRow({makeLabel(this, "HelpLabel")}, {ok_, question_, skip_, options_, cancel_}),
-                 Part::gap(1)});
+    layOutLines(
+        LargestBlock, shell::DrillMargins,
+        {columnOf(shell::HairSpace, {identify, form}), answerColumns(), answersInWords(),
+         shell::buttonRow({makeLabel(this, "HelpLabel")}, {ok_, question_, skip_, options_, cancel_})});
 }
 
 QBoxLayout* Probatio::answerColumns()

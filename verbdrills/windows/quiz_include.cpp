@@ -1,6 +1,7 @@
 #include "verbdrills/windows/quiz_include.h"
 
 #include "shell/kit/captions.h"
+#include "shell/kit/content_area.h"
 #include "shell/kit/controls.h"
 #include "shell/kit/layout.h"
 #include "verbdrills/quiz_texts.h"
@@ -13,8 +14,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
-#include <QScrollArea>
-#include <QScrollBar>
 
 #include <algorithm>
 
@@ -28,40 +27,9 @@ using shell::makeControl;
 namespace {
 
 constexpr int ClassColumns = 4;
+
+// Less is scrolled on a small screen.
 constexpr int FewestLines = 8;
-
-// Shows its content whole, or on a small screen as much as there is room for. It scrolls to the box that gets
-// the focus.
-class ScrollingPart : public QScrollArea {
-public:
-    ScrollingPart(QWidget* content, QWidget* parent) : QScrollArea(parent)
-    {
-        setWidget(content);
-        setWidgetResizable(true);
-        setFrameShape(NoFrame);
-        setFocusPolicy(Qt::NoFocus);
-        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-        setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
-    }
-
-    QSize sizeHint() const override { return {roomAcross(), widget()->sizeHint().height()}; }
-    QSize minimumSizeHint() const override
-    {
-        return {roomAcross(), FewestLines * fontMetrics().lineSpacing()};
-    }
-
-protected:
-    // A change of the content reaches the viewport, which has no layout of its own to tell.
-    bool event(QEvent* event) override
-    {
-        if (event->type() == QEvent::LayoutRequest)
-            updateGeometry();
-        return QScrollArea::event(event);
-    }
-
-private:
-    int roomAcross() const { return widget()->sizeHint().width() + verticalScrollBar()->sizeHint().width(); }
-};
 
 // A column of tenses, and its last one.
 struct TenseColumn {
@@ -126,7 +94,7 @@ constexpr std::array Captions = {
 
 QuizInclude::QuizInclude()
     : FramedWindow("QuizInclude", "quizinclude", "CIBigFrame"), note_(shell::makeLabel(frame(), "InclNote")),
-      ticks_(new QWidget(frame())), scrolled_(new ScrollingPart(ticks_, frame())),
+      ticks_(new QWidget(frame())), scrolled_(new shell::ContentArea(ticks_, frame())),
       classFrame_(makeControl<QGroupBox>(ticks_, "ConjFrame")),
       tenseFrame_(makeControl<QGroupBox>(ticks_, "TenseFrame"))
 {
@@ -159,6 +127,10 @@ void QuizInclude::layOut()
     classFrame_->setLayout(classes);
 
     layOutTenses();
+    scrolled_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
+    shell::keepMeasure(*scrolled_, "height", [this](shell::Growth) {
+        scrolled_->setMinimumHeight(FewestLines * fontMetrics().lineSpacing());
+    });
     shell::setContent(ticks_, {}, shell::columnOf(shell::MediumSpace, {classFrame_, tenseFrame_}));
     shell::setContent(frame(), shell::FormMargins,
                       shell::columnOf(shell::MediumSpace,

@@ -10,6 +10,10 @@ class QGroupBox;
 class QLabel;
 class QPushButton;
 
+namespace shell {
+class ContentArea;
+}
+
 namespace verbdrills {
 
 /// Chooses the classes and the tenses that the verb quiz asks.
@@ -47,7 +51,7 @@ private:
     std::array<QCheckBox*, verbs::BlockCount> tenses_{};
     QLabel* note_;
     QWidget* ticks_;
-    QWidget* scrolled_;
+    shell::ContentArea* scrolled_;
     QGroupBox* classFrame_;
     QGroupBox* tenseFrame_;
     QPushButton* ok_ = nullptr;

@@ -11,7 +11,6 @@ namespace {
 
 // The longest answer in words takes two lines of so many.
 constexpr int CharactersOfAnswer = 48;
-constexpr double RowType = 1.1;
 
 } // namespace
 
@@ -20,7 +19,7 @@ QuizList::QuizList(QAnyStringView name, const QString& accessibleName, QWidget* 
 {
     setObjectName(name);
     setAccessibleName(accessibleName);
-    shell::setType(*this, RowType);
+    shell::setType(*this, shell::ListType);
 }
 
 void QuizList::fill(std::span<const shell::LanguageTexts> rows)
