@@ -22,7 +22,10 @@ constexpr std::uint32_t NoEntry = std::numeric_limits<std::uint32_t>::max();
 constexpr std::uint32_t EmptyHash = 2166136261U;
 constexpr std::uint32_t HashPrime = 16777619U;
 
-constexpr std::size_t CapacityAtFirst = 1024;
+// What the lists hold, about.
+constexpr std::size_t UsualFormCount = 12'000;
+
+constexpr std::size_t UsualLength = 16;
 
 constexpr char inSmall(char letter)
 {
@@ -84,12 +87,13 @@ std::string stemsOf(std::span<const WordGroup> groups)
 
 } // namespace
 
-void FormIndex::makeRoom(std::size_t forms)
+void FormIndex::reserve(std::size_t forms)
 {
     if (forms <= chains_.size())
         return;
-    chains_.assign(std::bit_ceil(std::max(forms, CapacityAtFirst)) * 2, NoEntry);
-    entries_.reserve(chains_.size());
+    chains_.assign(std::bit_ceil(forms) * 2, NoEntry);
+    entries_.reserve(forms);
+    texts_.reserve(forms * UsualLength);
     std::uint32_t number = 0;
     for (Entry& entry : entries_)
         entry.next = std::exchange(chains_[entry.hash % chains_.size()], number++);
@@ -110,7 +114,7 @@ void FormIndex::addForm(const shell::FormParts& form, std::uint32_t hash, int ce
 
 void FormIndex::add(const Word& word, std::span<const shell::FormParts> forms)
 {
-    makeRoom(entries_.size() + forms.size());
+    reserve(entries_.size() + forms.size());
     words_.push_back(word);
     // Forms that follow each other mostly have the same stem.
     std::string_view stem;
@@ -166,6 +170,7 @@ const FormIndex& ListedForms::index()
     if (stems == builtFrom_)
         return index_;
     index_ = {};
+    index_.reserve(UsualFormCount);
     for (const WordGroup& group : groups)
         for (const Word& word : group.words)
             index_.add(word, formsOf(word));

@@ -15,6 +15,9 @@ namespace tables {
 /// they are.
 class FormIndex {
 public:
+    /// Makes room for so many forms at once. More find theirs as well.
+    void reserve(std::size_t forms);
+
     /// Adds a word with its forms by their cell, from 1. They are copied; those that do not exist are left
     /// out.
     void add(const Word& word, std::span<const shell::FormParts> forms);
@@ -39,7 +42,6 @@ private:
     };
 
     void addForm(const shell::FormParts& form, std::uint32_t hash, int cell);
-    void makeRoom(std::size_t forms);
     std::string_view textOf(const Entry& entry) const;
     Reading readingOf(const Entry& entry) const;
 

@@ -30,6 +30,19 @@ constexpr std::array<ClassPage, LastClass> Pages = {{
 
 static_assert(Pages.front().verbClass == FirstConjugation && Pages.back().verbClass == Ferre);
 
+} // namespace
+
+const ClassPage& pageOf(int verbClass)
+{
+    return Pages.at(static_cast<std::size_t>(verbClass - FirstConjugation));
+}
+
+bool hasBareImperative(int verbClass, std::string_view presentStem)
+{
+    return verbClass == ThirdConjugation &&
+           std::ranges::find(StemsWithBareImperative, presentStem) != StemsWithBareImperative.end();
+}
+
 std::string_view stemFor(Stem stem, const VerbStems& stems)
 {
     switch (stem) {
@@ -45,35 +58,15 @@ std::string_view stemFor(Stem stem, const VerbStems& stems)
     return {};
 }
 
-} // namespace
-
-const ClassPage& pageOf(int verbClass)
-{
-    return Pages.at(static_cast<std::size_t>(verbClass - FirstConjugation));
-}
-
-shell::FormParts partsOf(const EndingRow& row, int person, const VerbStems& stems)
-{
-    const std::string_view ending = row.endings.at(static_cast<std::size_t>(person - FirstSingular));
-    if (ending.empty())
-        return {};
-    return {stemFor(row.stem, stems), ending};
-}
-
-bool hasBareImperative(int verbClass, std::string_view presentStem)
-{
-    return verbClass == ThirdConjugation &&
-           std::ranges::find(StemsWithBareImperative, presentStem) != StemsWithBareImperative.end();
-}
-
 FormsOfVerb conjugate(int verbClass, const VerbStems& stems)
 {
     FormsOfVerb forms;
     for (const auto& rows : pageOf(verbClass).rows)
-        for (const EndingRow& row : rows)
-            for (int person = FirstSingular; person <= PersonCount; ++person)
-                forms.at(static_cast<std::size_t>(formNumber(row.block, person) - 1)) =
-                    partsOf(row, person, stems);
+        for (const EndingRow& row : rows) {
+            auto* form = forms.begin() + formNumber(row.block, FirstSingular) - 1;
+            for (const std::string_view ending : row.endings)
+                *form++ = partsOf(stemFor(row.stem, stems), ending);
+        }
     return forms;
 }
 

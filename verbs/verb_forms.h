@@ -27,8 +27,14 @@ struct ClassPage {
 /// The page of a class, 1 to 8.
 const ClassPage& pageOf(int verbClass);
 
-/// The form of a person, 1 to 6, in a row.
-shell::FormParts partsOf(const EndingRow& row, int person, const VerbStems& stems);
+/// The stem of a row.
+std::string_view stemFor(Stem stem, const VerbStems& stems);
+
+/// A form of a row: none where the row has no ending.
+constexpr shell::FormParts partsOf(std::string_view stem, std::string_view ending)
+{
+    return ending.empty() ? shell::FormParts() : shell::FormParts{stem, ending};
+}
 
 /// Whether the singular of a verb's imperative is its bare present stem.
 bool hasBareImperative(int verbClass, std::string_view presentStem);
