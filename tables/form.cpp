@@ -12,13 +12,20 @@ Form formOf(const shell::FormParts& parts)
     return form;
 }
 
+std::string withoutMarks(std::string_view text)
+{
+    std::string letters(text);
+    std::erase(letters, shell::LengthMark);
+    return letters;
+}
+
 Form asShown(const Form& form)
 {
     if (shell::settings.ShowVowelLength == platform::FlagTrue)
         return form;
     Form shown{.text = shell::StripOutColons(form.stem())};
     shown.endingAt = shown.text.size();
-    shell::appendMarked(shown.text, form.ending(), "");
+    shown.text += withoutMarks(form.ending());
     return shown;
 }
 

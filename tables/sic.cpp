@@ -2,7 +2,6 @@
 
 #include "nouns/noun_endings.h"
 #include "nouns/noun_forms.h"
-#include "shell/vowel_marks.h"
 #include "tables/noun_table.h"
 #include "verbs/paradigm.h"
 
@@ -122,13 +121,6 @@ constexpr std::array Nouns = {
 // clang-format on
 
 constexpr char AnyBefore = '-';
-
-std::string withoutMarks(std::string_view text)
-{
-    std::string plain(text);
-    std::erase(plain, shell::LengthMark);
-    return plain;
-}
 
 bool isFor(std::string_view rowStem, std::string_view stem)
 {

@@ -15,12 +15,11 @@ namespace tables {
 
 namespace {
 
-constexpr shell::LanguageTexts IrregularVerbs =
-    shell::englishToo("Irregular Verbs", "Unregelmäßige Verben", "Verbos irregulares", "Verba Anomala");
-
-// In the languages that title the pronoun drill, and in the two that do not.
-constexpr shell::LanguageTexts Pronouns = {"Pronouns", "Pronoms",    "Pronomi",
-                                           "Pronomen", "Pronombres", "Pronomina"};
+// clang-format off
+//                                              English            French                 Italian             German                  Spanish               Latin
+constexpr shell::LanguageTexts IrregularVerbs {"Irregular Verbs", "Verbes irréguliers", "Verbi irregolari", "Unregelmäßige Verben", "Verbos irregulares", "Verba Anomala"};
+constexpr shell::LanguageTexts Pronouns       {"Pronouns",        "Pronoms",            "Pronomi",          "Pronomen",             "Pronombres",         "Pronomina"};
+// clang-format on
 
 WordGroup verbsOf(int verbClass)
 {
@@ -104,6 +103,16 @@ Form nameOf(const Word& word)
         break;
     }
     return formOf({.stem = pronounRow(word).latin.value_or(""), .ending = {}});
+}
+
+std::optional<Word> wordShownAs(WordKind kind, int paradigm, std::string_view name)
+{
+    const std::string letters = withoutMarks(name);
+    for (const WordGroup& group : listedWords())
+        for (const Word& word : group.words)
+            if (word.kind == kind && word.paradigm == paradigm && withoutMarks(nameOf(word).text) == letters)
+                return word;
+    return {};
 }
 
 std::string listedName(const Word& word)

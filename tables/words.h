@@ -2,7 +2,9 @@
 
 #include "tables/form.h"
 
+#include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tables {
@@ -34,6 +36,10 @@ std::vector<WordGroup> listedWords();
 
 /// A verb's infinitive, a noun's nominative, the pronouns of a group: "is-ea-id".
 Form nameOf(const Word& word);
+
+/// The listed word that a drill or quiz shows: its class or paradigm, and the verb's infinitive or the noun's
+/// nominative, whatever its marks. Of several the first; none where the list has it no more.
+std::optional<Word> wordShownAs(WordKind kind, int paradigm, std::string_view name);
 
 /// How a word is listed, with its marks as they are shown: a verb by its infinitive, a noun by its nominative
 /// and its note, "puella (f. -ae)", pronouns by the row of their chooser, "is-ea-id (this/that

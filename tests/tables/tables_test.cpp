@@ -55,14 +55,6 @@ std::vector<Word> allWords()
     return words;
 }
 
-Word wordNamed(WordKind kind, int paradigm, const std::string& name)
-{
-    const auto words = allWords();
-    return *std::ranges::find_if(words, [&](const Word& word) {
-        return word.kind == kind && word.paradigm == paradigm && nameOf(word).text == name;
-    });
-}
-
 // All forms with a blank between them, as a page has them.
 std::string formsIn(const Word& word)
 {
@@ -80,11 +72,11 @@ TEST_F(Tables, ShowThePagesOfAGrammarWithAllMarksWhateverIsShown)
         for (int form = 0; form < FormCount; ++form)
             if (const auto text = tests::formOf(verb, form / 6 + 1, form % 6 + 1); !text.empty())
                 page += text + " ";
-        EXPECT_EQ(formsIn(wordNamed(Verb, verb.verbClass, verb.infinitive)), page);
+        EXPECT_EQ(formsIn(*wordShownAs(Verb, verb.verbClass, verb.infinitive)), page);
     }
     for (const auto& [paradigm, forms, number] : tests::DeclensionPages) {
         const std::string page = std::regex_replace(forms + " ", std::regex(" +"), " ");
-        EXPECT_EQ(formsIn(wordNamed(Noun, paradigm, page.substr(0, page.find(' ')))), page);
+        EXPECT_EQ(formsIn(*wordShownAs(Noun, paradigm, page.substr(0, page.find(' ')))), page);
     }
     for (int group = 0; const auto& [heading, singular, plural] : tests::PronounPages) {
         std::string page;
@@ -195,7 +187,7 @@ TEST_F(Tables, KnowWhereAGrammarHasAnotherForm)
     addNoun(SecondDeclensionEr, {.note = "m. -i", .stem = "pu", .obliqueStem = {}, .meanings = {}});
     for (const auto& [kind, paradigm, name, expected] : Sic) {
         std::string sics;
-        for (const auto& [form, grammars] : tableOf(wordNamed(kind, paradigm, name)))
+        for (const auto& [form, grammars] : tableOf(*wordShownAs(kind, paradigm, name)))
             if (grammars)
                 sics += (sics.empty() ? "" : " ") + form.text + ">" + *grammars;
         EXPECT_EQ(sics, expected) << name;
@@ -235,12 +227,6 @@ TEST_F(Tables, FindWhatAFormCanBeInTheWordsOfTheQuizzes)
     editVerb(FirstConjugation, 13, {"cla:m", "cla:ma:v", "cla:ma:t", {}});
     EXPECT_EQ(found(listed.index(), "clāmā"),
               "cla:ma:: cla:ma:re, 2. Person Sing., 1. Konjugation, Imperativ\n");
-}
-
-std::string withoutMarks(std::string text)
-{
-    std::erase(text, ':');
-    return text;
 }
 
 // The letters behind which a mark stands.
