@@ -1,6 +1,7 @@
 #include "nouns/declension_drill.h"
 
 #include "nouns/case_order.h"
+#include "nouns/chooser_rows.h"
 #include "nouns/declensions.h"
 #include "nouns/noun_tables.h"
 #include "platform/random.h"
@@ -14,14 +15,6 @@ namespace nouns {
 using shell::settings;
 
 namespace {
-
-constexpr std::array ParadigmOfRow = {
-    FirstDeclension,        SecondDeclensionUs,     SecondDeclensionEr,
-    SecondDeclensionNeuter, ThirdDeclension,        ThirdDeclensionNeuter,
-    FourthDeclension,       FourthDeclensionNeuter, FifthDeclension,
-};
-
-static_assert(ParadigmOfRow.size() == ParadigmCount);
 
 void ask(int box)
 {
@@ -62,7 +55,7 @@ bool chooseDeclension(int row)
     if (row < 0 || row >= ParadigmCount)
         return false;
     declensionDrill.DrillParadigm =
-        static_cast<std::int16_t>(ParadigmOfRow.at(static_cast<std::size_t>(row)));
+        static_cast<std::int16_t>(OfferedParadigms.at(static_cast<std::size_t>(row)));
     return true;
 }
 

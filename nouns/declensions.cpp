@@ -2,6 +2,7 @@
 
 #include "nouns/fixed_nouns.h"
 #include "nouns/noun_endings.h"
+#include "nouns/noun_forms.h"
 #include "nouns/noun_headings.h"
 #include "nouns/noun_tables.h"
 #include "platform/random.h"
@@ -96,24 +97,17 @@ int drawThirdDeclension()
     return number;
 }
 
-void setEndings(int paradigm)
+void setEndings(int paradigm, int number)
 {
-    int inCase = NominativeSingular;
-    for (const std::string_view ending : EndingTable.at(static_cast<std::size_t>(paradigm - 1)).endings)
-        setMarked(nounTables.NounEndings[paradigm][inCase++], ending);
-}
-
-void setExceptions(int paradigm, int number)
-{
-    for (const ExceptionalNouns& nouns : ExceptionTable)
-        if (nouns.hold(paradigm, number))
-            for (const auto& [inCase, ending] : nouns.exceptions)
-                setMarked(nounTables.NounEndings[paradigm][inCase], ending);
+    for (int inCase = NominativeSingular; inCase <= CaseCount; ++inCase)
+        setMarked(nounTables.NounEndings[paradigm][inCase], endingOf(paradigm, number, inCase));
 }
 
 void setErEndings(int numberOfUs)
 {
-    setEndings(SecondDeclensionEr);
+    for (int inCase = NominativeSingular; inCase <= CaseCount; ++inCase)
+        setMarked(nounTables.NounEndings[SecondDeclensionEr][inCase],
+                  endingOnPage(SecondDeclensionEr, inCase));
     if (numberOfUs > ErInfixCount)
         return;
     const std::string& infix = nounTables.ErInfix[numberOfUs - 1]; // sic: by the noun in -us
@@ -137,13 +131,10 @@ void takeObliqueStem(int paradigm, int number)
         nounTables.NounObliqueStem[paradigm].clear();
 }
 
-// The nominative, and the neuter's accusative, of the third declension stand whole in the list.
 const std::string& stemOf(int paradigm, int inCase)
 {
-    const bool fromObliqueStem =
-        (paradigm == ThirdDeclension && inCase != NominativeSingular) ||
-        (paradigm == ThirdDeclensionNeuter && inCase != NominativeSingular && inCase != AccusativeSingular);
-    return fromObliqueStem ? nounTables.NounObliqueStem[paradigm] : nounTables.NounStem[paradigm];
+    return hasObliqueStem(paradigm, inCase) ? nounTables.NounObliqueStem[paradigm]
+                                            : nounTables.NounStem[paradigm];
 }
 
 void buildForms(int paradigm)
@@ -168,21 +159,19 @@ int takeNounOf(const ListedCaption& caption)
 void buildFirst()
 {
     const int number = takeNounOf(FirstCaption);
-    setEndings(FirstDeclension);
-    setExceptions(FirstDeclension, number);
+    setEndings(FirstDeclension, number);
     buildForms(FirstDeclension);
 }
 
 void buildSecond()
 {
     const int numberOfUs = takeNounOf(SecondUsCaption);
-    setEndings(SecondDeclensionUs);
+    setEndings(SecondDeclensionUs, numberOfUs);
     setErEndings(numberOfUs);
     buildForms(SecondDeclensionUs);
     takeNounOf(SecondErCaption);
     buildForms(SecondDeclensionEr);
-    takeNounOf(SecondNeuterCaption);
-    setEndings(SecondDeclensionNeuter);
+    setEndings(SecondDeclensionNeuter, takeNounOf(SecondNeuterCaption));
     buildForms(SecondDeclensionNeuter);
 }
 
@@ -190,8 +179,7 @@ void takeThird(int paradigm, int number)
 {
     takeListedNoun(paradigm, number);
     takeObliqueStem(paradigm, number);
-    setEndings(paradigm);
-    setExceptions(paradigm, number);
+    setEndings(paradigm, number);
     buildForms(paradigm);
 }
 
@@ -225,7 +213,7 @@ void takeFixedNoun(int paradigm, const FixedNouns& fixed, int number)
     const auto index = static_cast<std::size_t>(number - 1);
     setMarked(nounTables.NounStem[paradigm], index < fixed.nouns.size() ? fixed.nouns[index].stem : "");
     nounTables.NounCaption[paradigm] = nounTables.NounCaptionList[paradigm][number];
-    setEndings(paradigm);
+    setEndings(paradigm, number);
     buildForms(paradigm);
 }
 

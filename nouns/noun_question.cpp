@@ -1,5 +1,6 @@
 #include "nouns/noun_question.h"
 
+#include "nouns/case_names.h"
 #include "nouns/declensions.h"
 #include "nouns/noun_tables.h"
 #include "platform/random.h"
@@ -53,8 +54,6 @@ constexpr std::array<OneForm, ParadigmCount> OneFormTable = {{
 
 static_assert(!OneFormTable.back().plural.empty());
 
-constexpr std::array CaseWords = {" Nominative", " Genitive", " Dative", " Accusative", " Ablative"};
-
 // Appends the words of five cases, from the one with this index, behind the name of their number; nothing
 // where none is set.
 void appendCases(std::string& text, std::string_view number, int first)
@@ -66,7 +65,7 @@ void appendCases(std::string& text, std::string_view number, int first)
     text += number;
     for (int i = 0; i < CasesOfNumber; ++i)
         if (cases[first + i] == FlagTrue)
-            text += CaseWords.at(static_cast<std::size_t>(i));
+            text.append(" ").append(CaseNames.at(static_cast<std::size_t>(i)));
 }
 
 } // namespace
@@ -131,8 +130,8 @@ std::string nounQuizScore()
 std::string rightCasesInWords()
 {
     std::string text;
-    appendCases(text, "singular", NominativeIndex); // sic: a small letter
-    appendCases(text, " Plural", CasesOfNumber);
+    appendCases(text, SingularName, NominativeIndex);
+    appendCases(text, " " + std::string(PluralName), CasesOfNumber); // sic: a blank, even in front of all
     return text;
 }
 

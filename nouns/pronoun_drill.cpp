@@ -67,20 +67,13 @@ void beginNumber(Case firstCase)
 
 void BuildPronounForms()
 {
-    int firstColumn = 1;
-    for (const PronounPage& page : PronounPages) {
-        int inCase = NominativeSingular;
-        for (const auto& row : page) {
-            int column = firstColumn;
-            for (const std::string_view form : row) {
-                std::string& built = pronounDrill.PronounForms[column++][inCase];
-                built.clear();
-                shell::appendMarked(built, form, settings.VowelMark);
-            }
-            ++inCase;
+    for (int column = 0; column < PronounColumnCount; ++column)
+        for (int inCase = NominativeSingular; inCase <= CaseCount; ++inCase) {
+            std::string& built = pronounDrill.PronounForms[column + 1][inCase];
+            built.clear();
+            shell::appendMarked(built, pronounForm(column / ColumnsOfGroup, column % ColumnsOfGroup, inCase),
+                                settings.VowelMark);
         }
-        firstColumn += ColumnsOfGroup;
-    }
 }
 
 bool choosePronouns(int row)

@@ -100,4 +100,12 @@ inline constexpr PronounPage QuiQuaeQuod = {{
 /// The groups in the order of the chooser.
 inline constexpr std::array PronounPages = {EgoTuSe, IsEaId, HicHaecHoc, IlleIllaIllud, QuiQuaeQuod};
 
+/// The form of a group, 0 to 4, in a column, 0 to 2, in a case, 1 to 10; empty where there is none.
+constexpr std::string_view pronounForm(int group, int column, int inCase)
+{
+    const PronounPage& page = PronounPages.at(static_cast<std::size_t>(group));
+    return page.at(static_cast<std::size_t>(inCase - NominativeSingular))
+        .at(static_cast<std::size_t>(column));
+}
+
 } // namespace nouns

@@ -6,28 +6,9 @@
 #include "verbs/paradigm_titles.h"
 #include "verbs/verb_tables.h"
 
-#include <array>
-
 namespace verbdrills {
 
 using verbs::currentParadigm;
-
-namespace {
-
-constexpr std::array ClassOfRow = {
-    verbs::FirstConjugation,
-    verbs::SecondConjugation,
-    verbs::ThirdConjugation,
-    verbs::ThirdIoConjugation,
-    verbs::FourthConjugation,
-    verbs::Esse,
-    verbs::Velle,
-    verbs::Ferre,
-};
-
-static_assert(ClassOfRow.size() == SingleTenseRow);
-
-} // namespace
 
 void beginConjugationChoice()
 {
@@ -46,7 +27,7 @@ ConjugationChoice chooseConjugation(int row)
     }
     if (row < 0 || row > SingleTenseRow)
         return ConjugationChoice::None;
-    currentParadigm.ConjugationCode = ClassOfRow.at(static_cast<std::size_t>(row));
+    currentParadigm.ConjugationCode = OfferedClasses.at(static_cast<std::size_t>(row));
     return ConjugationChoice::Paradigm;
 }
 

@@ -2,12 +2,26 @@
 
 #include "verbs/paradigm.h"
 
+#include <array>
+
 namespace verbdrills {
 
 /// Rows of the conjugation chooser: the classes as a grammar lists them, the -io verbs before the fourth
 /// conjugation, and at last the row that leads to the tenses.
 inline constexpr int ConjugationRowCount = 9;
 inline constexpr int SingleTenseRow = 8;
+inline constexpr std::array OfferedClasses = {
+    verbs::FirstConjugation,
+    verbs::SecondConjugation,
+    verbs::ThirdConjugation,
+    verbs::ThirdIoConjugation,
+    verbs::FourthConjugation,
+    verbs::Esse,
+    verbs::Velle,
+    verbs::Ferre,
+};
+
+static_assert(OfferedClasses.size() == SingleTenseRow);
 
 /// What showing the conjugation chooser sets back: a whole class is to be drilled, from its first form.
 void beginConjugationChoice();

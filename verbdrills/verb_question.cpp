@@ -12,14 +12,23 @@ constexpr int PersonsOfNumber = 3;
 
 } // namespace
 
+Identification identificationOf(int verbClass, int formNumber)
+{
+    const int formInBlock = (formNumber - 1) % verbs::PersonCount + 1;
+    const bool plural = formInBlock > PersonsOfNumber;
+    return {.classRow = verbClass - verbs::FirstConjugation,
+            .tenseRow = (formNumber - 1) / verbs::PersonCount,
+            .person = plural ? formInBlock - PersonsOfNumber : formInBlock,
+            .number = plural ? quiz_number::Plural : quiz_number::Sing};
+}
+
 void identifyForm()
 {
-    const int formInBlock = (verbQuiz.QuizRow - 1) % verbs::PersonCount + 1;
-    const bool plural = formInBlock > PersonsOfNumber;
-    verbQuiz.QuizNumber = plural ? quiz_number::Plural : quiz_number::Sing;
-    verbQuiz.QuizPerson = static_cast<std::int16_t>(plural ? formInBlock - PersonsOfNumber : formInBlock);
+    const Identification form = identificationOf(verbQuiz.QuizConjugation, verbQuiz.QuizRow);
+    verbQuiz.QuizNumber = form.number;
+    verbQuiz.QuizPerson = static_cast<std::int16_t>(form.person);
     verbQuiz.QuizAnswerConjugation = verbQuiz.QuizConjugation;
-    verbQuiz.QuizAnswerTense = static_cast<std::int16_t>((verbQuiz.QuizRow - 1) / verbs::PersonCount);
+    verbQuiz.QuizAnswerTense = static_cast<std::int16_t>(form.tenseRow);
 }
 
 Identification rightIdentification()

@@ -63,6 +63,9 @@ struct Identification {
     bool operator==(const Identification&) const = default;
 };
 
+/// What the form of a class, 1 to 8, with a number, 1 to 126, is.
+Identification identificationOf(int verbClass, int formNumber);
+
 /// Works out from `QuizConjugation` and `QuizRow`, 1 to 126, what the form is.
 void identifyForm();
 

@@ -2,48 +2,35 @@
 
 #include "shell/settings.h"
 #include "shell/vowel_marks.h"
+#include "verbs/verb_forms.h"
 #include "verbs/verb_tables.h"
 
 namespace verbs {
 
 namespace {
 
-std::string_view stemFor(Stem stem, const VerbStems& stems)
-{
-    switch (stem) {
-    case Stem::Present:
-        return stems.present;
-    case Stem::Perfect:
-        return stems.perfect;
-    case Stem::Supine:
-        return stems.supine;
-    case Stem::None:
-        break;
-    }
-    return {};
-}
-
 // The form's own string is built in place: it keeps its memory from verb to verb.
-void buildForm(std::string& form, std::string_view stem, std::string_view ending, std::string_view mark)
+void buildForm(std::string& form, const shell::FormParts& parts, std::string_view mark)
 {
     form.clear();
-    if (ending.empty())
+    if (!parts.exist())
         return;
-    form += stem;
-    shell::appendMarked(form, ending, mark);
+    form += parts.stem;
+    shell::appendMarked(form, parts.ending, mark);
 }
 
 } // namespace
 
-void buildForms(VerbClass verbClass, const VerbStems& stems, std::span<const EndingRow> rows)
+void buildForms(VerbClass verbClass, const VerbStems& stems)
 {
     auto& column = verbTables.Forms[verbClass];
-    for (const EndingRow& row : rows) {
-        const std::string_view stem = stemFor(row.stem, stems);
-        int form = formNumber(row.block, FirstSingular);
-        for (const std::string_view ending : row.endings)
-            buildForm(column[form++], stem, ending, shell::settings.VowelMark);
-    }
+    for (const auto& rows : pageOf(verbClass).rows)
+        for (const EndingRow& row : rows) {
+            const std::string_view stem = stemFor(row.stem, stems);
+            int form = formNumber(row.block, FirstSingular);
+            for (const std::string_view ending : row.endings)
+                buildForm(column[form++], partsOf(stem, ending), shell::settings.VowelMark);
+        }
 }
 
 } // namespace verbs

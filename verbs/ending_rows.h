@@ -3,7 +3,6 @@
 #include "verbs/paradigm.h"
 
 #include <array>
-#include <span>
 #include <string_view>
 
 namespace verbs {
@@ -26,8 +25,8 @@ struct VerbStems {
     std::string_view supine;
 };
 
-/// Writes the forms of these rows into the class's column of `verbTables.Forms`, with `VowelMark` in place of
-/// every colon of an ending.
-void buildForms(VerbClass verbClass, const VerbStems& stems, std::span<const EndingRow> rows);
+/// Writes the forms of a class's page into its column of `verbTables.Forms`, with `VowelMark` in place of
+/// every colon of an ending. The stems stand as they are given.
+void buildForms(VerbClass verbClass, const VerbStems& stems);
 
 } // namespace verbs

@@ -39,7 +39,7 @@ inline constexpr std::array<EndingRow, 11> FerreForms = {{
     {ImperfectSubjunctive,           Stem::None,    {"ferrem",   "ferre:s",    "ferret",     "ferre:mus",   "ferre:tis",    "ferrent"}},
     {Imperative,                     Stem::None,    {"",         "fer",        "",           "",            "ferte",        ""}},
     {PassivePresentIndicative,       Stem::None,    {"feror",    "ferris",     "fertur",     "ferimur",     "ferimini:",    "feruntur"}},
-    {PassiveImperfectIndicative,     Stem::None,    {"ferebar",  "fereba:ris", "fereba:tur", "fereba:mur",  "fereba:mini:", "ferebantur"}}, // sic: ferebar, ferebantur
+    {PassiveImperfectIndicative,     Stem::None,    {"ferebar",  "fereba:ris", "fereba:tur", "fereba:mur",  "fereba:mini:", "ferebantur"}}, // sic: but fere:bam
     {PassiveFutureIndicative,        Stem::None,    {"ferar",    "fere:ris",   "fere:tur",   "fere:mur",    "fere:mini:",   "ferentur"}},
     {PassivePresentSubjunctive,      Stem::None,    {"ferar",    "fera:ris",   "fera:tur",   "fera:mur",    "fera:mini:",   "ferantur"}},
     {PassiveImperfectSubjunctive,    Stem::None,    {"ferrer",   "ferre:ris",  "ferre:tur",  "ferre:mur",   "ferre:mini:",  "ferrentur"}},

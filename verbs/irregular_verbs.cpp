@@ -1,10 +1,11 @@
 #include "shell/settings.h"
 #include "shell/vowel_marks.h"
+#include "verbs/ending_rows.h"
 #include "verbs/generators.h"
-#include "verbs/irregular_forms.h"
-#include "verbs/shared_endings.h"
+#include "verbs/verb_forms.h"
 #include "verbs/verb_tables.h"
 
+#include <array>
 #include <optional>
 
 namespace verbs {
@@ -22,11 +23,6 @@ struct Glosses {
 
 struct IrregularVerb {
     VerbClass verbClass;
-    std::string_view infinitive;
-    std::string_view perfect;
-    std::string_view supine;
-    std::span<const EndingRow> forms;
-    std::span<const EndingRow> compounds;
     TenseBlock lastTense;
     Glosses english;
     Glosses german;
@@ -34,12 +30,12 @@ struct IrregularVerb {
 
 // clang-format off
 constexpr std::array<IrregularVerb, 3> Verbs = {{
-    //               perfect supine  present system  compounds       last tense
-    {Esse,  "esse",  "fu",   "",     EsseForms,  {},                 Imperative,
+    //      last tense
+    {Esse,  Imperative,
      {"be",   "was",    "been",   "being",   {}}, {"bin",  "war",    "gewesen",  {},      {}}},
-    {Velle, "velle", "volu", "",     VelleForms, {},                 PluperfectSubjunctive,
+    {Velle, PluperfectSubjunctive,
      {"want", "wanted", "wanted", "wanting", {}}, {"woll", "wollte", "gewollt",  {},      {}}},
-    {Ferre, "ferre", "tul",  "la:t", FerreForms, MasculineCompounds, PassivePluperfectSubjunctive,
+    {Ferre, PassivePluperfectSubjunctive,
      {"bear", "bore",   "borne",  "bearing", {}}, {"trag", "trug",   "getragen", "trüge", "träg"}},
 }};
 // clang-format on
@@ -69,13 +65,12 @@ void setGlossesInLanguage(const IrregularVerb& verb)
 
 void buildVerb(const IrregularVerb& verb)
 {
+    const auto& [verbClass, infinitive, stems, rows] = pageOf(verb.verbClass);
     std::string supine;
-    shell::appendMarked(supine, verb.supine, shell::settings.VowelMark);
-    const VerbStems stems = {.present = {}, .perfect = verb.perfect, .supine = supine};
-    for (const auto& rows : {verb.forms, std::span<const EndingRow>(PerfectSystem), verb.compounds})
-        buildForms(verb.verbClass, stems, rows);
-    verbTables.Infinitive[verb.verbClass] = verb.infinitive;
-    verbTables.TenseCount[verb.verbClass] = verb.lastTense;
+    shell::appendMarked(supine, stems.supine, shell::settings.VowelMark);
+    buildForms(verbClass, {stems.present, stems.perfect, supine});
+    verbTables.Infinitive[verbClass] = infinitive;
+    verbTables.TenseCount[verbClass] = verb.lastTense;
     setGlossesInLanguage(verb);
 }
 

@@ -19,6 +19,12 @@ enum VerbClass : std::int16_t {
 inline constexpr int LastRegularClass = ThirdIoConjugation;
 inline constexpr int LastClass = Ferre;
 
+/// Whether a class has a list of verbs; the others are one irregular verb each.
+constexpr bool isRegular(int verbClass)
+{
+    return verbClass <= LastRegularClass;
+}
+
 /// Tense/mood blocks in the program's order. Without a voice in the name: active.
 enum TenseBlock : std::int16_t {
     PresentIndicative = 1,

@@ -1,17 +1,14 @@
 #include "platform/random.h"
 #include "shell/settings.h"
 #include "shell/vowel_marks.h"
-#include "verbs/first_conjugation.h"
-#include "verbs/fourth_conjugation.h"
+#include "verbs/ending_rows.h"
 #include "verbs/generators.h"
-#include "verbs/second_conjugation.h"
-#include "verbs/shared_endings.h"
-#include "verbs/third_conjugation.h"
-#include "verbs/third_io_conjugation.h"
+#include "verbs/verb_forms.h"
 #include "verbs/verb_list.h"
 #include "verbs/verb_tables.h"
 
-#include <algorithm>
+#include <array>
+#include <span>
 
 namespace verbs {
 
@@ -22,9 +19,6 @@ enum class Gloss { German, None };
 
 struct RegularClass {
     VerbClass verbClass;
-    std::string_view infinitive;
-    std::span<const EndingRow> endings;
-    std::span<const EndingRow> compounds;
     Draw draw;
     Gloss gloss;
 
@@ -46,7 +40,7 @@ void noteVerb(int number)
 void shortenImperative(int number)
 {
     const std::string& stem = verbList.PresentStem[ThirdConjugation][number];
-    if (std::ranges::find(StemsWithBareImperative, stem) != StemsWithBareImperative.end())
+    if (hasBareImperative(ThirdConjugation, stem))
         verbTables.Forms[ThirdConjugation][formNumber(Imperative, SecondSingular)] = stem;
 }
 
@@ -60,12 +54,12 @@ void correctGermanList(int /*number*/)
 // clang-format off
 // In the order in which their verbs are drawn.
 constexpr std::array<RegularClass, LastRegularClass> Classes = {{
-    //                   infinitive                         compounds           draw          gloss          counted            besides
-    {FirstConjugation,   "a:re", FirstConjugationEndings,   {},                 Draw::Seeded, Gloss::None,   FirstConjugation,  setNothing},
-    {SecondConjugation,  "e:re", SecondConjugationEndings,  {},                 Draw::Seeded, Gloss::German, SecondConjugation, noteVerb},
-    {ThirdConjugation,   "ere",  ThirdConjugationEndings,   MasculineCompounds, Draw::Seeded, Gloss::German, ThirdConjugation,  shortenImperative},
-    {ThirdIoConjugation, "ere",  ThirdIoConjugationEndings, MasculineCompounds, Draw::GoesOn, Gloss::German, FourthConjugation, setNothing}, // sic
-    {FourthConjugation,  "i:re", FourthConjugationEndings,  MasculineCompounds, Draw::GoesOn, Gloss::German, FourthConjugation, correctGermanList},
+    //                   draw          gloss          counted            besides
+    {FirstConjugation,   Draw::Seeded, Gloss::None,   FirstConjugation,  setNothing},
+    {SecondConjugation,  Draw::Seeded, Gloss::German, SecondConjugation, noteVerb},
+    {ThirdConjugation,   Draw::Seeded, Gloss::German, ThirdConjugation,  shortenImperative},
+    {ThirdIoConjugation, Draw::GoesOn, Gloss::German, FourthConjugation, setNothing}, // sic
+    {FourthConjugation,  Draw::GoesOn, Gloss::German, FourthConjugation, correctGermanList},
 }};
 // clang-format on
 
@@ -84,7 +78,7 @@ void takeVerb(const RegularClass& row, int number)
 
     std::string& infinitive = verbTables.Infinitive[verbClass];
     infinitive = present;
-    shell::appendMarked(infinitive, row.infinitive, shell::settings.VowelMark);
+    shell::appendMarked(infinitive, pageOf(verbClass).infinitive, shell::settings.VowelMark);
 
     const int place = number - 1;
     verbTables.BaseGloss[verbClass] = verbList.BaseForm[verbClass][place];
@@ -93,13 +87,10 @@ void takeVerb(const RegularClass& row, int number)
     verbTables.PresentParticipleGloss[verbClass] = verbList.PresentParticiple[verbClass][place];
 }
 
-void buildClassForms(const RegularClass& row, int number)
+void buildClassForms(VerbClass verbClass, int number)
 {
-    const VerbClass verbClass = row.verbClass;
-    const VerbStems stems = {verbList.PresentStem[verbClass][number], verbList.PerfectStem[verbClass][number],
-                             verbList.SupineStem[verbClass][number]};
-    for (const auto& rows : {row.endings, std::span<const EndingRow>(PerfectSystem), row.compounds})
-        buildForms(verbClass, stems, rows);
+    buildForms(verbClass, {verbList.PresentStem[verbClass][number], verbList.PerfectStem[verbClass][number],
+                           verbList.SupineStem[verbClass][number]});
 }
 
 // A class without verbs is drawn as number 1.
@@ -109,7 +100,7 @@ void buildClass(const RegularClass& row)
         platform::seedFromClock();
     const int number = platform::draw(verbList.Count[row.verbClass]) + 1;
     takeVerb(row, number);
-    buildClassForms(row, number);
+    buildClassForms(row.verbClass, number);
     row.besides(number);
     if (row.gloss == Gloss::German && shell::settings.CurrentLanguage == shell::language::German)
         verbTables.GermanGloss[row.verbClass - 1] = verbList.German[row.verbClass][number - 1];

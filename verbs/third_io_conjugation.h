@@ -20,7 +20,7 @@ inline constexpr std::array<EndingRow, 11> ThirdIoConjugationEndings = {{
     {PassivePresentIndicative,       Stem::Present, {"ior",    "eris",      "itur",      "imur",      "imini:",      "iuntur"}},
     {PassiveImperfectIndicative,     Stem::Present, {"ie:bar", "ie:ba:ris", "ie:ba:tur", "ie:ba:mur", "ie:ba:mini:", "ie:bantur"}},
     {PassiveFutureIndicative,        Stem::Present, {"iar",    "ie:ris",    "ie:tur",    "ie:mur",    "ie:mini:",    "ientur"}},
-    {PassivePresentSubjunctive,      Stem::Present, {"iar",    "ia:ris",    "ia:tur",    "ia:mur",    "ia:mini:",    "ia:ntur"}},
+    {PassivePresentSubjunctive,      Stem::Present, {"iar",    "ia:ris",    "ia:tur",    "ia:mur",    "ia:mini:",    "ia:ntur"}}, // sic
     {PassiveImperfectSubjunctive,    Stem::Present, {"erer",   "ere:ris",   "ere:tur",   "ere:mur",   "ere:mini:",   "erentur"}},
 }};
 

@@ -1,15 +1,9 @@
 #pragma once
 
+#include "nouns/case_names.h"
 #include "shell/language_texts.h"
 
-#include <array>
-#include <string_view>
-
 namespace nouns {
-
-/// The names of the cases, from the nominative to the ablative, as windows label their rows.
-inline constexpr std::array<std::string_view, 5> CaseNames = {"Nominative", "Genitive", "Dative",
-                                                              "Accusative", "Ablative"};
 
 // clang-format off
 //                                          English           French             Italian           German            Spanish          Latin

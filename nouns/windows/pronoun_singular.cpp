@@ -1,6 +1,7 @@
 #include "nouns/windows/pronoun_singular.h"
 
 #include "nouns/case_order.h"
+#include "nouns/pronoun_columns.h"
 #include "nouns/windows/case_names.h"
 #include "shell/kit/answer_box.h"
 #include "shell/kit/captions.h"
@@ -42,27 +43,11 @@ constexpr std::array<LanguageTexts, PronounGroupCount> Headings = {{
     LanguageTexts{"Demonstratives: ille-illa-illud (that)", {},     {},      "Demonstrative Pronomen: ille-illa-illud (jener)", "Pronombres demostrativos: ille-illa-illud (aquél)",   "Pronomina Demonstrativa: ille-illa-illud"},
     LanguageTexts{"Relatives: qui-quae-quod (who/which)",   {},     {},      "Relative Pronomen: qui-quae-quod (derjeniger)",   "Pronombres relativos: qui-quae-quod (quien/el cual)", "Pronomina Relativa: qui-quae-quod"},
 }};
-
-using ColumnTexts = std::array<std::string_view, ColumnsOfGroup>;
-constexpr ColumnTexts SingularPersons = {"1 Pers. Sing.", "2 Pers. Sing.", "3 Pers. Sing."};
-constexpr ColumnTexts PluralPersons   = {"1 Pers. Plur.", "2 Pers. Plur.", "3 Pers. Plur."};
-constexpr ColumnTexts SingularGenders = {"Masc. Sing.",   "Fem. Sing.",    "Neut. Sing."};
-constexpr ColumnTexts PluralGenders   = {"Masc. Plur.",   "Fem. Plur.",    "Neut. Plur."};
 // clang-format on
 
 constexpr std::array ColumnLabels = {"ColumnLabel1", "ColumnLabel2", "ColumnLabel3"};
 constexpr std::array CaseLabels = {"NominativeLabel", "GenitiveLabel", "DativeLabel", "AccusativeLabel",
                                    "AblativeLabel"};
-
-constexpr int PersonalGroup = 0;
-
-const ColumnTexts& columnTexts()
-{
-    const bool singular = pronounDrill.FirstCase == NominativeSingular;
-    if (pronounDrill.Group == PersonalGroup)
-        return singular ? SingularPersons : PluralPersons;
-    return singular ? SingularGenders : PluralGenders;
-}
 
 } // namespace
 
@@ -131,7 +116,8 @@ void PronounSingular::open()
 void PronounSingular::showNumber()
 {
     for (std::size_t i = 0; i < columns_.size(); ++i)
-        columns_.at(i)->setText(shell::fromUtf8(columnTexts().at(i)));
+        columns_.at(i)->setText(
+            shell::fromUtf8(columnTexts(pronounDrill.Group, pronounDrill.FirstCase).at(i)));
     for (std::size_t i = 0; i < boxes().size(); ++i) {
         boxes().at(i)->setEnabled(!pronounFormAt(static_cast<int>(i) + 1).empty());
         boxes().at(i)->setAccessibleName(cases_.at(i % CasesOfNumber)->text() + QLatin1Char(' ') +

@@ -6,6 +6,7 @@
 #include "nouns/noun_tables.h"
 #include "nouns/pronoun_drill.h"
 #include "shell/settings.h"
+#include "tests/nouns/pronoun_pages.h"
 #include "tests/support/window_test.h"
 #include "verbdrills/conjugation_drill.h"
 #include "verbdrills/verb_question.h"
@@ -484,33 +485,11 @@ TEST_F(EveryDrill, StandsInItsPlaceWithTheJudgementAndTheHelpBesideIt)
     answer(drill, "x");
 }
 
-// clang-format off
-// Heading, singular, plural, column by column: nominative, genitive, dative, accusative, ablative. The reflexive has
-// no nominative.
-constexpr std::array<const char*, 3> Grammar[] = {
-    {"Personal Pronouns: ego, tu, ***",
-     "ego mei: mihi me: me: tu: tui: tibi te: te: sui: sibi se: se:",
-     "no:s nostri: no:bi:s no:s no:bi:s vo:s vestri: vo:bi:s vo:s vo:bi:s sui: sibi se: se:"},
-    {"Demonstratives: is-ea-id (this/that)",
-     "is eius ei: eum eo: ea eius ei: eam ea: id eius ei: id eo:",
-     "ii: eo:rum ii:s eo:s ii:s eae ea:rum ii:s ea:s ii:s ea eo:rum ii:s ea ii:s"},
-    {"Demonstratives: hic-haec-hoc (this)",
-     "hic huius huic hunc ho:c haec huius huic hanc ha:c hoc huius huic hoc ho:c",
-     "hi: ho:rum hi:s ho:s hi:s hae ha:rum hi:s ha:s hi:s haec ho:rum hi:s haec hi:s"},
-    {"Demonstratives: ille-illa-illud (that)",
-     "ille illi:us illi: illum illo: illa illi:us illi: illam illa: illud illi:us illi: illud illo:",
-     "illi: illo:rum illi:s illo:s illi:s illae illa:rum illi:s illa:s illi:s illa illo:rum illi:s illa illi:s"},
-    {"Relatives: qui-quae-quod (who/which)",
-     "qui: cuius cui quem quo: quae cuius cui quam qua: quod cuius cui quod quo:",
-     "qui: quo:rum quibus quo:s quibus quae qua:rum quibus qua:s quibus quae quo:rum quibus quae quibus"},
-};
-// clang-format on
-
 TEST_F(EveryDrill, OfPronounsAsksTheGrammarsNumberByNumberWithMarksAndWithout)
 {
     for (const char* const mark : {":", ""}) {
         settings.VowelMark = mark;
-        for (int row = 0; const auto& [heading, singular, plural] : Grammar) {
+        for (int row = 0; const auto& [heading, singular, plural] : tests::PronounPages) {
             QWidget& drill = open(Pronoun, row);
             EXPECT_EQ(label(drill, "HeadingLabel"), heading);
             for (const auto& [number, forms] :

@@ -1,0 +1,37 @@
+#include "tables/noun_table.h"
+
+#include "nouns/fixed_nouns.h"
+#include "nouns/noun_list.h"
+
+namespace tables {
+
+namespace {
+
+std::string_view obliqueStem(int paradigm, int number)
+{
+    if (paradigm != nouns::ThirdDeclension)
+        return {};
+    return nouns::nounList.ObliqueStemAsWritten[paradigm][number - 1];
+}
+
+} // namespace
+
+std::string_view writtenStem(int paradigm, int number)
+{
+    const auto fixed = nouns::fixedNounsOf(paradigm).nouns;
+    if (!fixed.empty())
+        return fixed[static_cast<std::size_t>(number - 1)].stem;
+    return nouns::nounList.StemAsWritten[paradigm][number - 1];
+}
+
+void appendStemsOfNoun(std::string& text, int paradigm, int number)
+{
+    text.append(writtenStem(paradigm, number)).append(",").append(obliqueStem(paradigm, number));
+}
+
+nouns::FormsOfNoun formsOfNoun(int paradigm, int number)
+{
+    return nouns::decline(paradigm, number, writtenStem(paradigm, number), obliqueStem(paradigm, number));
+}
+
+} // namespace tables
