@@ -8,9 +8,6 @@
 
 namespace app {
 
-namespace {
-
-// Not a menu that is open, nor a message.
 const shell::Window* windowWithTheKeys()
 {
     return QApplication::activePopupWidget() == nullptr
@@ -18,7 +15,10 @@ const shell::Window* windowWithTheKeys()
                : nullptr;
 }
 
-} // namespace
+KeyFilter::KeyFilter()
+{
+    qApp->installEventFilter(this);
+}
 
 bool KeyFilter::eventFilter(QObject* /*receiver*/, QEvent* event)
 {

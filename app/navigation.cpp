@@ -25,7 +25,6 @@ void prepareVerbListAgain()
 
 Navigation::Navigation()
 {
-    qApp->installEventFilter(&keyFilter_);
     connect(&keyFilter_, &KeyFilter::helpRequested, this, &Navigation::showHelp);
     const MainMenu* const mainMenu = &common_.mainMenu();
     connect(mainMenu, &MainMenu::vowelLengthSwitched, this, &prepareVerbListAgain);

@@ -1,7 +1,7 @@
 #include "app/text_size_keys.h"
 
+#include "app/key_filter.h"
 #include "shell/kit/text_size.h"
-#include "shell/kit/window.h"
 #include "shell/looks.h"
 
 #include <QApplication>
@@ -12,12 +12,6 @@
 namespace app {
 
 namespace {
-
-bool windowOfOursIsActive()
-{
-    return QApplication::activePopupWidget() == nullptr &&
-           qobject_cast<shell::Window*>(QApplication::activeWindow()) != nullptr;
-}
 
 // Keyboards have + and 0 with the Shift key, without it, or on their keypad; + often stands above =.
 std::optional<int> sizeAskedBy(const QKeyEvent& key)
@@ -50,7 +44,7 @@ bool TextSizeKeys::eventFilter(QObject* /*receiver*/, QEvent* event)
     if (event->type() != QEvent::KeyPress)
         return false;
     const auto size = sizeAskedBy(*static_cast<QKeyEvent*>(event));
-    if (!size || !windowOfOursIsActive())
+    if (!size || windowWithTheKeys() == nullptr)
         return false;
     shell::chooseTextSize(*size);
     return true;

@@ -60,7 +60,7 @@ enum class Judgement { Right, Wrong, NotAgain };
 /// Checks an answer against `ExpectedAnswer`, letter by letter; sets `AnswerGiven`.
 Judgement judgeDeclension(const std::string& answer);
 
-/// Whether an answer is the form of another case of the noun.
+/// Whether a wrong answer is another form of the noun.
 bool answersAnotherCase(const std::string& answer);
 
 /// The how-many-th form of the noun is asked.

@@ -36,7 +36,7 @@ shell::Round cellsOfNumber()
     return {.inRandomOrder = settings.QuestionOrder == RandomInSmallLetters,
             .first = 1,
             .last = CellCount,
-            .following = [](int cell) { return firstWithFormFrom(cellAfter(cell)); },
+            .following = cellAfter,
             .canBeAsked = hasForm};
 }
 

@@ -48,29 +48,46 @@ std::optional<int> questionAfter(int current, const Round& round, platform::Tabl
         done[current] = platform::FlagTrue;
         return drawQuestionLeft(round, done);
     }
-    const int next = round.following(current);
+    int next = round.following(current);
+    while (next <= round.last && !round.canBeAsked(next))
+        next = round.following(next);
     return next <= round.last ? std::optional(next) : std::nullopt;
 }
 
-/// The place of the question `current` in the order in which the round asks.
+/// The place of the question `current` in a round whose questions come in sequence.
+inline Place placeInSequence(int current, const Round& round)
+{
+    Place place{.number = 0, .count = 0};
+    bool reached = false;
+    for (int question = round.first; question <= round.last; question = round.following(question)) {
+        if (!round.canBeAsked(question))
+            continue;
+        ++place.count;
+        place.number += reached ? 0 : 1;
+        reached = reached || question == current;
+    }
+    return place;
+}
+
+/// The place of the next question in a round of random order: as many are done.
 template <std::size_t Size>
-Place placeInRound(int current, const Round& round, const platform::Table<platform::Flag, Size>& done)
+Place placeInRandomOrder(const Round& round, const platform::Table<platform::Flag, Size>& done)
 {
     Place place{.number = 1, .count = 0};
     for (int question = round.first; question <= round.last; ++question) {
         if (!round.canBeAsked(question))
             continue;
         ++place.count;
-        if (round.inRandomOrder && question != current && done[question] == platform::FlagTrue)
-            ++place.number;
+        place.number += done[question] == platform::FlagTrue ? 1 : 0;
     }
-    if (round.inRandomOrder)
-        return place;
-    for (int question = round.first; question != current && place.number < place.count;
-         question = round.following(question))
-        if (round.canBeAsked(question))
-            ++place.number;
     return place;
+}
+
+/// The place of the question `current`, which is not done.
+template <std::size_t Size>
+Place placeInRound(int current, const Round& round, const platform::Table<platform::Flag, Size>& done)
+{
+    return round.inRandomOrder ? placeInRandomOrder(round, done) : placeInSequence(current, round);
 }
 
 } // namespace shell

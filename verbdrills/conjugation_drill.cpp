@@ -117,8 +117,7 @@ bool answersAnotherPerson(const std::string& answer)
 {
     const auto& column = verbTables.Forms[currentParadigm.ConjugationCode];
     for (int person = verbs::FirstSingular; person <= verbs::PersonCount; ++person)
-        if (person != conjugationDrill.PersonIndex + 1 && !answer.empty() &&
-            answer == column[verbs::formNumber(currentParadigm.TenseMoodCode, person)])
+        if (answer == column[verbs::formNumber(currentParadigm.TenseMoodCode, person)])
             return true;
     return false;
 }

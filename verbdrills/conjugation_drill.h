@@ -58,7 +58,7 @@ void buildDrillHeading();
 /// Whether an answer is `CorrectForm`, letter by letter; notes the answer and sets `FeedbackPending`.
 bool judgeConjugation(const std::string& answer);
 
-/// Whether an answer is the form of another person of the tense.
+/// Whether a wrong answer is the form of another person of the tense.
 bool answersAnotherPerson(const std::string& answer);
 
 /// Which tense is drilled, of those of its class that have forms; which class, while one tense is drilled

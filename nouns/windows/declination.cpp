@@ -209,7 +209,7 @@ std::string Declination::answer() const
 
 std::optional<shell::LanguageTexts> Declination::answersAnother(const std::string& typed) const
 {
-    return answersAnotherCase(typed) ? std::optional(OtherCase) : std::nullopt;
+    return answersAnotherCase(typed) ? std::optional(OtherForm) : std::nullopt;
 }
 
 void Declination::answerShown()

@@ -149,7 +149,7 @@ std::string PronounSingular::answer() const
 
 std::optional<shell::LanguageTexts> PronounSingular::answersAnother(const std::string& typed) const
 {
-    return answersAnotherCell(typed) ? std::optional(OtherCase) : std::nullopt;
+    return answersAnotherCell(typed) ? std::optional(OtherForm) : std::nullopt;
 }
 
 void PronounSingular::quit()

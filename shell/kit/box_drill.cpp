@@ -24,7 +24,7 @@ AnswerBox* BoxDrill::addBox(QWidget* parent, const QString& name)
     connect(box, &AnswerBox::focusReceived, this, [this, number] { boxReceivedFocus(number); });
     connect(box, &AnswerBox::hintRequested, this, &BoxDrill::hint);
     connect(box, &AnswerBox::returnPressed, this, &BoxDrill::check);
-    watch(*box);
+    joinBox(*box);
     takeMacrons(*box);
     boxes_.push_back(box);
     return box;
@@ -118,6 +118,7 @@ void BoxDrill::hint()
     if (!canAnswer())
         return;
     holdBoxes();
+    whyLabel()->clear();
     askedBox().lookRevealed();
     askedBox().setText(fromUtf8(answer()));
     askedBox().repaint();

@@ -1,5 +1,6 @@
 #include "shell/kit/captions.h"
 
+#include "shell/kit/latin_text.h"
 #include "shell/kit/text.h"
 #include "shell/settings.h"
 
@@ -69,7 +70,7 @@ void fillList(QListWidget& list, std::span<const LanguageTexts> rows)
 {
     list.clear();
     for (const LanguageTexts& row : rows)
-        list.addItem(fromUtf8(row.currentOrDesigned()));
+        list.addItem(latinText(row.currentOrDesigned()));
 }
 
 } // namespace shell

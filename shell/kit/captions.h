@@ -20,8 +20,8 @@ void applyDesignedCaptions(QWidget& window, std::span<const Caption> captions);
 /// Gives each control the caption for `CurrentLanguage`, or where it has none the designed one.
 void applyCurrentOrDesignedCaptions(QWidget& window, std::span<const Caption> captions);
 
-/// Fills a list anew with the rows for `CurrentLanguage`, the English ones where it has none. No row is
-/// chosen.
+/// Fills a list anew with the rows for `CurrentLanguage`,the English ones where it has none, with
+/// their Latin as `latinText` has it. No row is chosen.
 void fillList(QListWidget& list, std::span<const LanguageTexts> rows);
 
 } // namespace shell

@@ -1,6 +1,6 @@
 #include "shell/kit/content_area.h"
 
-#include "shell/kit/type.h"
+#include "shell/kit/layout.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -11,8 +11,8 @@ namespace shell {
 
 namespace {
 
-// What the frame, the title and the menus of a window leave its content of the screen.
-constexpr double ShareOfScreen = 0.85;
+// What menus leave to the content of a window.
+constexpr double ShareForContent = ShareOfScreen - 0.05;
 
 } // namespace
 
@@ -26,6 +26,12 @@ ContentArea::ContentArea(QWidget* content, QWidget* parent) : QScrollArea(parent
             [this](QWidget* /*before*/, QWidget* now) { showFocus(now); });
 }
 
+// The focus goes on while the widgets of an area are being destroyed.
+ContentArea::~ContentArea()
+{
+    disconnect(qApp, nullptr, this, nullptr);
+}
+
 QSize ContentArea::sizeHint() const
 {
     return withScrollBar(widget()->sizeHint());
@@ -33,13 +39,13 @@ QSize ContentArea::sizeHint() const
 
 QSize ContentArea::minimumSizeHint() const
 {
-    return withScrollBar(widget()->minimumSizeHint()).boundedTo(screen()->availableSize() * ShareOfScreen);
+    return withScrollBar(widget()->minimumSizeHint()).boundedTo(screen()->availableSize() * ShareForContent);
 }
 
 // Content that is too high for the screen must not become too wide by its scroll bar.
 QSize ContentArea::withScrollBar(QSize content) const
 {
-    if (content.height() > screen()->availableSize().height() * ShareOfScreen)
+    if (content.height() > screen()->availableSize().height() * ShareForContent)
         content += {verticalScrollBar()->sizeHint().width(), 0};
     return content;
 }

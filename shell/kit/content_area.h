@@ -11,6 +11,7 @@ class ContentArea : public QScrollArea {
 
 public:
     ContentArea(QWidget* content, QWidget* parent);
+    ~ContentArea() override;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

@@ -23,6 +23,8 @@ public:
 
     State validate(QString& typed, int& cursor) const override
     {
+        if (box_.isReadOnly())
+            return Acceptable;
         const QString text = marked(typed);
         if (text.size() > box_.maxLength())
             return Invalid;

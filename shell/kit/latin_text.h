@@ -14,6 +14,7 @@ QString latinText(std::string_view text);
 
 /// Makes a box take a macron, typed or pasted, as the vowel with ":" behind it. The cursor stays behind what
 /// was typed. Where the box has no room for the ":" the letter is refused. It cannot be undone.
+/// A box that is read-only shows what it is given.
 void takeMacrons(QLineEdit& box);
 
 } // namespace shell

@@ -6,6 +6,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QKeyEvent>
+#include <QMenuBar>
 
 namespace shell {
 
@@ -40,7 +41,7 @@ bool TypedAhead::somethingIsTyped() const
 bool TypedAhead::eventFilter(QObject* receiver, QEvent* event)
 {
     if (event->type() != QEvent::KeyPress || !receiver->isWidgetType() ||
-        static_cast<QWidget*>(receiver)->window() != &window_)
+        static_cast<QWidget*>(receiver)->window() != &window_ || qobject_cast<QMenuBar*>(receiver) != nullptr)
         return false;
     const auto& key = *static_cast<QKeyEvent*>(event);
     if (wouldPressButton(key) && !somethingIsTyped())

@@ -10,7 +10,7 @@ namespace shell {
 /// Keeps what is typed into a drill's window while an answer is announced, as long as it lives: letters, with
 /// Enter as a line end behind them. Backspace takes the last letter back; Enter alone, and a key that asks
 /// for a hint, are dropped. The keys that move the focus or leave the drill do as they always do, and so do
-/// Enter and the space bar on a button before anything was typed.
+/// those of a menu bar, and Enter and the space bar on a button before anything was typed.
 class TypedAhead : public QObject {
     Q_OBJECT
 

@@ -1,13 +1,14 @@
 #include "shell/kit/typing_drill.h"
 
-#include "shell/answer_fault.h"
 #include "shell/kit/answer_box.h"
 #include "shell/kit/controls.h"
 #include "shell/kit/text.h"
+#include "shell/kit/type.h"
 #include "shell/kit/typed_ahead.h"
 
-#include <QKeyEvent>
+#include <QAccessible>
 #include <QLabel>
+#include <QTextDocumentFragment>
 
 #include <array>
 
@@ -61,19 +62,15 @@ TypingDrill::TypingDrill(std::string_view name, std::string_view activeName, std
 {
     why_->setTextFormat(Qt::RichText);
     wrapText(*why_, 1);
-}
-
-void TypingDrill::watch(AnswerBox& box)
-{
-    box.installEventFilter(this);
+    keepMeasure(*why_, "room",
+                [this](Growth) { why_->setMinimumHeight(why_->fontMetrics().lineSpacing() + HairSpace); });
+    connect(this, &Window::left, why_, &QLabel::clear);
 }
 
 // The answer that is explained stands until the learner goes on typing.
-bool TypingDrill::eventFilter(QObject* watched, QEvent* event)
+void TypingDrill::joinBox(const AnswerBox& box)
 {
-    if (event->type() == QEvent::KeyPress && !static_cast<QKeyEvent*>(event)->text().isEmpty())
-        why_->clear();
-    return DrillWindow::eventFilter(watched, event);
+    connect(&box, &QLineEdit::textEdited, why_, &QLabel::clear);
 }
 
 void TypingDrill::showPlace(const LanguageTexts& text, Place place)
@@ -84,8 +81,10 @@ void TypingDrill::showPlace(const LanguageTexts& text, Place place)
 void TypingDrill::announce(bool right)
 {
     why_->clear();
-    if (!right)
+    if (!right) {
+        keys_.clear();
         explain(askedBox().text().toStdString());
+    }
     const Stay stay = drillStay();
     {
         const TypedAhead typedAhead(*this, keys_);
@@ -102,11 +101,22 @@ void TypingDrill::explain(const std::string& typed)
     if (typed.empty())
         return;
     const AnswerFault fault = faultOf(typed, answer());
-    const auto reason = fault.kind == FaultKind::Other ? answersAnother(typed) : textsOf(fault.kind);
+    const auto reason = reasonOf(fault.kind, typed);
     QString text = underlined(typed, fault);
     if (reason)
         text += QStringLiteral(" &nbsp; ") + fromUtf8(reason->currentOrDesigned()).toHtmlEscaped();
     why_->setText(text);
+    why_->setAccessibleName(QTextDocumentFragment::fromHtml(text).toPlainText());
+    QAccessibleEvent alert(why_, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
+
+std::optional<LanguageTexts> TypingDrill::reasonOf(FaultKind kind, const std::string& typed) const
+{
+    const bool isOfMarks = kind >= FaultKind::MarkMissing;
+    if (kind == FaultKind::Other || (isOfMarks && !answersInLatin()))
+        return answersAnother(typed);
+    return textsOf(kind);
 }
 
 // Enter checks from the event loop: the learner may be many answers ahead.
@@ -118,7 +128,6 @@ void TypingDrill::typeKeysKept()
     keys_.clear();
     if (!canAnswer() || typed.isEmpty())
         return;
-    why_->clear();
     askedBox().insert(typed);
     if (enter < 0)
         return;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "shell/answer_fault.h"
 #include "shell/kit/drill_window.h"
 #include "shell/language_texts.h"
 #include "shell/round.h"
@@ -16,8 +17,9 @@ namespace shell {
 class AnswerBox;
 
 /// A drill whose answers are typed. What is typed while an answer is announced is kept, and goes into the box
-/// that is asked next, or again; when the drill is left it is lost. Under the boxes a label says why an
-/// answer was wrong, until the next key; another says how far the learner has come.
+/// that is asked next, or again; when the drill is left it is lost, and so is what was meant for later boxes
+/// once an answer is wrong. Under the boxes a label says why an answer was wrong, until the learner types on;
+/// another says which question of how many is asked.
 class TypingDrill : public DrillWindow {
     Q_OBJECT
 
@@ -40,8 +42,11 @@ protected:
     /// Announces a judged answer, which stands in the box asked.
     void announce(bool right);
 
+    /// Whether the answer is Latin, where a colon marks a long vowel.
+    virtual bool answersInLatin() const { return true; }
+
     /// Makes a box one of those into which answers are typed.
-    void watch(AnswerBox& box);
+    void joinBox(const AnswerBox& box);
 
     /// Says that the question is the `number`th of `count`, in a text with "%1" for the one and "%2" for the
     /// other.
@@ -50,10 +55,9 @@ protected:
     QLabel* whyLabel() const { return why_; }
     QLabel* whereLabel() const { return where_; }
 
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 private:
     void explain(const std::string& typed);
+    std::optional<LanguageTexts> reasonOf(FaultKind kind, const std::string& typed) const;
     void typeKeysKept();
 
     QLabel* why_;

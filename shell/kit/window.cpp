@@ -27,9 +27,6 @@ constexpr QSize DesignedSize{960, 600};
 constexpr double StepsOfGrowth = 4;
 constexpr Growth GreatestGrowth = 2;
 
-// What the frame and the title of a window leave it of the screen.
-constexpr double ShareOfScreen = 0.9;
-
 // Qt hangs where windows stand above each other in a circle: the lower one then lets go of the one below it.
 void putAbove(QWindow& window, QWindow* below)
 {
@@ -120,8 +117,11 @@ QWidget* Window::centredBlock(QSize charactersAndLines)
     });
 
     auto* const row = rowOf(0, {Part::gap(1), {block, BlockStretch}, Part::gap(1)});
-    setContent(area->widget(), EdgeMargins,
-               columnOf(0, {Part::gap(1), {row, asHighAsItsLines ? 0 : BlockStretch}, Part::gap(1)}));
+    auto* const column =
+        columnOf(0, {Part::gap(1), {row, asHighAsItsLines ? 0 : BlockStretch}, Part::gap(1)});
+    if (asHighAsItsLines)
+        keepMeasure(*column, "above", [=, this](Growth) { column->setStretch(0, isMaximized() ? 1 : 0); });
+    setContent(area->widget(), EdgeMargins, column);
     setContent(this, {}, columnOf(0, {area}));
     return block;
 }
@@ -138,7 +138,7 @@ void Window::grow()
         std::min(width() / double{DesignedSize.width()}, height() / double{DesignedSize.height()});
     const Growth growth =
         isMaximized() ? std::clamp(std::floor(room * StepsOfGrowth) / StepsOfGrowth, 1.0, GreatestGrowth) : 1;
-    if (growth != growth_)
+    if (growth != growth_ || isMaximized() != wasMaximized_)
         takeSize(growth);
 }
 
@@ -146,6 +146,7 @@ void Window::grow()
 void Window::takeSize(Growth growth)
 {
     growth_ = growth;
+    wasMaximized_ = isMaximized();
     setFont(growth == 1 ? QFont() : timesAsLarge(QApplication::font(), growth));
     takeMeasures(*this, growth);
 }

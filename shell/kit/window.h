@@ -42,7 +42,8 @@ Q_SIGNALS:
 
 protected:
     /// A widget for the window's content. It fills the window up to so many characters and lines of the
-    /// window's font; a larger window keeps it in its middle, and a screen that is too small scrolls it.
+    /// window's font; a larger window keeps it in its middle, and a screen that is too small scrolls it. One
+    /// that is as high as its lines stays at the top unless the window is maximised.
     QWidget* centredBlock(QSize charactersAndLines);
 
     /// Makes such a block of parts from top to bottom, with these margins.
@@ -72,6 +73,7 @@ private:
 
     std::string_view activeName_;
     Growth growth_ = 1;
+    bool wasMaximized_ = false;
 };
 
 } // namespace shell

@@ -145,8 +145,8 @@ void FrmOptions::connectControls()
 {
     connect(tabs_, &QTabBar::currentChanged, this, &FrmOptions::placeFrames);
     connect(slider_, &QSlider::valueChanged, this, &FrmOptions::showDelay);
-    connect(textSize_, &QComboBox::activated, this, &FrmOptions::chooseTextSizeInRow);
-    connect(macrons_, &QCheckBox::clicked, this, &FrmOptions::switchMacrons);
+    connect(textSize_, &QComboBox::currentIndexChanged, this, &FrmOptions::chooseTextSizeInRow);
+    connect(macrons_, &QCheckBox::toggled, this, &FrmOptions::switchMacrons);
     connect(ok_, &QPushButton::clicked, this, &FrmOptions::confirm);
     connect(cancel_, &QPushButton::clicked, this, &FrmOptions::left);
     connect(apply_, &QPushButton::clicked, this, &FrmOptions::apply);
@@ -201,7 +201,8 @@ void FrmOptions::fitFrames()
     for (const QFrame* const frame : frames_)
         largest = largest.expandedTo(frame->sizeHint());
     space_->setMinimumSize(largest);
-    adjustSize();
+    if (!isMaximized())
+        adjustSize();
     placeFrames();
 }
 
@@ -223,6 +224,8 @@ void FrmOptions::chooseTextSizeInRow(int row)
 
 void FrmOptions::switchMacrons(bool shown)
 {
+    if (shown == looks.ShowMacrons)
+        return;
     looks.ShowMacrons = shown;
     keepLooks();
 }

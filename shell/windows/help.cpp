@@ -91,7 +91,7 @@ void Help::layOut(QPushButton* close)
 {
     auto* const top = rowOf(SmallSpace, {back_, Part::gap(1), state_, find_});
     centredBlock(LargestBlock)->setLayout(columnOf(MediumSpace, {top, text_, buttonRow({}, {close})}));
-    resize(inLetters(fontMetrics(), NormalSize).boundedTo(screen()->availableSize() * 9 / 10));
+    resize(inLetters(fontMetrics(), NormalSize).boundedTo(screen()->availableSize() * ShareOfScreen));
 }
 
 void Help::connectControls(const QPushButton* close)

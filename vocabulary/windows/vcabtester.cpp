@@ -71,7 +71,7 @@ void Vcabtester::makeControls()
     question_ = shell::makeControl<WordLabel>(this, "VQuestion");
     hint_ = shell::makeControl<WordLabel>(this, "VHint");
     answer_ = shell::makeControl<WordBox>(this, "VcabAnswer");
-    watch(*answer_);
+    joinBox(*answer_);
     omit_ = shell::makeControl<QCheckBox>(this, "VcabTestOmit");
     ok_ = shell::makeButton(this, "VcabtesterOK");
     revealButton_ = shell::makeQuestionButton(this, "VcabtesterQuestion");
@@ -165,6 +165,7 @@ void Vcabtester::showTheWord()
         showPlace(WordOf, {vocabularyList.CurrentWord, vocabularyList.WordCount});
     else
         whereLabel()->clear();
+    whyLabel()->clear();
     omit_->setChecked(currentWordIsOmitted());
     omit_->setEnabled(vocabularyList.WordCount > 0);
     answer_->clear();
@@ -190,6 +191,11 @@ std::string Vcabtester::answer() const
     return expectedAnswer();
 }
 
+bool Vcabtester::answersInLatin() const
+{
+    return hintGivesAnswerAway();
+}
+
 void Vcabtester::check()
 {
     if (!canAnswer())
@@ -213,6 +219,7 @@ void Vcabtester::reveal()
     if (!canAnswer() || vocabularyTester.WordIsAsked != platform::FlagTrue)
         return;
     answer_->setReadOnly(true);
+    whyLabel()->clear();
     answer_->clear();
     answer_->lookRevealed();
     answer_->setText(shell::fromUtf8(expectedAnswer()));

@@ -36,6 +36,7 @@ public:
 protected:
     shell::AnswerBox& askedBox() const override;
     std::string answer() const override;
+    bool answersInLatin() const override;
     void check() override;
 
 Q_SIGNALS:
