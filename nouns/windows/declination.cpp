@@ -44,18 +44,21 @@ int pixels(int twips, shell::Growth growth)
     return qRound(twips * growth / TwipsOfPixel);
 }
 
-void placeTops(QGridLayout& rows, const RowTops& tops)
+// Boxes in larger type move apart.
+void placeTops(QGridLayout& rows, const RowTops& tops, const QWidget& box)
 {
-    shell::keepMeasure(rows, "tops", [&rows, &tops](shell::Growth growth) {
+    shell::keepMeasure(rows, "tops", [&rows, &tops, &box](shell::Growth growth) {
+        const int least = box.sizeHint().height() + shell::HairSpace;
         for (std::size_t row = 0; row + 1 < tops.size(); ++row)
-            rows.setRowMinimumHeight(static_cast<int>(row), pixels(tops.at(row + 1) - tops.at(row), growth));
+            rows.setRowMinimumHeight(static_cast<int>(row),
+                                     std::max(least, pixels(tops.at(row + 1) - tops.at(row), growth)));
     });
 }
 
-QGridLayout* makeRows()
+QGridLayout* makeRows(const QWidget& box)
 {
     QGridLayout* const rows = shell::gridOf(0, 0);
-    placeTops(*rows, BoxTops);
+    placeTops(*rows, BoxTops, box);
     rows->setRowStretch(CasesOfNumber, 1);
     return rows;
 }
@@ -112,9 +115,9 @@ void Declination::layOut()
 {
     QBoxLayout* const heading =
         withScore({shell::columnOf(shell::HairSpace, {heading_, {noun_, 1, Qt::AlignTop}}), 1});
-    nameRows_ = makeRows();
-    singularRows_ = makeRows();
-    pluralRows_ = makeRows();
+    nameRows_ = makeRows(box(0));
+    singularRows_ = makeRows(box(0));
+    pluralRows_ = makeRows(box(0));
     singular_->setLayout(singularRows_);
     plural_->setLayout(pluralRows_);
     layOutLines(LargestBlock, shell::DrillMargins,
@@ -143,7 +146,7 @@ void Declination::placeRows()
         ++row;
     }
     const bool accusativeSecond = settings.CaseOrder == shell::case_order::NAGDAb;
-    placeTops(*nameRows_, accusativeSecond ? NameTopsWithAccusativeSecond : NameTops);
+    placeTops(*nameRows_, accusativeSecond ? NameTopsWithAccusativeSecond : NameTops, box(0));
     shell::keepMeasure(*singular_, "firstBox", [this](shell::Growth growth) {
         const int title = singular_->contentsMargins().top();
         const int belowTitle = std::max(shell::HairSpace, pixels(BoxTops.front(), growth) - title);

@@ -150,6 +150,8 @@ void NounQuiz::connectControls()
     for (int i = 0; i < CaseCount; ++i)
         connect(checks_.at(static_cast<std::size_t>(i)), &QCheckBox::toggled, this,
                 [this, i](bool ticked) { tick(i, ticked); });
+    for (QCheckBox* const box : checks_)
+        shell::onEnter(*box, [this] { check(); });
     connect(ok_, &QPushButton::clicked, this, &NounQuiz::check);
     connect(skip_, &QPushButton::clicked, this, &NounQuiz::skip);
     connect(options_, &QPushButton::clicked, this, &NounQuiz::optionsRequested);

@@ -32,8 +32,10 @@ AnswerBox* BoxDrill::addBox(QWidget* parent, const QString& name)
 
 QBoxLayout* BoxDrill::withScore(const Part& heading)
 {
-    keepMeasure(*score_, "height",
-                [this](Growth) { score_->setMinimumHeight(score_->fontMetrics().lineSpacing()); });
+    keepMeasure(*score_, "room", [this](Growth) {
+        const QFontMetrics metrics = score_->fontMetrics();
+        score_->setMinimumSize(metrics.horizontalAdvance(QStringLiteral(" 100% ")), metrics.lineSpacing());
+    });
     QBoxLayout* const scoreAndPlace =
         columnOf(HairSpace, {{score_, 0, Qt::AlignRight}, {whereLabel(), 0, Qt::AlignRight}, Part::gap()});
     return rowOf(MediumSpace, {heading, scoreAndPlace});

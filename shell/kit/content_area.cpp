@@ -4,8 +4,11 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QLayout>
 #include <QScreen>
 #include <QScrollBar>
+
+#include <algorithm>
 
 namespace shell {
 
@@ -19,7 +22,6 @@ constexpr double ShareForContent = ShareOfScreen - 0.05;
 ContentArea::ContentArea(QWidget* content, QWidget* parent) : QScrollArea(parent)
 {
     setFrameShape(QFrame::NoFrame);
-    setWidgetResizable(true);
     setFocusPolicy(Qt::NoFocus);
     setWidget(content);
     connect(qApp, &QApplication::focusChanged, this,
@@ -53,15 +55,39 @@ QSize ContentArea::withScrollBar(QSize content) const
 // The window has to hear when its content asks for other room.
 bool ContentArea::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == widget() && event->type() == QEvent::LayoutRequest)
+    if (watched == widget() && event->type() == QEvent::LayoutRequest) {
         updateGeometry();
+        fitContent();
+    }
     return QScrollArea::eventFilter(watched, event);
 }
 
 void ContentArea::resizeEvent(QResizeEvent* event)
 {
     QScrollArea::resizeEvent(event);
+    fitContent();
     showFocus(QApplication::focusWidget());
+}
+
+QSize ContentArea::leastSize(int width) const
+{
+    const QLayout* const layout = widget()->layout();
+    QSize least = widget()->minimumSizeHint();
+    if (layout != nullptr && layout->hasHeightForWidth())
+        least.setHeight(layout->minimumHeightForWidth(std::max(width, least.width())));
+    return least;
+}
+
+// Lists and spaces of the content give way before it is scrolled.
+void ContentArea::fitContent()
+{
+    QSize room = maximumViewportSize();
+    if (leastSize(room.width()).height() > room.height())
+        room -= {verticalScrollBar()->sizeHint().width(), 0};
+    const QSize least = leastSize(room.width());
+    if (least.width() > room.width())
+        room -= {0, horizontalScrollBar()->sizeHint().height()};
+    widget()->resize(room.expandedTo(least));
 }
 
 void ContentArea::showFocus(QWidget* focused)

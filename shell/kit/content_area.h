@@ -22,6 +22,8 @@ protected:
 
 private:
     QSize withScrollBar(QSize content) const;
+    QSize leastSize(int width) const;
+    void fitContent();
     void showFocus(QWidget* focused);
 };
 

@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
 
 namespace shell {
 
@@ -67,6 +68,16 @@ QPushButton* makeQuestionButton(QWidget* parent, QAnyStringView name)
     QPushButton* const button = makeButton(parent, name, "?");
     button->setAccessibleName(QStringLiteral("Show the answer"));
     return button;
+}
+
+void onEnter(QWidget& control, const std::function<void()>& step)
+{
+    for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
+        auto* const enter = new QShortcut(key, &control);
+        enter->setAutoRepeat(false);
+        enter->setContext(Qt::WidgetWithChildrenShortcut);
+        QObject::connect(enter, &QShortcut::activated, &control, step);
+    }
 }
 
 bool isEnter(const QKeyEvent& key)

@@ -2,6 +2,7 @@
 
 #include <QAnyStringView>
 
+#include <functional>
 #include <string_view>
 
 class QKeyEvent;
@@ -44,6 +45,9 @@ QPushButton* makeButton(QWidget* parent, QAnyStringView name, std::string_view t
 
 /// The "?" button of a drill, which shows the answer.
 QPushButton* makeQuestionButton(QWidget* parent, QAnyStringView name);
+
+/// Does something when Enter is pressed in a control, or in what stands in it: once, however long it is held.
+void onEnter(QWidget& control, const std::function<void()>& step);
 
 /// Whether a key is one of the two Enter keys.
 bool isEnter(const QKeyEvent& key);

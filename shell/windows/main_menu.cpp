@@ -30,6 +30,7 @@ constexpr QSize LargestBlock{72, 34};
 
 constexpr int ButtonCharacters = 18;
 constexpr int ButtonLines = 3;
+constexpr int FewestButtonLines = 2;
 
 constexpr int ButtonColumns = 2;
 
@@ -61,14 +62,16 @@ class BigButton : public QPushButton {
 public:
     using QPushButton::QPushButton;
 
-    QSize sizeHint() const override
+    QSize sizeHint() const override { return sizeOfLines(ButtonLines); }
+    QSize minimumSizeHint() const override { return sizeOfLines(FewestButtonLines); }
+
+private:
+    QSize sizeOfLines(int lines) const
     {
         const QSize large(ButtonCharacters * fontMetrics().averageCharWidth(),
-                          ButtonLines * fontMetrics().lineSpacing());
+                          lines * fontMetrics().lineSpacing());
         return QPushButton::sizeHint().expandedTo(large);
     }
-
-    QSize minimumSizeHint() const override { return sizeHint(); }
 };
 
 } // namespace
@@ -169,6 +172,16 @@ void MainMenu::endFirstSteps()
     keepLooks();
     if (firstSteps_ != nullptr)
         firstSteps_->hide();
+}
+
+// A window that hides passes its focus on from control to control.
+void MainMenu::setVisible(bool visible)
+{
+    if (!visible && isVisible())
+        focused_ = focusWidget();
+    Window::setVisible(visible);
+    if (visible && focused_ != nullptr)
+        focused_->setFocus();
 }
 
 // A window manager may turn Alt+F4 into a request to close: the Alt key held at that moment tells it from the

@@ -2,6 +2,8 @@
 
 #include "shell/kit/window.h"
 
+#include <QPointer>
+
 class QAction;
 class QBoxLayout;
 class QGridLayout;
@@ -57,6 +59,8 @@ Q_SIGNALS:
     void quietEndRequested();
 
 protected:
+    /// The control that had the focus has it again when the window is shown again.
+    void setVisible(bool visible) override;
     void closeBoxPressed() override;
     void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -71,6 +75,7 @@ private:
     QAction& item(std::string_view name) const;
 
     QMenuBar* menuBar_;
+    QPointer<QWidget> focused_;
     QBoxLayout* column_ = nullptr;
     QLabel* firstSteps_ = nullptr;
 };

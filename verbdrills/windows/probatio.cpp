@@ -120,25 +120,16 @@ void Probatio::connectControls()
 {
     for (QuizList* const list : {classes_, tenses_}) {
         connect(list, &QuizList::rowChosen, this, &Probatio::showChosenAnswer);
-        checkOnEnter(list);
+        shell::onEnter(*list, [this] { check(); });
     }
     connect(personAndNumber_, &PersonAndNumber::chosen, this, &Probatio::showChosenAnswer);
-    checkOnEnter(personAndNumber_);
+    shell::onEnter(*personAndNumber_, [this] { check(); });
     connect(ok_, &QPushButton::clicked, this, &Probatio::check);
     connect(question_, &QPushButton::clicked, this, &Probatio::showRightAnswer);
+    connect(new QShortcut(Qt::Key_Question, this), &QShortcut::activated, this, &Probatio::showRightAnswer);
     connect(skip_, &QPushButton::clicked, this, &Probatio::skip);
     connect(options_, &QPushButton::clicked, this, &Probatio::optionsRequested);
     connect(cancel_, &QPushButton::clicked, this, &Probatio::left);
-}
-
-void Probatio::checkOnEnter(QWidget* control)
-{
-    for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
-        auto* const enter = new QShortcut(key, control);
-        enter->setAutoRepeat(false);
-        enter->setContext(Qt::WidgetWithChildrenShortcut);
-        connect(enter, &QShortcut::activated, this, &Probatio::check);
-    }
 }
 
 void Probatio::open()

@@ -46,7 +46,6 @@ private:
     QBoxLayout* answerColumns();
     QGridLayout* answersInWords();
     void connectControls();
-    void checkOnEnter(QWidget* control);
 
     void appear();
     bool askAnotherForm();
