@@ -1,36 +1,45 @@
 #include "nouns/windows/noun_handler.h"
 
+#include "nouns/noun_list_file.h"
 #include "platform/platform.h"
 #include "shell/kit/choice_list.h"
 #include "shell/kit/controls.h"
 #include "shell/kit/latin_text.h"
-#include "shell/kit/layout.h"
 #include "shell/kit/record_form.h"
 #include "shell/kit/text.h"
+#include "shell/kit/type.h"
 #include "shell/settings.h"
 
 #include <QApplication>
-#include <QBoxLayout>
-#include <QClipboard>
 #include <QComboBox>
 #include <QEvent>
-#include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 
 #include <algorithm>
 
 namespace nouns {
 
-using shell::ChoiceList;
 using shell::FieldNames;
 
 namespace {
 
-constexpr QSize LargestBlock{110, 36};
-constexpr int ListCharacters = 30;
 constexpr int CharactersOfField = 28;
-constexpr int LinesOfKept = 2;
+
+constexpr shell::ListManagerNames Names = {.window = "NounHandler",
+                                           .active = "nounmanager",
+                                           .title = "Noun Manager",
+                                           .word = "noun",
+                                           .file = NounListFileName,
+                                           .classes = "Declensions",
+                                           .words = "Nouns",
+                                           .classList = "NHDeclList",
+                                           .wordList = "NHNounList",
+                                           .add = "NHAdd",
+                                           .room = "NHRoom",
+                                           .copy = "NHCopy",
+                                           .kept = "NHKept",
+                                           .leave = "NHClose",
+                                           .leaveText = "&Close"};
 
 constexpr std::array<std::string_view, DeclensionCount> Declensions = {
     "First Declension", "Second Declension", "Third Declension", "Fourth Declension", "Fifth Declension"};
@@ -52,12 +61,31 @@ std::array<std::string_view, Fields.size()> textsOf(const NounRecord& noun)
     return {noun.stem, noun.obliqueStem, noun.note, english, german, french, spanish};
 }
 
-constexpr std::string_view Kept =
-    "Changes last until the program ends. To keep one, copy the noun's line into "
-    "\"nouns.cfg\" and count new nouns there.";
 constexpr std::string_view Fixed = "The nouns of the fourth and fifth declensions are fixed.";
 
-constexpr std::string_view NewItem = "** Add New Item Here **";
+struct Refusal {
+    NounEdit edit;
+    std::string_view message;
+};
+
+// Why a noun was not stored; %1 is the number of nouns that its paradigm holds.
+// clang-format off
+constexpr std::array Refusals = {
+    Refusal{NounEdit::NoParadigm,    "Choose the paradigm first: masculine/feminine or neuter."},
+    Refusal{NounEdit::FixedNouns,    Fixed},
+    Refusal{NounEdit::NoStem,        "A noun needs a stem."},
+    Refusal{NounEdit::NoObliqueStem, "A noun of the third declension needs an oblique stem as well."},
+    Refusal{NounEdit::ListFull,      "This paradigm holds %1 nouns at the most."},
+};
+// clang-format on
+
+std::string messageOf(NounEdit edit, int paradigm)
+{
+    const Refusal& refusal = *std::ranges::find(Refusals, edit, &Refusal::edit);
+    return shell::fromUtf8(refusal.message)
+        .replace(QStringLiteral("%1"), QString::number(mostNounsOf(paradigm)))
+        .toStdString();
+}
 
 // A text that cannot be changed stands on the window's own ground.
 void setTypable(QLineEdit& box, bool typable)
@@ -71,89 +99,53 @@ void setTypable(QLineEdit& box, bool typable)
 
 } // namespace
 
-NounHandler::NounHandler() : Window("NounHandler", "nounmanager")
+NounHandler::NounHandler() : ListManager(Names)
 {
-    setWindowTitle(QStringLiteral("Noun Manager"));
-    makeControls();
-    layOut();
-    connectControls();
-    closeOnEscape();
+    for (const std::string_view name : Declensions)
+        classes()->addItem(shell::fromUtf8(name));
+    makeForm();
+    connectForm();
+    addFoot();
 }
 
-// In the order in which Tab goes through them.
-void NounHandler::makeControls()
+void NounHandler::makeForm()
 {
-    declensions_ = shell::makeChoiceList(this, "NHDeclList");
-    declensions_->setAccessibleName(QStringLiteral("Declensions"));
-    for (const std::string_view name : Declensions)
-        declensions_->addItem(shell::fromUtf8(name));
-    nouns_ = shell::makeChoiceList(this, "NHNounList");
-    nouns_->setAccessibleName(QStringLiteral("Nouns"));
-    shell::setLeastWidth(*nouns_, ListCharacters);
     paradigms_ = shell::makeControl<QComboBox>(this, "NHParadigm");
     paradigms_->setPlaceholderText(QStringLiteral("choose one"));
-    form_ = new shell::RecordForm;
-    form_->addControl(paradigms_, "&Paradigm");
-    form_->addBoxes(this, Fields);
-    shell::setLeastWidth(*form_->box(Stem), CharactersOfField);
-    add_ = shell::makeButton(this, "NHAdd", "&Add");
-    room_ = shell::makeLabel(this, "NHRoom");
-    copy_ = shell::makeButton(this, "NHCopy", "Cop&y Line");
-    kept_ = shell::makeLabel(this, "NHKept", shell::NoteType);
-    close_ = shell::makeButton(this, "NHClose", "&Close");
+    form()->addControl(paradigms_, "&Paradigm");
+    form()->addBoxes(this, Fields);
+    shell::setLeastWidth(*form()->box(Stem), CharactersOfField);
     for (const Field latin : {Stem, ObliqueStem, Note})
-        shell::takeMacrons(*form_->box(latin));
+        shell::takeMacrons(*form()->box(latin));
 }
 
-void NounHandler::layOut()
+void NounHandler::connectForm()
 {
-    declensions_->fitRows();
-    shell::wrapText(*kept_, LinesOfKept);
-    QBoxLayout* const lists = shell::columnOf(shell::MediumSpace, {declensions_, {nouns_, 1}});
-    QBoxLayout* const record =
-        shell::columnOf(shell::MediumSpace, {form_, shell::buttonRow({add_, room_}, {copy_}), kept_,
-                                             shell::Part::gap(1), shell::buttonRow({}, {close_})});
-    shell::setContent(centredBlock(LargestBlock), shell::FormMargins,
-                      shell::rowOf(shell::WideSpace, {{lists, 2}, {record, 5}}));
-}
-
-void NounHandler::connectControls()
-{
-    connect(declensions_, &ChoiceList::currentRowChanged, this, &NounHandler::listNouns);
-    connect(nouns_, &ChoiceList::currentRowChanged, this, &NounHandler::showNoun);
+    const auto keepDraft = [this] { draft() = {typedNoun(), chosenParadigm()}; };
     connect(paradigms_, &QComboBox::currentIndexChanged, this, &NounHandler::chooseParadigm);
-    connect(paradigms_, &QComboBox::activated, this, &NounHandler::keepDraft);
-    connect(form_, &shell::RecordForm::edited, this, &NounHandler::keepDraft);
-    connect(add_, &QPushButton::clicked, this, &NounHandler::add);
-    connect(copy_, &QPushButton::clicked, this, &NounHandler::copyLine);
-    connect(close_, &QPushButton::clicked, this, &NounHandler::left);
+    connect(paradigms_, &QComboBox::activated, this, keepDraft);
+    connect(form(), &shell::RecordForm::edited, this, keepDraft);
 }
 
-void NounHandler::open()
+void NounHandler::listWords()
 {
-    declensions_->setCurrentRow(0);
-    listNouns();
-    showInMainWindowState();
-    declensions_->setFocus();
-}
-
-void NounHandler::listNouns()
-{
-    nouns_->clear();
     rows_.clear();
     paradigms_->clear();
-    for (const ListedParadigm& paradigm : paradigmsOf(declensions_->currentRow())) {
-        if (paradigm.paradigm == FourthDeclension)
-            countFourthDeclension();
-        paradigms_->addItem(shell::fromUtf8(paradigm.name), static_cast<int>(paradigm.paradigm));
-        for (int number = 1; number <= listedNounCount(paradigm.paradigm); ++number) {
-            rows_.push_back({&paradigm, number});
-            nouns_->addItem(shell::latinText(listedNominative(paradigm, number)));
-        }
-    }
-    nouns_->setCurrentRow(rows_.empty() ? -1 : 0);
-    if (rows_.empty())
-        showNoun(-1);
+    for (const ListedParadigm& paradigm : paradigmsOf(classes()->currentRow()))
+        listParadigm(paradigm);
+    QStringList nouns;
+    for (const auto& [paradigm, number] : rows_)
+        nouns << shell::latinText(listedNominative(*paradigm, number));
+    fillWords(nouns);
+}
+
+void NounHandler::listParadigm(const ListedParadigm& paradigm)
+{
+    if (paradigm.paradigm == FourthDeclension)
+        countFourthDeclension();
+    paradigms_->addItem(shell::fromUtf8(paradigm.name), static_cast<int>(paradigm.paradigm));
+    for (int number = 1; number <= listedNounCount(paradigm.paradigm); ++number)
+        rows_.push_back({&paradigm, number});
 }
 
 bool NounHandler::isNewRow(int row) const
@@ -166,16 +158,16 @@ int NounHandler::chosenParadigm() const
     return paradigms_->currentData().toInt();
 }
 
-void NounHandler::showNoun(int row)
+void NounHandler::showWord(int row)
 {
     if (isNewRow(row)) {
         showDraft();
     } else if (row < 0) {
-        form_->show(textsOf({}));
+        form()->show(textsOf({}));
     } else {
         const auto& [paradigm, number] = rows_.at(static_cast<std::size_t>(row));
         paradigms_->setCurrentIndex(paradigms_->findData(static_cast<int>(paradigm->paradigm)));
-        form_->show(textsOf(listedNoun(paradigm->paradigm, number)));
+        form()->show(textsOf(listedNoun(paradigm->paradigm, number)));
     }
     showWhatCanBeDone();
 }
@@ -184,12 +176,11 @@ void NounHandler::showNoun(int row)
 void NounHandler::showWhatCanBeDone()
 {
     const bool fixed = hasFixedNouns(chosenParadigm());
-    const bool typable = isNewRow(nouns_->currentRow()) && !fixed;
+    const bool typable = isNewRow(words()->currentRow()) && !fixed;
     paradigms_->setEnabled(typable);
-    for (QLineEdit* const box : form_->boxes())
+    for (QLineEdit* const box : form()->boxes())
         setTypable(*box, typable);
-    kept_->setText(shell::fromUtf8(fixed ? Fixed : Kept));
-    copy_->setEnabled(!lineOfChosenNoun().empty());
+    showNote(fixed ? shell::fromUtf8(Fixed) : howToKeep());
     chooseParadigm();
 }
 
@@ -197,11 +188,11 @@ void NounHandler::showWhatCanBeDone()
 void NounHandler::chooseParadigm()
 {
     const int paradigm = chosenParadigm();
-    form_->box(ObliqueStem)->setEnabled(paradigm == ThirdDeclension || paradigm == ParadigmUnchosen);
-    const bool hasRoom = paradigm != ParadigmUnchosen && !hasFixedNouns(paradigm);
-    room_->setText(hasRoom
-                       ? QStringLiteral("%1 of %2").arg(listedNounCount(paradigm)).arg(mostNounsOf(paradigm))
-                       : QString());
+    form()->box(ObliqueStem)->setEnabled(paradigm == ThirdDeclension || paradigm == ParadigmUnchosen);
+    if (paradigm == ParadigmUnchosen || hasFixedNouns(paradigm))
+        showNoRoom();
+    else
+        showRoom(listedNounCount(paradigm), mostNounsOf(paradigm));
 }
 
 // The paradigm of a new noun until another is chosen: the last one. The third declension has none, as the
@@ -211,18 +202,12 @@ int NounHandler::presetParadigm() const
     return paradigms_->findData(static_cast<int>(ThirdDeclension)) < 0 ? paradigms_->count() - 1 : -1;
 }
 
-std::string NounHandler::lineOfChosenNoun() const
+std::string NounHandler::lineOf(int row) const
 {
-    const int row = nouns_->currentRow();
     if (row < 0 || isNewRow(row))
         return {};
     const auto& [paradigm, number] = rows_.at(static_cast<std::size_t>(row));
     return lineOfListedNoun(paradigm->paradigm, number);
-}
-
-void NounHandler::copyLine()
-{
-    QGuiApplication::clipboard()->setText(shell::fromUtf8(lineOfChosenNoun()));
 }
 
 void NounHandler::changeEvent(QEvent* event)
@@ -232,22 +217,21 @@ void NounHandler::changeEvent(QEvent* event)
         showWhatCanBeDone();
 }
 
-void NounHandler::keepDraft()
+NounHandler::Draft& NounHandler::draft()
 {
-    drafts_.at(static_cast<std::size_t>(declensions_->currentRow())) = {typedNoun(), chosenParadigm()};
+    return drafts_.at(static_cast<std::size_t>(classes()->currentRow()));
 }
 
 void NounHandler::showDraft()
 {
-    const Draft& draft = drafts_.at(static_cast<std::size_t>(declensions_->currentRow()));
-    const int chosen = paradigms_->findData(draft.paradigm);
+    const int chosen = paradigms_->findData(draft().paradigm);
     paradigms_->setCurrentIndex(chosen < 0 ? presetParadigm() : chosen);
-    form_->show(textsOf(draft.noun));
+    form()->show(textsOf(draft().noun));
 }
 
 NounRecord NounHandler::typedNoun() const
 {
-    const auto texts = form_->take();
+    const auto texts = form()->take();
     return {.note = texts.at(Note),
             .stem = texts.at(Stem),
             .obliqueStem = texts.at(ObliqueStem),
@@ -257,7 +241,7 @@ NounRecord NounHandler::typedNoun() const
 void NounHandler::add()
 {
     shell::settings.ActiveWindowName = "NHadd";
-    if (isNewRow(nouns_->currentRow()))
+    if (isNewRow(words()->currentRow()))
         storeNewNoun();
     else
         addNewRow();
@@ -266,38 +250,24 @@ void NounHandler::add()
 void NounHandler::addNewRow()
 {
     const auto newRow = static_cast<int>(rows_.size());
-    if (nouns_->count() == newRow)
-        nouns_->addItem(shell::fromUtf8(NewItem));
-    nouns_->setCurrentRow(newRow);
-    form_->box(Stem)->setFocus();
+    if (words()->count() == newRow)
+        words()->addItem(shell::fromUtf8(NewItem));
+    words()->setCurrentRow(newRow);
+    form()->box(Stem)->setFocus();
 }
 
 void NounHandler::storeNewNoun()
 {
     const int paradigm = chosenParadigm();
-    switch (addNoun(paradigm, typedNoun())) {
-    case NounEdit::NoParadigm:
+    const NounEdit edit = addNoun(paradigm, typedNoun());
+    if (edit == NounEdit::NoParadigm)
         paradigms_->setFocus();
-        platform::current().showMessage("Choose the paradigm first: masculine/feminine or neuter.");
+    if (edit != NounEdit::Stored) {
+        platform::current().showMessage(messageOf(edit, paradigm));
         return;
-    case NounEdit::FixedNouns:
-        platform::current().showMessage(std::string(Fixed));
-        return;
-    case NounEdit::NoStem:
-        platform::current().showMessage("A noun needs a stem.");
-        return;
-    case NounEdit::NoObliqueStem:
-        platform::current().showMessage("A noun of the third declension needs an oblique stem as well.");
-        return;
-    case NounEdit::ListFull:
-        platform::current().showMessage("This paradigm holds " + std::to_string(mostNounsOf(paradigm)) +
-                                        " nouns at the most.");
-        return;
-    case NounEdit::Stored:
-        break;
     }
-    drafts_.at(static_cast<std::size_t>(declensions_->currentRow())) = {};
-    listNouns();
+    draft() = {};
+    listWords();
     chooseLastOf(paradigm);
 }
 
@@ -305,8 +275,8 @@ void NounHandler::chooseLastOf(int paradigm)
 {
     const auto last = std::find_if(rows_.rbegin(), rows_.rend(),
                                    [&](const ListRow& row) { return row.paradigm->paradigm == paradigm; });
-    nouns_->setCurrentRow(static_cast<int>(rows_.rend() - last) - 1);
-    nouns_->setFocus();
+    words()->setCurrentRow(static_cast<int>(rows_.rend() - last) - 1);
+    words()->setFocus();
 }
 
 } // namespace nouns

@@ -47,14 +47,6 @@ int ChoiceList::chosenRow() const
     return chosen.isEmpty() ? -1 : row(chosen.front());
 }
 
-void ChoiceList::fitRows()
-{
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setSizeAdjustPolicy(AdjustToContents);
-    setSizePolicy(QSizePolicy::MinimumExpanding, QSizePolicy::Fixed);
-}
-
 // The first arrow key chooses the first row, where Qt would go past it.
 void ChoiceList::keyPressEvent(QKeyEvent* event)
 {

@@ -15,9 +15,6 @@ public:
     /// The chosen row, -1 where there is none.
     int chosenRow() const;
 
-    /// Keeps the list as tall as its rows, and at least as wide.
-    void fitRows();
-
 Q_SIGNALS:
     void rowChosen(int row);
     void rowActivated(int row);

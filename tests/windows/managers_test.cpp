@@ -202,6 +202,25 @@ TEST_F(Managers, CopyAWordAsALineOfItsFileWithMarksThatAreNotShown)
               (VerbRecord{"mov", "mo:v", "mo:ss", {"move, stir", "moved", "moved", "moving"}}));
 }
 
+TEST_F(Managers, SayHowAChangeIsKeptRightAboveTheButtonThatLeavesHoweverLargeTheWindowIs)
+{
+    for (const auto& [item, window, kept, leave, word] :
+         {std::tuple{"FileVerbManager", "VerbManager", "VMKept", "VerbManagerBack", "verb"},
+          {"FileNounManager", "NounHandler", "NHKept", "NHClose", "noun"}}) {
+        manager = &open(item, window);
+        EXPECT_EQ(label(*manager, kept),
+                  QString("Changes last until the program ends. To keep one, copy the %1's line into "
+                          "\"%1s.cfg\" and count new %1s there.")
+                      .arg(word));
+        manager->resize(1920, 1080);
+        QCoreApplication::processEvents();
+        const int below = control<QLabel>(*manager, kept).geometry().bottom();
+        EXPECT_LT(button(*manager, leave).geometry().top() - below, 40);
+    }
+    clickRow(classes(), 4);
+    EXPECT_EQ(label(*manager, "NHKept"), "The nouns of the fourth and fifth declensions are fixed.");
+}
+
 // What was typed for a declension stays there until it is stored.
 TEST_F(Managers, RefuseANounThatDoesNotFitOnlyWhenItIsStoredAndKeepIt)
 {

@@ -4,37 +4,48 @@
 #include "shell/kit/choice_list.h"
 #include "shell/kit/controls.h"
 #include "shell/kit/latin_text.h"
-#include "shell/kit/layout.h"
 #include "shell/kit/record_form.h"
 #include "shell/kit/text.h"
+#include "shell/kit/type.h"
 #include "verbs/verb_edits.h"
+#include "verbs/verb_list_file.h"
 
 #include <QBoxLayout>
-#include <QClipboard>
-#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 
 namespace verbs {
 
-using shell::ChoiceList;
 using shell::FieldNames;
 
 namespace {
 
-constexpr QSize LargestBlock{110, 32};
-constexpr int ListCharacters = 30;
 constexpr int StemCharacters = 14;
 constexpr int PreviewCharacters = 12;
-constexpr int LinesOfKept = 2;
+
+constexpr shell::ListManagerNames Names = {.window = "VerbManager",
+                                           .active = "verbmanager",
+                                           .title = "Verbs",
+                                           .word = "verb",
+                                           .file = VerbListFileName,
+                                           .classes = "Conjugations",
+                                           .words = "Verbs",
+                                           .classList = "VMConjList",
+                                           .wordList = "VMFormsList",
+                                           .add = "VerbManagerAdd",
+                                           .room = "VMRoom",
+                                           .copy = "VMCopy",
+                                           .kept = "VMKept",
+                                           .leave = "VerbManagerBack",
+                                           .leaveText = "Bac&k"};
 
 struct ClassRow {
     VerbClass verbClass;
     std::string_view name;
 };
 
-// The rows of `VMConjList`, in the order of the list file.
+// The rows of the classes, in the order of the list file.
 constexpr std::array<ClassRow, LastRegularClass> Classes = {{{FirstConjugation, "First Conjugation"},
                                                              {SecondConjugation, "Second Conjugation"},
                                                              {ThirdConjugation, "Third Conjugation"},
@@ -69,94 +80,58 @@ constexpr std::array<Preview, 3> Previews = {{{"LatInfinitive", "are"}, // sic: 
                                               {"LatPerfect", "i"},
                                               {"LatPastParticiple", "us"}}};
 
-constexpr std::string_view Kept =
-    "Changes last until the program ends. To keep one, copy the verb's line into "
-    "\"verbs.cfg\" and count new verbs there.";
+constexpr std::string_view NoPresentStem = "A verb needs a present stem.";
 
-constexpr std::string_view NewItem = "** Add New Item Here **";
+static_assert(MostVerbs == 15);
+constexpr std::string_view ListFull = "A conjugation holds fifteen verbs at the most.";
 
 } // namespace
 
-VerbManager::VerbManager() : Window("VerbManager", "verbmanager")
+VerbManager::VerbManager() : ListManager(Names)
 {
-    setWindowTitle(QStringLiteral("Verbs"));
-    makeControls();
-    layOut();
-    connectControls();
-    closeOnEscape();
-}
-
-// In the order in which Tab goes through them.
-void VerbManager::makeControls()
-{
-    classes_ = shell::makeChoiceList(this, "VMConjList");
-    classes_->setAccessibleName(QStringLiteral("Conjugations"));
     for (const ClassRow& row : Classes)
-        classes_->addItem(shell::fromUtf8(row.name));
-    verbs_ = shell::makeChoiceList(this, "VMFormsList");
-    verbs_->setAccessibleName(QStringLiteral("Verbs"));
-    shell::setLeastWidth(*verbs_, ListCharacters);
-    form_ = new shell::RecordForm;
-    form_->addBoxes(this, Fields);
+        classes()->addItem(shell::fromUtf8(row.name));
+    makeForm();
+    makePreviews();
+    addEndOfProgram();
+}
+
+void VerbManager::makeForm()
+{
+    form()->addBoxes(this, Fields);
+    form()->setColumnStretch(1, 2);
+    form()->setColumnStretch(2, 1);
+}
+
+void VerbManager::makePreviews()
+{
     for (std::size_t stem = 0; stem < previews_.size(); ++stem) {
+        QLineEdit* const box = form()->box(stem);
+        shell::takeMacrons(*box);
+        shell::setLeastWidth(*box, StemCharacters);
+        connect(box, &QLineEdit::textChanged, this, &VerbManager::showPreviews);
         previews_.at(stem) = shell::makeLabel(this, Previews.at(stem).label);
-        shell::takeMacrons(*form_->box(stem));
-        shell::setLeastWidth(*form_->box(stem), StemCharacters);
         shell::setLeastWidth(*previews_.at(stem), PreviewCharacters);
+        form()->addWidget(previews_.at(stem), static_cast<int>(stem), 2);
     }
-    add_ = shell::makeButton(this, "VerbManagerAdd", "&Add");
-    room_ = shell::makeLabel(this, "VMRoom");
-    copy_ = shell::makeButton(this, "VMCopy", "Cop&y Line");
-    kept_ = shell::makeLabel(this, "VMKept", shell::NoteType);
-    kept_->setText(shell::fromUtf8(Kept));
-    back_ = shell::makeButton(this, "VerbManagerBack", "Bac&k");
-    cancel_ = shell::makeButton(this, "VerbMangerCancel", "En&d Program");
 }
 
-void VerbManager::layOut()
+void VerbManager::addEndOfProgram()
 {
-    for (std::size_t stem = 0; stem < previews_.size(); ++stem)
-        form_->addWidget(previews_.at(stem), static_cast<int>(stem), 2);
-    form_->setColumnStretch(1, 2);
-    form_->setColumnStretch(2, 1);
-    classes_->fitRows();
-    shell::wrapText(*kept_, LinesOfKept);
-    QBoxLayout* const lists = shell::columnOf(shell::MediumSpace, {classes_, {verbs_, 1}});
-    QBoxLayout* const record =
-        shell::columnOf(shell::MediumSpace, {form_, shell::buttonRow({add_, room_}, {copy_}), kept_,
-                                             shell::Part::gap(1), shell::buttonRow({}, {back_, cancel_})});
-    shell::setContent(centredBlock(LargestBlock), shell::FormMargins,
-                      shell::rowOf(shell::WideSpace, {{lists, 2}, {record, 5}}));
-}
-
-void VerbManager::connectControls()
-{
-    connect(classes_, &ChoiceList::currentRowChanged, this, &VerbManager::listVerbs);
-    connect(verbs_, &ChoiceList::currentRowChanged, this, &VerbManager::showVerb);
-    for (std::size_t stem = 0; stem < previews_.size(); ++stem)
-        connect(form_->box(stem), &QLineEdit::textChanged, this, &VerbManager::showPreviews);
-    connect(add_, &QPushButton::clicked, this, &VerbManager::addVerb);
-    connect(copy_, &QPushButton::clicked, this, &VerbManager::copyLine);
-    connect(back_, &QPushButton::clicked, this, &VerbManager::left);
-    connect(cancel_, &QPushButton::clicked, this, &VerbManager::endRequested);
-}
-
-void VerbManager::open()
-{
-    classes_->setCurrentRow(0);
-    listVerbs();
-    showInMainWindowState();
-    classes_->setFocus();
+    QBoxLayout* const foot = addFoot();
+    QPushButton* const end = shell::makeButton(this, "VerbMangerCancel", "En&d Program");
+    foot->addWidget(end);
+    connect(end, &QPushButton::clicked, this, &VerbManager::endRequested);
 }
 
 int VerbManager::chosenClass() const
 {
-    return Classes.at(static_cast<std::size_t>(classes_->currentRow())).verbClass;
+    return Classes.at(static_cast<std::size_t>(classes()->currentRow())).verbClass;
 }
 
 VerbRecord VerbManager::typedVerb() const
 {
-    const auto texts = form_->take();
+    const auto texts = form()->take();
     return {.presentStem = texts.at(PresentStem),
             .perfectStem = texts.at(PerfectStem),
             .supineStem = texts.at(SupineStem),
@@ -164,58 +139,47 @@ VerbRecord VerbManager::typedVerb() const
                              texts.at(PresentParticiple)}};
 }
 
-void VerbManager::listVerbs()
+void VerbManager::listWords()
 {
-    verbs_->clear();
     const int verbClass = chosenClass();
-    for (int number = 1; number <= verbList.Count[verbClass]; ++number)
-        verbs_->addItem(shell::latinText(listedInfinitive(verbClass, number)));
-    verbs_->addItem(shell::fromUtf8(NewItem));
-    room_->setText(QStringLiteral("%1 of %2").arg(verbList.Count[verbClass]).arg(MostVerbs));
-    verbs_->setCurrentRow(0);
+    const int count = verbList.Count[verbClass];
+    QStringList verbs;
+    for (int number = 1; number <= count; ++number)
+        verbs << shell::latinText(listedInfinitive(verbClass, number));
+    fillWords(verbs << shell::fromUtf8(NewItem));
+    showRoom(count, MostVerbs);
 }
 
-void VerbManager::showVerb(int row)
+void VerbManager::showWord(int row)
 {
-    if (row < 0)
-        return;
-    const bool isNew = row == verbs_->count() - 1;
-    form_->show(textsOf(isNew ? VerbRecord{} : verbAt(chosenClass(), row + 1)));
-    copy_->setEnabled(!lineOfListedVerb(chosenClass(), row + 1).empty());
+    const bool isNew = row == words()->count() - 1;
+    form()->show(textsOf(isNew ? VerbRecord{} : verbAt(chosenClass(), row + 1)));
     showPreviews();
 }
 
 void VerbManager::showPreviews()
 {
     for (std::size_t stem = 0; stem < previews_.size(); ++stem) {
-        std::string form = form_->box(stem)->text().toStdString();
-        previews_.at(stem)->setText(shell::latinText(form.append(Previews.at(stem).ending)));
+        std::string text = form()->box(stem)->text().toStdString();
+        previews_.at(stem)->setText(shell::latinText(text.append(Previews.at(stem).ending)));
     }
 }
 
-void VerbManager::copyLine()
+std::string VerbManager::lineOf(int row) const
 {
-    QGuiApplication::clipboard()->setText(
-        shell::fromUtf8(lineOfListedVerb(chosenClass(), verbs_->currentRow() + 1)));
+    return lineOfListedVerb(chosenClass(), row + 1);
 }
 
-void VerbManager::addVerb()
+void VerbManager::add()
 {
-    const int row = verbs_->currentRow();
-    if (row < 0)
+    const int row = words()->currentRow();
+    const VerbEdit edit = editVerb(chosenClass(), row + 1, typedVerb());
+    if (edit != VerbEdit::Stored) {
+        platform::current().showMessage(std::string(edit == VerbEdit::ListFull ? ListFull : NoPresentStem));
         return;
-    switch (editVerb(chosenClass(), row + 1, typedVerb())) {
-    case VerbEdit::NoPresentStem:
-        platform::current().showMessage("A verb needs a present stem.");
-        return;
-    case VerbEdit::ListFull:
-        platform::current().showMessage("A conjugation holds fifteen verbs at the most.");
-        return;
-    case VerbEdit::Stored:
-        break;
     }
-    listVerbs();
-    verbs_->setCurrentRow(row);
+    listWords();
+    words()->setCurrentRow(row);
 }
 
 } // namespace verbs
