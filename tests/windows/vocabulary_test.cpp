@@ -197,17 +197,18 @@ TEST_F(VcabWindows, WarnOnlyWhereALoadWouldReplaceChangesAndGoOnAsIsWished)
 
 TEST_F(VcabWindows, LoadListsOfOtherProgramsAndWriteThemOverOnlyWhereThatIsAllowed)
 {
+    const std::string bold = QByteArray("<b>").repeated(100'000).toStdString();
     const std::string flashCards = R"(<?xml version="1.0" encoding="ISO-8859-1"?><!DOCTYPE kvtml>
 <kvtml version="2.0"><lessons><container><entry id="0"/></container></lessons><entries>
 <entry id="0"><translation id="1"><text>mouse</text><comment>small</comment></translation>
-<translation id="0"><text> mu:s &lt;é&gt;
+<translation id="0"><text> mu:s &lt;<i>é</i>&gt;
 2</text><comment>mu:ris, m.</comment><article/></translation></entry>
 <entry id="1"><translation id="0"><text>rosa</text><comment>rose</comment></translation>
 <translation id="2"><text>Rose</text></translation><translation id="1"><text></text></translation></entry>
 <entry id="2"><translation id="0"><text>Ro:ma</text><comment>Rome</comment></translation>
 <translation id="1"><text>Rome</text></translation></entry>)";
     writeFile("a.kvtml", flashCards + "</entries></kvtml>");
-    writeFile("b.kvtml", "<kvtml><entry><translation id='0'><text>rosa</text>");
+    writeFile("b.kvtml", "<kvtml><entry><translation id='0'><text>rosa" + bold);
     writeFile("c.csv", "rosa;rose;f.\n#Rome\nRo:ma;Rome, Italy;\n");
     writeFile("d.kvtml", flashCards + "<entry id='3'><translation id='0'>");
     openManager();
