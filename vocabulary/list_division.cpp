@@ -19,7 +19,7 @@ constexpr int LastNumber = 9999;
 Path numbered(const Path& path, int number)
 {
     Path name = path.stem();
-    name += "-" + std::to_string(number) + ".lst";
+    name += "-" + std::to_string(number) + std::string(OwnEnding);
     return path.parent_path() / name;
 }
 

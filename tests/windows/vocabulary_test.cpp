@@ -231,7 +231,10 @@ TEST_F(VcabWindows, LoadListsOfOtherProgramsAndWriteThemOverOnlyWhereThatIsAllow
     expectWords({"rosa", "Ro:ma"}, "c.csv");
     saveAs("c.csv");
     press(shown("VcabReplace"), Qt::Key_Escape);
-    confirm("c.tsv");
+    EXPECT_EQ(rows(list(files(), "FHFileBox")), QStringList({"a.lst", "c.csv"}));
+    confirm("a.kvtml");
+    EXPECT_EQ(bytesOf("a.kvtml.lst"), "rosa,rose,f.\r\nRo:ma,Rome> Italy,\r\n");
+    saveAs("c.tsv");
     EXPECT_EQ(bytesOf("c.tsv"), "rosa\trose\tf.\r\nRo:ma\tRome, Italy\t\r\n");
     clickIn("VcabManLoad");
     confirm("c.tsv");

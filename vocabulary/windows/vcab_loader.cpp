@@ -84,7 +84,7 @@ void VcabLoader::open()
     shell::applyCurrentOrDesignedCaptions(*this, Captions);
     files_->setAccessibleName(windowTitle());
     files_->clear();
-    files_->addItems(listFilesIn(QDir::current()));
+    files_->addItems(listFilesIn(QDir::current(), ReadEndings));
     showCount(files_->chosenRow());
     showInMainWindowState();
     files_->setFocus();
