@@ -73,7 +73,7 @@ Division divideList(const Path& path)
         }
         rest = rest.subspan(words);
     }
-    return {names, {}};
+    return {names, {}, file.fault ? file.fault->loss : std::nullopt};
 }
 
 } // namespace vocabulary

@@ -32,6 +32,9 @@ struct LoadFault {
     /// How many words a file holds that is too long, but can be divided; else 0.
     int words = 0;
 
+    /// What such a file lacks at its end, where it is cut off as well.
+    std::optional<platform::Fault> loss{};
+
     /// True where nothing of the file was taken.
     bool refused() const { return kind != Kind::CutOff; }
 

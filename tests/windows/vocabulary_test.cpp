@@ -246,8 +246,8 @@ TEST_F(VcabWindows, OfferToDivideAListThatIsTooLongAndOpenItsFirst)
 {
     std::string words;
     for (int word = 1; word <= 301; ++word)
-        words += std::to_string(word) + "\tx\n";
-    writeFile("long.txt", words);
+        words += std::to_string(word) + ",x,\n";
+    writeFile("long.txt", words + "rex");
     openManager();
     add(Rome);
     clickIn("VcabManLoad");
@@ -257,6 +257,10 @@ TEST_F(VcabWindows, OfferToDivideAListThatIsTooLongAndOpenItsFirst)
     EXPECT_FALSE(std::filesystem::exists("long-1.lst"));
     click(files(), "LoadSaveFH");
     press(shown("VcabDivide"), Qt::Key_Return);
+    EXPECT_EQ(fake.messages.back(), "long.txt, line 302: the last word is cut off and was left out");
+    press(shown("VcabWarning"), Qt::Key_Escape);
+    EXPECT_EQ(rows(list(files(), "FHFileBox")).mid(0, 2), QStringList({"long-1.lst", "long-2.lst"}));
+    press(files(), Qt::Key_Return);
     click(shown("VcabWarning"), "VcabWarningDiscard");
     EXPECT_EQ(manager->windowTitle(), "Vocabulary Editor - long-1.lst");
     EXPECT_EQ(list(*manager, "VcabManMainForm").count(), 150);

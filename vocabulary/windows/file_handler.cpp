@@ -207,6 +207,13 @@ void FileHandler::load(const std::filesystem::path& file)
         replaceList();
 }
 
+void FileHandler::loadNew(const std::filesystem::path& file)
+{
+    showFolder();
+    name_->setText(shell::fromUtf8(file.filename().string()));
+    load(file);
+}
+
 void FileHandler::replaceList()
 {
     loadAndTell(
