@@ -13,7 +13,7 @@ enum class ClosingQuote {
     BeforeSeparator, ///< the next one with only blanks between it and a comma or the line's end, if any has
 };
 
-/// Reads a text field by field, without looking ahead.
+/// Reads a text field by field.
 ///
 /// A field ends at a comma or at the end of its line; an empty line is an empty field. Blanks around a field
 /// are not part of it. A field may stand in double quotes: then commas and blanks inside the quotes belong to
