@@ -1,8 +1,6 @@
 #include "app/vocabulary_navigation.h"
 
-#include "platform/platform.h"
 #include "vocabulary/kvtml/kvtml_list.h"
-#include "vocabulary/list_division.h"
 #include "vocabulary/vocabulary_edits.h"
 
 #include <utility>
@@ -46,9 +44,10 @@ void VocabularyNavigation::joinTester(Vcabtester& window)
 void VocabularyNavigation::joinLoader(VcabLoader& window)
 {
     whenLeft(window, [this] { returnToTester(); });
-    connect(
-        &window, &VcabLoader::divisionRequested, this,
-        [this, &window](const Path& file, const LoadFault& fault) { offerDivision(window, file, fault); });
+    connect(&window, &VcabLoader::divisionRequested, this,
+            [this, &window](const Path& file, const LoadFault& fault) {
+                offerDivision(file, fault, [&window](const Path& list) { window.load(list); });
+            });
 }
 
 void VocabularyNavigation::joinManager(VcabManager& window)
@@ -67,9 +66,10 @@ void VocabularyNavigation::joinFileHandler(FileHandler& window)
     connect(&window, &FileHandler::warningRequested, this, [this, &window] {
         warn([&window] { window.saveBeforeLoad(); }, [&window] { window.replaceList(); });
     });
-    connect(
-        &window, &FileHandler::divisionRequested, this,
-        [this, &window](const Path& file, const LoadFault& fault) { offerDivision(window, file, fault); });
+    connect(&window, &FileHandler::divisionRequested, this,
+            [this, &window](const Path& file, const LoadFault& fault) {
+                offerDivision(file, fault, [&window](const Path& list) { window.loadNew(list); });
+            });
     connect(&window, &FileHandler::replacementRequested, this,
             [this](const Path& file) { replace_->open(file); });
     whenLeft(window, [this] {
@@ -92,8 +92,7 @@ void VocabularyNavigation::joinWarning(VcabWarning& window)
 void VocabularyNavigation::joinDivide(VcabDivide& window)
 {
     hideWhenLeft(window);
-    connect(&window, &VcabDivide::divisionAllowed, &window, &VcabDivide::hide);
-    connect(&window, &VcabDivide::divisionAllowed, this, &VocabularyNavigation::divide);
+    connect(&window, &VcabDivide::divided, this, [this](const Path& list) { toLoad_(list); });
 }
 
 void VocabularyNavigation::joinReplace(VcabReplace& window)
@@ -158,20 +157,10 @@ void VocabularyNavigation::warn(const Step& toSave, const Step& toDiscard)
     warning_->open();
 }
 
-template <typename Chooser>
-void VocabularyNavigation::offerDivision(Chooser& window, const Path& file, const LoadFault& fault)
+void VocabularyNavigation::offerDivision(const Path& file, const LoadFault& fault, const ListStep& toLoad)
 {
-    toLoad_ = [&window](const Path& list) { window.load(list); };
+    toLoad_ = toLoad;
     divide_->open(file, fault);
-}
-
-void VocabularyNavigation::divide(const Path& file)
-{
-    const vocabulary::Division division = vocabulary::divideList(file);
-    if (division.fault)
-        platform::current().showMessage("The file was not divided. " + division.fault->message());
-    else
-        toLoad_(division.lists.front());
 }
 
 void VocabularyNavigation::chooseFile(std::string_view mode)

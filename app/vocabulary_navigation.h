@@ -42,11 +42,12 @@ private:
     /// Warns of pending changes; one of the steps comes next, or none.
     void warn(const Step& toSave, const Step& toDiscard);
 
-    /// Offers to divide a file; its first list is then loaded by the window where the file was chosen.
-    template <typename Chooser>
-    void offerDivision(Chooser& window, const std::filesystem::path& file,
-                       const vocabulary::LoadFault& fault);
-    void divide(const std::filesystem::path& file);
+    /// Loads a list by the window where it was chosen.
+    using ListStep = std::function<void(const std::filesystem::path&)>;
+
+    /// Offers to divide a file; its first list is then loaded.
+    void offerDivision(const std::filesystem::path& file, const vocabulary::LoadFault& fault,
+                       const ListStep& toLoad);
 
     /// Lets the learner choose a file, for one of the values of `FileMode`.
     void chooseFile(std::string_view mode);
@@ -70,8 +71,8 @@ private:
     Step toSave_;
     Step toDiscard_;
 
-    /// Loads the first list of a file that was divided.
-    std::function<void(const std::filesystem::path&)> toLoad_;
+    /// What a division leads to.
+    ListStep toLoad_;
 };
 
 } // namespace app

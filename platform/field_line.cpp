@@ -6,13 +6,9 @@ namespace platform {
 
 namespace {
 
-constexpr std::string_view BlanksAndQuote = " \t\"";
-
-bool needsQuotes(std::string_view field)
+bool isBlank(char letter)
 {
-    return !field.empty() && (BlanksAndQuote.find(field.front()) != std::string_view::npos ||
-                              BlanksAndQuote.find(field.back()) != std::string_view::npos ||
-                              field.find(',') != std::string_view::npos);
+    return letter == ' ' || letter == '\t';
 }
 
 std::string written(std::string_view field)
@@ -20,13 +16,18 @@ std::string written(std::string_view field)
     std::string text(field);
     std::ranges::replace_if(
         text, [](char letter) { return letter == '\n' || letter == '\r'; }, ' ');
-    if (!needsQuotes(text))
+    if (!needsQuotes(text) && text.find(',') == text.npos)
         return text;
     std::ranges::replace(text, '"', '\'');
     return '"' + text + '"';
 }
 
 } // namespace
+
+bool needsQuotes(std::string_view field)
+{
+    return !field.empty() && (isBlank(field.front()) || isBlank(field.back()) || field.front() == '"');
+}
 
 std::string lineOfFields(std::initializer_list<std::string_view> fields)
 {

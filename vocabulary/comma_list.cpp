@@ -1,106 +1,53 @@
 #include "vocabulary/comma_list.h"
 
+#include "platform/field_line.h"
+#include "platform/field_reader.h"
+
 #include <algorithm>
+#include <utility>
 
 namespace vocabulary {
 
 namespace {
 
-constexpr std::string_view Blanks = " \t";
 constexpr std::string_view LineEnds = "\r\n";
 constexpr char Comma = ',';
 constexpr char EscapedComma = '>';
 constexpr char Quote = '"';
 
-std::string_view withoutBlanksAtItsEnd(std::string_view text)
-{
-    return text.substr(0, text.find_last_not_of(Blanks) + 1);
-}
-
-// The fields of a text, one after the other. Places count from the beginning of the text, and no letter is
-// looked at for every field of its line: a line may be as long as the file.
+// The fields of a text, and how many stand in a line.
 class Fields {
 public:
-    explicit Fields(std::string_view text) : text_(text) { findLineEnd(); }
+    explicit Fields(std::string_view text)
+        : reader_(std::string(text), platform::ClosingQuote::BeforeSeparator)
+    {
+    }
 
-    // A comma promises one more field, be it empty, even at the end of the text.
-    bool atEnd() const { return place_ == text_.size() && !isAfterComma_; }
+    bool atEnd() const { return reader_.atEnd(); }
+    int line() const { return reader_.line(); }
 
     // True where every line that was read, but for empty ones, has three fields.
     bool areThreeALine() const { return areThreeALine_; }
 
-    // The line that the last field read stands in.
-    int line() const { return line_; }
-
-    std::string_view next()
+    bool read(std::string& field)
     {
-        line_ = nextLine_;
-        place_ = std::min(text_.find_first_not_of(Blanks, place_), text_.size());
-        const std::string_view line = text_.substr(0, lineEnd_);
-        const bool quoted = line.substr(place_).starts_with(Quote);
-        const std::size_t begin = place_ + (quoted ? 1 : 0);
-        const std::size_t inside = quoted ? closingQuote(begin) : begin;
-        const std::size_t end = std::min(line.find(Comma, inside), lineEnd_);
-        const std::string_view field = quoted ? line.substr(begin, inside - begin)
-                                              : withoutBlanksAtItsEnd(line.substr(begin, end - begin));
-        takeSeparator(end);
-        countInLine(field);
-        return field;
+        if (!reader_.read(field))
+            return false;
+        ++inLine_;
+        if (reader_.endedLine())
+            countLine(std::exchange(inLine_, 0), field);
+        return true;
     }
 
 private:
-    void findLineEnd() { lineEnd_ = std::min(text_.find_first_of(LineEnds, place_), text_.size()); }
-
-    // The place of the closing quote of a field that begins here. Where no quote can close the field, the
-    // first one does, or the end of the line.
-    std::size_t closingQuote(std::size_t begin)
+    void countLine(std::size_t fields, const std::string& last)
     {
-        if (closing_ < begin)
-            findClosingQuote(begin);
-        return closing_ < lineEnd_ ? closing_ : std::min(text_.find(Quote, begin), lineEnd_);
+        const bool isEmptyLine = fields == 1 && last.empty();
+        areThreeALine_ = areThreeALine_ && (isEmptyLine || fields == WordFields.size());
     }
 
-    void findClosingQuote(std::size_t begin)
-    {
-        const std::string_view line = text_.substr(0, lineEnd_);
-        for (closing_ = line.find(Quote, begin); closing_ != line.npos;
-             closing_ = line.find(Quote, closing_ + 1)) {
-            const std::size_t next = line.find_first_not_of(Blanks, closing_ + 1);
-            if (next == line.npos || line[next] == Comma)
-                return;
-        }
-        closing_ = lineEnd_;
-    }
-
-    void takeSeparator(std::size_t end)
-    {
-        const std::string_view rest = text_.substr(end);
-        isAfterComma_ = rest.starts_with(Comma);
-        place_ = end + std::min<std::size_t>(rest.starts_with("\r\n") ? 2 : 1, rest.size());
-        if (rest.empty() || isAfterComma_)
-            return;
-        ++nextLine_;
-        findLineEnd();
-    }
-
-    void countInLine(std::string_view field)
-    {
-        ++inLine_;
-        if (isAfterComma_)
-            return;
-        const bool isEmptyLine = inLine_ == 1 && field.empty();
-        areThreeALine_ = areThreeALine_ && (isEmptyLine || inLine_ == WordFields.size());
-        inLine_ = 0;
-    }
-
-    std::string_view text_;
-    std::size_t place_ = 0;
-    std::size_t lineEnd_ = 0;
-    std::size_t closing_ = 0;
-    int line_ = 0;
-    int nextLine_ = 1;
+    platform::FieldReader reader_;
     std::size_t inLine_ = 0;
-    bool isAfterComma_ = false;
     bool areThreeALine_ = true;
 };
 
@@ -114,30 +61,20 @@ bool readRecord(Fields& fields, WordRecord& record)
 {
     record = {};
     for (const WordField field : WordFields) {
-        if (fields.atEnd())
+        if (!fields.read(record.*field))
             return false;
-        record.*field = fields.next();
         std::ranges::replace(record.*field, EscapedComma, Comma);
     }
     return true;
 }
 
-bool needsQuotes(std::string_view field)
-{
-    if (field.empty())
-        return false;
-    return Blanks.find(field.front()) != std::string_view::npos ||
-           Blanks.find(field.back()) != std::string_view::npos || field.front() == Quote;
-}
-
-// Fields that begin or end with a blank, or begin with a double quote, stand in double quotes.
 std::string lineOf(const WordRecord& record)
 {
     const WordRecord written = asWrittenWithCommas(record);
     std::string line;
     for (const WordField field : WordFields) {
         const std::string& text = written.*field;
-        const std::string quote(needsQuotes(text) ? 1 : 0, Quote);
+        const std::string quote(platform::needsQuotes(text) ? 1 : 0, Quote);
         line += quote + text + quote + Comma;
     }
     line.back() = '\r';

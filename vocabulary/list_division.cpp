@@ -19,7 +19,7 @@ constexpr int LastNumber = 9999;
 Path numbered(const Path& path, int number)
 {
     Path name = path.stem();
-    name += "-" + std::to_string(number) + ".lst";
+    name += "-" + std::to_string(number) + std::string(OwnEnding);
     return path.parent_path() / name;
 }
 
@@ -73,7 +73,7 @@ Division divideList(const Path& path)
         }
         rest = rest.subspan(words);
     }
-    return {names, {}};
+    return {names, {}, file.fault ? file.fault->loss : std::nullopt};
 }
 
 } // namespace vocabulary

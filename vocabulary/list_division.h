@@ -8,10 +8,12 @@
 
 namespace vocabulary {
 
-/// The files that a long one was divided into, in their order, and what kept it from being divided.
+/// The files that a long one was divided into, in their order, and what kept it from being divided; or, where
+/// it is cut off, what it lacks at its end.
 struct Division {
     std::vector<std::filesystem::path> lists;
-    std::optional<platform::Fault> fault;
+    std::optional<platform::Fault> fault{};
+    std::optional<platform::Fault> loss{};
 };
 
 /// How many lists so many words make, of `LastCountedWord` words each.

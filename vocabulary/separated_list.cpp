@@ -1,5 +1,6 @@
 #include "vocabulary/separated_list.h"
 
+#include "platform/field_line.h"
 #include "vocabulary/comma_list.h"
 
 #include <algorithm>
@@ -137,11 +138,6 @@ private:
     std::size_t rowBegin_ = 0;
 };
 
-bool needsQuotes(std::string_view field)
-{
-    return field.starts_with(' ') || field.ends_with(' ') || field.starts_with(Quote);
-}
-
 std::string inQuotes(std::string_view field)
 {
     std::string text{Quote};
@@ -158,7 +154,7 @@ std::string lineOf(const WordRecord& record)
     std::string line;
     for (const WordField field : WordFields) {
         const std::string& text = written.*field;
-        const bool isQuoted = needsQuotes(text) || (field == &WordRecord::word && looksOtherwise);
+        const bool isQuoted = platform::needsQuotes(text) || (field == &WordRecord::word && looksOtherwise);
         line += (isQuoted ? inQuotes(text) : text) + Tab;
     }
     line.back() = '\r';

@@ -97,7 +97,7 @@ std::string openDefaultList()
 std::filesystem::path fileToSave()
 {
     std::filesystem::path file = vocabularyList.File;
-    return vocabularyList.FileIsForeign ? file.replace_extension(".lst") : file;
+    return vocabularyList.FileIsForeign ? file.replace_extension(OwnEnding) : file;
 }
 
 bool wouldReplaceAnotherFile(const std::filesystem::path& path)

@@ -14,8 +14,6 @@ namespace vocabulary {
 
 namespace {
 
-constexpr std::string_view TabEnding = ".tsv";
-
 KvtmlReader kvtmlReader;
 
 using Path = std::filesystem::path;
@@ -90,10 +88,14 @@ void refuseMoreThanAListHolds(VocabularyFile& file, const Path& path)
     const std::size_t words = file.records.size();
     if (words <= MostWords)
         return;
-    file.fault = faultOf(LoadFault::Kind::TooLong, path, 0, "the file holds more than 300 words");
     if (words > MostWordsRead)
         file.records.clear();
-    file.fault->words = static_cast<int>(file.records.size());
+    LoadFault fault = faultOf(LoadFault::Kind::TooLong, path, 0,
+                              "the file holds more than " + std::to_string(MostWords) + " words");
+    fault.words = static_cast<int>(file.records.size());
+    if (file.fault)
+        fault.loss = std::move(file.fault->fault);
+    file.fault = std::move(fault);
 }
 
 } // namespace

@@ -13,6 +13,10 @@
 
 namespace vocabulary {
 
+/// How the name of a list in the program's own format ends, and that of one which is written with tabs.
+inline constexpr std::string_view OwnEnding = ".lst";
+inline constexpr std::string_view TabEnding = ".tsv";
+
 /// What kept the words of a file from being read whole.
 struct LoadFault {
     enum class Kind {
@@ -27,6 +31,9 @@ struct LoadFault {
 
     /// How many words a file holds that is too long, but can be divided; else 0.
     int words = 0;
+
+    /// What such a file lacks at its end, where it is cut off as well.
+    std::optional<platform::Fault> loss{};
 
     /// True where nothing of the file was taken.
     bool refused() const { return kind != Kind::CutOff; }
@@ -48,8 +55,7 @@ struct VocabularyFile {
 /// - the program's own where each line that is not empty makes three fields by its commas, whatever stands in
 ///   these, and where none of the others fits;
 /// - KVTML, the format of some flash-card programs, where it begins with "<" and has a tag "<kvtml";
-/// - fields divided by tabs, or else by semicolons, where every line has one that is not in quotes, apart
-/// from
+/// - fields divided by tabs, or else by semicolons, where every line has one that is not in quotes, but for
 ///   empty lines and those that begin with "#".
 VocabularyFile readVocabularyFile(const std::filesystem::path& path);
 
@@ -64,10 +70,10 @@ struct KvtmlList {
 using KvtmlReader = std::function<KvtmlList(std::string_view text)>;
 void useKvtmlReader(KvtmlReader reader);
 
-/// Replaces a file with these records, each `asWritten`, divided by tabs where its name ends in ".tsv" and in
-/// the program's own format elsewhere. Each reads back as it was, but that with commas ">" reads back as a
-/// comma, a line end as a blank, and with tabs a tab or line end as a blank. Where that fails, the file is as
-/// it was, and the fault is returned.
+/// Replaces a file with these records, each `asWritten`, divided by tabs where its name has the `TabEnding`
+/// and in the program's own format elsewhere. Each reads back as it was, but that with commas ">" reads back
+/// as a comma, a line end as a blank, and with tabs a tab or line end as a blank. Where that fails, the file
+/// is as it was, and the fault is returned.
 std::optional<platform::Fault> writeVocabularyFile(const std::filesystem::path& path,
                                                    std::span<const WordRecord> records);
 

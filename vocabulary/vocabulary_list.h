@@ -14,7 +14,7 @@ inline constexpr int MostWords = 300;
 
 /// The most words that are read of a file with more than a list holds, which can be divided. One with still
 /// more is only refused.
-inline constexpr std::size_t MostWordsRead = 15'000;
+inline constexpr int MostWordsRead = 15'000;
 
 /// One word of a list: the word itself, what it means, and a hint such as its gender and genitive.
 struct WordRecord {

@@ -48,8 +48,9 @@ TEST(FieldReader, TakesOnlyWholeNumbersThatFit)
 
 TEST(FieldReader, ReadsFieldsAgainThatWereWrittenAsALine)
 {
-    EXPECT_EQ(fieldsOf(platform::lineOfFields({"", "du:c", " a, b", "6\" long", "two\nlines", "\"x\"", ""})),
-              "1|du:c1| a, b1|6\" long1|two lines1|'x'1|1|");
+    EXPECT_EQ(
+        fieldsOf(platform::lineOfFields({"", "du:c", " a, b", "6\" long", "two\nlines", "\"x\"", "9\"", ""})),
+        "1|du:c1| a, b1|6\" long1|two lines1|'x'1|9\"1|1|");
 }
 
 } // namespace

@@ -197,17 +197,18 @@ TEST_F(VcabWindows, WarnOnlyWhereALoadWouldReplaceChangesAndGoOnAsIsWished)
 
 TEST_F(VcabWindows, LoadListsOfOtherProgramsAndWriteThemOverOnlyWhereThatIsAllowed)
 {
+    const std::string bold = QByteArray("<b>").repeated(100'000).toStdString();
     const std::string flashCards = R"(<?xml version="1.0" encoding="ISO-8859-1"?><!DOCTYPE kvtml>
 <kvtml version="2.0"><lessons><container><entry id="0"/></container></lessons><entries>
 <entry id="0"><translation id="1"><text>mouse</text><comment>small</comment></translation>
-<translation id="0"><text> mu:s &lt;é&gt;
+<translation id="0"><text> mu:s &lt;<i>é</i>&gt;
 2</text><comment>mu:ris, m.</comment><article/></translation></entry>
 <entry id="1"><translation id="0"><text>rosa</text><comment>rose</comment></translation>
 <translation id="2"><text>Rose</text></translation><translation id="1"><text></text></translation></entry>
 <entry id="2"><translation id="0"><text>Ro:ma</text><comment>Rome</comment></translation>
 <translation id="1"><text>Rome</text></translation></entry>)";
     writeFile("a.kvtml", flashCards + "</entries></kvtml>");
-    writeFile("b.kvtml", "<kvtml><entry><translation id='0'><text>rosa</text>");
+    writeFile("b.kvtml", "<kvtml><entry><translation id='0'><text>rosa" + bold);
     writeFile("c.csv", "rosa;rose;f.\n#Rome\nRo:ma;Rome, Italy;\n");
     writeFile("d.kvtml", flashCards + "<entry id='3'><translation id='0'>");
     openManager();
@@ -230,7 +231,10 @@ TEST_F(VcabWindows, LoadListsOfOtherProgramsAndWriteThemOverOnlyWhereThatIsAllow
     expectWords({"rosa", "Ro:ma"}, "c.csv");
     saveAs("c.csv");
     press(shown("VcabReplace"), Qt::Key_Escape);
-    confirm("c.tsv");
+    EXPECT_EQ(rows(list(files(), "FHFileBox")), QStringList({"a.lst", "c.csv"}));
+    confirm("a.kvtml");
+    EXPECT_EQ(bytesOf("a.kvtml.lst"), "rosa,rose,f.\r\nRo:ma,Rome> Italy,\r\n");
+    saveAs("c.tsv");
     EXPECT_EQ(bytesOf("c.tsv"), "rosa\trose\tf.\r\nRo:ma\tRome, Italy\t\r\n");
     clickIn("VcabManLoad");
     confirm("c.tsv");
@@ -242,8 +246,8 @@ TEST_F(VcabWindows, OfferToDivideAListThatIsTooLongAndOpenItsFirst)
 {
     std::string words;
     for (int word = 1; word <= 301; ++word)
-        words += std::to_string(word) + "\tx\n";
-    writeFile("long.txt", words);
+        words += std::to_string(word) + ",x,\n";
+    writeFile("long.txt", words + "rex");
     openManager();
     add(Rome);
     clickIn("VcabManLoad");
@@ -253,6 +257,10 @@ TEST_F(VcabWindows, OfferToDivideAListThatIsTooLongAndOpenItsFirst)
     EXPECT_FALSE(std::filesystem::exists("long-1.lst"));
     click(files(), "LoadSaveFH");
     press(shown("VcabDivide"), Qt::Key_Return);
+    EXPECT_EQ(fake.messages.back(), "long.txt, line 302: the last word is cut off and was left out");
+    press(shown("VcabWarning"), Qt::Key_Escape);
+    EXPECT_EQ(rows(list(files(), "FHFileBox")).mid(0, 2), QStringList({"long-1.lst", "long-2.lst"}));
+    press(files(), Qt::Key_Return);
     click(shown("VcabWarning"), "VcabWarningDiscard");
     EXPECT_EQ(manager->windowTitle(), "Vocabulary Editor - long-1.lst");
     EXPECT_EQ(list(*manager, "VcabManMainForm").count(), 150);
@@ -361,7 +369,8 @@ TEST_F(VcabWindows, OpenAnotherListWithoutCountsOrGoOnWithTheirOwn)
     QWidget& loader = shown("VcabLoader");
     QListWidget& lists = list(loader, "VcabFile");
     EXPECT_EQ(rows(lists), QStringList({"b.voc", "c.txt", "d.lst", "e.lst", "vr-vcab.lst"}));
-    for (const char* const count : {"Words: 1", "", "Words: 151. The test counts 150.", "", "Words: 3"}) {
+    for (const char* const count :
+         {"Words: 1", "Words: 301", "Words: 151. The test counts 150.", "", "Words: 3"}) {
         press(loader, Qt::Key_Down);
         EXPECT_EQ(label(loader, "VcabLoaderCount"), count);
     }

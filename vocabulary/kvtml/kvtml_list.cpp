@@ -12,9 +12,20 @@ struct Expression {
     QString comment;
 };
 
+// However deep the tags within it stand in one another.
 QString textOf(QXmlStreamReader& xml)
 {
-    return xml.readElementText(QXmlStreamReader::IncludeChildElements).simplified();
+    QString text;
+    for (int depth = 1; depth > 0 && !xml.atEnd();) {
+        xml.readNext();
+        if (xml.isStartElement())
+            ++depth;
+        else if (xml.isEndElement())
+            --depth;
+        else if (xml.isCharacters() || xml.isEntityReference())
+            text += xml.text();
+    }
+    return text.simplified();
 }
 
 Expression expressionOf(QXmlStreamReader& xml)
@@ -37,7 +48,8 @@ WordRecord recordOf(QXmlStreamReader& xml)
     Expression word;
     Expression translation;
     while (xml.readNextStartElement()) {
-        const auto language = xml.attributes().value(QLatin1String("id"));
+        const QXmlStreamAttributes attributes = xml.attributes();
+        const auto language = attributes.value(QLatin1String("id"));
         if (xml.name() != QLatin1String("translation"))
             xml.skipCurrentElement();
         else if (language == QLatin1String("0"))

@@ -55,6 +55,11 @@ bool isLoading()
     return vocabularyEditor.FileMode == file_mode::Load;
 }
 
+Endings endings()
+{
+    return isLoading() ? Endings(ReadEndings) : WrittenEndings;
+}
+
 bool isReadable(const std::filesystem::path& path)
 {
     const auto fault = readVocabularyFile(path).fault;
@@ -153,7 +158,7 @@ void FileHandler::showFolder()
         folders_->addItem(QStringLiteral(".."));
     folders_->addItems(folder_.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase));
     files_->clear();
-    files_->addItems(listFilesIn(folder_));
+    files_->addItems(listFilesIn(folder_, endings()));
 }
 
 void FileHandler::enterFolder(int row)
@@ -180,7 +185,7 @@ void FileHandler::activateFile(int row)
 
 std::filesystem::path FileHandler::path() const
 {
-    return pathOf(folder_.absolutePath()) / pathOf(withEnding(folder_, name_->text().trimmed()));
+    return pathOf(folder_.absolutePath()) / pathOf(withEnding(folder_, name_->text().trimmed(), endings()));
 }
 
 void FileHandler::loadOrSave()
@@ -200,6 +205,13 @@ void FileHandler::load(const std::filesystem::path& file)
         Q_EMIT warningRequested();
     else
         replaceList();
+}
+
+void FileHandler::loadNew(const std::filesystem::path& file)
+{
+    showFolder();
+    name_->setText(shell::fromUtf8(file.filename().string()));
+    load(file);
 }
 
 void FileHandler::replaceList()

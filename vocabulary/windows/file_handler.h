@@ -29,8 +29,8 @@ public:
     /// Shows the window for one of the values of `FileMode`, in the folder of the list in memory.
     void open(std::string_view mode);
 
-    /// Loads a file as if it had been chosen.
-    void load(const std::filesystem::path& file);
+    /// Loads a file that was written into the folder since it was shown, as if it had been chosen.
+    void loadNew(const std::filesystem::path& file);
 
     /// Loads the chosen file, whatever is pending.
     void replaceList();
@@ -66,6 +66,7 @@ private:
     void takeName(int row);
     void activateFile(int row);
     void loadOrSave();
+    void load(const std::filesystem::path& file);
     void save();
     void chooseFileBeforeLoad();
     std::filesystem::path path() const;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/platform.h"
+#include "shell/kit/text.h"
 #include "vocabulary/vocabulary_edits.h"
 
 #include <QDir>
@@ -9,32 +10,44 @@
 #include <array>
 #include <filesystem>
 #include <functional>
+#include <span>
+#include <string_view>
 
 namespace vocabulary {
 
-/// The endings of the word lists; a new list gets the first. Those of ".tsv" are written with tabs.
-inline constexpr std::array ListEndings = {".lst", ".txt", ".voc", ".tsv", ".csv"};
+/// The ending of lists which are read, but never written.
+inline constexpr std::string_view KvtmlEnding = ".kvtml";
 
-/// That of lists which are read, but never written.
-inline constexpr auto KvtmlEnding = ".kvtml";
+/// The endings of the lists that are read; the last of them is not written.
+inline constexpr std::array<std::string_view, 6> ReadEndings = {OwnEnding, ".txt", ".voc",
+                                                                TabEnding, ".csv", KvtmlEnding};
+inline constexpr auto WrittenEndings = std::span(ReadEndings).first<ReadEndings.size() - 1>();
 
-/// The names of the word lists in a folder, in the order of the alphabet.
-inline QStringList listFilesIn(const QDir& folder)
+using Endings = std::span<const std::string_view>;
+
+inline bool endsWithOneOf(Endings endings, const QString& name)
 {
-    QStringList patterns{QLatin1Char('*') + QLatin1String(KvtmlEnding)};
-    for (const char* const ending : ListEndings)
-        patterns << QLatin1Char('*') + QLatin1String(ending);
+    return std::ranges::any_of(endings, [&](std::string_view ending) {
+        return name.endsWith(shell::fromUtf8(ending), Qt::CaseInsensitive);
+    });
+}
+
+/// The names of the files in a folder that have one of these endings, in the order of the alphabet.
+inline QStringList listFilesIn(const QDir& folder, Endings endings)
+{
+    QStringList patterns;
+    for (const std::string_view ending : endings)
+        patterns << QLatin1Char('*') + shell::fromUtf8(ending);
     return folder.entryList(patterns, QDir::Files, QDir::Name | QDir::IgnoreCase);
 }
 
-/// A name as it was typed, with ".lst" where it has none of the endings: what follows the dot of "Kap.II" is
-/// part of the name. A file of just this name keeps it.
-inline QString withEnding(const QDir& folder, const QString& name)
+/// A name as it was typed, with the program's own ending where it has none of these: what follows the dot of
+/// "Kap.II" is part of the name. A file of just this name keeps it, unless it is KVTML.
+inline QString withEnding(const QDir& folder, const QString& name, Endings endings)
 {
-    const bool isListed = std::ranges::any_of(ListEndings, [&](const char* ending) {
-        return name.endsWith(QLatin1String(ending), Qt::CaseInsensitive);
-    });
-    return isListed || folder.exists(name) ? name : name + QLatin1String(ListEndings.front());
+    const bool isKept =
+        endsWithOneOf(endings, name) || (folder.exists(name) && !endsWithOneOf({&KvtmlEnding, 1}, name));
+    return isKept ? name : name + shell::fromUtf8(OwnEnding);
 }
 
 /// Loads the list of a file in the place of the one in memory, and takes the next step where it is not

@@ -1,5 +1,6 @@
 #include "vocabulary/windows/vcab_divide.h"
 
+#include "platform/platform.h"
 #include "shell/kit/captions.h"
 #include "shell/kit/text.h"
 #include "vocabulary/list_division.h"
@@ -42,7 +43,7 @@ constexpr LanguageTexts Question{
 
 VcabDivide::VcabDivide() : ListQuestion("VcabDivide", "VcabDivideText"), divide_(addAnswer("VcabDivideOK"))
 {
-    connect(divide_, &QPushButton::clicked, this, [this] { Q_EMIT divisionAllowed(file_); });
+    connect(divide_, &QPushButton::clicked, this, &VcabDivide::divide);
     connect(addAnswer("VcabDivideCancel"), &QPushButton::clicked, this, &VcabDivide::left);
 }
 
@@ -56,6 +57,20 @@ void VcabDivide::open(const std::filesystem::path& file, const LoadFault& fault)
                             QString::number(MostWords), QString::number(lists),
                             QString::number(LastCountedWord)));
     askWith(*divide_);
+}
+
+// What was lost is told last, above the window that shows the list then.
+void VcabDivide::divide()
+{
+    Q_EMIT left();
+    const Division division = divideList(file_);
+    if (division.fault) {
+        platform::current().showMessage("The file was not divided. " + division.fault->message());
+        return;
+    }
+    Q_EMIT divided(division.lists.front());
+    if (division.loss)
+        platform::current().showMessage(division.loss->message());
 }
 
 } // namespace vocabulary

@@ -7,7 +7,7 @@
 
 namespace vocabulary {
 
-/// Asks whether a file with more words than a list holds may be divided into several lists.
+/// Asks whether a file with more words than a list holds may be divided into several lists, and divides it.
 class VcabDivide : public ListQuestion {
     Q_OBJECT
 
@@ -18,9 +18,12 @@ public:
     void open(const std::filesystem::path& file, const LoadFault& fault);
 
 Q_SIGNALS:
-    void divisionAllowed(const std::filesystem::path& file);
+    /// The file was divided; this is the first of its lists.
+    void divided(const std::filesystem::path& list);
 
 private:
+    void divide();
+
     std::filesystem::path file_;
     QPushButton* divide_ = nullptr;
 };

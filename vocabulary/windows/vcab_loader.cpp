@@ -38,9 +38,9 @@ constexpr LanguageTexts LongCount{"Words: %1. The test counts %2.", "Mots : %1. 
 QString countOf(const VocabularyFile& file)
 {
     const auto words = static_cast<int>(file.records.size());
-    if (file.fault && file.fault->refused())
+    if (words == 0 && file.fault && file.fault->refused())
         return {};
-    if (words <= LastCountedWord)
+    if (words <= LastCountedWord || words > MostWords)
         return shell::fromUtf8(Count.currentOrDesigned()).arg(words);
     return shell::fromUtf8(LongCount.currentOrDesigned()).arg(words).arg(LastCountedWord);
 }
@@ -84,7 +84,7 @@ void VcabLoader::open()
     shell::applyCurrentOrDesignedCaptions(*this, Captions);
     files_->setAccessibleName(windowTitle());
     files_->clear();
-    files_->addItems(listFilesIn(QDir::current()));
+    files_->addItems(listFilesIn(QDir::current(), ReadEndings));
     showCount(files_->chosenRow());
     showInMainWindowState();
     files_->setFocus();

@@ -210,7 +210,8 @@ bool VcabManager::takeBoxes()
 bool VcabManager::addBoxes()
 {
     if (!addWord(recordInBoxes())) {
-        platform::current().showMessage("A word list holds 300 words at the most.");
+        platform::current().showMessage("A word list holds " + std::to_string(MostWords) +
+                                        " words at the most.");
         return false;
     }
     listWords();
