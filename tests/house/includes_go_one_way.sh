@@ -19,6 +19,7 @@ may verbs platform shell
 may verbdrills platform shell verbs
 may nouns platform shell
 may vocabulary platform shell
-none < <(grep -rn '^#include "shell/windows/' shell/kit verbs verbdrills nouns vocabulary)
+may progress platform shell
+none < <(grep -rn '^#include "shell/windows/' shell/kit verbs verbdrills nouns vocabulary progress)
 
 exit $wrong
