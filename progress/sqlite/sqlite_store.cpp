@@ -332,6 +332,8 @@ Trouble troubleWithVersion(const std::filesystem::path& file)
     std::error_code none;
     if (!std::filesystem::exists(file, none))
         return Trouble::None;
+    if (!std::filesystem::is_regular_file(file, none))
+        return Trouble::Unavailable;
     Database database = Database::readingOnly(file);
     const qint64 version = database.number("PRAGMA user_version");
     const Trouble trouble = database.takeTrouble();
