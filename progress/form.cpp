@@ -34,7 +34,8 @@ void rememberAnswer(Form& form, bool right)
 void rememberWrongAnswer(Form& form, const std::string& written)
 {
     std::erase(form.wrongAnswers, written);
-    form.wrongAnswers.insert(form.wrongAnswers.begin(), written);
+    form.wrongAnswers.push_back(written);
+    std::ranges::rotate(form.wrongAnswers, form.wrongAnswers.end() - 1);
     if (form.wrongAnswers.size() > WrongAnswersRemembered)
         form.wrongAnswers.resize(WrongAnswersRemembered);
 }

@@ -50,7 +50,7 @@ public:
     /// The number of the last row; 0 where there is none.
     virtual std::int64_t lastRow() = 0;
 
-    /// The last row that is summed up; 0 where none is.
+    /// The last row that is summed up; 0 where none is, or where the forms are gone.
     virtual std::int64_t lastSummed() = 0;
     virtual void setLastSummed(std::int64_t row) = 0;
     virtual void forgetSums() = 0;

@@ -61,9 +61,12 @@ private:
     std::map<Day, Share> days_;
 };
 
-// Sums up some rows; false where there were none left.
+// Sums up some rows; false where there were none left. What there is without a last row, or with one that is
+// no more, is of no use.
 bool sumUpSome(Store& store)
 {
+    if (store.lastSummed() == 0 || store.lastSummed() > store.lastRow())
+        store.forgetSums();
     const auto rows = store.rowsAfter(store.lastSummed(), RowsAtOnce);
     if (rows.empty())
         return false;
@@ -81,8 +84,6 @@ Trouble bringUpToDate(Store& store)
 {
     while (store.lastSummed() != store.lastRow()) {
         store.begin();
-        if (store.lastSummed() > store.lastRow())
-            store.forgetSums();
         sumUpSome(store);
         if (const Trouble trouble = store.commit(); trouble != Trouble::None)
             return trouble;

@@ -9,6 +9,7 @@
 #include <functional>
 #include <initializer_list>
 #include <map>
+#include <string>
 #include <string_view>
 
 namespace progress {
@@ -27,7 +28,7 @@ public:
 
     using ReadRow = std::function<void(const QSqlQuery&)>;
 
-    /// Runs a statement, a literal, with the values of its "?"s in their order; shows each row that it finds.
+    /// Runs a statement with the values of its "?"s in their order; shows each row that it finds.
     void run(std::string_view statement, std::initializer_list<QVariant> values = {}, const ReadRow& = {});
 
     /// The number in the first column of the first row; 0 where there is none.
@@ -45,7 +46,7 @@ private:
     void note(const QSqlError& error);
 
     QSqlDatabase connection_;
-    std::map<std::string_view, QSqlQuery> prepared_;
+    std::map<std::string, QSqlQuery, std::less<>> prepared_;
     Trouble trouble_ = Trouble::None;
     bool inTransaction_ = false;
 };

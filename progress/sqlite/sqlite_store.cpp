@@ -1,6 +1,7 @@
 #include "progress/sqlite/sqlite_store.h"
 
 #include "progress/sqlite/database.h"
+#include "progress/sqlite/sqlite_rows.h"
 #include "progress/sqlite/tables.h"
 
 #include <QVariant>
@@ -8,73 +9,6 @@
 namespace progress {
 
 namespace {
-
-QString text(std::string_view utf8)
-{
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
-
-std::string textAt(const QSqlQuery& row, int column)
-{
-    return row.value(column).toString().toStdString();
-}
-
-QVariant number(std::int64_t value)
-{
-    return QVariant::fromValue<qlonglong>(value);
-}
-
-std::string lines(const std::vector<std::string>& texts)
-{
-    std::string joined;
-    for (const std::string& each : texts)
-        joined += each + '\n';
-    return joined;
-}
-
-std::vector<std::string> splitIntoLines(std::string_view joined)
-{
-    std::vector<std::string> texts;
-    while (!joined.empty()) {
-        const std::size_t end = joined.find('\n');
-        texts.emplace_back(joined.substr(0, end));
-        joined.remove_prefix(end == std::string_view::npos ? joined.size() : end + 1);
-    }
-    return texts;
-}
-
-Row rowOf(const QSqlQuery& row)
-{
-    return {
-        .number = row.value(0).toLongLong(),
-        .moment = {.secondsSinceEpoch = row.value(1).toLongLong(), .secondsEastOfUtc = row.value(2).toInt()},
-        .answer = {.exercise = textAt(row, 3),
-                   .word = textAt(row, 4),
-                   .place = textAt(row, 5),
-                   .asked = textAt(row, 6),
-                   .expected = textAt(row, 7),
-                   .written = textAt(row, 8),
-                   .right = row.value(9).toBool()},
-        .drill = row.value(10).toLongLong(),
-        .marksShown = row.value(11).toBool()};
-}
-
-Form formOf(const QSqlQuery& row)
-{
-    const QVariant due = row.value(10);
-    return {.number = row.value(0).toLongLong(),
-            .name = {.exercise = textAt(row, 1), .word = textAt(row, 2), .place = textAt(row, 3)},
-            .word = textAt(row, 4),
-            .place = textAt(row, 5),
-            .asked = textAt(row, 6),
-            .expected = textAt(row, 7),
-            .marksShown = row.value(8).toBool(),
-            .box = row.value(9).toInt(),
-            .due = due.isNull() ? std::nullopt : std::optional<Day>(due.toLongLong()),
-            .lastAnswers = textAt(row, 11),
-            .wrongAnswers = splitIntoLines(textAt(row, 12)),
-            .drill = row.value(13).toLongLong()};
-}
 
 class SqliteStore : public Store {
 public:
@@ -108,8 +42,8 @@ public:
     void settle() override;
 
 private:
-    std::vector<Form> forms(std::string_view statement, std::initializer_list<QVariant> values);
-    std::optional<Form> firstForm(std::string_view statement, std::initializer_list<QVariant> values);
+    std::vector<Form> forms(std::string_view which, std::initializer_list<QVariant> values);
+    std::optional<Form> firstForm(std::string_view which, std::initializer_list<QVariant> values);
     void insert(const Form& form, const CellName& cell);
     void update(const Form& form);
 
@@ -129,8 +63,7 @@ void SqliteStore::append(const Row& row)
 std::vector<Row> SqliteStore::rowsAfter(std::int64_t after, std::size_t atMost)
 {
     std::vector<Row> rows;
-    database_.run("SELECT number, time, utc_offset, exercise, word, place, asked, expected, written, right,"
-                  " drill, marks_shown FROM answers WHERE number > ? ORDER BY number LIMIT ?",
+    database_.run(std::string(RowColumns) + "WHERE number > ? ORDER BY number LIMIT ?",
                   {number(after), QVariant::fromValue<qulonglong>(atMost)},
                   [&rows](const QSqlQuery& row) { rows.push_back(rowOf(row)); });
     return rows;
@@ -143,7 +76,7 @@ std::int64_t SqliteStore::lastRow()
 
 std::int64_t SqliteStore::lastSummed()
 {
-    return database_.number("SELECT last_answer FROM sums");
+    return database_.number("SELECT last_answer FROM sums WHERE EXISTS (SELECT 1 FROM forms)");
 }
 
 void SqliteStore::setLastSummed(std::int64_t row)
@@ -159,36 +92,15 @@ void SqliteStore::forgetSums()
         database_.run(statement);
 }
 
-// All statements that read forms, in the order in which `formOf` takes the columns.
-constexpr std::string_view FormByName = "SELECT number, exercise, name_of_word, name_of_place, word, place, "
-                                        "asked, expected, marks_shown, box, due,"
-                                        " last_answers, wrong_answers, drill FROM forms"
-                                        " WHERE exercise = ? AND name_of_word = ? AND name_of_place = ?";
-constexpr std::string_view FormByNumber = "SELECT number, exercise, name_of_word, name_of_place, word, "
-                                          "place, asked, expected, marks_shown, box, due,"
-                                          " last_answers, wrong_answers, drill FROM forms WHERE number = ?";
-constexpr std::string_view FormsOfCell =
-    "SELECT number, exercise, name_of_word, name_of_place, word, place, asked, expected, marks_shown, box, "
-    "due,"
-    " last_answers, wrong_answers, drill FROM forms"
-    " WHERE grid = ? AND grid_column = ? AND grid_row = ? ORDER BY number";
-
-constexpr std::string_view DueForms = "SELECT number FROM forms WHERE due <= ? ORDER BY due, box, number";
-constexpr std::string_view DueFormsOfExercise =
-    "SELECT number FROM forms WHERE exercise = ? AND due <= ? ORDER BY due, box, number";
-constexpr std::string_view NextDue =
-    "SELECT number FROM forms WHERE due <= ? ORDER BY due, box, number LIMIT 1";
-constexpr std::string_view NextDueOfExercise =
-    "SELECT number FROM forms WHERE exercise = ? AND due <= ? ORDER BY due, box, number LIMIT 1";
-
 std::optional<Form> SqliteStore::form(const FormName& name)
 {
-    return firstForm(FormByName, {text(name.exercise), text(name.word), text(name.place)});
+    return firstForm("WHERE exercise = ? AND name_of_word = ? AND name_of_place = ?",
+                     {text(name.exercise), text(name.word), text(name.place)});
 }
 
 std::optional<Form> SqliteStore::form(std::int64_t formNumber)
 {
-    return firstForm(FormByNumber, {number(formNumber)});
+    return firstForm("WHERE number = ?", {number(formNumber)});
 }
 
 void SqliteStore::put(const Form& form, const CellName& cell)
@@ -249,7 +161,8 @@ std::vector<Cell> SqliteStore::cellsOf(Grid grid)
 
 std::vector<Form> SqliteStore::formsOf(const CellName& cell)
 {
-    return forms(FormsOfCell, {static_cast<int>(cell.grid), text(cell.column), text(cell.row)});
+    return forms("WHERE grid = ? AND grid_column = ? AND grid_row = ? ORDER BY number",
+                 {static_cast<int>(cell.grid), text(cell.column), text(cell.row)});
 }
 
 std::vector<DayOfPractice> SqliteStore::daysOfPractice(Day from, Day to)
@@ -268,17 +181,20 @@ std::vector<std::int64_t> SqliteStore::dueForms(Day day, std::string_view exerci
     std::vector<std::int64_t> numbers;
     const auto take = [&numbers](const QSqlQuery& row) { numbers.push_back(row.value(0).toLongLong()); };
     if (exercise.empty())
-        database_.run(DueForms, {number(day)}, take);
+        database_.run("SELECT number FROM forms WHERE due <= ? ORDER BY due, box, number", {number(day)},
+                      take);
     else
-        database_.run(DueFormsOfExercise, {text(exercise), number(day)}, take);
+        database_.run("SELECT number FROM forms WHERE exercise = ? AND due <= ? ORDER BY due, box, number",
+                      {text(exercise), number(day)}, take);
     return numbers;
 }
 
 std::optional<Form> SqliteStore::nextDue(Day day, std::string_view exercise)
 {
-    const qint64 next = exercise.empty() ? database_.number(NextDue, {number(day)})
-                                         : database_.number(NextDueOfExercise, {text(exercise), number(day)});
-    return next == 0 ? std::nullopt : form(next);
+    if (exercise.empty())
+        return firstForm("WHERE due <= ? ORDER BY due, box, number LIMIT 1", {number(day)});
+    return firstForm("WHERE exercise = ? AND due <= ? ORDER BY due, box, number LIMIT 1",
+                     {text(exercise), number(day)});
 }
 
 Trouble SqliteStore::clear()
@@ -299,16 +215,17 @@ void SqliteStore::settle()
     database_.takeTrouble();
 }
 
-std::vector<Form> SqliteStore::forms(std::string_view statement, std::initializer_list<QVariant> values)
+std::vector<Form> SqliteStore::forms(std::string_view which, std::initializer_list<QVariant> values)
 {
     std::vector<Form> found;
-    database_.run(statement, values, [&found](const QSqlQuery& row) { found.push_back(formOf(row)); });
+    database_.run(std::string(FormColumns).append(which), values,
+                  [&found](const QSqlQuery& row) { found.push_back(formOf(row)); });
     return found;
 }
 
-std::optional<Form> SqliteStore::firstForm(std::string_view statement, std::initializer_list<QVariant> values)
+std::optional<Form> SqliteStore::firstForm(std::string_view which, std::initializer_list<QVariant> values)
 {
-    std::vector<Form> found = forms(statement, values);
+    std::vector<Form> found = forms(which, values);
     return found.empty() ? std::nullopt : std::optional(std::move(found.front()));
 }
 
