@@ -203,7 +203,7 @@ Trouble SqliteStore::clear()
     database_.run("DELETE FROM answers");
     forgetSums();
     const Trouble trouble = commit();
-    // What was deleted shall not be found in the file any more; where there is no room for that, it stays.
+    // What was deleted shall neither be found in the file nor take room; where this cannot be, it is no harm.
     database_.run("VACUUM");
     settle();
     return trouble;

@@ -1,7 +1,9 @@
 #include "progress/calendar.h"
 #include "progress/csv.h"
 #include "progress/keeper.h"
+#include "progress/review.h"
 #include "progress/sqlite/store_loader.h"
+#include "shell/settings.h"
 #include "tests/support/fresh_state.h"
 #include "tests/support/full_disk.h"
 
@@ -272,14 +274,35 @@ TEST_F(ProgressStore, IsNotMadeWhileNothingIsKeptAndIsEmptyOnceItWasDeleted)
     EXPECT_EQ(keeper->store(), nullptr);
     EXPECT_FALSE(fs::exists("progress.db"));
     keeper->switchKeeping(true);
-    keepAnswers(1, 3);
+    keepAnswers(1, 300);
     keeper->endDrill();
-    EXPECT_NE(tests::bytesOf("progress.db").find("word3"), std::string::npos);
-    EXPECT_EQ(std::ranges::count(progress::csvOf(*keeper->store()), '\n'), 4);
+    const std::string before = tests::bytesOf("progress.db");
+    EXPECT_NE(before.find("word3"), std::string::npos);
+    EXPECT_EQ(std::ranges::count(progress::csvOf(*keeper->store()), '\n'), 301);
     EXPECT_EQ(keeper->store()->clear(), progress::Trouble::None);
     EXPECT_TRUE(rows().empty());
     EXPECT_TRUE(keeper->store()->cellsOf(progress::Grid::Words).empty());
-    EXPECT_EQ(tests::bytesOf("progress.db").find("word3"), std::string::npos);
+    const std::string after = tests::bytesOf("progress.db");
+    EXPECT_EQ(after.find("word3"), std::string::npos);
+    EXPECT_LT(after.size(), before.size());
+}
+
+TEST_F(ProgressStore, ReviewsAFormWithoutMarksAsLongAsItWasNeverAskedWithThem)
+{
+    auto record = answerNumber(1);
+    record.exercise = "Conjugation";
+    record.expected = "amo";
+    keeper->keep(record);
+    shell::settings.ShowVowelLength = platform::FlagTrue;
+    for (const char* const expected : {"amo", "amo", "amo:"}) {
+        const auto question = progress::questionFor(keeper->store()->nextDue(fake.day + 99, "").value());
+        EXPECT_EQ(question.expected, expected);
+        keeper->keep(progress::judged(question, "amo:"));
+        EXPECT_TRUE(rows().back().answer.right);
+        record.expected = "amo:";
+        if (rows().size() == 3)
+            keeper->keep(record); // in the drill
+    }
 }
 
 TEST_F(ProgressStore, CountsWhatADrillCameTo)
