@@ -27,8 +27,8 @@ constexpr int Few = 1'000;
 constexpr int Many = 1'000'000;
 constexpr std::int64_t Noon = 20'000 * 86'400LL + 43'200;
 
-// The answers of a learner who meets all forms of eight classes, many times or once: one after another
-// through the years, four of five right.
+// An answer to one of the forms of eight classes, drawn at random; a minute after the one before, and right
+// four times of five.
 progress::Row answerNumber(int number)
 {
     static std::mt19937 random(1);
