@@ -3,6 +3,7 @@
 #include "app/sound_player.h"
 
 #include <QApplication>
+#include <QDateTime>
 #include <QEventLoop>
 #include <QMessageBox>
 #include <QProcess>
@@ -17,6 +18,12 @@ float QtPlatform::secondsSinceMidnight() const
 {
     constexpr float millisecondsOfSecond = 1000;
     return static_cast<float>(QTime::currentTime().msecsSinceStartOfDay()) / millisecondsOfSecond;
+}
+
+platform::Moment QtPlatform::now() const
+{
+    const QDateTime now = QDateTime::currentDateTime();
+    return {.secondsSinceEpoch = now.toSecsSinceEpoch(), .secondsEastOfUtc = now.offsetFromUtc()};
 }
 
 void QtPlatform::waitForEvents(std::chrono::milliseconds atMost)

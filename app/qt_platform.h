@@ -8,6 +8,7 @@ namespace app {
 class QtPlatform : public platform::Platform {
 public:
     float secondsSinceMidnight() const override;
+    platform::Moment now() const override;
     void waitForEvents(std::chrono::milliseconds atMost) override;
     void beep() override;
     void playSound(const std::string& waveFile) override;

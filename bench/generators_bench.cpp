@@ -29,6 +29,7 @@ constexpr double LargestRatio = 4;
 class StillPlatform : public platform::Platform {
 public:
     float secondsSinceMidnight() const override { return 43200; }
+    platform::Moment now() const override { return {}; }
     void waitForEvents(std::chrono::milliseconds) override {}
     void beep() override {}
     void playSound(const std::string&) override {}

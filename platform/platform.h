@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/moment.h"
+
 #include <chrono>
 #include <functional>
 #include <string>
@@ -17,6 +19,9 @@ public:
 
     /// Seconds since midnight, local time, from 0 to below 86400.
     virtual float secondsSinceMidnight() const = 0;
+
+    /// The present moment.
+    virtual Moment now() const = 0;
 
     /// Sleeps until an event comes or `atMost` is over, then lets the windows work off what is pending.
     virtual void waitForEvents(std::chrono::milliseconds atMost) = 0;

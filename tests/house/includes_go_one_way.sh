@@ -20,6 +20,7 @@ may verbdrills platform shell verbs
 may nouns platform shell
 may vocabulary platform shell
 may tables platform shell verbs verbdrills nouns
-none < <(grep -rn '^#include "shell/windows/' shell/kit verbs verbdrills nouns vocabulary tables)
+may progress platform shell
+none < <(grep -rn '^#include "shell/windows/' shell/kit verbs verbdrills nouns vocabulary tables progress)
 
 exit $wrong

@@ -14,6 +14,9 @@ class FakePlatform : public platform::Platform {
 public:
     /// Noon. Waiting moves it on by the whole wait, so that a pause ends at once.
     double clock = 43200;
+    /// 4 October 2024, and summer time east of Greenwich.
+    std::int64_t day = 20000;
+    std::int32_t secondsEastOfUtc = 7200;
 
     /// Called in every wait before the clock moves: what happens while the program pauses.
     std::function<void()> whileWaiting;
@@ -31,6 +34,10 @@ public:
     std::optional<int> exitStatus;
 
     float secondsSinceMidnight() const override { return static_cast<float>(std::fmod(clock, 86400)); }
+    platform::Moment now() const override
+    {
+        return {day * 86400 + static_cast<std::int64_t>(clock) - secondsEastOfUtc, secondsEastOfUtc};
+    }
 
     void waitForEvents(std::chrono::milliseconds atMost) override
     {

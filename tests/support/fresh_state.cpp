@@ -6,6 +6,7 @@
 #include "nouns/noun_tables.h"
 #include "nouns/pronoun_drill.h"
 #include "platform/random.h"
+#include "shell/answer_record.h"
 #include "shell/drill.h"
 #include "shell/looks.h"
 #include "shell/settings.h"
@@ -33,6 +34,7 @@ FreshState::FreshState() : before_(fs::current_path())
     platform::use(fake);
     platform::seedWith(1);
     shell::leaveDrill();
+    shell::listenToAnswers({});
     shell::settings = {};
     shell::looks = {};
     nouns::nounList = {};

@@ -49,6 +49,14 @@ TYPED_TEST(PlatformContract, AWaitWithoutEventsEndsWithItsTime)
     EXPECT_TRUE(waited < 0 || (waited > 0.19F && waited < 10)) << waited; // below 0 at midnight
 }
 
+TYPED_TEST(PlatformContract, TheMomentHasTheTimeOfTheClock)
+{
+    const auto seconds = static_cast<std::int64_t>(this->platform.secondsSinceMidnight());
+    const auto later = (platform::localSeconds(this->platform.now()) - seconds) % 86400;
+    EXPECT_TRUE(later >= 0 && later < 10) << later;
+    EXPECT_GT(platform::localDay(this->platform.now()), 19999);
+}
+
 TYPED_TEST(PlatformContract, AWaitEndsWithAnEventWorkedOffAndWithTheProgram)
 {
     QElapsedTimer watch;

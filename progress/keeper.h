@@ -1,0 +1,74 @@
+#pragma once
+
+#include "progress/store.h"
+#include "shell/answer_record.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <map>
+#include <memory>
+
+namespace progress {
+
+/// What a drill has come to: the answers that were right at once, and the forms to repeat.
+struct DrillCount {
+    int right = 0;
+    int toRepeat = 0;
+};
+
+/// Keeps judged answers in a store, with the time and the drill in which they were given. The store is opened
+/// with the first answer, or when it is asked for.
+///
+/// What is wrong with it is told in a message box, once a run, at an answer. A damaged file is set aside and
+/// a new one begun. After any other trouble the answer is not tried again, but the next one is; a newer file,
+/// and one that cannot be had, is left alone until the program ends.
+class Keeper {
+public:
+    Keeper(std::filesystem::path file, Opener open);
+    ~Keeper();
+    Keeper(const Keeper&) = delete;
+    Keeper& operator=(const Keeper&) = delete;
+
+    /// Whether answers are kept; at first they are. While they are not, nothing is written and nothing
+    /// counted.
+    bool keeps() const { return keeps_; }
+    void switchKeeping(bool on);
+
+    /// A drill, a quiz, a test or a review begins: its count starts at nothing.
+    void beginDrill();
+
+    /// What the drill has come to so far, or came to when it was left.
+    DrillCount drillCount() const;
+
+    /// A drill was left: the file can be copied.
+    void endDrill();
+
+    /// An answer was judged. This is the listener for `shell::listenToAnswers`.
+    void keep(const shell::AnswerRecord& answer);
+
+    /// The store, brought up to date; nullptr where there is no file yet, or none that can be used. It may be
+    /// closed and opened anew by the next call of any of these: ask again each time.
+    Store* store();
+
+private:
+    enum class Miss { Just, Corrected };
+
+    void count(const shell::AnswerRecord& answer);
+    Trouble write(const Row& row);
+    Trouble open();
+    void openAnew();
+    void tell(Trouble trouble);
+
+    std::filesystem::path file_;
+    Opener opener_;
+    std::unique_ptr<Store> store_;
+    bool keeps_ = true;
+    bool givenUp_ = false;
+    bool told_ = false;
+    Trouble untold_ = Trouble::None;
+    std::int64_t drill_ = 0;
+    int right_ = 0;
+    std::map<FormName, Miss> misses_;
+};
+
+} // namespace progress

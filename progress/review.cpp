@@ -1,0 +1,44 @@
+#include "progress/review.h"
+
+#include "shell/settings.h"
+
+namespace progress {
+
+std::optional<std::int64_t> ReviewRound::asked() const
+{
+    return waiting_.empty() ? std::nullopt : std::optional(waiting_.front());
+}
+
+void ReviewRound::moveOn(bool right)
+{
+    if (waiting_.empty())
+        return;
+    if (!right)
+        waiting_.push_back(waiting_.front());
+    waiting_.pop_front();
+}
+
+shell::AnswerRecord questionFor(const Form& form)
+{
+    shell::AnswerRecord question{.exercise = form.name.exercise,
+                                 .word = form.word,
+                                 .place = form.place,
+                                 .asked = form.asked,
+                                 .expected = form.expected};
+    const bool shown = shell::settings.ShowVowelLength == platform::FlagTrue;
+    if (shown == form.marksShown || !marksCanBeHidden(form.name.exercise))
+        return question;
+    question.asked = withoutMarks(form.asked);
+    question.expected = withoutMarks(form.expected);
+    question.marksLeftOut = shown;
+    return question;
+}
+
+shell::AnswerRecord judged(shell::AnswerRecord question, const std::string& written)
+{
+    question.written = written;
+    question.right = (question.marksLeftOut ? withoutMarks(written) : written) == question.expected;
+    return question;
+}
+
+} // namespace progress

@@ -1,0 +1,12 @@
+#include "progress/sqlite/sqlite_plugin.h"
+
+#include "progress/sqlite/sqlite_store.h"
+
+namespace progress {
+
+Opened SqlitePlugin::open(const std::filesystem::path& file)
+{
+    return openSqliteStore(file);
+}
+
+} // namespace progress
