@@ -21,6 +21,7 @@ void CommonWindows::joinDrill(shell::DrillWindow& window, const Step& next)
     QObject::connect(&window, &shell::DrillWindow::left, &window, [this, &window, next] {
         const Hourglass hourglass;
         leaveDrill(window);
+        drillIsLeft();
         next();
     });
 }
@@ -31,6 +32,12 @@ void CommonWindows::leaveDrill(QWidget& window)
     bravo_.hide();
     wrong_.hide();
     window.hide();
+}
+
+void CommonWindows::drillIsLeft() const
+{
+    if (drillLeft_)
+        drillLeft_();
 }
 
 void CommonWindows::announce(bool right)

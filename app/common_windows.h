@@ -9,6 +9,7 @@
 #include <QGuiApplication>
 
 #include <functional>
+#include <utility>
 
 namespace app {
 
@@ -49,9 +50,16 @@ public:
     /// Leaves the running drill and hides its window, with the feedback that may be up.
     void leaveDrill(QWidget& window);
 
+    /// Sets what is done when an exercise is left, and not only put aside. An empty step: nothing.
+    void whenDrillIsLeft(Step step) { drillLeft_ = std::move(step); }
+
+    /// An exercise was left. Those that are joined as drills say so by themselves.
+    void drillIsLeft() const;
+
 private:
     void announce(bool right);
 
+    Step drillLeft_;
     shell::MainMenu mainMenu_;
     OnDemand<shell::DelayInterval> delayInterval_{&hideWhenLeft};
     OnDemand<shell::Bravo> bravo_;

@@ -51,7 +51,10 @@ void NounNavigation::joinNounQuiz(NounQuiz& window)
     common_.mainMenu().endFirstSteps();
     connect(&window, &NounQuiz::optionsRequested, this, [this] { common_.openDelayInterval(); });
     connect(&window, &NounQuiz::left, this, &shell::leaveDrill);
-    whenLeft(window, [this] { common_.toMainMenu(); });
+    whenLeft(window, [this] {
+        common_.drillIsLeft();
+        common_.toMainMenu();
+    });
 }
 
 void NounNavigation::joinNounHandler(NounHandler& window)

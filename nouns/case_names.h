@@ -1,6 +1,7 @@
 #pragma once
 
 #include "nouns/noun_paradigm.h"
+#include "shell/language_texts.h"
 
 #include <array>
 #include <string_view>
@@ -14,5 +15,12 @@ inline constexpr std::array<std::string_view, CasesOfNumber> CaseNames = {"Nomin
 /// The numbers as the noun quiz names them.
 inline constexpr std::string_view SingularName = "singular"; // sic: a small letter
 inline constexpr std::string_view PluralName = "Plural";
+
+// clang-format off
+/// The numbers as the declension drill names them.
+//                                                   English     French       Italian     German      Spanish     Latin
+inline constexpr shell::LanguageTexts SingularTexts{"Singular", "Singulier", "Singular", "Einzahl",  "Singular", "numerus singularis"};
+inline constexpr shell::LanguageTexts PluralTexts  {"Plural",   "Pluriel",   "Plural",   "Mehrzahl", "Plural",   "numerus pluralis"};
+// clang-format on
 
 } // namespace nouns

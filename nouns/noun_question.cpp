@@ -56,9 +56,8 @@ static_assert(!OneFormTable.back().plural.empty());
 
 // Appends the words of five cases, from the one with this index, behind the name of their number; nothing
 // where none is set.
-void appendCases(std::string& text, std::string_view number, int first)
+void appendCases(std::string& text, const CaseSet& cases, std::string_view number, int first)
 {
-    const CaseSet& cases = nounQuestion.QuizRightCases;
     const auto five = cases.begin() + first;
     if (std::find(five, five + CasesOfNumber, FlagTrue) == five + CasesOfNumber)
         return;
@@ -66,6 +65,15 @@ void appendCases(std::string& text, std::string_view number, int first)
     for (int i = 0; i < CasesOfNumber; ++i)
         if (cases[first + i] == FlagTrue)
             text.append(" ").append(CaseNames.at(static_cast<std::size_t>(i)));
+}
+
+std::string inWords(const CaseSet& cases)
+{
+    std::string text;
+    appendCases(text, cases, SingularName, NominativeIndex);
+    const std::string plural = " " + std::string(PluralName); // sic: a blank, even in front of all
+    appendCases(text, cases, plural, CasesOfNumber);
+    return text;
 }
 
 } // namespace
@@ -129,10 +137,12 @@ std::string nounQuizScore()
 
 std::string rightCasesInWords()
 {
-    std::string text;
-    appendCases(text, SingularName, NominativeIndex);
-    appendCases(text, " " + std::string(PluralName), CasesOfNumber); // sic: a blank, even in front of all
-    return text;
+    return inWords(nounQuestion.QuizRightCases);
+}
+
+std::string tickedCasesInWords()
+{
+    return inWords(nounQuestion.QuizTickedCases);
 }
 
 } // namespace nouns

@@ -63,4 +63,7 @@ std::string nounQuizScore();
 /// The right cases in words: "singular Genitive Dative Plural Nominative".
 std::string rightCasesInWords();
 
+/// The cases that are ticked, likewise.
+std::string tickedCasesInWords();
+
 } // namespace nouns

@@ -19,6 +19,9 @@ struct Looks {
 
     /// An exercise was opened: the main window no longer says how to begin.
     bool FirstStepsDone = false;
+
+    /// Judged answers are kept, to be drawn and asked again.
+    bool KeepAnswers = true;
 };
 
 inline Looks looks;

@@ -14,6 +14,7 @@ namespace {
 constexpr std::string_view TextSizeName = "TextSize";
 constexpr std::string_view ShowMacronsName = "ShowMacrons";
 constexpr std::string_view FirstStepsDoneName = "FirstStepsDone";
+constexpr std::string_view KeepAnswersName = "KeepAnswers";
 
 void takeTextSize(std::string_view value)
 {
@@ -38,6 +39,8 @@ void takeLine(std::string_view line)
         takeSwitch(looks.ShowMacrons, value);
     else if (name == FirstStepsDoneName)
         takeSwitch(looks.FirstStepsDone, value);
+    else if (name == KeepAnswersName)
+        takeSwitch(looks.KeepAnswers, value);
 }
 
 } // namespace
@@ -60,6 +63,7 @@ std::string looksText()
     line(TextSizeName, looks.TextSize);
     line(ShowMacronsName, looks.ShowMacrons ? 1 : 0);
     line(FirstStepsDoneName, looks.FirstStepsDone ? 1 : 0);
+    line(KeepAnswersName, looks.KeepAnswers ? 1 : 0);
     return text;
 }
 

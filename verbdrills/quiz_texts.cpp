@@ -24,16 +24,6 @@ constexpr std::array ClassNames = {
     englishToo("Velle",                   "Velle (wollen)",       "Velle",                           "Velle"),
     englishToo("Ferre",                   "Ferre (tragen)",       "Ferre",                           "Ferre"),
 };
-
-// Spanish has the English words.
-constexpr std::array<LanguageTexts, 3> PersonTexts = {{
-    // English, French, Italian  German     Spanish        Latin
-    englishToo("1st Person ",   "1. Person ", "1st Person ", "Persona i "),
-    englishToo("2nd Person ",   "2. Person ", "2nd Person ", "Persona ii "),
-    englishToo("3rd Person ",   "3. Person ", "3rd Person ", "Persona iii "),
-}};
-constexpr LanguageTexts SingularText = englishToo("Sing, ", "Sing., ", "Sing, ", "Sing., ");
-constexpr LanguageTexts PluralText   = englishToo("Plur, ", "Plur., ", "Plur, ", "Plur., ");
 // clang-format on
 
 static_assert(ClassNames.size() == verbs::LastClass);
@@ -59,9 +49,10 @@ std::span<const LanguageTexts> quizTenseNames()
 
 std::string describe(const Identification& identification)
 {
-    const bool plural = identification.number == quiz_number::Plural;
-    std::string text(PersonTexts.at(static_cast<std::size_t>(identification.person - 1)).currentOrDesigned());
-    text += (plural ? PluralText : SingularText).currentOrDesigned();
+    const int first =
+        identification.number == quiz_number::Plural ? verbs::FirstPlural : verbs::FirstSingular;
+    std::string text(chosenName(NamesOfPersons, first + identification.person - 2));
+    text += Separator;
     text += chosenName(ClassNames, identification.classRow);
     if (identification.classRow >= 0 && identification.tenseRow >= 0)
         text += Separator;

@@ -33,8 +33,20 @@ inline constexpr std::array NamesOfTenses = {
     shell::englishToo("Passive Perfect Subjunctive",       "Passiv Perfekt Konjunktiv",         "Perfecto de subjuntivo pasivo",         "Passivum Perfectum Subjunctivum"),
     shell::englishToo("Passive Pluperfect Subjunctive",    "Passiv Plusquamperfekt Konjunktiv", "Pluscuamperfecto de subjuntivo pasivo", "Passivum Plusquamperfectum Subjunctivum"),
 };
+
+/// The persons in the program's order, as the verb quiz names them. Spanish has the English words.
+inline constexpr std::array NamesOfPersons = {
+    //  English, French, Italian          German             Spanish            Latin
+    shell::englishToo("1st Person Sing", "1. Person Sing.", "1st Person Sing", "Persona i Sing."),
+    shell::englishToo("2nd Person Sing", "2. Person Sing.", "2nd Person Sing", "Persona ii Sing."),
+    shell::englishToo("3rd Person Sing", "3. Person Sing.", "3rd Person Sing", "Persona iii Sing."),
+    shell::englishToo("1st Person Plur", "1. Person Plur.", "1st Person Plur", "Persona i Plur."),
+    shell::englishToo("2nd Person Plur", "2. Person Plur.", "2nd Person Plur", "Persona ii Plur."),
+    shell::englishToo("3rd Person Plur", "3. Person Plur.", "3rd Person Plur", "Persona iii Plur."),
+};
 // clang-format on
 
+static_assert(NamesOfPersons.size() == verbs::PersonCount);
 static_assert(NamesOfTenses.size() == verbs::BlockCount);
 
 } // namespace verbdrills

@@ -2,6 +2,7 @@
 
 #include "nouns/case_order.h"
 #include "nouns/declension_drill.h"
+#include "nouns/noun_records.h"
 #include "nouns/noun_tables.h"
 #include "nouns/windows/case_names.h"
 #include "shell/kit/answer_box.h"
@@ -72,8 +73,8 @@ constexpr std::array Captions = {
     Caption{"Continue",       {"&OK",         "&OK",         "&OK",         "&OK",          "&Si",         "&Ita"}},
     Caption{"DeclQuitButton", {"&Quit",       "&Cancel",     "&Quit",       "&Abbruch",     "&Cancelar",   "&Reverte!"}},
     Caption{"Declination",    {"Nouns",       "Nomes",       "Nouns",       "Substantive",  "Nombres",     "Nomina"}},      // sic: French
-    Caption{"Frame1",         {"Singular",    "Singulier",   "Singular",    "Einzahl",      "Singular",    "numerus singularis"}},
-    Caption{"Frame2",         {"Plural",      "Pluriel",     "Plural",      "Mehrzahl",     "Plural",      "numerus pluralis"}},
+    Caption{"Frame1",         SingularTexts},
+    Caption{"Frame2",         PluralTexts},
 };
 // clang-format on
 
@@ -202,7 +203,9 @@ std::optional<bool> Declination::judge(const std::string& typed)
     const Judgement judgement = judgeDeclension(typed);
     if (judgement == Judgement::NotAgain)
         return std::nullopt;
-    return judgement == Judgement::Right;
+    const bool right = judgement == Judgement::Right;
+    shell::tellAnswer(recordOfDeclension(typed, right));
+    return right;
 }
 
 std::string Declination::answer() const

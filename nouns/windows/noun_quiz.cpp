@@ -1,6 +1,7 @@
 #include "nouns/windows/noun_quiz.h"
 
 #include "nouns/noun_question.h"
+#include "nouns/noun_records.h"
 #include "nouns/windows/case_names.h"
 #include "shell/drill.h"
 #include "shell/feedback.h"
@@ -195,6 +196,7 @@ void NounQuiz::check()
     if (shell::pausing() || !isVisible())
         return;
     const bool right = judgeTicks();
+    shell::tellAnswer(recordOfTicks(right));
     const shell::LanguageTexts& verdict = right ? shell::RightTexts : shell::WrongTexts;
     QPalette colours = palette();
     colours.setColor(QPalette::WindowText, colourOn(colours, right ? Green : Red));

@@ -1,6 +1,7 @@
 #include "nouns/windows/pronoun_singular.h"
 
 #include "nouns/case_order.h"
+#include "nouns/noun_records.h"
 #include "nouns/pronoun_columns.h"
 #include "nouns/windows/case_names.h"
 #include "shell/kit/answer_box.h"
@@ -139,7 +140,9 @@ void PronounSingular::setQuestion()
 
 std::optional<bool> PronounSingular::judge(const std::string& typed)
 {
-    return isRightPronoun(typed);
+    const bool right = isRightPronoun(typed);
+    shell::tellAnswer(recordOfPronoun(typed, right));
+    return right;
 }
 
 std::string PronounSingular::answer() const

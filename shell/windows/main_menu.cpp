@@ -133,6 +133,7 @@ void MainMenu::connectSettings()
             choice.choose(choice.value);
             applyCaptions(*this, mainMenuCaptions());
             showFirstSteps();
+            writeLastDrill();
         });
 }
 
@@ -172,6 +173,44 @@ void MainMenu::endFirstSteps()
     keepLooks();
     if (firstSteps_ != nullptr)
         firstSteps_->hide();
+}
+
+void MainMenu::showLastDrill(int right, int toRepeat)
+{
+    if (lastDrill_ == nullptr)
+        makeLastDrill();
+    lastRight_ = right;
+    lastToRepeat_ = toRepeat;
+    writeLastDrill();
+    lastDrill_->show();
+}
+
+void MainMenu::forgetLastDrill()
+{
+    if (lastDrill_ != nullptr)
+        lastDrill_->hide();
+}
+
+// Enter need not first find the link in the line.
+void MainMenu::makeLastDrill()
+{
+    lastDrill_ = makeLabel(this, "LastDrill");
+    lastDrill_->setTextFormat(Qt::RichText);
+    lastDrill_->setAlignment(Qt::AlignHCenter);
+    lastDrill_->setContentsMargins(0, LargeSpace, 0, 0);
+    lastDrill_->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    connect(lastDrill_, &QLabel::linkActivated, this, &MainMenu::reviewRequested);
+    onEnter(*lastDrill_, [this] { Q_EMIT reviewRequested(); });
+    column_->addWidget(lastDrill_);
+}
+
+void MainMenu::writeLastDrill()
+{
+    if (lastDrill_ == nullptr)
+        return;
+    const QString text = fromUtf8(LastDrillTexts.currentOrDesigned()).arg(lastRight_).arg(lastToRepeat_);
+    lastDrill_->setText(QStringLiteral("<a href=\"review\">%1</a>").arg(text));
+    lastDrill_->setAccessibleName(text);
 }
 
 // A window that hides passes its focus on from control to control.

@@ -30,6 +30,12 @@ public:
     /// An exercise was opened: the first steps go, for good.
     void endFirstSteps();
 
+    /// Says in one line what the exercise just left has come to, with a link that requests a review.
+    void showLastDrill(int right, int toRepeat);
+
+    /// The line goes.
+    void forgetLastDrill();
+
     /// Keeps in `MainWindowState` whether the window is normal or maximised. One that is minimised, hidden or
     /// not yet on the screen changes nothing.
     void recordWindowState();
@@ -44,6 +50,7 @@ Q_SIGNALS:
     void nounManagerRequested();
     void verbManagerRequested();
     void vocabularyManagerRequested();
+    void reviewRequested();
     void delayRequested();
     void optionsRequested();
     void helpRequested();
@@ -72,12 +79,17 @@ private:
     QPushButton* makeBigButton(const MainMenuButton& row);
     void connectSettings();
     void showFirstSteps();
+    void makeLastDrill();
+    void writeLastDrill();
     QAction& item(std::string_view name) const;
 
     QMenuBar* menuBar_;
     QPointer<QWidget> focused_;
     QBoxLayout* column_ = nullptr;
     QLabel* firstSteps_ = nullptr;
+    QLabel* lastDrill_ = nullptr;
+    int lastRight_ = 0;
+    int lastToRepeat_ = 0;
 };
 
 } // namespace shell

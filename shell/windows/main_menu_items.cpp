@@ -104,6 +104,15 @@ const LanguageTexts FirstStepsTexts = {
              "3. Si eam nescis, «?» eam monstrat.",
 };
 
+const LanguageTexts LastDrillTexts = {
+    .english = "%1 right, %2 to repeat",
+    .french = "Justes : %1, à répéter : %2",
+    .italian = {},
+    .german = "%1 richtig, %2 zu wiederholen",
+    .spanish = "Correctas: %1, por repetir: %2",
+    .latin = "Recta: %1, repetenda: %2",
+};
+
 void makeMainMenuItems(QMenuBar& menuBar, MainMenu& window)
 {
     makeMenus(menuBar, window, Rows);

@@ -26,6 +26,9 @@ void makeMainMenuItems(QMenuBar& menuBar, MainMenu& window);
 /// What the main window says until the first exercise was opened: three lines.
 extern const LanguageTexts FirstStepsTexts;
 
+/// What it says of the exercise just left: "%1" were right, "%2" are to be repeated.
+extern const LanguageTexts LastDrillTexts;
+
 /// The captions of the main window's buttons, menus and items.
 std::span<const Caption> mainMenuCaptions();
 

@@ -83,7 +83,7 @@ TEST_F(Looks, ShowMacronsWhereNothingIsTypedAndLeaveWhatIsComparedAndHeadingsAsT
     QWidget& options = open("OptionsOptions", "frmOptions");
     tests::control<QTabBar>(options).setCurrentIndex(2);
     tests::click(options, "ShowMacrons");
-    EXPECT_EQ(bytesOf("looks.ini"), "TextSize=100\r\nShowMacrons=1\r\nFirstStepsDone=0\r\n");
+    EXPECT_EQ(bytesOf("looks.ini"), "TextSize=100\r\nShowMacrons=1\r\nFirstStepsDone=0\r\nKeepAnswers=1\r\n");
     QWidget& test = open("MainVocabulary", "Vcabtester");
     EXPECT_EQ(label(test, "VQuestion") + ' ' + label(test, "VHint"), "mīles mīlitis, m.");
     tests::choose(test, "VcabtesterOptionsPromptLatin");

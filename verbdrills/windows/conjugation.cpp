@@ -9,6 +9,7 @@
 #include "shell/kit/type.h"
 #include "shell/settings.h"
 #include "verbdrills/gloss.h"
+#include "verbdrills/verb_records.h"
 #include "verbs/verb_tables.h"
 
 #include <QBoxLayout>
@@ -165,7 +166,9 @@ void Conjugation::nameForTheEar(int number)
 
 std::optional<bool> Conjugation::judge(const std::string& typed)
 {
-    return judgeConjugation(typed);
+    const bool right = judgeConjugation(typed);
+    shell::tellAnswer(recordOfConjugation(typed, right));
+    return right;
 }
 
 std::string Conjugation::answer() const

@@ -9,6 +9,7 @@
 #include "shell/settings.h"
 #include "verbdrills/quiz_draw.h"
 #include "verbdrills/quiz_texts.h"
+#include "verbdrills/verb_records.h"
 #include "verbdrills/windows/person_and_number.h"
 #include "verbdrills/windows/quiz_list.h"
 
@@ -209,7 +210,9 @@ void Probatio::check()
     if (!canAnswer() || !verbQuiz.formIsAsked)
         return;
     showChosenAnswer();
-    Q_EMIT answerJudged(judgeIdentification(chosenAnswer()));
+    const bool right = judgeIdentification(chosenAnswer());
+    shell::tellAnswer(recordOfIdentification(chosenAnswer(), right));
+    Q_EMIT answerJudged(right);
 }
 
 void Probatio::skip()

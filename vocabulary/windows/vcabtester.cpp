@@ -10,6 +10,7 @@
 #include "shell/language_texts.h"
 #include "shell/pause.h"
 #include "shell/settings.h"
+#include "vocabulary/test_record.h"
 #include "vocabulary/vocabulary_edits.h"
 #include "vocabulary/vocabulary_list.h"
 #include "vocabulary/vocabulary_tester.h"
@@ -209,9 +210,11 @@ void Vcabtester::check()
         moveOn();
         return;
     }
+    const bool right = judgement == Judgement::Right;
+    shell::tellAnswer(recordOfWord(answer_->text().toStdString(), right));
     answer_->setReadOnly(true);
     showHint(hintText());
-    announce(judgement == Judgement::Right);
+    announce(right);
 }
 
 void Vcabtester::reveal()
