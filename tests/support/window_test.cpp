@@ -15,6 +15,7 @@ QWidget& focused(QWidget& window)
 
 QWidget& WindowTest::start()
 {
+    navigation_.reset();
     app::loadLooks();
     navigation_ = std::make_unique<app::Navigation>();
     navigation_->start();
