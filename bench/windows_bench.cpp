@@ -1,11 +1,12 @@
 // How the windows answer: the switch of captions beside the same number of texts on a bare window, the time
-// from Enter to the painted judgement, and the processor time of a pause. Needs a display. Prints rows of a
-// table, and fails where a limit is passed.
+// from Enter to the painted judgement, with the answers kept and without, and the processor time of a pause.
+// Needs a display. Prints rows of a table, and fails where a limit is passed.
 
 #include "app/application.h"
 #include "app/navigation.h"
 #include "app/qt_platform.h"
 #include "platform/platform.h"
+#include "shell/looks.h"
 #include "shell/settings.h"
 #include "verbdrills/conjugation_drill.h"
 
@@ -18,8 +19,11 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QTemporaryDir>
+#include <QTimer>
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -33,6 +37,7 @@ using Clock = std::chrono::steady_clock;
 
 constexpr double OneFrame = 16;
 constexpr double MostOfPause = 5;
+constexpr double MostOfKeeping = 1.1;
 
 double millisecondsSince(Clock::time_point begin)
 {
@@ -152,23 +157,64 @@ bool row(const char* what, const QString& measured, const QString& limit, bool k
     return kept;
 }
 
+double timeOfJudgement(Judgement& judgement, const std::string& form)
+{
+    judgement.putsAhead = static_cast<float>(shell::settings.DelaySeconds);
+    judgement.await();
+    const auto begin = answer(form);
+    judgement.mustHaveCome();
+    return std::chrono::duration<double, std::milli>(judgement.painted - begin).count();
+}
+
 bool measureJudgements(Judgement& judgement)
 {
     constexpr int rounds = 120;
-    judgement.putsAhead = static_cast<float>(shell::settings.DelaySeconds);
     std::vector<double> times;
-    for (int i = 0; i < rounds; ++i)
-        for (const bool right : {false, true}) {
-            judgement.await();
-            const std::string form = right ? verbdrills::conjugationDrill.CorrectForm : "?!";
-            const auto begin = answer(form);
-            judgement.mustHaveCome();
-            times.push_back(std::chrono::duration<double, std::milli>(judgement.painted - begin).count());
-        }
+    for (int i = 0; i < rounds; ++i) {
+        times.push_back(timeOfJudgement(judgement, "?!"));
+        times.push_back(timeOfJudgement(judgement, verbdrills::conjugationDrill.CorrectForm));
+    }
     const double slow = quantile(times, 0.99);
     return row("Enter to the judgement painted, 99th percentile",
                QStringLiteral("%1 ms (median %2)").arg(slow, 0, 'f', 1).arg(quantile(times, 0.5), 0, 'f', 1),
                QStringLiteral("%1 ms").arg(OneFrame), slow < OneFrame);
+}
+
+// As long as it takes at least to think of a form.
+void think()
+{
+    constexpr int milliseconds = 150;
+    QEventLoop loop;
+    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+// The program is begun anew for each turn, and the first answer, with which the record is opened, left out.
+bool measureKeeping(Judgement& judgement)
+{
+    constexpr int turns = 6;
+    constexpr int rounds = 24;
+    std::array<std::vector<double>, 2> times;
+    for (int turn = 0; turn < 2 * turns; ++turn) {
+        shell::looks.KeepAnswers = turn % 2 == 1;
+        app::Navigation navigation;
+        navigation.start();
+        settle();
+        openDrill();
+        timeOfJudgement(judgement, "?!");
+        for (int i = 0; i < rounds; ++i) {
+            think();
+            times.at(shell::looks.KeepAnswers).push_back(timeOfJudgement(judgement, "?!"));
+        }
+    }
+    const double without = quantile(times.front(), 0.5);
+    const double kept = quantile(times.back(), 0.5);
+    return row("Enter to the judgement painted, kept, by that without, medians",
+               QStringLiteral("%1 ms by %2: %3")
+                   .arg(kept, 0, 'f', 2)
+                   .arg(without, 0, 'f', 2)
+                   .arg(kept / without, 0, 'f', 2),
+               QString::number(MostOfKeeping), kept < MostOfKeeping * without);
 }
 
 bool measurePause(Judgement& judgement)
@@ -255,17 +301,21 @@ bool measureSwitch()
 int main(int argumentCount, char** arguments)
 {
     app::Application application(argumentCount, arguments);
-    std::filesystem::current_path(MORVANTI_DATA);
+    const QTemporaryDir folder;
+    std::filesystem::copy(MORVANTI_DATA, folder.path().toStdString(),
+                          std::filesystem::copy_options::recursive);
+    std::filesystem::current_path(folder.path().toStdString());
     ImpatientPlatform platform;
     platform::use(platform);
+    Judgement judgement(platform);
+    QApplication::instance()->installEventFilter(&judgement);
+    bool kept = measureKeeping(judgement);
     app::Navigation navigation;
     navigation.start();
     shell::settings.SaveSettingsOnExit = platform::FlagFalse;
     settle();
 
-    bool kept = measureSwitch();
-    Judgement judgement(platform);
-    QApplication::instance()->installEventFilter(&judgement);
+    kept = measureSwitch() && kept;
     openDrill();
     kept = measureJudgements(judgement) && kept;
     kept = measurePause(judgement) && kept;
