@@ -74,6 +74,25 @@ private:
     }
 };
 
+// A line that is a link, and shows when it has the focus.
+class LinkLine : public QLabel {
+public:
+    using QLabel::QLabel;
+
+protected:
+    void focusInEvent(QFocusEvent* event) override
+    {
+        QLabel::focusInEvent(event);
+        setSelection(0, static_cast<int>(accessibleName().size()));
+    }
+
+    void focusOutEvent(QFocusEvent* event) override
+    {
+        QLabel::focusOutEvent(event);
+        setSelection(0, 0);
+    }
+};
+
 } // namespace
 
 MainMenu::MainMenu() : Window("MainMenu", "main"), menuBar_(new QMenuBar(this))
@@ -191,10 +210,9 @@ void MainMenu::forgetLastDrill()
         lastDrill_->hide();
 }
 
-// Enter need not first find the link in the line.
 void MainMenu::makeLastDrill()
 {
-    lastDrill_ = makeLabel(this, "LastDrill");
+    lastDrill_ = makeControl<LinkLine>(this, "LastDrill");
     lastDrill_->setTextFormat(Qt::RichText);
     lastDrill_->setAlignment(Qt::AlignHCenter);
     lastDrill_->setContentsMargins(0, LargeSpace, 0, 0);
@@ -204,12 +222,14 @@ void MainMenu::makeLastDrill()
     column_->addWidget(lastDrill_);
 }
 
+// In the colour of all text, which can be read in a dark window as well.
 void MainMenu::writeLastDrill()
 {
     if (lastDrill_ == nullptr)
         return;
     const QString text = fromUtf8(LastDrillTexts.currentOrDesigned()).arg(lastRight_).arg(lastToRepeat_);
-    lastDrill_->setText(QStringLiteral("<a href=\"review\">%1</a>").arg(text));
+    const QString colour = palette().color(QPalette::WindowText).name();
+    lastDrill_->setText(QStringLiteral("<a href='review' style='color:%1'>%2</a>").arg(colour, text));
     lastDrill_->setAccessibleName(text);
 }
 
@@ -246,6 +266,8 @@ void MainMenu::changeEvent(QEvent* event)
     Window::changeEvent(event);
     if (event->type() == QEvent::WindowStateChange)
         recordWindowState();
+    if (event->type() == QEvent::PaletteChange)
+        writeLastDrill();
 }
 
 void MainMenu::resizeEvent(QResizeEvent* event)

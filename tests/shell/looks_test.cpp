@@ -12,7 +12,8 @@ TEST_F(Looks, ArePlainLinesOfWhichABadOneGivesNothingAndNoFileTheFirstState)
     const std::string kept = "TextSize=175\r\nShowMacrons=1\r\nFirstStepsDone=1\r\nKeepAnswers=0\r\n";
     const std::pair<std::string, std::string> files[] = {
         {kept, kept},
-        {"\xEF\xBB\xBF[looks]\n  FirstStepsDone=1\nTextSize=175 \n\nColour=red\nShowMacrons=1\nKeepAnswers=0", kept},
+        {"\xEF\xBB\xBF[looks]\n  FirstStepsDone=1\nTextSize=175 \n\nColour=red\nShowMacrons=1\nKeepAnswers=0",
+         kept},
         {"TextSize=110\nTextSize=\nTextSize=1e2\nShowMacrons=yes\nFirstStepsDone\n=1\n==", first},
         {"textsize=175\nTextSize=-80\nTextSize=99999999999999999999\nShowMacrons=-1", first},
         {std::string("\0\xFF,\"", 4), first}};
