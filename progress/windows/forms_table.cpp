@@ -2,6 +2,7 @@
 
 #include "progress/review.h"
 #include "shell/kit/latin_text.h"
+#include "shell/kit/measure.h"
 #include "shell/kit/text.h"
 #include "shell/language_texts.h"
 #include "shell/settings.h"
@@ -54,6 +55,7 @@ FormsTable::FormsTable(QWidget* parent) : QTableWidget(0, static_cast<int>(Headi
     horizontalHeader()->setStretchLastSection(true);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    shell::keepMeasure(*this, "rows", [this](shell::Growth) { fitRows(); });
 }
 
 void FormsTable::show(std::vector<Form> forms)
@@ -66,10 +68,14 @@ void FormsTable::show(std::vector<Form> forms)
     setRowCount(static_cast<int>(forms.size()));
     for (std::size_t row = 0; row < forms.size(); ++row)
         showForm(static_cast<int>(row), forms[row]);
+    fitRows();
+    setCurrentCell(0, 0, QItemSelectionModel::NoUpdate);
+}
+
+void FormsTable::fitRows()
+{
     resizeColumnsToContents();
     resizeRowsToContents();
-    if (!forms.empty())
-        setCurrentCell(0, 0);
 }
 
 void FormsTable::showForm(int row, const Form& form)

@@ -20,6 +20,7 @@ public:
 
 private:
     void showForm(int row, const Form& form);
+    void fitRows();
 };
 
 } // namespace progress

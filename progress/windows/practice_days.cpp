@@ -11,6 +11,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
+#include <utility>
 
 namespace progress {
 
@@ -94,7 +96,8 @@ void PracticeDays::paintEvent(QPaintEvent* /*event*/)
     for (const DayOfPractice& day : year_) {
         const QRect place = placeOf(day);
         const bool practised = day.share.answered > 0;
-        painter.fillRect(place, practised ? shadeOf(double(day.share.answered) / mostAnswers_) : none);
+        painter.fillRect(place,
+                         practised ? shadeOf(std::sqrt(double(day.share.answered) / mostAnswers_)) : none);
         painter.setPen(day.day == year_.back().day ? palette().color(QPalette::WindowText) : edge);
         painter.drawRect(place.adjusted(0, 0, -1, -1));
         const QDate date = dateOf(day.day);

@@ -98,7 +98,10 @@ void Progress::makeControls()
     grid_->setItemDelegate(new CellDelegate(grid_));
     grid_->setSelectionMode(QAbstractItemView::SingleSelection);
     grid_->setTabKeyNavigation(false);
+    for (QHeaderView* const header : {grid_->horizontalHeader(), grid_->verticalHeader()})
+        header->setHighlightSections(false);
     keepLines(*grid_, GridLines);
+    shell::keepMeasure(*grid_, "cells", [this](shell::Growth) { fitCells(); });
     forms_ = shell::makeControl<FormsTable>(this, "ProgressForms");
     keepLines(*forms_, FormsLines);
     cellName_ = shell::makeLabelOf(forms_, "ProgressCell");
@@ -205,10 +208,15 @@ void Progress::showGrid()
     for (QWidget* const part : std::initializer_list<QWidget*>{grid_, cellName_, forms_})
         part->setVisible(worst.isValid());
     grid_->setAccessibleName(kind_->currentText());
-    grid_->resizeColumnsToContents();
-    grid_->resizeRowsToContents();
+    fitCells();
     grid_->setCurrentIndex(worst);
     showForms();
+}
+
+void Progress::fitCells()
+{
+    grid_->resizeColumnsToContents();
+    grid_->resizeRowsToContents();
 }
 
 void Progress::showForms()

@@ -49,6 +49,7 @@ private:
     Grid chosenGrid() const;
     void chooseGridWithAnswers();
     void showGrid();
+    void fitCells();
     void showForms();
     void showDays();
     void chooseFile();
