@@ -49,10 +49,10 @@ TEST_F(Progress, AGridHasTheShareOfEachCellAndACellItsWorstFormFirstWithWhatWasW
 {
     start();
     tellOfAmare("Imperative", "2nd Person Sing", "ama", "ama");
-    for (const char* const written : {"amat", "amabt", "amat", "ambat", "amabt"})
-        tellOfAmare("Present Indicative", "3rd Person Sing", "amat", written);
     for (const char* const written : {"amo", "amo", "amo"})
         tellOfAmare("Present Indicative", "1st Person Sing", "amo", written);
+    for (const char* const written : {"amat", "amabt", "amat", "ambat", "amabt"})
+        tellOfAmare("Present Indicative", "3rd Person Sing", "amat", written);
     tell("Quiz", "regere", "Third Conjugation / Present Indicative / 1st Person Sing", "sum", "est");
     tell("Vcabtester", "insula", "vr-vcab.lst / word", "island", "island");
 
