@@ -11,9 +11,9 @@ namespace app {
 /// The window of the program that the keys go to: not while a menu is open or a message stands.
 const shell::Window* windowWithTheKeys();
 
-/// Sees every key before the windows do, as long as it lives. F1 asks for the guide in each window of the program, though not
-/// in an open menu or a message. F1, Enter and Escape count once however long they are held: a key that is
-/// still down when a pause ends must not answer the next question.
+/// Sees every key before the windows do, as long as it lives. F1 asks for the guide in each window of the
+/// program, though not in an open menu or a message. F1, Enter and Escape count once however long they are
+/// held: a key that is still down when a pause ends must not answer the next question.
 class KeyFilter : public QObject {
     Q_OBJECT
 

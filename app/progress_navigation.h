@@ -2,6 +2,9 @@
 
 #include "app/common_windows.h"
 #include "progress/keeper.h"
+#include "progress/windows/progress.h"
+#include "progress/windows/progress_erase.h"
+#include "progress/windows/review.h"
 
 #include <QObject>
 #include <QTimer>
@@ -10,7 +13,8 @@
 
 namespace app {
 
-/// Joins the record of answers with the drills that give them.
+/// Joins the record of answers with the drills that give them, and knows the windows that show it and ask
+/// from it.
 ///
 /// An answer is told as soon as it is judged. It is kept in the pause that follows, once the judgement is on
 /// the screen; at the latest when the next one is told, when the drill is left, or when the program ends. So
@@ -32,11 +36,27 @@ private:
     void keepWaiting();
     void endDrill();
 
+    void joinProgress(progress::Progress& window);
+    void joinErase(progress::ProgressErase& window);
+    void joinReview(progress::Review& window);
+
+    void openProgress();
+    void openReview();
+    void openReviewFromProgress();
+    void beginReview();
+    void eraseAnswers();
+
     CommonWindows& common_;
     progress::Keeper keeper_;
     QTimer pause_;
     std::optional<shell::AnswerRecord> waiting_;
     bool drillRuns_ = false;
+    OnDemand<progress::Progress> progress_{this, &ProgressNavigation::joinProgress};
+    OnDemand<progress::ProgressErase> erase_{this, &ProgressNavigation::joinErase};
+    OnDemand<progress::Review> review_{this, &ProgressNavigation::joinReview};
+
+    /// Where a review leads back to.
+    Step afterReview_;
 };
 
 } // namespace app

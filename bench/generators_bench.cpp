@@ -36,6 +36,10 @@ public:
     bool soundIsPlaying() const override { return false; }
     bool startProgram(const std::string&) override { return false; }
     void showMessage(const std::string&, std::function<void()>) override {}
+    void chooseFileToSave(const std::string&, const std::vector<std::string>&,
+                          std::function<void(const std::string&)>) override
+    {
+    }
     void endProgram(int) override {}
     bool ending() const override { return false; }
 };

@@ -38,6 +38,7 @@ inline constexpr std::string_view Conjugation = "Conjugation";
 inline constexpr std::string_view Pronouns = "Pronouns";
 inline constexpr std::string_view Vcabtester = "Vcabtester";
 inline constexpr std::string_view Quiz = "Quiz";
+inline constexpr std::string_view Review = "Review";
 } // namespace exercise
 
 /// The values of `MainWindowState`; any other leaves a window as it is.

@@ -42,6 +42,9 @@ protected:
     /// Announces a judged answer, which stands in the box asked.
     void announce(bool right);
 
+    /// Forgets what was typed while an answer is announced: the question that it was meant for does not come.
+    void dropKeysKept() { keys_.clear(); }
+
     /// Whether the answer is Latin, where a colon marks a long vowel.
     virtual bool answersInLatin() const { return true; }
 

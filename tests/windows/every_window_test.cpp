@@ -1,3 +1,4 @@
+#include "shell/answer_record.h"
 #include "shell/settings.h"
 #include "tests/support/window_test.h"
 
@@ -19,6 +20,8 @@ const std::vector<std::pair<const char*, QStringList>> Windows = {
     {"VcabReplace", {"FileVcabManager", "VcabManSave", "FHFileBox 0", "LoadSaveFH"}},
     {"VcabDivide", {"MainVocabulary", "VcabTesterFileOpen", "VcabFile 0"}},
     {"VcabWarning", {"MainVocabulary", "VcabTesterEdit", "VcabManMainForm 0", "VcabManDelete", "VcabManExit"}},
+    {"Progress", {"FileProgress"}}, {"ProgressErase", {"FileProgress", "ProgressDelete"}},
+    {"Review", {"FileProgress", "ProgressReview"}},
 };
 
 // The interface's texts stay as they are, and so do these: no others may come to them.
@@ -110,6 +113,9 @@ protected:
         for (const char* const sample : {"morvanti.hlp", "morvanti.de.hlp", "vr-vcab.lst"})
             tests::copySample(sample);
         tests::writeFile("301 words.lst", QByteArray("a,b,c\n").repeated(301).toStdString());
+        start();
+        shell::tellAnswer({"Conjugation", "amare", "First Conjugation / Imperative / 2nd Person Sing",
+                           "amare, Imperative, 2nd Person Sing", "ama", "ame"});
         for (const std::string language : {"English", "French", "German", "Spanish", "Latin"})
             for (const auto& [name, way] : Windows) {
                 SCOPED_TRACE(language + ' ' + name);

@@ -41,7 +41,7 @@ constexpr LanguageTexts Question{
 
 } // namespace
 
-VcabDivide::VcabDivide() : ListQuestion("VcabDivide", "VcabDivideText"), divide_(addAnswer("VcabDivideOK"))
+VcabDivide::VcabDivide() : QuestionWindow("VcabDivide", "VcabDivideText"), divide_(addAnswer("VcabDivideOK"))
 {
     connect(divide_, &QPushButton::clicked, this, &VcabDivide::divide);
     connect(addAnswer("VcabDivideCancel"), &QPushButton::clicked, this, &VcabDivide::left);

@@ -1,14 +1,14 @@
 #pragma once
 
+#include "shell/kit/question_window.h"
 #include "vocabulary/vocabulary_file.h"
-#include "vocabulary/windows/list_question.h"
 
 #include <filesystem>
 
 namespace vocabulary {
 
 /// Asks whether a file with more words than a list holds may be divided into several lists, and divides it.
-class VcabDivide : public ListQuestion {
+class VcabDivide : public shell::QuestionWindow {
     Q_OBJECT
 
 public:

@@ -41,7 +41,7 @@ QString contentsOf(const std::filesystem::path& path)
 
 } // namespace
 
-VcabReplace::VcabReplace() : ListQuestion("VcabReplace", "VcabReplaceText")
+VcabReplace::VcabReplace() : QuestionWindow("VcabReplace", "VcabReplaceText")
 {
     connect(addAnswer("VcabReplaceOK"), &QPushButton::clicked, this, &VcabReplace::replacementAllowed);
     cancel_ = addAnswer("VcabReplaceCancel");

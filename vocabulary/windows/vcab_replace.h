@@ -1,13 +1,13 @@
 #pragma once
 
-#include "vocabulary/windows/list_question.h"
+#include "shell/kit/question_window.h"
 
 #include <filesystem>
 
 namespace vocabulary {
 
 /// Asks whether the list may replace a file, and says how many words that holds.
-class VcabReplace : public ListQuestion {
+class VcabReplace : public shell::QuestionWindow {
     Q_OBJECT
 
 public:

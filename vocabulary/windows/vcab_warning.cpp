@@ -27,7 +27,7 @@ constexpr std::array Captions = {
 } // namespace
 
 VcabWarning::VcabWarning()
-    : ListQuestion("VcabWarning", "VcabWarningText"), save_(addAnswer("VcabWarningSave"))
+    : QuestionWindow("VcabWarning", "VcabWarningText"), save_(addAnswer("VcabWarningSave"))
 {
     connect(save_, &QPushButton::clicked, this, &VcabWarning::saveRequested);
     connect(addAnswer("VcabWarningDiscard"), &QPushButton::clicked, this, &VcabWarning::discardRequested);

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "vocabulary/windows/list_question.h"
+#include "shell/kit/question_window.h"
 
 namespace vocabulary {
 
 /// Warns of changes to the list that are not saved.
-class VcabWarning : public ListQuestion {
+class VcabWarning : public shell::QuestionWindow {
     Q_OBJECT
 
 public:

@@ -6,14 +6,14 @@ class QBoxLayout;
 class QLabel;
 class QPushButton;
 
-namespace vocabulary {
+namespace shell {
 
 /// A question that holds the other windows until it is answered: a text, and a row of buttons below it.
-class ListQuestion : public shell::Window {
+class QuestionWindow : public Window {
     Q_OBJECT
 
 protected:
-    ListQuestion(std::string_view name, QAnyStringView text);
+    QuestionWindow(std::string_view name, QAnyStringView text);
 
     /// Adds a button at the right end of the row.
     QPushButton* addAnswer(QAnyStringView name);
@@ -28,4 +28,4 @@ private:
     QBoxLayout* answers_;
 };
 
-} // namespace vocabulary
+} // namespace shell

@@ -1,0 +1,22 @@
+#include "progress/windows/cell_delegate.h"
+
+#include <QPainter>
+
+namespace progress {
+
+void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                         const QModelIndex& index) const
+{
+    constexpr int frameWidth = 2;
+    QStyleOptionViewItem plain = option;
+    plain.state &= ~(QStyle::State_Selected | QStyle::State_HasFocus | QStyle::State_MouseOver);
+    QStyledItemDelegate::paint(painter, plain, index);
+    if (!option.state.testFlag(QStyle::State_Selected))
+        return;
+    painter->save();
+    painter->setPen(QPen(option.palette.color(QPalette::Text), frameWidth));
+    painter->drawRect(option.rect.adjusted(1, 1, -frameWidth, -frameWidth));
+    painter->restore();
+}
+
+} // namespace progress

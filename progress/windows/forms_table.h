@@ -1,0 +1,26 @@
+#pragma once
+
+#include "progress/form.h"
+
+#include <QTableWidget>
+
+#include <vector>
+
+namespace progress {
+
+/// The forms of a cell, the worst in the first row: what is asked, how well it is known, the right answer,
+/// and what was written instead, the latest first.
+class FormsTable : public QTableWidget {
+    Q_OBJECT
+
+public:
+    explicit FormsTable(QWidget* parent);
+
+    void show(std::vector<Form> forms);
+
+private:
+    void showForm(int row, const Form& form);
+    void fitRows();
+};
+
+} // namespace progress

@@ -1,0 +1,294 @@
+#include "progress/windows/review.h"
+
+#include "platform/platform.h"
+#include "progress/keeper.h"
+#include "progress/windows/review_box.h"
+#include "shell/kit/captions.h"
+#include "shell/kit/controls.h"
+#include "shell/kit/text.h"
+#include "shell/pause.h"
+#include "shell/settings.h"
+
+#include <QBoxLayout>
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+
+#include <array>
+
+namespace progress {
+
+using shell::Caption;
+using shell::fromUtf8;
+using shell::LanguageTexts;
+using shell::Part;
+
+namespace {
+
+constexpr QSize LargestBlock{84, shell::AsItsLines};
+constexpr int AnswerCharacters = 44;
+constexpr int QuestionLines = 2;
+
+// As in the vocabulary test, where "?" may be part of an answer.
+constexpr std::string_view AnswerWish = "?";
+
+// clang-format off
+constexpr std::array Captions = {
+    //                            English         French           Italian German         Spanish          Latin
+    Caption{"Review",            {"Review",       "Révision",      {},     "Wiederholung", "Repaso",       "Repetitio"}},
+    Caption{"ReviewKindLabel",   {"&Ask",         "&Demander",     {},     "Ab&fragen",    "&Preguntar",   "&Quaere"}},
+    Caption{"ReviewAnswerLabel", {"Your a&nswer", "Votre ré&ponse", {},    "Ihre A&ntwort", "Su r&espuesta", "Respo&nsum"}},
+    Caption{"ReviewOK",          {"&OK",          "&OK",           {},     "&OK",          "&Aceptar",     "&Ita"}},
+    Caption{"ReviewQuit",        {"Q&uit",        "Q&uitter",      {},     "&Beenden",     "&Salir",       "R&everte!"}},
+    Caption{"HelpLabel",         {"Help=F1",      "Assistance=F1", {},     "Hilfe=F1",     "Ayuda=F1",     "Auxilium=F1"}},
+};
+
+// Kinds of exercise that come again; the first stands for all of them.
+struct Kind {
+    std::string_view exercise;
+    LanguageTexts texts;
+};
+
+constexpr std::array Kinds = {
+    Kind{"",                           {"All kinds",  "Tout",         {}, "Alles gemischt", "Todo",        "Omnia"}},
+    Kind{shell::exercise::Conjugation, {"Verbs",      "Verbes",       {}, "Verben",         "Verbos",      "Conjugationes"}},
+    Kind{shell::exercise::Declination, {"Nouns",      "Substantifs",  {}, "Substantive",    "Nombres",     "Declinationes"}},
+    Kind{shell::exercise::Pronouns,    {"Pronouns",   "Pronoms",      {}, "Pronomen",       "Pronombres",  "Pronomina"}},
+    Kind{shell::exercise::Vcabtester,  {"Vocabulary", "Vocabulaire",  {}, "Wortschatz",     "Vocabulario", "Verba nostra"}},
+};
+
+constexpr LanguageTexts Left{"%1 left", "%1 à revoir", {}, "%1 übrig", "%1 por repasar", "%1 repetenda"};
+constexpr LanguageTexts NothingDue{"Nothing is due today.", "Rien n'est à revoir aujourd'hui.", {}, "Heute ist nichts fällig.", "Hoy no hay nada que repasar.", "Hodie nihil repetendum est."};
+constexpr LanguageTexts AllDone{"All that was due is done.", "Tout ce qui était à revoir est fait.", {}, "Alles Fällige ist erledigt.", "Todo lo que había que repasar está hecho.", "Omnia repetenda peracta sunt."};
+// clang-format on
+
+QString current(const LanguageTexts& texts)
+{
+    return fromUtf8(texts.currentOrDesigned());
+}
+
+QString nameOfExercise(const std::string& exercise)
+{
+    for (const Kind& kind : Kinds)
+        if (kind.exercise == exercise)
+            return current(kind.texts);
+    return {};
+}
+
+} // namespace
+
+Review::Review() : TypingDrill("Review", "review", shell::exercise::Review)
+{
+    makeControls();
+    layOut();
+    connectControls();
+}
+
+void Review::makeControls()
+{
+    kind_ = shell::makeControl<QComboBox>(this, "ReviewKind");
+    kindLabel_ = shell::makeLabelOf(kind_, "ReviewKindLabel");
+    title_ = shell::makeLabel(this, "ReviewTitle", shell::FormType);
+    left_ = shell::makeLabel(this, "ReviewLeft");
+    score_ = shell::makeLabel(this, "ScoreLabel");
+    question_ = shell::makeHeading(this, "ReviewQuestion", shell::HeadingType);
+    shell::wrapText(*question_, QuestionLines);
+    answer_ = shell::makeControl<ReviewBox>(this, "ReviewAnswer");
+    joinBox(*answer_);
+    shell::setLeastWidth(*answer_, AnswerCharacters);
+    ok_ = shell::makeButton(this, "ReviewOK");
+    hint_ = shell::makeQuestionButton(this, "ReviewHint");
+    quit_ = shell::makeButton(this, "ReviewQuit");
+    whereLabel()->hide();
+}
+
+void Review::layOut()
+{
+    layOutLines(LargestBlock, shell::DrillMargins,
+                {shell::rowOf(shell::SmallSpace, {kindLabel_, kind_, Part::gap(1), score_}),
+                 shell::rowOf(shell::SmallSpace, {title_, Part::gap(1), left_}), question_,
+                 Part::space(shell::SmallSpace), shell::makeLabelOf(answer_, "ReviewAnswerLabel"), answer_,
+                 whyLabel(), shell::buttonRow({shell::makeLabel(this, "HelpLabel")}, {ok_, hint_, quit_})});
+}
+
+void Review::connectControls()
+{
+    connect(kind_, &QComboBox::activated, this, &Review::beginRound);
+    connect(answer_, &ReviewBox::returnPressed, this, &Review::check);
+    connect(answer_, &ReviewBox::hintRequested, this, &Review::hint);
+    connect(ok_, &QPushButton::clicked, this, &Review::check);
+    connect(hint_, &QPushButton::clicked, this, &Review::hint);
+    connect(quit_, &QPushButton::clicked, this, &Review::left);
+    connect(this, &DrillWindow::answerJudged, this, &Review::explainAnswer);
+}
+
+void Review::setCaptions()
+{
+    shell::applyCurrentOrDesignedCaptions(*this, Captions);
+    kind_->clear();
+    for (const Kind& kind : Kinds)
+        kind_->addItem(current(kind.texts));
+}
+
+void Review::open(Keeper& keeper)
+{
+    shell::beginDrill(shell::exercise::Review);
+    keeper_ = &keeper;
+    setCaptions();
+    score_->clear();
+    beginRound();
+    showInMainWindowState();
+    focusQuestion();
+}
+
+void Review::beginRound()
+{
+    Store* const store = keeper_->store();
+    const Day today = platform::localDay(platform::current().now());
+    const auto& kind = Kinds.at(static_cast<std::size_t>(kind_->currentIndex()));
+    round_ =
+        ReviewRound(store == nullptr ? std::vector<std::int64_t>() : store->dueForms(today, kind.exercise));
+    whyLabel()->clear();
+    ask();
+    if (!asked_)
+        question_->setText(current(NothingDue));
+}
+
+// A form that is gone from the store is passed over.
+void Review::ask()
+{
+    asked_.reset();
+    for (auto number = round_.asked(); number && !asked_; number = round_.asked()) {
+        Store* const store = keeper_->store();
+        const auto form = store == nullptr ? std::nullopt : store->form(*number);
+        if (form)
+            asked_ = questionFor(*form);
+        else
+            round_.moveOn(true);
+    }
+    showQuestion();
+}
+
+void Review::showQuestion()
+{
+    title_->setText(asked_ ? nameOfExercise(asked_->exercise) : windowTitle());
+    question_->setText(asked_ ? shownQuestion() : current(AllDone));
+    left_->setText(current(Left).arg(round_.left()));
+    if (asksWord())
+        answer_->takeWord();
+    else
+        answer_->takeForm();
+    answer_->clear();
+    answer_->lookIdle();
+    answer_->setAccessibleDescription(question_->text());
+    for (QWidget* const control : std::initializer_list<QWidget*>{ok_, hint_, answer_})
+        control->setEnabled(asked_.has_value());
+}
+
+bool Review::asksWord() const
+{
+    return asked_ && asked_->exercise == shell::exercise::Vcabtester;
+}
+
+// A translation may hold a colon of its own.
+QString Review::shownQuestion() const
+{
+    const bool latin = !asksWord() || !answersInLatin();
+    return latin ? shell::latinText(asked_->asked) : fromUtf8(asked_->asked);
+}
+
+shell::AnswerBox& Review::askedBox() const
+{
+    return *answer_;
+}
+
+std::string Review::answer() const
+{
+    return asked_ ? asked_->expected : std::string();
+}
+
+bool Review::answersInLatin() const
+{
+    return !asksWord() || shell::partsOfPlace(asked_->place)[1] == shell::AskedWithTranslation;
+}
+
+void Review::check()
+{
+    if (!canAnswer() || !asked_)
+        return;
+    const std::string typed = answer_->text().toStdString();
+    if (asksWord() && typed == AnswerWish) {
+        hint();
+        return;
+    }
+    const shell::AnswerRecord record = judged(*asked_, typed);
+    lockBox();
+    shell::tellAnswer(record);
+    announce(record.right);
+}
+
+void Review::hint()
+{
+    if (!canAnswer() || !asked_)
+        return;
+    lockBox();
+    whyLabel()->clear();
+    answer_->lookRevealed();
+    answer_->setText(fromUtf8(answer()));
+    answer_->repaint();
+    if (!shell::pauseWithDrill())
+        return;
+    answer_->lookBlack();
+    answer_->clear();
+    focusQuestion();
+}
+
+// What is judged or shown stands until the pause is over.
+void Review::lockBox()
+{
+    answer_->setReadOnly(true);
+    kind_->setEnabled(false);
+}
+
+// Another question follows a miss: the right answer stands beside it meanwhile.
+void Review::explainAnswer(bool right)
+{
+    if (right)
+        return;
+    const QString correct = QStringLiteral(" → ") + fromUtf8(answer());
+    whyLabel()->setText(whyLabel()->text() + QStringLiteral(" &nbsp;") + correct.toHtmlEscaped());
+    whyLabel()->setAccessibleName(whyLabel()->accessibleName() + correct);
+}
+
+void Review::showScore(const std::string& text)
+{
+    score_->setText(fromUtf8(text));
+}
+
+void Review::moveOn()
+{
+    round_.moveOn(true);
+    ask();
+}
+
+void Review::askAgain()
+{
+    const auto missed = round_.asked();
+    round_.moveOn(false);
+    if (round_.asked() != missed)
+        dropKeysKept();
+    ask();
+    focusQuestion();
+}
+
+void Review::focusQuestion()
+{
+    answer_->setReadOnly(false);
+    kind_->setEnabled(true);
+    if (asked_)
+        answer_->setFocus();
+    else
+        quit_->setFocus();
+}
+
+} // namespace progress

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "progress/review.h"
+#include "shell/kit/typing_drill.h"
+
+#include <optional>
+#include <string>
+
+class QComboBox;
+class QLabel;
+class QPushButton;
+
+namespace progress {
+
+class Keeper;
+class ReviewBox;
+
+/// Asks the forms and words that are due, of all kinds of exercise or of one. One that was missed comes again
+/// as the last. Words are typed as they stand in their list: there "/", "?" and macrons are letters like all
+/// others, and a "?" alone asks for the answer.
+class Review : public shell::TypingDrill {
+    Q_OBJECT
+
+public:
+    Review();
+
+    /// Begins with what is due today, of all kinds. The keeper must live as long as the window is used.
+    void open(Keeper& keeper);
+
+    void showScore(const std::string& text) override;
+    void moveOn() override;
+    void focusQuestion() override;
+    void askAgain() override;
+
+protected:
+    shell::AnswerBox& askedBox() const override;
+    std::string answer() const override;
+    bool answersInLatin() const override;
+    void check() override;
+
+private:
+    void makeControls();
+    void layOut();
+    void connectControls();
+    void setCaptions();
+
+    bool asksWord() const;
+    QString shownQuestion() const;
+    void beginRound();
+    void ask();
+    void showQuestion();
+    void lockBox();
+    void hint();
+    void explainAnswer(bool right);
+
+    Keeper* keeper_ = nullptr;
+    ReviewRound round_;
+    std::optional<shell::AnswerRecord> asked_;
+    QLabel* title_ = nullptr;
+    QLabel* left_ = nullptr;
+    QLabel* score_ = nullptr;
+    QLabel* question_ = nullptr;
+    ReviewBox* answer_ = nullptr;
+    QLabel* kindLabel_ = nullptr;
+    QComboBox* kind_ = nullptr;
+    QPushButton* ok_ = nullptr;
+    QPushButton* hint_ = nullptr;
+    QPushButton* quit_ = nullptr;
+};
+
+} // namespace progress

@@ -1,0 +1,47 @@
+#include "progress/windows/shade.h"
+
+#include <QGuiApplication>
+#include <QPalette>
+
+#include <cmath>
+
+namespace progress {
+
+namespace {
+
+constexpr double Palest = 0.12;
+
+// At this luminance black and white differ from a colour alike.
+constexpr double MiddleLuminance = 0.179;
+
+double mixed(double from, double to, double part)
+{
+    return from + (to - from) * part;
+}
+
+double linear(double channel)
+{
+    return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+}
+
+} // namespace
+
+QColor shadeOf(double share)
+{
+    const QPalette palette = QGuiApplication::palette();
+    const QColor ground = palette.color(QPalette::Active, QPalette::Base);
+    const QColor accent = palette.color(QPalette::Active, QPalette::Highlight);
+    const double part = mixed(Palest, 1, share);
+    return QColor::fromRgbF(static_cast<float>(mixed(ground.redF(), accent.redF(), part)),
+                            static_cast<float>(mixed(ground.greenF(), accent.greenF(), part)),
+                            static_cast<float>(mixed(ground.blueF(), accent.blueF(), part)));
+}
+
+QColor readableOn(const QColor& colour)
+{
+    const double luminance =
+        0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
+    return luminance > MiddleLuminance ? Qt::black : Qt::white;
+}
+
+} // namespace progress

@@ -1,0 +1,188 @@
+#include "shell/answer_record.h"
+#include "tests/support/window_test.h"
+
+namespace {
+
+using tests::label;
+using tests::shownWindow;
+
+class Progress : public tests::WindowTest {
+protected:
+    static void tell(const std::string& exercise, const std::string& word, const std::string& place,
+                     const std::string& expected, const std::string& written)
+    {
+        shell::tellAnswer({.exercise = exercise,
+                           .word = word,
+                           .place = place,
+                           .asked = word + ", " + place.substr(place.find('/') + 2),
+                           .expected = expected,
+                           .written = written,
+                           .right = expected == written});
+    }
+
+    static void tellOfAmare(const std::string& tense, const std::string& person, const std::string& expected,
+                            const std::string& written)
+    {
+        tell("Conjugation", "amare", "First Conjugation / " + tense + " / " + person, expected, written);
+    }
+
+    static void tellOfThreeForms()
+    {
+        tellOfAmare("Imperative", "2nd Person Sing", "ama", "ame");
+        tell("Vcabtester", "insula", "own.lst / word", "and/or?", "x");
+        tell("Declination", "rex", "Third Declension / Genitive Singular", "regis", "rexis");
+    }
+
+    QWidget& openProgress() { return open("FileProgress", "Progress"); }
+
+    QWidget& openReview()
+    {
+        tests::click(openProgress(), "ProgressReview");
+        return tests::shown("Review");
+    }
+
+    static QString leftIn(const QWidget& review) { return label(review, "ReviewLeft").section(' ', 0, 0); }
+    static QString asked(const QWidget& review) { return label(review, "ReviewQuestion"); }
+};
+
+TEST_F(Progress, AGridHasTheShareOfEachCellAndACellItsWorstFormFirstWithWhatWasWritten)
+{
+    start();
+    tellOfAmare("Imperative", "2nd Person Sing", "ama", "ama");
+    for (const char* const written : {"amo", "amo", "amo"})
+        tellOfAmare("Present Indicative", "1st Person Sing", "amo", written);
+    for (const char* const written : {"amat", "amabt", "amat", "ambat", "amabt"})
+        tellOfAmare("Present Indicative", "3rd Person Sing", "amat", written);
+    tell("Quiz", "regere", "Third Conjugation / Present Indicative / 1st Person Sing", "sum", "est");
+    tell("Vcabtester", "insula", "vr-vcab.lst / word", "island", "island");
+
+    QWidget& progress = openProgress();
+    auto& grid = tests::control<QTableView>(progress, "ProgressGrid");
+    const auto textAt = [&](int row, int column, int role = Qt::DisplayRole) {
+        return grid.model()->index(row, column).data(role).toString();
+    };
+    EXPECT_EQ(grid.model()->headerData(1, Qt::Vertical).toString(), "Present Indicative");
+    EXPECT_EQ(grid.model()->headerData(1, Qt::Horizontal).toString().simplified(), "Third Conjugation");
+    EXPECT_EQ(textAt(0, 0) + '|' + textAt(0, 1) + '|' + textAt(1, 0) + '|' + textAt(1, 1), "100 %||63 %|0 %");
+    EXPECT_EQ(textAt(1, 0, Qt::AccessibleTextRole),
+              "First Conjugation, Present Indicative: 63 percent right, 5 of 8 answers");
+    EXPECT_EQ(textAt(0, 1, Qt::AccessibleTextRole), "Third Conjugation, Imperative: not asked yet");
+
+    EXPECT_EQ(tests::focusIn(progress), "ProgressGrid");
+    tests::press(progress, Qt::Key_Left);
+    tests::press(progress, Qt::Key_Return);
+    EXPECT_EQ(tests::focusIn(progress), "ProgressForms");
+    const auto& forms = tests::control<QTableWidget>(progress, "ProgressForms");
+    QStringList first;
+    for (int column = 0; column < forms.columnCount(); ++column)
+        first << forms.item(0, column)->text();
+    EXPECT_EQ(first.join('|'), "amare, Present Indicative / 3rd Person Sing|40 %|amat|amabt, ambat");
+    EXPECT_EQ(forms.item(1, 1)->text(), "100 %");
+    EXPECT_TRUE(label(progress, "ProgressDaysLabel").contains("year: 1. Answers: 11, right: 7."));
+
+    auto& kind = tests::control<QComboBox>(progress, "ProgressKind");
+    kind.setFocus();
+    tests::press(progress, Qt::Key_Down, 2);
+    EXPECT_EQ(textAt(0, 0), "100 %");
+    tests::press(progress, Qt::Key_Up);
+    EXPECT_FALSE(grid.isVisible());
+    EXPECT_EQ(label(progress, "ProgressNothing"), "Nothing has been answered here yet.");
+}
+
+TEST_F(Progress, AnswersAreExportedAndKeptOrNotAndDeletedOnceTheQuestionIsAnswered)
+{
+    start();
+    EXPECT_FALSE(button(openProgress(), "ProgressExport").isEnabled());
+    tellOfAmare("Imperative", "2nd Person Sing", "ama", "ame, \"amo\"");
+    QWidget& progress = openProgress();
+    fake.chosenName = "mine.csv";
+    tests::click(progress, "ProgressExport");
+    const std::string answers = tests::bytesOf("mine.csv");
+    EXPECT_EQ(answers, "time,exercise,word,place,asked,expected,written,right\r\n"
+                       "2024-10-04T12:00:00+02:00,Conjugation,amare,"
+                       "First Conjugation / Imperative / 2nd Person Sing,"
+                       "\"amare, Imperative / 2nd Person Sing\",ama,\"ame, \"\"amo\"\"\",0\r\n");
+    fake.chosenName = "no folder/mine.csv";
+    tests::click(progress, "ProgressExport");
+    EXPECT_TRUE(
+        QString::fromStdString(fake.messages.back()).contains(QRegularExpression("not exported.*mine.csv")));
+
+    tests::click(progress, "ProgressKeep");
+    tellOfAmare("Imperative", "2nd Person Plur", "amate", "amate");
+    fake.chosenName = "mine.csv";
+    tests::click(progress, "ProgressExport");
+    EXPECT_EQ(tests::bytesOf("mine.csv"), answers);
+    EXPECT_FALSE(button(openProgress(), "ProgressKeep").property("checked").toBool());
+
+    tests::click(progress, "ProgressDelete");
+    EXPECT_EQ(tests::focusIn(tests::shown("ProgressErase")), "ProgressEraseCancel");
+    tests::press(tests::shown("ProgressErase"), Qt::Key_Return);
+    EXPECT_TRUE(button(progress, "ProgressDelete").isEnabled());
+    tests::click(progress, "ProgressDelete");
+    tests::click(tests::shown("ProgressErase"), "ProgressEraseOK");
+    EXPECT_EQ(shownWindow("ProgressErase"), nullptr);
+    EXPECT_FALSE(button(progress, "ProgressDelete").isEnabled());
+    EXPECT_FALSE(tests::control<QTableView>(progress, "ProgressGrid").isVisible());
+}
+
+TEST_F(Progress, AReviewAsksWhatIsDueAndWhatWasMissedAsTheLast)
+{
+    start();
+    tellOfThreeForms();
+    tell("NounQuiz", "rex", "Third Declension / Genitive Singular", "Genitive", "Dative");
+    QWidget& review = openReview();
+    EXPECT_EQ(asked(review) + leftIn(review), "amare, Imperative / 2nd Person Sing3");
+    duringPause([&] { tests::type(review, "amate"); });
+    tests::answer(review, "ame");
+    EXPECT_TRUE(label(review, "WhyLabel").contains("ama"));
+    EXPECT_EQ(asked(review) + leftIn(review), "insula, word3");
+    EXPECT_EQ(line(review, "ReviewAnswer").text(), "");
+
+    tests::answer(review, "?");
+    tests::answer(review, "and/or?");
+    EXPECT_EQ(asked(review) + leftIn(review), "rex, Genitive Singular2");
+    duringPause([&] { EXPECT_EQ(line(review, "ReviewAnswer").text(), "regis"); });
+    tests::type(review, "reg/");
+    tests::answer(review, "regis");
+    EXPECT_EQ(asked(review) + leftIn(review), "amare, Imperative / 2nd Person Sing1");
+    tests::answer(review, "ama");
+    EXPECT_EQ(leftIn(review), "0");
+    EXPECT_EQ(label(review, "ScoreLabel").trimmed(), "75%");
+    EXPECT_EQ(tests::focusIn(review), "ReviewQuit");
+    tests::press(review, Qt::Key_Return);
+    EXPECT_EQ(shownWindow("Review"), nullptr);
+
+    // The two that were right at once are due in a day; the miss that was corrected still lies in the first
+    // box.
+    tests::click(tests::shown("Progress"), "ProgressReview");
+    EXPECT_EQ(asked(review) + leftIn(review), "amare, Imperative / 2nd Person Sing1");
+    fake.day += 1;
+    auto& kind = tests::control<QComboBox>(review, "ReviewKind");
+    kind.setFocus();
+    tests::press(review, Qt::Key_Down);
+    tests::press(review, Qt::Key_Down);
+    EXPECT_EQ(asked(review) + leftIn(review), "rex, Genitive Singular1");
+}
+
+TEST_F(Progress, AReviewWithNothingDueSaysSoAndOneThatIsLeftInThePauseAsksNothingMore)
+{
+    start();
+    QWidget& review = openReview();
+    EXPECT_EQ(asked(review) + leftIn(review), "Nothing is due today.0");
+    EXPECT_FALSE(button(review, "ReviewOK").isEnabled());
+    EXPECT_FALSE(line(review, "ReviewAnswer").isEnabled());
+    tests::press(review, Qt::Key_Escape);
+
+    tellOfThreeForms();
+    for (const auto& leave : tests::waysToLeave("ReviewQuit")) {
+        tests::click(tests::shown("Progress"), "ProgressReview");
+        duringPause([&] { leave(review); });
+        tests::answer(review, "x");
+        EXPECT_EQ(shownWindow("Review"), nullptr);
+        EXPECT_EQ(shownWindow("Wrong"), nullptr);
+        EXPECT_NE(shownWindow("Progress"), nullptr);
+        EXPECT_EQ(leftIn(review), "3");
+    }
+}
+
+} // namespace
