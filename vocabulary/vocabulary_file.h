@@ -77,6 +77,9 @@ void useKvtmlReader(KvtmlReader reader);
 std::optional<platform::Fault> writeVocabularyFile(const std::filesystem::path& path,
                                                    std::span<const WordRecord> records);
 
+/// True where a file of this name is written with tabs.
+bool isWrittenWithTabs(const std::filesystem::path& path);
+
 /// The record as a file of this name holds it.
 WordRecord asWritten(const std::filesystem::path& path, const WordRecord& record);
 
