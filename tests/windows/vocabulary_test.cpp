@@ -217,7 +217,7 @@ TEST_F(VcabWindows, LoadListsOfOtherProgramsAndWriteThemOverOnlyWhereThatIsAllow
     doubleClickRow(list(files(), "FHFileBox"), 0);
     expectWords({"mu:s <é> 2", "Ro:ma"}, "a.kvtml");
     clickIn("VcabManSave");
-    EXPECT_EQ(line(files(), "FHFileName").text(), "a.lst");
+    EXPECT_EQ(line(files(), "FHFileName").selectedText(), "a.lst");
     press(files(), Qt::Key_Return);
     EXPECT_EQ(bytesOf("a.lst"), "mu:s <é> 2,mouse,mu:ris> m.\r\nRo:ma,Rome,Rom\r\n");
     for (const char* const name : {"b.kvtml", "d.kvtml", "c.csv"}) {
