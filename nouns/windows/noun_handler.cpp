@@ -211,13 +211,18 @@ int NounHandler::presetParadigm() const
     return paradigms_->findData(static_cast<int>(ThirdDeclension)) < 0 ? paradigms_->count() - 1 : -1;
 }
 
-std::string NounHandler::lineOfChosenNoun() const
+std::optional<NounHandler::ListRow> NounHandler::chosenNoun() const
 {
     const int row = nouns_->currentRow();
     if (row < 0 || isNewRow(row))
         return {};
-    const auto& [paradigm, number] = rows_.at(static_cast<std::size_t>(row));
-    return lineOfListedNoun(paradigm->paradigm, number);
+    return rows_.at(static_cast<std::size_t>(row));
+}
+
+std::string NounHandler::lineOfChosenNoun() const
+{
+    const auto noun = chosenNoun();
+    return noun ? lineOfListedNoun(noun->paradigm->paradigm, noun->number) : std::string();
 }
 
 void NounHandler::copyLine()

@@ -4,6 +4,7 @@
 #include "shell/kit/window.h"
 
 #include <array>
+#include <optional>
 #include <vector>
 
 class QComboBox;
@@ -31,6 +32,15 @@ public:
     /// Starts afresh with the first declension.
     void open();
 
+    /// A noun by its paradigm and its number there.
+    struct ListRow {
+        const ListedParadigm* paradigm;
+        int number;
+    };
+
+    /// The one that is chosen; none on the row for a new one.
+    std::optional<ListRow> chosenNoun() const;
+
 protected:
     void changeEvent(QEvent* event) override;
 
@@ -38,11 +48,6 @@ private:
     void makeControls();
     void layOut();
     void connectControls();
-
-    struct ListRow {
-        const ListedParadigm* paradigm;
-        int number;
-    };
 
     void listNouns();
     void chooseParadigm();

@@ -154,6 +154,11 @@ int VerbManager::chosenClass() const
     return Classes.at(static_cast<std::size_t>(classes_->currentRow())).verbClass;
 }
 
+int VerbManager::chosenVerb() const
+{
+    return verbs_->currentRow() + 1;
+}
+
 VerbRecord VerbManager::typedVerb() const
 {
     const auto texts = form_->take();

@@ -27,6 +27,10 @@ public:
     /// Starts afresh with the first conjugation.
     void open();
 
+    /// The class that is chosen, and the number of the verb in it; the number after the last is a new one's.
+    int chosenClass() const;
+    int chosenVerb() const;
+
 Q_SIGNALS:
     /// The cancel button, which ends the whole program at once.
     void endRequested();
@@ -40,7 +44,6 @@ private:
     void showPreviews();
     void copyLine();
     void addVerb();
-    int chosenClass() const;
     VerbRecord typedVerb() const;
 
     shell::ChoiceList* classes_ = nullptr;
