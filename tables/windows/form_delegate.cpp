@@ -13,7 +13,7 @@ namespace tables {
 namespace {
 
 constexpr double SicType = 0.7;
-constexpr int SpaceBeside = 5;
+constexpr int SpaceBeside = 4;
 
 // A piece of a form from left to right: its text, its font, and how far above the line it stands.
 struct Piece {
@@ -27,9 +27,11 @@ struct Piece {
 std::vector<Piece> piecesOf(const QModelIndex& index, const QFont& font)
 {
     const QString form = index.data().toString();
-    const QString ending = index.data(PageModel::EndingRole).toString();
     QFont bold = font;
     bold.setBold(true);
+    if (index.data(PageModel::HeadingRole).toBool())
+        return {{form, bold, 0}};
+    const QString ending = index.data(PageModel::EndingRole).toString();
     std::vector<Piece> pieces{{form.chopped(ending.size()), font, 0}, {ending, bold, 0}};
     if (index.data(PageModel::SicRole).toBool()) {
         QFont small = shell::timesAsLarge(font, SicType);
@@ -72,8 +74,10 @@ void FormDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
 QSize FormDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
     int width = 2 * SpaceBeside;
-    for (const Piece& piece : piecesOf(index, option.font))
-        width += piece.width();
+    // A heading has the room of all columns.
+    if (!index.data(PageModel::HeadingRole).toBool())
+        for (const Piece& piece : piecesOf(index, option.font))
+            width += piece.width();
     return {width, QFontMetrics(option.font).height() + shell::HairSpace};
 }
 

@@ -5,7 +5,7 @@
 namespace tables {
 
 /// Paints a form of a page: the stem plain, the ending bold, and a small raised "sic" beside it where a
-/// grammar has another.
+/// grammar has another. A heading is bold.
 class FormDelegate : public QStyledItemDelegate {
     Q_OBJECT
 

@@ -3,8 +3,6 @@
 #include "shell/kit/text.h"
 #include "tables/readings.h"
 
-#include <QFont>
-
 namespace tables {
 
 void PageModel::show(const Word& word)
@@ -51,8 +49,10 @@ int PageModel::columnCount(const QModelIndex& parent) const
 
 QVariant PageModel::data(const QModelIndex& index, int role) const
 {
-    if (!index.isValid() || lineAt(index.row()).isHeading())
+    if (!index.isValid())
         return {};
+    if (lineAt(index.row()).isHeading())
+        return dataOfHeading(index, role);
     const PageCell& cell = lineAt(index.row()).cells.at(static_cast<std::size_t>(index.column()));
     switch (role) {
     case Qt::DisplayRole:
@@ -70,6 +70,15 @@ QVariant PageModel::data(const QModelIndex& index, int role) const
     }
 }
 
+// It stands over the first column, and the view spreads it over all.
+QVariant PageModel::dataOfHeading(const QModelIndex& index, int role) const
+{
+    if (role == HeadingRole)
+        return true;
+    const bool stands = role == Qt::DisplayRole && index.column() == 0;
+    return stands ? shell::fromUtf8(lineAt(index.row()).name) : QVariant();
+}
+
 // What is read out behind the form.
 QString PageModel::description(const PageCell& cell) const
 {
@@ -84,15 +93,10 @@ QVariant PageModel::headerData(int section, Qt::Orientation orientation, int rol
     if (orientation == Qt::Horizontal)
         return role == Qt::DisplayRole ? shell::fromUtf8(page_.columns.at(static_cast<std::size_t>(section)))
                                        : QVariant();
-    if (role == Qt::DisplayRole)
+    if (role == Qt::DisplayRole && !lineAt(section).isHeading())
         return shell::fromUtf8(lineAt(section).name);
     if (role == Qt::TextAlignmentRole)
         return QVariant(Qt::AlignLeft | Qt::AlignVCenter);
-    if (role == Qt::FontRole && lineAt(section).isHeading()) {
-        QFont bold;
-        bold.setBold(true);
-        return bold;
-    }
     return {};
 }
 

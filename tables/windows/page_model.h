@@ -6,12 +6,13 @@
 
 namespace tables {
 
-/// The page of a word for a view. A heading is the name of a line whose cells cannot be chosen.
+/// The page of a word for a view. A heading is a line that cannot be chosen; its name stands in its
+/// first cell.
 class PageModel : public QAbstractTableModel {
     Q_OBJECT
 
 public:
-    enum Role { EndingRole = Qt::UserRole, SicRole };
+    enum Role { EndingRole = Qt::UserRole, SicRole, HeadingRole };
 
     using QAbstractTableModel::QAbstractTableModel;
 
@@ -34,6 +35,7 @@ public:
 
 private:
     const PageLine& lineAt(int row) const { return page_.lines.at(static_cast<std::size_t>(row)); }
+    QVariant dataOfHeading(const QModelIndex& index, int role) const;
     QString description(const PageCell& cell) const;
 
     Word word_{};

@@ -43,7 +43,7 @@ namespace {
 constexpr QSize LargestBlock{220, 60};
 constexpr QSize NormalSize{210, 50};
 constexpr double ShareOfScreen = 0.95;
-constexpr int WordCharacters = 20;
+constexpr int WordCharacters = 21;
 constexpr int LeastLinesOfPage = 6;
 
 // clang-format off
@@ -109,7 +109,9 @@ void Tables::makeControls()
     tree_->setHeaderHidden(true);
     tree_->setUniformRowHeights(true);
     tree_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    shell::setLeastWidth(*tree_, WordCharacters);
+    shell::keepMeasure(*tree_, "width", [this](shell::Growth) {
+        tree_->setFixedWidth(WordCharacters * tree_->fontMetrics().averageCharWidth());
+    });
 
     view_->setModel(page_);
     view_->setItemDelegate(new FormDelegate(view_));
@@ -145,7 +147,7 @@ QBoxLayout* Tables::wordsBesidePage()
     auto* const words = shell::columnOf(
         shell::SmallSpace, {shell::rowOf(shell::SmallSpace, {filterLabel_, {filter_, 1}}), {tree_, 1}});
     auto* const page = shell::columnOf(shell::SmallSpace, {title_, {view_, 1}});
-    return shell::rowOf(shell::LargeSpace, {{words, 1}, {page, 5}});
+    return shell::rowOf(shell::LargeSpace, {words, {page, 1}});
 }
 
 void Tables::connectControls()
@@ -232,8 +234,10 @@ void Tables::markChosenWord()
 {
     const QModelIndex row = filtered_->mapFromSource(words_->indexOf(word_));
     tree_->setCurrentIndex(row);
-    if (row.isValid())
-        tree_->scrollTo(row);
+    if (!row.isValid())
+        return;
+    tree_->scrollTo(row.parent());
+    tree_->scrollTo(row);
 }
 
 void Tables::goToWords()

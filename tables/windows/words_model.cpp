@@ -41,6 +41,7 @@ void WordsModel::list()
     clear();
     for (const auto& [title, names] : names_) {
         auto* const group = new QStandardItem(title);
+        group->setToolTip(title);
         for (const QString& name : names)
             group->appendRow(new QStandardItem(name));
         appendRow(group);
