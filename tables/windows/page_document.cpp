@@ -14,9 +14,9 @@ namespace tables {
 
 namespace {
 
-constexpr int SizeOfType = 9;
+constexpr int SizeOfType = 8;
 constexpr int SizeOfTitle = 14;
-constexpr int Padding = 3;
+constexpr int Padding = 2;
 constexpr int DotsOfInch = 300;
 
 QTextCharFormat typeOf(QFont::Weight weight)
@@ -123,6 +123,7 @@ QByteArray pdfOf(const QTextDocument& document)
     writer.setTitle(document.metaInformation(QTextDocument::DocumentTitle));
     writer.setPageSize(QPageSize(QPageSize::A4));
     writer.setPageOrientation(QPageLayout::Landscape);
+    writer.setPageMargins({});
     writer.setResolution(DotsOfInch);
     document.print(&writer);
     return bytes;

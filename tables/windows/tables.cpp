@@ -43,7 +43,7 @@ namespace {
 constexpr QSize LargestBlock{220, 60};
 constexpr QSize NormalSize{210, 50};
 constexpr double ShareOfScreen = 0.95;
-constexpr int WordCharacters = 21;
+constexpr int WordCharacters = 28;
 constexpr int LeastLinesOfPage = 6;
 
 // clang-format off
@@ -104,15 +104,18 @@ void Tables::makeControls()
     form_->setClearButtonEnabled(true);
     readings_->hide();
     filter_->setClearButtonEnabled(true);
+    filter_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     filtered_->setSourceModel(words_);
     tree_->setModel(filtered_);
     tree_->setHeaderHidden(true);
     tree_->setUniformRowHeights(true);
     tree_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    shell::keepMeasure(*tree_, "width", [this](shell::Growth) {
-        tree_->setFixedWidth(WordCharacters * tree_->fontMetrics().averageCharWidth());
+    shell::keepMeasure(*tree_, "width", [this](shell::Growth growth) {
+        // The table grows, and needs the room.
+        tree_->setFixedWidth(qRound(WordCharacters * tree_->fontMetrics().averageCharWidth() / growth));
     });
 
+    shell::setType(*view_, shell::NoteType);
     view_->setModel(page_);
     view_->setItemDelegate(new FormDelegate(view_));
     view_->setTabKeyNavigation(false);
