@@ -7,6 +7,7 @@
 #include "app/qt_platform.h"
 #include "bench/full_lists.h"
 #include "platform/platform.h"
+#include "shell/looks.h"
 #include "shell/settings.h"
 #include "verbdrills/conjugation_drill.h"
 
@@ -285,6 +286,7 @@ int main(int argumentCount, char** arguments)
     app::Navigation navigation;
     navigation.start();
     shell::settings.SaveSettingsOnExit = platform::FlagFalse;
+    shell::looks.FirstStepsDone = true;
     settle();
 
     bool kept = measureSwitch();
