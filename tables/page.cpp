@@ -21,20 +21,20 @@ using shell::LanguageTexts;
 namespace {
 
 // clang-format off
-//                                   English           French              Italian              German             Spanish              Latin
-constexpr LanguageTexts Present     {"Present",        "Présent",          "Presente",          "Präsens",         "Presente",          "Praesens"};
-constexpr LanguageTexts Imperfect   {"Imperfect",      "Imparfait",        "Imperfetto",        "Imperfekt",       "Imperfecto",        "Imperfectum"};
-constexpr LanguageTexts Future      {"Future",         "Futur",            "Futuro",            "Futur",           "Futuro",            "Futurum"};
-constexpr LanguageTexts Perfect     {"Perfect",        "Parfait",          "Perfetto",          "Perfekt",         "Perfecto",          "Perfectum"};
-constexpr LanguageTexts Pluperfect  {"Pluperfect",     "Plus-que-parfait", "Piuccheperfetto",   "Plusquamperfekt", "Pluscuamperfecto",  "Plusquamperfectum"};
-constexpr LanguageTexts FuturePerf  {"Future Perfect", "Futur antérieur",  "Futuro anteriore",  "Futur II",        "Futuro perfecto",   "Futurum exactum"};
+//                                    English           French              Italian              German             Spanish              Latin
+constexpr LanguageTexts Present      {"Present",        "Présent",          "Presente",          "Präsens",         "Presente",          "Praesens"};
+constexpr LanguageTexts Imperfect    {"Imperfect",      "Imparfait",        "Imperfetto",        "Imperfekt",       "Imperfecto",        "Imperfectum"};
+constexpr LanguageTexts Future       {"Future",         "Futur",            "Futuro",            "Futur",           "Futuro",            "Futurum"};
+constexpr LanguageTexts Perfect      {"Perfect",        "Parfait",          "Perfetto",          "Perfekt",         "Perfecto",          "Perfectum"};
+constexpr LanguageTexts Pluperfect   {"Pluperfect",     "Plus-que-parfait", "Piuccheperfetto",   "Plusquamperfekt", "Pluscuamperfecto",  "Plusquamperfectum"};
+constexpr LanguageTexts FuturePerfect{"Future Perfect", "Futur antérieur",  "Futuro anteriore",  "Futur II",        "Futuro perfecto",   "Futurum exactum"};
 
 constexpr std::array<LanguageTexts, verbs::BlockCount> Tenses = {
-    Present, Imperfect, Future, Perfect, Pluperfect, FuturePerf, // indicative
-    Present, Imperfect, Perfect, Pluperfect,                     // subjunctive
-    Present,                                                     // imperative
-    Present, Imperfect, Future, Perfect, Pluperfect, FuturePerf, // passive: indicative
-    Present, Imperfect, Perfect, Pluperfect,                     // subjunctive
+    Present, Imperfect, Future, Perfect, Pluperfect, FuturePerfect, // indicative
+    Present, Imperfect, Perfect, Pluperfect,                        // subjunctive
+    Present,                                                        // imperative
+    Present, Imperfect, Future, Perfect, Pluperfect, FuturePerfect, // passive: indicative
+    Present, Imperfect, Perfect, Pluperfect,                        // subjunctive
 };
 
 // A mood in a voice, with its first and its last tense.

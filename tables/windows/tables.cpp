@@ -48,13 +48,13 @@ constexpr int LeastLinesOfPage = 6;
 
 // clang-format off
 constexpr std::array Captions = {
-    //                            English      French            Italian      German           Spanish        Latin
-    Caption{"Tables",            {"Tables",    "Tableaux",       "Tavole",    "Tabellen",      "Tablas",      "Tabulae"}},
-    Caption{"TablesFormLabel",   {"&Form",     "&Forme",         "&Forma",    "&Form",         "&Forma",      "&Forma"}},
-    Caption{"TablesFilterLabel", {"&Words",    "&Mots",          "&Parole",   "&Wörter",       "&Palabras",   "&Verba"}},
-    Caption{"TablesCopy",        {"&Copy",     "&Copier",        "&Copia",    "&Kopieren",     "&Copiar",     "&Transcribe"}},
-    Caption{"TablesSave",        {"&Save...",  "&Enregistrer...", "&Salva...", "&Speichern...", "&Guardar...", "&Serva..."}},
-    Caption{"TablesClose",       {"C&lose",    "Ferme&r",        "C&hiudi",   "S&chließen",    "C&errar",     "&Claude"}},
+    //                            English     French             Italian      German           Spanish        Latin
+    Caption{"Tables",            {"Tables",   "Tableaux",        "Tavole",    "Tabellen",      "Tablas",      "Tabulae"}},
+    Caption{"TablesFormLabel",   {"&Form",    "&Forme",          "&Forma",    "&Form",         "&Forma",      "&Forma"}},
+    Caption{"TablesFilterLabel", {"&Words",   "&Mots",           "&Parole",   "&Wörter",       "&Palabras",   "&Verba"}},
+    Caption{"TablesCopy",        {"&Copy",    "&Copier",         "&Copia",    "&Kopieren",     "&Copiar",     "&Transcribe"}},
+    Caption{"TablesSave",        {"&Save...", "&Enregistrer...", "&Salva...", "&Speichern...", "&Guardar...", "&Serva..."}},
+    Caption{"TablesClose",       {"C&lose",   "Ferme&r",         "C&hiudi",   "S&chließen",    "C&errar",     "&Claude"}},
 };
 
 constexpr LanguageTexts NotListed {"Not in the lists", "Pas dans les listes", "Non è nelle liste", "Nicht in den Listen", "No está en las listas", "Non est in indicibus"};
@@ -103,6 +103,12 @@ void Tables::makeControls()
     shell::setType(*form_, shell::SentenceType);
     form_->setClearButtonEnabled(true);
     readings_->hide();
+    prepareWords();
+    prepareView();
+}
+
+void Tables::prepareWords()
+{
     filter_->setClearButtonEnabled(true);
     filter_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     filtered_->setSourceModel(words_);
@@ -114,7 +120,11 @@ void Tables::makeControls()
         // The table grows, and needs the room.
         tree_->setFixedWidth(qRound(WordCharacters * tree_->fontMetrics().averageCharWidth() / growth));
     });
+}
 
+// A little smaller than other type: on a maximised window too the six persons of a verb are to be seen.
+void Tables::prepareView()
+{
     shell::setType(*view_, shell::NoteType);
     view_->setModel(page_);
     view_->setItemDelegate(new FormDelegate(view_));
@@ -157,13 +167,13 @@ void Tables::connectControls()
 {
     connect(form_, &QLineEdit::textChanged, this, &Tables::findReadings);
     connect(form_, &QLineEdit::returnPressed, this, &Tables::takeFirstReading);
-    connectKey(Qt::Key_Down, form_, &Tables::goToReadings);
+    connectDown(form_, &Tables::goToReadings);
     connect(readings_, &ListOfItsRows::rowActivated, this, &Tables::takeReading);
     connect(readings_, &QListWidget::itemClicked, this, [this] { takeReading(readings_->chosenRow()); });
 
     connect(filter_, &QLineEdit::textChanged, this, &Tables::filterWords);
     connect(filter_, &QLineEdit::returnPressed, this, &Tables::takeFirstWord);
-    connectKey(Qt::Key_Down, filter_, &Tables::goToWords);
+    connectDown(filter_, &Tables::goToWords);
     connect(tree_->selectionModel(), &QItemSelectionModel::currentChanged, this, &Tables::takeWord);
 
     connect(copy_, &QPushButton::clicked, this, &Tables::copy);
@@ -171,9 +181,9 @@ void Tables::connectControls()
     connect(close_, &QPushButton::clicked, this, &Tables::left);
 }
 
-void Tables::connectKey(Qt::Key key, QWidget* field, void (Tables::*action)())
+void Tables::connectDown(QWidget* field, void (Tables::*action)())
 {
-    auto* const shortcut = new QShortcut(key, field);
+    auto* const shortcut = new QShortcut(Qt::Key_Down, field);
     shortcut->setContext(Qt::WidgetShortcut);
     connect(shortcut, &QShortcut::activated, this, action);
 }

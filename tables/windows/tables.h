@@ -39,10 +39,12 @@ protected:
 
 private:
     void makeControls();
+    void prepareWords();
+    void prepareView();
     void layOut();
     QBoxLayout* wordsBesidePage();
     void connectControls();
-    void connectKey(Qt::Key key, QWidget* field, void (Tables::*action)());
+    void connectDown(QWidget* field, void (Tables::*action)());
     void setCaptions();
 
     void refresh();
