@@ -134,12 +134,22 @@ void Tables::prepareView()
     view_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     for (QHeaderView* const header : {view_->horizontalHeader(), view_->verticalHeader()}) {
         header->setResizeContentsPrecision(-1);
-        header->setSectionResizeMode(QHeaderView::ResizeToContents);
         header->setHighlightSections(false);
     }
     shell::keepMeasure(*view_, "lines", [this](shell::Growth) {
         view_->setMinimumHeight(LeastLinesOfPage * view_->fontMetrics().lineSpacing());
+        fitPage();
     });
+}
+
+void Tables::fitPage()
+{
+    view_->clearSpans();
+    for (int row = 0; row < page_->rowCount(); ++row)
+        if (page_->cellAt(page_->index(row, 0)) == 0)
+            view_->setSpan(row, 0, 1, page_->columnCount());
+    view_->resizeColumnsToContents();
+    view_->resizeRowsToContents();
 }
 
 void Tables::layOut()
@@ -176,6 +186,7 @@ void Tables::connectControls()
     connectDown(filter_, &Tables::goToWords);
     connect(tree_->selectionModel(), &QItemSelectionModel::currentChanged, this, &Tables::takeWord);
 
+    connect(page_, &QAbstractItemModel::modelReset, this, &Tables::fitPage);
     connect(copy_, &QPushButton::clicked, this, &Tables::copy);
     connect(save_, &QPushButton::clicked, this, &Tables::save);
     connect(close_, &QPushButton::clicked, this, &Tables::left);
@@ -277,10 +288,6 @@ void Tables::takeWord(const QModelIndex& row)
 void Tables::showPage(const Word& word, int cell)
 {
     page_->show(word);
-    view_->clearSpans();
-    for (int row = 0; row < page_->rowCount(); ++row)
-        if (page_->cellAt(page_->index(row, 0)) == 0)
-            view_->setSpan(row, 0, 1, page_->columnCount());
     title_->setText(shell::fromUtf8(page_->page().title));
     view_->setAccessibleName(title_->text());
     view_->setCurrentIndex(page_->indexOf(cell));

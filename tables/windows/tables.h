@@ -41,6 +41,7 @@ private:
     void makeControls();
     void prepareWords();
     void prepareView();
+    void fitPage();
     void layOut();
     QBoxLayout* wordsBesidePage();
     void connectControls();
