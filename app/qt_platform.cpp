@@ -4,6 +4,9 @@
 
 #include <QApplication>
 #include <QEventLoop>
+#include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QProcess>
 #include <QTime>
@@ -61,6 +64,25 @@ void QtPlatform::showMessage(const std::string& text, std::function<void()> dism
     box->setTextFormat(Qt::PlainText);
     QObject::connect(box, &QMessageBox::finished, box, std::move(dismissed));
     box->open();
+}
+
+void QtPlatform::chooseFileToSave(const std::string& name, const std::vector<std::string>& kinds,
+                                  std::function<void(const std::string& path)> chosen)
+{
+    auto* const dialog = new QFileDialog(QApplication::activeWindow());
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    const QString offered = QString::fromStdString(name);
+    dialog->setDefaultSuffix(QFileInfo(offered).suffix());
+    QStringList filters;
+    for (const std::string& kind : kinds)
+        filters << QString::fromStdString(kind);
+    dialog->setNameFilters(filters);
+    dialog->selectFile(offered);
+    QObject::connect(
+        dialog, &QFileDialog::fileSelected, dialog,
+        [chosen = std::move(chosen)](const QString& path) { chosen(QFile::encodeName(path).toStdString()); });
+    dialog->open();
 }
 
 void QtPlatform::endProgram(int exitStatus)

@@ -14,6 +14,8 @@ public:
     bool soundIsPlaying() const override;
     bool startProgram(const std::string& commandLine) override;
     void showMessage(const std::string& text, std::function<void()> dismissed) override;
+    void chooseFileToSave(const std::string& name, const std::vector<std::string>& kinds,
+                          std::function<void(const std::string& path)> chosen) override;
     void endProgram(int exitStatus) override;
     bool ending() const override;
 

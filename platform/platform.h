@@ -3,6 +3,7 @@
 #include <chrono>
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace platform {
 
@@ -40,6 +41,13 @@ public:
     {
         showMessage(text, [] {});
     }
+
+    /// Asks under which name a file is to be saved, and returns at once. `name` is offered, whose ending a
+    /// name without one gets; `kinds` are those of the files that are shown, "PDF (*.pdf)" and so on.
+    /// `chosen` is called with the path, once the learner has agreed to replace a file that is there; never
+    /// where he gives it up.
+    virtual void chooseFileToSave(const std::string& name, const std::vector<std::string>& kinds,
+                                  std::function<void(const std::string& path)> chosen) = 0;
 
     /// Ends the program as soon as the running event is worked off, with this exit status.
     virtual void endProgram(int exitStatus) = 0;

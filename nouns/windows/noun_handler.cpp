@@ -212,12 +212,22 @@ int NounHandler::presetParadigm() const
     return paradigms_->findData(static_cast<int>(ThirdDeclension)) < 0 ? paradigms_->count() - 1 : -1;
 }
 
-std::string NounHandler::lineOf(int row) const
+std::optional<NounHandler::ListRow> NounHandler::nounIn(int row) const
 {
     if (row < 0 || isNewRow(row))
         return {};
-    const auto& [paradigm, number] = rows_.at(static_cast<std::size_t>(row));
-    return lineOfListedNoun(paradigm->paradigm, number);
+    return rows_.at(static_cast<std::size_t>(row));
+}
+
+std::optional<NounHandler::ListRow> NounHandler::chosenNoun() const
+{
+    return nounIn(words()->currentRow());
+}
+
+std::string NounHandler::lineOf(int row) const
+{
+    const auto noun = nounIn(row);
+    return noun ? lineOfListedNoun(noun->paradigm->paradigm, noun->number) : std::string();
 }
 
 void NounHandler::changeEvent(QEvent* event)

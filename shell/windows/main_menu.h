@@ -44,6 +44,7 @@ Q_SIGNALS:
     void nounManagerRequested();
     void verbManagerRequested();
     void vocabularyManagerRequested();
+    void tablesRequested();
     void delayRequested();
     void optionsRequested();
     void helpRequested();

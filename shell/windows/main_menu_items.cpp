@@ -26,6 +26,7 @@ constexpr std::array Rows = {
     Row{{"FileVerbManager",    "FileMenu",       Item,   {"Ve&rb List...",             "Liste des ve&rbes...",                   {}, "Ve&rbliste...",                  "Lista de ve&rbos...",          "Index &verborum..."}}, &MainMenu::verbManagerRequested},
     Row{{"FileVcabManager",    "FileMenu",       Item,   {"V&ocabulary Lists...",      "Listes de v&ocabulaire...",              {}, "W&ortlisten...",                 "Listas de vo&cabulario...",    "Indices v&ocabulorum..."}}, &MainMenu::vocabularyManagerRequested},
     Row{{"", "FileMenu", Separator, {}}},
+    Row{{"FileTables",         "FileMenu",       Item,   {"&Tables",                   "&Tableaux",                              {}, "&Tabellen",                      "&Tablas",                      "&Tabulae"}}, &MainMenu::tablesRequested},
     Row{{"FileExit",           "FileMenu",       Item,   {"E&xit",                     "&Sortie",                                {}, "Be&enden",                       "&Salir",                       "&Egressus"}}, &MainMenu::exitRequested},
 
     Row{{"OptionsMenu",        "",               Menu,   {"&Options",                  "&Options",                               {}, "&Optionen",                      "&Opciones",                    "&Optiones"}}},

@@ -26,6 +26,9 @@ public:
     std::vector<std::string> messages;
     /// Closes the last message, as the learner does.
     std::function<void()> dismissMessage;
+    /// The names under which a file was to be saved, and the one that the learner chooses; empty: none.
+    std::vector<std::string> offeredNames;
+    std::string chosenName;
     std::vector<std::string> programs;
     bool programsStart = false;
     std::optional<int> exitStatus;
@@ -55,6 +58,14 @@ public:
     {
         messages.push_back(text);
         dismissMessage = std::move(dismissed);
+    }
+
+    void chooseFileToSave(const std::string& name, const std::vector<std::string>& /*kinds*/,
+                          std::function<void(const std::string&)> chosen) override
+    {
+        offeredNames.push_back(name);
+        if (!chosenName.empty())
+            chosen(chosenName);
     }
 
     void endProgram(int status) override { exitStatus = status; }
