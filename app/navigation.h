@@ -4,6 +4,7 @@
 #include "app/key_filter.h"
 #include "app/noun_navigation.h"
 #include "app/progress_navigation.h"
+#include "app/tables_navigation.h"
 #include "app/text_size_keys.h"
 #include "app/verb_navigation.h"
 #include "app/verb_quiz_navigation.h"
@@ -34,6 +35,7 @@ private:
     NounNavigation nouns_{common_};
     VerbQuizNavigation verbQuiz_{common_};
     VocabularyNavigation vocabulary_{common_};
+    TablesNavigation tables_{common_.mainMenu()};
     ProgressNavigation progress_{common_};
     OnDemand<shell::FrmOptions> options_{&hideWhenLeft};
     OnDemand<shell::About> about_{&hideWhenLeft};

@@ -2,6 +2,7 @@
 // forms; and how long to find the readings of a form once a thousand verbs were added. The main procedure
 // prints both as rows of a table and fails where one is above its limit.
 
+#include "bench/full_lists.h"
 #include "nouns/noun_list_file.h"
 #include "shell/settings.h"
 #include "tables/form_index.h"
@@ -26,24 +27,6 @@ using namespace tables;
 constexpr double LargestRatio = 4;
 constexpr double LongestLookUp = 16;
 constexpr int AddedVerbs = 1000;
-
-// Every list as full as it can be, with the words that it has at first again and again.
-void fillLists()
-{
-    for (int verbClass = 1; verbClass <= verbs::LastRegularClass; ++verbClass) {
-        auto& count = verbs::verbList.Count[verbClass];
-        for (int number = count + 1; number <= verbs::MostVerbs; ++number)
-            verbs::storeVerb(verbClass, number, verbs::verbAsWritten(verbClass, number - count));
-        count = verbs::MostVerbs;
-    }
-    for (int paradigm = 1; paradigm <= nouns::ParadigmCount; ++paradigm) {
-        auto& count = nouns::nounList.NounCount[paradigm];
-        const int most = nouns::mostNounsOf(paradigm);
-        for (int number = count + 1; count > 0 && number <= most; ++number)
-            nouns::storeNoun(paradigm, number, nouns::nounAsWritten(paradigm, (number - 1) % count + 1));
-        count = static_cast<std::int16_t>(most);
-    }
-}
 
 std::vector<std::string> allForms()
 {
@@ -119,7 +102,7 @@ int main()
     if (!verbs::readVerbList(std::filesystem::path(MORVANTI_DATA) / verbs::VerbListFileName) ||
         !nouns::readNounList(std::filesystem::path(MORVANTI_DATA) / nouns::NounListFileName))
         return EXIT_FAILURE;
-    fillLists();
+    bench::fillLists();
 
     std::vector<std::string> forms = allForms();
     const double ratio = ratioToCopy(forms);

@@ -1,10 +1,12 @@
 // How the windows answer: the switch of captions beside the same number of texts on a bare window, the time
-// from Enter to the painted judgement, with the answers kept and without, and the processor time of a pause.
+// from Enter to the painted judgement, with the answers kept and without, the processor time of a pause, and what
+// a look-up in the tables takes.
 // Needs a display. Prints rows of a table, and fails where a limit is passed.
 
 #include "app/application.h"
 #include "app/navigation.h"
 #include "app/qt_platform.h"
+#include "bench/full_lists.h"
 #include "platform/platform.h"
 #include "shell/looks.h"
 #include "shell/settings.h"
@@ -296,6 +298,29 @@ bool measureSwitch()
                QStringLiteral("%1 ms").arg(OneFrame), slow < OneFrame);
 }
 
+// Each letter that is typed is a look-up; the lists are full.
+bool measureLookUps()
+{
+    constexpr int rounds = 30;
+    control<QAction>("MainMenu", QStringLiteral("FileTables")).trigger();
+    bench::fillLists();
+    settle();
+    auto& form = control<QLineEdit>("Tables", QStringLiteral("TablesForm"));
+    std::vector<double> times;
+    for (int i = 0; i < rounds; ++i)
+        for (const auto& typed :
+             {QStringLiteral("regis"), QStringLiteral("amaverit"), QStringLiteral("fru:ctu:s")}) {
+            for (qsizetype letters = 1; letters <= typed.size(); ++letters)
+                times.push_back(millisecondsOf([&] { form.setText(typed.first(letters)); }));
+            if (control<QListWidget>("Tables", QStringLiteral("TablesReadings")).count() == 0)
+                std::abort();
+        }
+    const double slow = quantile(times, 0.99);
+    return row("look-up of a form to its readings painted, 99th percentile",
+               QStringLiteral("%1 ms (median %2)").arg(slow, 0, 'f', 1).arg(quantile(times, 0.5), 0, 'f', 1),
+               QStringLiteral("%1 ms").arg(OneFrame), slow < OneFrame);
+}
+
 } // namespace
 
 int main(int argumentCount, char** arguments)
@@ -313,9 +338,11 @@ int main(int argumentCount, char** arguments)
     app::Navigation navigation;
     navigation.start();
     shell::settings.SaveSettingsOnExit = platform::FlagFalse;
+    shell::looks.FirstStepsDone = true;
     settle();
 
     kept = measureSwitch() && kept;
+    kept = measureLookUps() && kept;
     openDrill();
     kept = measureJudgements(judgement) && kept;
     kept = measurePause(judgement) && kept;

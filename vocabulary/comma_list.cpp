@@ -26,7 +26,7 @@ public:
     bool atEnd() const { return reader_.atEnd(); }
     int line() const { return reader_.line(); }
 
-    // True where every line that was read, but for empty ones, has three fields.
+    // True where every line that was read has three fields, but for empty ones and a cut off last one.
     bool areThreeALine() const { return areThreeALine_; }
 
     bool read(std::string& field)
@@ -43,11 +43,19 @@ private:
     void countLine(std::size_t fields, const std::string& last)
     {
         const bool isEmptyLine = fields == 1 && last.empty();
-        areThreeALine_ = areThreeALine_ && (isEmptyLine || fields == WordFields.size());
+        if (isEmptyLine)
+            return;
+        const bool isWhole = fields == WordFields.size();
+        const bool mayBeCutOff = follows_ && fields + 1 == WordFields.size();
+        areThreeALine_ = areThreeALine_ && !wasCutOff_ && (isWhole || mayBeCutOff);
+        wasCutOff_ = !isWhole;
+        follows_ = true;
     }
 
     platform::FieldReader reader_;
     std::size_t inLine_ = 0;
+    bool follows_ = false;
+    bool wasCutOff_ = false;
     bool areThreeALine_ = true;
 };
 

@@ -20,7 +20,8 @@ struct CommaList {
     /// The line of a last record that lacks a field or two and was left out; 0 where there is none.
     int cutOffLine = 0;
 
-    /// True where every line that was read and is not empty makes three fields, as the program writes them.
+    /// True where every line that was read and is not empty makes three fields, as the program writes them; a
+    /// last one after others may be cut off after its second.
     bool hasThreeFieldsALine = true;
 };
 

@@ -4,6 +4,7 @@
 #include "vocabulary/comma_list.h"
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 namespace vocabulary {
@@ -12,6 +13,7 @@ namespace {
 
 constexpr std::string_view LineEnds = "\r\n";
 constexpr std::string_view TabsAndLineEnds = "\t\r\n";
+constexpr char Comma = ',';
 constexpr char Comment = '#';
 constexpr char Markup = '<';
 constexpr char Quote = '"';
@@ -47,7 +49,12 @@ public:
     }
 
     bool atEnd() const { return place_ >= text_.size(); }
-    bool isComment() const { return text_.substr(place_).starts_with(Comment); }
+
+    bool isComment() const
+    {
+        const std::size_t begin = std::min(text_.find_first_not_of(blanks_, place_), text_.size());
+        return text_.substr(begin).starts_with(Comment);
+    }
 
     void passLine()
     {
@@ -71,6 +78,9 @@ public:
         return fields;
     }
 
+    // True where a field that was read has a comma outside quotes.
+    bool hadComma() const { return hadComma_; }
+
     // True where the last row read holds nothing but separators and blanks: spreadsheets write such rows.
     bool wasEmpty() const
     {
@@ -88,6 +98,7 @@ private:
         const std::size_t end = std::min(text_.find_first_of(fieldEnds_, place_), text_.size());
         const std::string_view field = text_.substr(place_, end - place_);
         place_ = end;
+        hadComma_ = hadComma_ || isOneOf(field, Comma);
         return std::string(field.substr(0, field.find_last_not_of(blanks_) + 1));
     }
 
@@ -136,6 +147,7 @@ private:
     std::string fieldEnds_;
     std::size_t place_ = 0;
     std::size_t rowBegin_ = 0;
+    bool hadComma_ = false;
 };
 
 std::string inQuotes(std::string_view field)
@@ -168,6 +180,8 @@ std::optional<std::vector<WordRecord>> readSeparatedList(std::string_view text, 
     Rows rows(text, separator);
     std::vector<WordRecord> records;
     WordRecord record;
+    std::size_t undivided = 0;
+    std::set<int> fieldCounts;
     while (!rows.atEnd() && records.size() <= MostWordsRead) {
         if (rows.isComment()) {
             rows.passLine();
@@ -176,11 +190,15 @@ std::optional<std::vector<WordRecord>> readSeparatedList(std::string_view text, 
         const int fields = rows.next(record);
         if (rows.wasEmpty())
             continue;
-        if (fields == 1)
-            return {};
+        if (fields == 1) {
+            ++undivided;
+            continue;
+        }
+        fieldCounts.insert(fields);
         records.push_back(record);
     }
-    if (records.empty())
+    const bool isOurs = separator == Semicolon && rows.hadComma() && fieldCounts.size() > 1;
+    if (isOurs || records.size() <= undivided)
         return {};
     return records;
 }

@@ -15,12 +15,13 @@ inline constexpr char Semicolon = ';';
 
 /// The words of a text as spreadsheets and flash-card programs write it: a line each, the fields divided by
 /// tabs or semicolons, the word first, its translation second and a hint third; what follows is passed over,
-/// and so are lines that begin with "#" and lines without any field. Blanks around a field are not part of
-/// it. A field in double quotes may hold them, separators, line ends, which are read as blanks, and double
-/// quotes, which are doubled there.
+/// and so are lines that begin with "#", be it after blanks, and lines without any field or separator. Blanks
+/// around a field are not part of it. A field in double quotes may hold them, separators, line ends, which
+/// are read as blanks, and double quotes, which are doubled there.
 ///
-/// No more than one past `MostWordsRead`. Empty optional where a line has no separator, or where there are no
-/// words: such a text is in another format.
+/// No more than one past `MostWordsRead`. Empty optional where no more lines have a separator than lack one,
+/// and with semicolons where a comma stands outside quotes, and not all lines that have any have as many:
+/// such a text is in another format.
 std::optional<std::vector<WordRecord>> readSeparatedList(std::string_view text, char separator);
 
 /// The text of these records with tabs, a line each, with CR LF at its end, each `asWrittenWithTabs`. It

@@ -1,5 +1,8 @@
 #include "vocabulary/vocabulary_edits.h"
 
+#include "vocabulary/comma_list.h"
+#include "vocabulary/separated_list.h"
+
 #include <algorithm>
 #include <span>
 #include <system_error>
@@ -27,10 +30,32 @@ void takeList(const VocabularyFile& file, const std::filesystem::path& path)
     forgetPendingChanges();
 }
 
-std::span<WordRecord> wordsOf(VocabularyList::Words& table)
+std::span<WordRecord> workingWords()
 {
-    return std::span(table.begin(), table.end())
+    return std::span(vocabularyList.Working.begin(), vocabularyList.Working.end())
         .subspan(1, static_cast<std::size_t>(vocabularyList.WordCount));
+}
+
+// A list with tabs gets the fields as they were loaded where ">" stands for their commas since a save: there
+// it stands for none.
+WordRecord wordWithTabs(int number)
+{
+    const WordRecord loaded = asWrittenWithTabs(vocabularyList.Loaded[number]);
+    const WordRecord escaped = asWrittenWithCommas(loaded);
+    WordRecord word = asWrittenWithTabs(vocabularyList.Working[number]);
+    for (const WordField field : WordFields)
+        if (word.*field == escaped.*field)
+            word.*field = loaded.*field;
+    return word;
+}
+
+std::vector<WordRecord> wordsToSave(const std::filesystem::path& path)
+{
+    const std::span words = workingWords();
+    std::vector<WordRecord> toSave(words.begin(), words.end());
+    if (isWrittenWithTabs(path))
+        std::ranges::generate(toSave, [number = 0]() mutable { return wordWithTabs(++number); });
+    return toSave;
 }
 
 // Comes before a change, so that all that are pending can be taken back.
@@ -107,14 +132,12 @@ bool wouldReplaceAnotherFile(const std::filesystem::path& path)
            (vocabularyList.FileIsForeign || !std::filesystem::equivalent(path, vocabularyList.File, error));
 }
 
-// The words are taken as they were loaded: since an earlier save the working ones may have ">" for commas,
-// which stands for them in no list with tabs.
 std::optional<platform::Fault> saveList(const std::filesystem::path& path)
 {
-    const std::span words = wordsOf(vocabularyList.Loaded);
+    const std::vector<WordRecord> words = wordsToSave(path);
     if (const auto fault = writeVocabularyFile(path, words))
         return fault;
-    std::ranges::transform(words, wordsOf(vocabularyList.Working).begin(),
+    std::ranges::transform(words, workingWords().begin(),
                            [&](const WordRecord& word) { return asWritten(path, word); });
     vocabularyList.CurrentWord = 0;
     vocabularyList.File = path;

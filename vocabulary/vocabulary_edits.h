@@ -60,9 +60,10 @@ std::filesystem::path fileToSave();
 /// program's format.
 bool wouldReplaceAnotherFile(const std::filesystem::path& path);
 
-/// Replaces a file with the list, and sets `CurrentWord` to 0. The working table then holds what was written:
-/// ">" where commas were, unless it was written with tabs. No change is pending then. Where that fails, the
-/// file and the list are as they were, and the fault is returned.
+/// Replaces a file with the words of the working table, and sets `CurrentWord` to 0. The table then holds
+/// what was written: ">" where commas were, but in a list with tabs commas, even where ">" stood for them
+/// since an earlier save. No change is pending then. Where that fails, the file and the list are as they
+/// were, and the fault is returned.
 std::optional<platform::Fault> saveList(const std::filesystem::path& path);
 
 /// Puts a record in the place of number 1 to `WordCount`. A field that is as it stands in the working table

@@ -18,12 +18,6 @@ KvtmlReader kvtmlReader;
 
 using Path = std::filesystem::path;
 
-bool isWrittenWithTabs(const Path& path)
-{
-    return std::ranges::equal(path.extension().string(), TabEnding, {},
-                              [](unsigned char letter) { return std::tolower(letter); });
-}
-
 LoadFault faultOf(LoadFault::Kind kind, const Path& path, int line, std::string reason)
 {
     return {kind, {path.filename().string(), line, std::move(reason)}};
@@ -110,6 +104,12 @@ VocabularyFile readVocabularyFile(const Path& path)
     VocabularyFile file = fileOf(path, text.text);
     refuseMoreThanAListHolds(file, path);
     return file;
+}
+
+bool isWrittenWithTabs(const Path& path)
+{
+    return std::ranges::equal(path.extension().string(), TabEnding, {},
+                              [](unsigned char letter) { return std::tolower(letter); });
 }
 
 void useKvtmlReader(KvtmlReader reader)

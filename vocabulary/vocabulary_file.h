@@ -53,10 +53,12 @@ struct VocabularyFile {
 
 /// Reads a word list in one of four formats. What it holds tells which, not its name:
 /// - the program's own where each line that is not empty makes three fields by its commas, whatever stands in
-///   these, and where none of the others fits;
+///   these, but for a last one after others that is cut off after its second; and where none of the others
+///   fits;
 /// - KVTML, the format of some flash-card programs, where it begins with "<" and has a tag "<kvtml";
-/// - fields divided by tabs, or else by semicolons, where every line has one that is not in quotes, but for
-///   empty lines and those that begin with "#".
+/// - fields divided by tabs, or else by semicolons, where most lines have one that is not in quotes, not
+///   counting empty lines and those that begin with "#". As semicolons also stand within the fields of our
+///   own lists, each line that has any must have as many as the others where a comma stands outside quotes.
 VocabularyFile readVocabularyFile(const std::filesystem::path& path);
 
 /// What a reader of KVTML found: the words that have a translation, no more than one past `MostWordsRead`,
@@ -76,6 +78,9 @@ void useKvtmlReader(KvtmlReader reader);
 /// is as it was, and the fault is returned.
 std::optional<platform::Fault> writeVocabularyFile(const std::filesystem::path& path,
                                                    std::span<const WordRecord> records);
+
+/// True where a file of this name is written with tabs.
+bool isWrittenWithTabs(const std::filesystem::path& path);
 
 /// The record as a file of this name holds it.
 WordRecord asWritten(const std::filesystem::path& path, const WordRecord& record);

@@ -61,6 +61,14 @@ std::array<std::string_view, Fields.size()> textsOf(const NounRecord& noun)
     return {noun.stem, noun.obliqueStem, noun.note, english, german, french, spanish};
 }
 
+// A listed noun cannot be typed in: its Latin is shown as the learner wishes.
+NounRecord asShown(NounRecord noun)
+{
+    for (std::string* const latin : {&noun.stem, &noun.obliqueStem, &noun.note})
+        *latin = shell::latinText(*latin).toStdString();
+    return noun;
+}
+
 constexpr std::string_view Fixed = "The nouns of the fourth and fifth declensions are fixed.";
 
 struct Refusal {
@@ -167,7 +175,9 @@ void NounHandler::showWord(int row)
     } else {
         const auto& [paradigm, number] = rows_.at(static_cast<std::size_t>(row));
         paradigms_->setCurrentIndex(paradigms_->findData(static_cast<int>(paradigm->paradigm)));
-        form()->show(textsOf(listedNoun(paradigm->paradigm, number)));
+        showWhatCanBeDone();
+        form()->show(textsOf(asShown(listedNoun(paradigm->paradigm, number))));
+        return;
     }
     showWhatCanBeDone();
 }
@@ -202,12 +212,22 @@ int NounHandler::presetParadigm() const
     return paradigms_->findData(static_cast<int>(ThirdDeclension)) < 0 ? paradigms_->count() - 1 : -1;
 }
 
-std::string NounHandler::lineOf(int row) const
+std::optional<NounHandler::ListRow> NounHandler::nounIn(int row) const
 {
     if (row < 0 || isNewRow(row))
         return {};
-    const auto& [paradigm, number] = rows_.at(static_cast<std::size_t>(row));
-    return lineOfListedNoun(paradigm->paradigm, number);
+    return rows_.at(static_cast<std::size_t>(row));
+}
+
+std::optional<NounHandler::ListRow> NounHandler::chosenNoun() const
+{
+    return nounIn(words()->currentRow());
+}
+
+std::string NounHandler::lineOf(int row) const
+{
+    const auto noun = nounIn(row);
+    return noun ? lineOfListedNoun(noun->paradigm->paradigm, noun->number) : std::string();
 }
 
 void NounHandler::changeEvent(QEvent* event)

@@ -4,6 +4,7 @@
 #include "shell/kit/list_manager.h"
 
 #include <array>
+#include <optional>
 #include <vector>
 
 class QComboBox;
@@ -19,6 +20,15 @@ class NounHandler : public shell::ListManager {
 public:
     NounHandler();
 
+    /// A noun by its paradigm and its number there.
+    struct ListRow {
+        const ListedParadigm* paradigm;
+        int number;
+    };
+
+    /// The one that is chosen; none on the row for a new one.
+    std::optional<ListRow> chosenNoun() const;
+
 protected:
     void listWords() override;
     void showWord(int row) override;
@@ -27,11 +37,6 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    struct ListRow {
-        const ListedParadigm* paradigm;
-        int number;
-    };
-
     // What was typed on a declension's new row, and the paradigm chosen for it; 0 where none was.
     struct Draft {
         NounRecord noun;
@@ -41,6 +46,7 @@ private:
     void makeForm();
     void connectForm();
     void listParadigm(const ListedParadigm& paradigm);
+    std::optional<ListRow> nounIn(int row) const;
     void chooseParadigm();
     void showWhatCanBeDone();
     void showDraft();

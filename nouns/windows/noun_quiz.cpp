@@ -168,6 +168,11 @@ void NounQuiz::open()
     showInMainWindowState();
 }
 
+bool NounQuiz::verdictStands() const
+{
+    return !verdict_->text().isEmpty();
+}
+
 void NounQuiz::ask()
 {
     verdict_->clear();

@@ -26,6 +26,9 @@ public:
     /// Shows the window with a new question.
     void open();
 
+    /// Whether the verdict stands, with what is right.
+    bool verdictStands() const;
+
 Q_SIGNALS:
     /// The length of the pause is to be set.
     void optionsRequested();

@@ -1,6 +1,7 @@
 #include "shell/kit/record_form.h"
 
 #include "shell/kit/controls.h"
+#include "shell/kit/measure.h"
 #include "shell/kit/text.h"
 #include "shell/kit/type.h"
 
@@ -11,8 +12,10 @@ namespace shell {
 
 RecordForm::RecordForm()
 {
-    setHorizontalSpacing(MediumSpace);
-    setVerticalSpacing(SmallSpace);
+    keepMeasure(*this, "space", [this](Growth growth) {
+        setHorizontalSpacing(qRound(MediumSpace * growth));
+        setVerticalSpacing(qRound(SmallSpace * growth));
+    });
 }
 
 void RecordForm::addBoxes(QWidget* parent, std::span<const FieldNames> fields)

@@ -59,6 +59,7 @@ void Window::fitScreenAtFirst()
 void Window::showInMainWindowState()
 {
     fitScreenAtFirst();
+    holdLeastSize(settings.MainWindowState != window_state::Maximised);
     if (settings.MainWindowState == window_state::Maximised)
         showMaximized();
     else if (settings.MainWindowState == window_state::Normal)
@@ -67,6 +68,13 @@ void Window::showInMainWindowState()
         show();
     raise();
     activateWindow();
+}
+
+// Content that asks for more room would take a maximised window out of that state.
+void Window::holdLeastSize(bool held)
+{
+    if (layout() != nullptr)
+        layout()->setSizeConstraint(held ? QLayout::SetDefaultConstraint : QLayout::SetNoConstraint);
 }
 
 void Window::showInFront()
@@ -147,6 +155,7 @@ void Window::takeSize(Growth growth)
 {
     growth_ = growth;
     wasMaximized_ = isMaximized();
+    holdLeastSize(!wasMaximized_);
     setFont(growth == 1 ? QFont() : timesAsLarge(QApplication::font(), growth));
     takeMeasures(*this, growth);
 }

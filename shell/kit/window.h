@@ -68,6 +68,7 @@ private:
     void fitScreenAtFirst();
     void centreOnScreen();
 
+    void holdLeastSize(bool held);
     void grow();
     void takeSize(Growth growth);
 

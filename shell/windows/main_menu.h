@@ -50,6 +50,7 @@ Q_SIGNALS:
     void nounManagerRequested();
     void verbManagerRequested();
     void vocabularyManagerRequested();
+    void tablesRequested();
     void progressRequested();
     void reviewRequested();
     void delayRequested();

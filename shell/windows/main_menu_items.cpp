@@ -27,6 +27,7 @@ constexpr std::array Rows = {
     Row{{"FileVcabManager",    "FileMenu",       Item,   {"V&ocabulary Lists...",      "Listes de v&ocabulaire...",              {}, "W&ortlisten...",                 "Listas de vo&cabulario...",    "Indices v&ocabulorum..."}}, &MainMenu::vocabularyManagerRequested},
     Row{{"", "FileMenu", Separator, {}}},
     Row{{"FileProgress",       "FileMenu",       Item,   {"Pro&gress",                 "Pro&grès",                               {}, "&Fortschritt",                   "Pro&greso",                    "Pro&gressus"}}, &MainMenu::progressRequested},
+    Row{{"FileTables",         "FileMenu",       Item,   {"&Tables",                   "&Tableaux",                              {}, "&Tabellen",                      "&Tablas",                      "&Tabulae"}}, &MainMenu::tablesRequested},
     Row{{"FileExit",           "FileMenu",       Item,   {"E&xit",                     "&Sortie",                                {}, "Be&enden",                       "&Salir",                       "&Egressus"}}, &MainMenu::exitRequested},
 
     Row{{"OptionsMenu",        "",               Menu,   {"&Options",                  "&Options",                               {}, "&Optionen",                      "&Opciones",                    "&Optiones"}}},

@@ -47,10 +47,14 @@ TEST_F(VocabularyLists, AreReadAsOtherProgramsWriteThemAndOnlyWhereTheCommasMake
         {"\"Salve\" dixit\tsaid \"hi\"\n\"#a\t\"b",
          {{"\"Salve\" dixit", "said \"hi\"", ""}, {"\"#a", "\"b", ""}}},
         {"rosa;x\trose;y\n", {{"rosa;x", "rose;y", ""}}},
+        {"rosa\trose\tf.\nnox\n  # flowers\n\t\nrex\tking\tm.", {Rose, {"rex", "king", "m."}}},
+        {"rosa;rose;f.\nnox\nmu:s;\"mouse, rat\"", {Rose, {"mu:s", "mouse, rat", ""}}},
         // Lists of ours, whatever stands between the commas.
         {"rosa;x,rose;y,f.;z\n\nmu:s;,\tmouse;,m.;\n",
          {{"rosa;x", "rose;y", "f.;z"}, {"", "mu:s;", "mouse;"}}},
         {"a\tb,c,d\r\n#e\t,f,g", {{"a\tb", "c", "d"}, {"#e", "f", "g"}}},
+        {"a;b,c;d\ne;f", {{"a;b", "c;d", "e;f"}}},
+        {"rosa,\trose,\tf.\nservus;i,\tslave;", {Rose}},
         {"#a;b\n#c;d\n#e;f", {{"#a;b", "#c;d", "#e;f"}}},
         {"rosa\nrose;\nf.", {{"rosa", "rose;", "f."}}},
         {";;\n;\n;", {{";;", ";", ";"}}},
@@ -65,9 +69,11 @@ TEST_F(VocabularyLists, AreSavedWithTabsAndReadBackWhateverTheyHold)
 {
     addWord(Rome);
     addWord({"#1", "a\tb\nc", "\"q\" "});
+    vocabularyList.Working[1].hint = "place";
     EXPECT_FALSE(saveList("words.lst") || saveList("Words.TSV"));
-    EXPECT_EQ(tests::bytesOf("Words.TSV"), "Ro:ma\tRome, Italy\tf.\r\n\"#1\"\ta b c\t\"\"\"q\"\" \"\r\n");
-    EXPECT_EQ(vocabularyList.Working[1], Rome);
+    EXPECT_TRUE(tests::bytesOf("words.lst").starts_with("Ro:ma,Rome> Italy,place\r\n"));
+    EXPECT_EQ(tests::bytesOf("Words.TSV"), "Ro:ma\tRome, Italy\tplace\r\n\"#1\"\ta b c\t\"\"\"q\"\" \"\r\n");
+    EXPECT_EQ(vocabularyList.Working[1].translation, Rome.translation);
     for (const std::string text : {"", "#", "<kvtml", "\"", " a", "a, b, c", ";", "\uFEFF", ",", ">"}) {
         for (const Records& records : {Records{{text, "", ""}}, Records(2, {text, text, text})}) {
             EXPECT_FALSE(writeVocabularyFile("words.tsv", records));

@@ -269,6 +269,8 @@ TEST_F(EveryDrill, KeepsWhatIsTypedInAPauseForTheBoxThatIsAskedNextUnlessItIsLef
                 type(window, "ab?");
                 press(window, Qt::Key_Backspace);
                 EXPECT_EQ(label(window, "WhyLabel"), right ? "" : "<u>x</u>");
+                for (const QScrollBar* const bar : window.findChildren<QScrollBar*>())
+                    EXPECT_FALSE(bar->isVisible());
             });
             press(window, Qt::Key_Return);
             EXPECT_EQ(text(), "a");
@@ -292,6 +294,7 @@ TEST_F(EveryDrill, KeepsWhatIsTypedInAPauseForTheBoxThatIsAskedNextUnlessItIsLef
         fillIn(drill, window, false);
         press(window, Qt::Key_Return);
         EXPECT_EQ(static_cast<QLineEdit*>(open(drill).focusWidget())->text(), "");
+        EXPECT_EQ(label(window, "WhyLabel"), "");
     }
 }
 

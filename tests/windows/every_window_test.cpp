@@ -7,7 +7,7 @@ namespace {
 // Each window, and its way from the main window: a button, an item, or a list and its row.
 // clang-format off
 const std::vector<std::pair<const char*, QStringList>> Windows = {
-    {"MainMenu", {}}, {"About", {"MainABout"}}, {"Help", {"HELPME"}},
+    {"MainMenu", {}}, {"About", {"MainABout"}}, {"Help", {"HELPME"}}, {"Tables", {"FileTables"}},
     {"DelayInterval", {"SetDelay"}}, {"frmOptions", {"OptionsOptions"}},
     {"VerbManager", {"FileVerbManager"}}, {"NounHandler", {"FileNounManager"}}, {"VcabManager", {"FileVcabManager"}},
     {"ConjugationChoose", {"FileConj"}}, {"Conjugation", {"FileConj", "ConjugationList 0"}},

@@ -230,6 +230,11 @@ void Probatio::showRightAnswer()
     correct_->setText(shell::fromUtf8(describe(rightIdentification())));
 }
 
+bool Probatio::formIsSolved() const
+{
+    return !item_->text().isEmpty() && (!verbQuiz.formIsAsked || !correct_->text().isEmpty());
+}
+
 void Probatio::moveOn()
 {
     askAnotherForm();

@@ -30,6 +30,9 @@ public:
     /// Shows the window again likewise, but without a form where none can be asked.
     void comeBack();
 
+    /// Whether what is right is known of the form shown: by "?", or as it was identified rightly.
+    bool formIsSolved() const;
+
     void moveOn() override;
     void focusQuestion() override;
     void askAgain() override;

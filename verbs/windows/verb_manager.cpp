@@ -129,6 +129,11 @@ int VerbManager::chosenClass() const
     return Classes.at(static_cast<std::size_t>(classes()->currentRow())).verbClass;
 }
 
+int VerbManager::chosenVerb() const
+{
+    return words()->currentRow() + 1;
+}
+
 VerbRecord VerbManager::typedVerb() const
 {
     const auto texts = form()->take();

@@ -17,6 +17,10 @@ class VerbManager : public shell::ListManager {
 public:
     VerbManager();
 
+    /// The class that is chosen, and the number of the verb in it; the number after the last is a new one's.
+    int chosenClass() const;
+    int chosenVerb() const;
+
 Q_SIGNALS:
     /// The cancel button, which ends the whole program at once.
     void endRequested();
@@ -32,7 +36,6 @@ private:
     void makePreviews();
     void addEndOfProgram();
     void showPreviews();
-    int chosenClass() const;
     VerbRecord typedVerb() const;
 
     std::array<QLabel*, 3> previews_{};

@@ -6,9 +6,9 @@
 
 namespace vocabulary {
 
-/// Reads KVTML: of each entry the text of its first language, which is the word, and of its second, the
-/// translation. An entry that lacks one of them is passed over. The comment on the word is the hint, unless
-/// it is the translation itself.
+/// Reads KVTML. The languages of a text stand in the order of their ids, whatever the lowest is: the first
+/// has the words, the second the translations, a third the hints. An entry that lacks the first or second is
+/// passed over. Where it lacks a third, the comment on the word is the hint, unless it is the translation.
 KvtmlList readKvtml(std::string_view text);
 
 } // namespace vocabulary

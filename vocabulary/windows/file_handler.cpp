@@ -132,6 +132,7 @@ void FileHandler::open(std::string_view mode)
     name_->setText(isLoading() ? QString() : shell::fromUtf8(fileToSave().filename().string()));
     action_->setEnabled(!name_->text().isEmpty());
     showInMainWindowState();
+    name_->selectAll();
     if (isLoading())
         files_->setFocus();
     else

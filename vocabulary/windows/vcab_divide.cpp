@@ -32,7 +32,7 @@ constexpr LanguageTexts Question{
     "Le fichier %1 contient %2 mots, une liste %3 au plus.\n"
     "Le diviser en %4 listes de %5 mots au plus, à côté de lui, et ouvrir la première ?", {},
     "Die Datei %1 enthält %2 Wörter, eine Liste höchstens %3.\n"
-    "Soll sie daneben in %4 Listen zu höchstens %5 Wörtern aufgeteilt und die erste geöffnet werden?",
+    "In %4 Listen zu höchstens %5 Wörtern im selben Ordner aufteilen und die erste öffnen?",
     "El archivo %1 contiene %2 palabras; una lista, %3 como máximo.\n"
     "¿Dividirlo en %4 listas de %5 palabras como máximo, a su lado, y abrir la primera?",
     "Fasciculus %1 verba %2 continet, index summum %3.\n"

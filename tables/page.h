@@ -1,0 +1,57 @@
+#pragma once
+
+#include "tables/words.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace tables {
+
+/// A cell of a word's table as it is shown: its stem, its ending, and the marked form of a grammar where that
+/// is another. Both empty: there is no such form.
+struct PageCell {
+    int cell = 0;
+    std::string stem;
+    std::string ending;
+    std::optional<std::string> grammarsForm;
+
+    std::string form() const { return stem + ending; }
+
+    bool operator==(const PageCell&) const = default;
+};
+
+/// A line of a page: a name with a cell for each column, or without cells a heading over the lines below.
+struct PageLine {
+    std::string name;
+    std::vector<PageCell> cells;
+
+    bool isHeading() const { return cells.empty(); }
+
+    bool operator==(const PageLine&) const = default;
+};
+
+/// The table of a word laid out as a grammar prints it, in the language of the interface, with marks or
+/// macrons as they are shown: of a verb the tenses by mood and voice, without those that have no form, and
+/// the persons beside each other; of others the cases in the order of `CaseOrder`, and the numbers, of
+/// pronouns with their genders or persons.
+struct Page {
+    std::string title;
+    std::vector<std::string> columns;
+    std::vector<PageLine> lines;
+
+    bool operator==(const Page&) const = default;
+};
+
+Page pageOf(const Word& word);
+
+/// A text with its marks, or with macrons where the learner wishes them.
+std::string withMacronsWhereShown(std::string_view text);
+
+/// What is said of a form where a grammar has another: "A grammar has: illius".
+std::string saysOfGrammar(const std::string& grammarsForm);
+
+/// The page as text: the title, then line by line with tabs between the columns.
+std::string asText(const Page& page);
+
+} // namespace tables
