@@ -9,12 +9,13 @@ namespace app {
 
 namespace {
 
-// Not asked of the desktop's theme, whose look-up costs a quarter of the program's start.
+// Not asked of the desktop's theme, whose look-up costs a quarter of the program's start; nor any larger than
+// a title bar needs, as every size is read for it.
 QIcon programIcon()
 {
+    constexpr QSize ofTitleBar{32, 32};
     QIcon icon;
-    for (const int size : {32, 128})
-        icon.addFile(QStringLiteral(":/morvanti-%1.png").arg(size));
+    icon.addFile(QStringLiteral(":/morvanti-32.png"), ofTitleBar);
     return icon;
 }
 

@@ -120,7 +120,7 @@ void BoxDrill::hint()
     if (!canAnswer())
         return;
     holdBoxes();
-    whyLabel()->clear();
+    clearWhy();
     askedBox().lookRevealed();
     askedBox().setText(fromUtf8(answer()));
     askedBox().repaint();

@@ -64,13 +64,13 @@ TypingDrill::TypingDrill(std::string_view name, std::string_view activeName, std
     wrapText(*why_, 1);
     keepMeasure(*why_, "room",
                 [this](Growth) { why_->setMinimumHeight(why_->fontMetrics().lineSpacing() + HairSpace); });
-    connect(this, &Window::left, why_, &QLabel::clear);
+    connect(this, &Window::left, this, &TypingDrill::clearWhy);
 }
 
 // The answer that is explained stands until the learner goes on typing.
 void TypingDrill::joinBox(const AnswerBox& box)
 {
-    connect(&box, &QLineEdit::textEdited, why_, &QLabel::clear);
+    connect(&box, &QLineEdit::textEdited, this, &TypingDrill::clearWhy);
 }
 
 void TypingDrill::showPlace(const LanguageTexts& text, Place place)
@@ -80,7 +80,7 @@ void TypingDrill::showPlace(const LanguageTexts& text, Place place)
 
 void TypingDrill::announce(bool right)
 {
-    why_->clear();
+    clearWhy();
     if (!right) {
         keys_.clear();
         explain(askedBox().text().toStdString());
@@ -94,6 +94,12 @@ void TypingDrill::announce(bool right)
         typeKeysKept();
     else
         keys_.clear();
+}
+
+void TypingDrill::clearWhy()
+{
+    why_->clear();
+    why_->setAccessibleName({});
 }
 
 void TypingDrill::explain(const std::string& typed)

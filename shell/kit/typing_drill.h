@@ -55,6 +55,9 @@ protected:
     /// other.
     void showPlace(const LanguageTexts& text, Place place);
 
+    /// Says no longer why an answer was wrong.
+    void clearWhy();
+
     QLabel* whyLabel() const { return why_; }
     QLabel* whereLabel() const { return where_; }
 

@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace shell {
 
@@ -26,6 +27,13 @@ constexpr int BlockStretch = 1000;
 constexpr QSize DesignedSize{960, 600};
 constexpr double StepsOfGrowth = 4;
 constexpr Growth GreatestGrowth = 2;
+
+Growth growthIn(QSize room)
+{
+    const double timesDesigned =
+        std::min(room.width() / double{DesignedSize.width()}, room.height() / double{DesignedSize.height()});
+    return std::clamp(std::floor(timesDesigned * StepsOfGrowth) / StepsOfGrowth, 1.0, GreatestGrowth);
+}
 
 // Qt hangs where windows stand above each other in a circle: the lower one then lets go of the one below it.
 void putAbove(QWindow& window, QWindow* below)
@@ -58,16 +66,32 @@ void Window::fitScreenAtFirst()
 
 void Window::showInMainWindowState()
 {
-    fitScreenAtFirst();
-    holdLeastSize(settings.MainWindowState != window_state::Maximised);
     if (settings.MainWindowState == window_state::Maximised)
-        showMaximized();
-    else if (settings.MainWindowState == window_state::Normal)
+        showGrown();
+    else
+        showAsDesigned();
+    raise();
+    activateWindow();
+}
+
+void Window::showAsDesigned()
+{
+    if (growth_ != 1 || !measured_)
+        takeSize(1);
+    fitScreenAtFirst();
+    if (settings.MainWindowState == window_state::Normal)
         showNormal();
     else
         show();
-    raise();
-    activateWindow();
+}
+
+// Takes the size that it will have at once: fonts of another size need not be loaded.
+void Window::showGrown()
+{
+    holdLeastSize(false);
+    if (!isVisible())
+        takeSize(growthIn(screen()->availableSize()));
+    showMaximized();
 }
 
 // Content that asks for more room would take a maximised window out of that state.
@@ -79,6 +103,8 @@ void Window::holdLeastSize(bool held)
 
 void Window::showInFront()
 {
+    if (!measured_)
+        takeSize(growth_);
     winId();
     const QWidget* const below = isModal() ? QApplication::activeWindow() : QApplication::activeModalWidget();
     if (below != this)
@@ -118,6 +144,8 @@ QWidget* Window::centredBlock(QSize charactersAndLines)
     auto* const block = new QWidget(area->widget());
     const bool asHighAsItsLines = charactersAndLines.height() == AsItsLines;
     keepMeasure(*block, "size", [=, this](Growth) {
+        if (!measured_)
+            return;
         const QFontMetrics metrics(font());
         block->setMaximumWidth(charactersAndLines.width() * metrics.averageCharWidth());
         if (!asHighAsItsLines)
@@ -142,10 +170,9 @@ void Window::layOutLines(QSize charactersAndLines, const QMargins& margins, std:
 // By the size that it has, since a window manager may maximise a window before or after it gives it its size.
 void Window::grow()
 {
-    const double room =
-        std::min(width() / double{DesignedSize.width()}, height() / double{DesignedSize.height()});
-    const Growth growth =
-        isMaximized() ? std::clamp(std::floor(room * StepsOfGrowth) / StepsOfGrowth, 1.0, GreatestGrowth) : 1;
+    if (!isVisible())
+        return;
+    const Growth growth = isMaximized() ? growthIn(size()) : 1;
     if (growth != growth_ || isMaximized() != wasMaximized_)
         takeSize(growth);
 }
@@ -154,10 +181,13 @@ void Window::grow()
 void Window::takeSize(Growth growth)
 {
     growth_ = growth;
-    wasMaximized_ = isMaximized();
+    measured_ = true;
+    const bool becameNormal = std::exchange(wasMaximized_, isMaximized()) && !wasMaximized_;
     holdLeastSize(!wasMaximized_);
     setFont(growth == 1 ? QFont() : timesAsLarge(QApplication::font(), growth));
     takeMeasures(*this, growth);
+    if (becameNormal)
+        QMetaObject::invokeMethod(this, &Window::fitScreenAtFirst, Qt::QueuedConnection);
 }
 
 void Window::resizeEvent(QResizeEvent* event)

@@ -68,12 +68,17 @@ private:
     void fitScreenAtFirst();
     void centreOnScreen();
 
+    void showAsDesigned();
+    void showGrown();
     void holdLeastSize(bool held);
     void grow();
     void takeSize(Growth growth);
 
     std::string_view activeName_;
     Growth growth_ = 1;
+
+    /// Whether the window was ever about to be shown: no font is loaded before.
+    bool measured_ = false;
     bool wasMaximized_ = false;
 };
 

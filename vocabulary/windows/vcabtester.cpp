@@ -166,7 +166,7 @@ void Vcabtester::showTheWord()
         showPlace(WordOf, {vocabularyList.CurrentWord, vocabularyList.WordCount});
     else
         whereLabel()->clear();
-    whyLabel()->clear();
+    clearWhy();
     omit_->setChecked(currentWordIsOmitted());
     omit_->setEnabled(vocabularyList.WordCount > 0);
     answer_->clear();
@@ -222,7 +222,7 @@ void Vcabtester::reveal()
     if (!canAnswer() || vocabularyTester.WordIsAsked != platform::FlagTrue)
         return;
     answer_->setReadOnly(true);
-    whyLabel()->clear();
+    clearWhy();
     answer_->clear();
     answer_->lookRevealed();
     answer_->setText(shell::fromUtf8(expectedAnswer()));
