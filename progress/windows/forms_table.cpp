@@ -58,7 +58,7 @@ FormsTable::FormsTable(QWidget* parent) : QTableWidget(0, static_cast<int>(Headi
     shell::keepMeasure(*this, "rows", [this](shell::Growth) { fitRows(); });
 }
 
-void FormsTable::show(std::vector<Form> forms)
+void FormsTable::showForms(std::vector<Form> forms)
 {
     QStringList headings;
     for (const LanguageTexts& heading : Headings)
