@@ -40,6 +40,7 @@ ProgressNavigation::ProgressNavigation(CommonWindows& common)
     connect(&pause_, &QTimer::timeout, this, &ProgressNavigation::keepWaiting);
     shell::listenToAnswers([this](const shell::AnswerRecord& answer) { hear(answer); });
     common_.whenDrillIsLeft([this] { endDrill(); });
+    common_.whenDrillIsHidden([this] { closeFile(); });
     connect(&common_.mainMenu(), &shell::MainMenu::progressRequested, this, [this] {
         common_.mainMenu().hide();
         openProgress();
@@ -51,6 +52,7 @@ ProgressNavigation::~ProgressNavigation()
 {
     shell::listenToAnswers({});
     common_.whenDrillIsLeft({});
+    common_.whenDrillIsHidden({});
     keepWaiting();
 }
 
@@ -79,15 +81,15 @@ void ProgressNavigation::keepWaiting()
     keeper_.keep(*std::exchange(waiting_, std::nullopt));
 }
 
-void ProgressNavigation::endDrill()
+void ProgressNavigation::closeFile()
 {
     keepWaiting();
     keeper_.close();
-    countDrill();
 }
 
-void ProgressNavigation::countDrill()
+void ProgressNavigation::endDrill()
 {
+    closeFile();
     if (!std::exchange(drillRuns_, false) || !keeper_.keeps()) {
         common_.mainMenu().forgetLastDrill();
         return;

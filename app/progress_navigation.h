@@ -34,8 +34,8 @@ public:
 private:
     void hear(const shell::AnswerRecord& answer);
     void keepWaiting();
+    void closeFile();
     void endDrill();
-    void countDrill();
 
     void joinProgress(progress::Progress& window);
     void joinErase(progress::ProgressErase& window);

@@ -266,6 +266,61 @@ TEST_F(ProgressStore, ThatCannotBeWrittenKeepsNothingAndSaysNothing)
     EXPECT_EQ(fake.messages, std::vector<std::string>{});
 }
 
+TEST_F(ProgressStore, WithoutItsSumsOrWithAnotherFileInItsPlaceGoesOnInTheOrderOfFirstAsking)
+{
+    const auto ask = [this](const std::string& word, bool right) {
+        auto record = answerNumber(0, right);
+        record.word = word;
+        keeper->keep(Keeper::rowOf(record));
+    };
+    for (const char* const word : {"Zeta", "Alpha", "Mu"})
+        ask(word, false);
+    for (const char* const harm :
+         {"DELETE FROM forms", "DELETE FROM cells", "DELETE FROM days", "DROP TABLE forms",
+          "DROP TABLE cells", "DROP TABLE days", "DROP TABLE sums"}) {
+        OtherProgram().run(harm);
+        ask("Zeta", false);
+        OtherProgram().run(harm);
+        std::string words;
+        for (const auto& cell : keeper->store()->cellsOf(progress::Grid::Words))
+            words += cell.name.row + " ";
+        EXPECT_EQ(words, "Zeta Alpha Mu ") << harm;
+    }
+    EXPECT_EQ(rows().size(), 10U);
+    fake.clock -= 100;
+    openAnew(); // another drill, though by the clock an earlier one
+    ask("Zeta", true);
+    EXPECT_EQ(keeper->store()->form(1)->box, 2);
+    keeper->close();
+    EXPECT_FALSE(fs::exists("progress.db-wal"));
+    fs::rename("progress.db", "elsewhere.db");
+    ask("Mu", true);
+    EXPECT_EQ(rows().size(), 1U);
+    keeper->close();
+    fs::rename("elsewhere.db", "progress.db");
+    OtherProgram().run("UPDATE answers SET number = -number");
+    EXPECT_EQ(rows().size(), 0U);
+    EXPECT_TRUE(fake.messages.empty());
+}
+
+TEST_F(ProgressStore, IsOnlyReadWhileNothingIsKept)
+{
+    keepAnswers(1, 3);
+    keeper->switchKeeping(false);
+    const auto files = [] { return std::distance(fs::directory_iterator("."), {}); };
+    const auto before = files();
+    const std::string bytes = tests::bytesOf("progress.db");
+    EXPECT_EQ(rows().size(), 3U);
+    EXPECT_EQ(files(), before);
+    keeper->close();
+    EXPECT_TRUE(tests::bytesOf("progress.db") == bytes);
+    tests::writeFile("progress.db", std::string(5000, 'x'));
+    EXPECT_EQ(keeper->store(), nullptr);
+    EXPECT_TRUE(keeper->isUnreadable());
+    EXPECT_NE(keeper->erase(), progress::Trouble::None);
+    EXPECT_EQ(files(), before);
+}
+
 TEST_F(ProgressStore, IsNotMadeWhileNothingIsKeptAndIsEmptyOnceItWasDeleted)
 {
     keeper->switchKeeping(false);
