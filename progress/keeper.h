@@ -45,6 +45,7 @@ public:
     /// that runs when it is kept.
     static Row rowOf(const shell::AnswerRecord& answer);
 
+    /// Keeps an answer and counts it, unless none are kept.
     void keep(const Row& row);
 
     /// The store, brought up to date; nullptr where there is no file yet, or none that can be used. It may be
