@@ -32,6 +32,8 @@ void CommonWindows::leaveDrill(QWidget& window)
     bravo_.hide();
     wrong_.hide();
     window.hide();
+    if (drillHidden_)
+        drillHidden_();
 }
 
 void CommonWindows::drillIsLeft() const

@@ -53,6 +53,9 @@ public:
     /// Sets what is done when an exercise is left, and not only put aside. An empty step: nothing.
     void whenDrillIsLeft(Step step) { drillLeft_ = std::move(step); }
 
+    /// Sets what is done when an exercise is left or put aside.
+    void whenDrillIsHidden(Step step) { drillHidden_ = std::move(step); }
+
     /// An exercise was left. Those that are joined as drills say so by themselves.
     void drillIsLeft() const;
 
@@ -60,6 +63,7 @@ private:
     void announce(bool right);
 
     Step drillLeft_;
+    Step drillHidden_;
     shell::MainMenu mainMenu_;
     OnDemand<shell::DelayInterval> delayInterval_{&hideWhenLeft};
     OnDemand<shell::Bravo> bravo_;

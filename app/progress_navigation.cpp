@@ -2,10 +2,10 @@
 
 #include "platform/platform.h"
 #include "progress/sqlite/store_loader.h"
+#include "shell/language_texts.h"
 #include "shell/looks.h"
 #include "shell/looks_file.h"
 
-#include <chrono>
 #include <utility>
 
 namespace app {
@@ -18,8 +18,16 @@ namespace {
 
 constexpr auto RecordName = "progress.db";
 
-// By then the judgement is painted, and hardly a key is pressed again.
-constexpr std::chrono::milliseconds UntilKept{100};
+// clang-format off
+constexpr shell::LanguageTexts NotDeleted = {
+    .english = "The answers were not deleted.",
+    .french  = "Les réponses n'ont pas été supprimées.",
+    .italian = "Le risposte non sono state cancellate.",
+    .german  = "Die Antworten wurden nicht gelöscht.",
+    .spanish = "Las respuestas no se borraron.",
+    .latin   = "Responsa non deleta sunt.",
+};
+// clang-format on
 
 } // namespace
 
@@ -28,10 +36,11 @@ ProgressNavigation::ProgressNavigation(CommonWindows& common)
 {
     keeper_.switchKeeping(shell::looks.KeepAnswers);
     pause_.setSingleShot(true);
-    pause_.setInterval(UntilKept);
+    pause_.setInterval(0);
     connect(&pause_, &QTimer::timeout, this, &ProgressNavigation::keepWaiting);
     shell::listenToAnswers([this](const shell::AnswerRecord& answer) { hear(answer); });
     common_.whenDrillIsLeft([this] { endDrill(); });
+    common_.whenDrillIsHidden([this] { closeFile(); });
     connect(&common_.mainMenu(), &shell::MainMenu::progressRequested, this, [this] {
         common_.mainMenu().hide();
         openProgress();
@@ -43,6 +52,7 @@ ProgressNavigation::~ProgressNavigation()
 {
     shell::listenToAnswers({});
     common_.whenDrillIsLeft({});
+    common_.whenDrillIsHidden({});
     keepWaiting();
 }
 
@@ -58,7 +68,7 @@ void ProgressNavigation::switchKeeping(bool on)
 void ProgressNavigation::hear(const shell::AnswerRecord& answer)
 {
     keepWaiting();
-    waiting_ = answer;
+    waiting_ = progress::Keeper::rowOf(answer);
     pause_.start();
 }
 
@@ -71,21 +81,29 @@ void ProgressNavigation::keepWaiting()
     keeper_.keep(*std::exchange(waiting_, std::nullopt));
 }
 
-void ProgressNavigation::endDrill()
+void ProgressNavigation::closeFile()
 {
     keepWaiting();
+    keeper_.close();
+}
+
+void ProgressNavigation::endDrill()
+{
+    closeFile();
     if (!std::exchange(drillRuns_, false) || !keeper_.keeps()) {
         common_.mainMenu().forgetLastDrill();
         return;
     }
-    keeper_.endDrill();
     const progress::DrillCount count = keeper_.drillCount();
     common_.mainMenu().showLastDrill(count.right, count.toRepeat);
 }
 
 void ProgressNavigation::joinProgress(Progress& window)
 {
-    whenLeft(window, [this] { common_.toMainMenu(); });
+    whenLeft(window, [this] {
+        keeper_.close();
+        common_.toMainMenu();
+    });
     connect(&window, &Progress::keepingSwitched, this, [this](bool on) { switchKeeping(on); });
     connect(&window, &Progress::erasureRequested, this, [this] { erase_->open(); });
     connect(&window, &Progress::reviewRequested, this, &ProgressNavigation::openReviewFromProgress);
@@ -134,10 +152,8 @@ void ProgressNavigation::beginReview()
 void ProgressNavigation::eraseAnswers()
 {
     keepWaiting();
-    progress::Store* const store = keeper_.store();
-    const auto trouble = store == nullptr ? progress::Trouble::None : store->clear();
-    if (const auto sentence = progress::sentenceFor(trouble); !sentence.empty())
-        platform::current().showMessage(std::string(sentence));
+    if (keeper_.erase() != progress::Trouble::None)
+        platform::current().showMessage(std::string(NotDeleted.currentOrDesigned()));
     common_.mainMenu().forgetLastDrill();
     progress_->refresh();
 }

@@ -16,9 +16,9 @@ namespace app {
 /// Joins the record of answers with the drills that give them, and knows the windows that show it and ask
 /// from it.
 ///
-/// An answer is told as soon as it is judged. It is kept in the pause that follows, once the judgement is on
-/// the screen; at the latest when the next one is told, when the drill is left, or when the program ends. So
-/// no judgement waits for the file, and a kill loses no answer but the last.
+/// An answer is told as soon as it is judged, and has that moment. It is kept in the pause that follows, once
+/// the judgement is on the screen; at the latest when the next one is told, when the drill is left, or when
+/// the program ends. So no judgement waits for the file, and a kill loses no answer but the last.
 ///
 /// A drill begins with its first answer and ends when it is left: a test or a quiz that is put aside for
 /// another window goes on. Then the main window says what it has come to.
@@ -34,6 +34,7 @@ public:
 private:
     void hear(const shell::AnswerRecord& answer);
     void keepWaiting();
+    void closeFile();
     void endDrill();
 
     void joinProgress(progress::Progress& window);
@@ -49,7 +50,7 @@ private:
     CommonWindows& common_;
     progress::Keeper keeper_;
     QTimer pause_;
-    std::optional<shell::AnswerRecord> waiting_;
+    std::optional<progress::Row> waiting_;
     bool drillRuns_ = false;
     OnDemand<progress::Progress> progress_{this, &ProgressNavigation::joinProgress};
     OnDemand<progress::ProgressErase> erase_{this, &ProgressNavigation::joinErase};

@@ -17,15 +17,15 @@ Keeper::~Keeper() = default;
 
 void Keeper::switchKeeping(bool on)
 {
+    close();
     keeps_ = on;
     right_ = 0;
     misses_.clear();
 }
 
-// Two drills of one second, or a clock that was put back, must not make one drill of them.
 void Keeper::beginDrill()
 {
-    drill_ = std::max(drill_ + 1, platform::current().now().secondsSinceEpoch);
+    drill_ = 0;
     right_ = 0;
     misses_.clear();
 }
@@ -35,39 +35,52 @@ DrillCount Keeper::drillCount() const
     return {.right = right_, .toRepeat = static_cast<int>(misses_.size())};
 }
 
-void Keeper::endDrill()
+Row Keeper::rowOf(const shell::AnswerRecord& answer)
 {
-    if (store_)
-        store_->settle();
+    const bool shown = shell::settings.ShowVowelLength == platform::FlagTrue;
+    return {
+        .moment = platform::current().now(), .answer = answer, .marksShown = shown && !answer.marksLeftOut};
 }
 
-void Keeper::keep(const shell::AnswerRecord& answer)
+void Keeper::keep(const Row& row)
 {
     if (!keeps_)
         return;
-    count(answer);
-    const bool shown = shell::settings.ShowVowelLength == platform::FlagTrue;
-    const Row row{.moment = platform::current().now(),
-                  .answer = answer,
-                  .drill = drill_,
-                  .marksShown = shown && !answer.marksLeftOut};
+    count(row.answer);
     const Trouble trouble = write(row);
     tell(untold_ != Trouble::None ? untold_ : trouble);
 }
 
+// Damage and a newer version stay and are still to be told; all else may have passed by the next answer.
 Store* Keeper::store()
 {
-    std::error_code unreadable;
-    if (!store_ && !std::filesystem::exists(file_, unreadable))
+    unreadable_ = false;
+    std::error_code unknown;
+    if (!store_ && !std::filesystem::exists(file_, unknown))
         return nullptr;
-    Trouble trouble = open();
-    if (trouble == Trouble::None)
-        trouble = bringUpToDate(*store_);
+    if (!keeps_)
+        return storeToRead();
+    Trouble trouble = use(bringUpToDate);
     if (trouble == Trouble::Damaged)
-        openAnew();
-    if (trouble != Trouble::None)
+        trouble = openAnew();
+    if (trouble == Trouble::Damaged || trouble == Trouble::Newer)
         untold_ = trouble;
-    return store_.get();
+    const bool usable = trouble == Trouble::None || (trouble == Trouble::Damaged && store_);
+    unreadable_ = !usable;
+    return usable ? store_.get() : nullptr;
+}
+
+Trouble Keeper::erase()
+{
+    close();
+    const Trouble trouble = use([](Store& store) { return store.clear(); });
+    close();
+    return trouble;
+}
+
+void Keeper::close()
+{
+    store_.reset();
 }
 
 // A right answer that corrects a miss counts for neither, one that comes later takes the miss away.
@@ -85,41 +98,71 @@ void Keeper::count(const shell::AnswerRecord& answer)
     }
 }
 
-Trouble Keeper::write(const Row& row)
+Trouble Keeper::write(Row row)
 {
-    Trouble trouble = open();
-    if (trouble == Trouble::None)
-        trouble = keepRow(*store_, row);
-    if (trouble != Trouble::Damaged) {
-        if (trouble != Trouble::None)
-            store_.reset();
-        return trouble;
+    const auto keepIt = [this, &row](Store& store) {
+        if (drill_ == 0)
+            drill_ = std::max(store.lastDrill() + 1, row.moment.secondsSinceEpoch);
+        row.drill = drill_;
+        return keepRow(store, row);
+    };
+    Trouble trouble = use(keepIt);
+    if (trouble == Trouble::Damaged) {
+        trouble = openAnew();
+        if (store_)
+            keepIt(*store_);
+    } else if (trouble != Trouble::None) {
+        close();
     }
-    openAnew();
-    if (store_)
-        keepRow(*store_, row);
-    return Trouble::Damaged;
+    return trouble;
 }
 
-Trouble Keeper::open()
+Trouble Keeper::open(Access access)
 {
     if (store_)
         return Trouble::None;
     if (givenUp_)
         return Trouble::Unavailable;
-    Opened opened = opener_(file_);
+    Opened opened = opener_(file_, access);
     store_ = std::move(opened.store);
     givenUp_ = opened.trouble == Trouble::Newer || opened.trouble == Trouble::Unavailable;
     return opened.trouble;
 }
 
-void Keeper::openAnew()
+// Sums that another program took away are made anew as the store is opened; what does not fit even then is no
+// file of ours.
+Trouble Keeper::use(const Work& work)
 {
-    store_.reset();
-    if (setAside(file_, platform::current().now()))
-        open();
-    else
-        givenUp_ = true;
+    const auto tried = [&] {
+        const Trouble trouble = open(Access::Write);
+        return trouble == Trouble::None ? work(*store_) : trouble;
+    };
+    Trouble trouble = tried();
+    if (trouble == Trouble::OtherTables) {
+        close();
+        trouble = tried();
+    }
+    return trouble == Trouble::OtherTables ? Trouble::Damaged : trouble;
+}
+
+// The file is renamed before it is closed, which would empty its log. Tells whether it was set aside.
+Trouble Keeper::openAnew()
+{
+    const bool aside = setAside(file_, platform::current().now());
+    close();
+    givenUp_ = !aside;
+    if (!aside)
+        return Trouble::Unavailable;
+    open(Access::Write);
+    return Trouble::Damaged;
+}
+
+Store* Keeper::storeToRead()
+{
+    if (const Trouble trouble = store_ ? store_->takeTrouble() : Trouble::None; trouble != Trouble::None)
+        close();
+    unreadable_ = open(Access::Read) != Trouble::None;
+    return store_.get();
 }
 
 void Keeper::tell(Trouble trouble)
@@ -128,6 +171,7 @@ void Keeper::tell(Trouble trouble)
     if (told_ || sentence.empty())
         return;
     told_ = true;
+    untold_ = Trouble::None;
     platform::current().showMessage(std::string(sentence));
 }
 

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <memory>
 
@@ -20,8 +21,8 @@ struct DrillCount {
 /// with the first answer, or when it is asked for.
 ///
 /// What is wrong with it is told in a message box, once a run, at an answer. A damaged file is set aside and
-/// a new one begun. After any other trouble the answer is not tried again, but the next one is; a newer file,
-/// and one that cannot be had, is left alone until the program ends.
+/// a new one begun, as long as answers are kept. After any other trouble the answer is not tried again, but
+/// the next one is; a newer file, and one that cannot be had, is left alone until the program ends.
 class Keeper {
 public:
     Keeper(std::filesystem::path file, Opener open);
@@ -40,23 +41,39 @@ public:
     /// What the drill has come to so far, or came to when it was left.
     DrillCount drillCount() const;
 
-    /// A drill was left: the file can be copied.
-    void endDrill();
+    /// An answer as it is to be kept, with this moment and whether marks are shown now. Its drill is the one
+    /// that runs when it is kept.
+    static Row rowOf(const shell::AnswerRecord& answer);
 
-    /// An answer was judged. This is the listener for `shell::listenToAnswers`.
-    void keep(const shell::AnswerRecord& answer);
+    /// Keeps an answer and counts it, unless none are kept.
+    void keep(const Row& row);
 
     /// The store, brought up to date; nullptr where there is no file yet, or none that can be used. It may be
-    /// closed and opened anew by the next call of any of these: ask again each time.
+    /// closed and opened anew by the next call of any of these: ask again each time. While answers are not
+    /// kept, it is only read, as it is, and no file is made or changed.
     Store* store();
+
+    /// Whether there are answers that cannot be read now, as `store` was asked last.
+    bool isUnreadable() const { return unreadable_; }
+
+    /// Deletes all answers; tells what kept them from being deleted.
+    Trouble erase();
+
+    /// Closes the store until it is needed again: everything is in the one file, which may be copied, taken
+    /// away or put in another's place.
+    void close();
 
 private:
     enum class Miss { Just, Corrected };
 
+    using Work = std::function<Trouble(Store&)>;
+
     void count(const shell::AnswerRecord& answer);
-    Trouble write(const Row& row);
-    Trouble open();
-    void openAnew();
+    Trouble write(Row row);
+    Trouble open(Access access);
+    Trouble use(const Work& work);
+    Trouble openAnew();
+    Store* storeToRead();
     void tell(Trouble trouble);
 
     std::filesystem::path file_;
@@ -66,6 +83,9 @@ private:
     bool givenUp_ = false;
     bool told_ = false;
     Trouble untold_ = Trouble::None;
+    bool unreadable_ = false;
+
+    /// The drill that runs, numbered with its first answer; 0 before that.
     std::int64_t drill_ = 0;
     int right_ = 0;
     std::map<FormName, Miss> misses_;

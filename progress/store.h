@@ -25,7 +25,8 @@ struct DayOfPractice {
 /// Where answers are kept, and beside them what was summed up from them: forms, cells and days. Nothing that
 /// is asked of it takes longer because it holds more answers, `rowsAfter` apart.
 ///
-/// Once something is wrong, it does nothing and finds nothing until it is asked for the trouble.
+/// Once something is wrong, it does nothing and finds nothing until it is asked for the trouble, or begins to
+/// write.
 class Store {
 public:
     Store() = default;
@@ -50,7 +51,10 @@ public:
     /// The number of the last row; 0 where there is none.
     virtual std::int64_t lastRow() = 0;
 
-    /// The last row that is summed up; 0 where none is, or where the forms are gone.
+    /// The greatest number of a drill in which a form was asked last; 0 where there is none.
+    virtual std::int64_t lastDrill() = 0;
+
+    /// The last row that is summed up; 0 where none is, or where forms, cells or days are gone.
     virtual std::int64_t lastSummed() = 0;
     virtual void setLastSummed(std::int64_t row) = 0;
     virtual void forgetSums() = 0;
@@ -72,11 +76,9 @@ public:
     virtual std::vector<DayOfPractice> daysOfPractice(Day from, Day to) = 0;
 
     /// The numbers of the forms that are due on a day, of one exercise, or of all where its name is empty:
-    /// those that have waited longest first, of these those in the lowest box.
+    /// those that have waited longest first, of these those in the lowest box, and of these one of each
+    /// exercise in turn.
     virtual std::vector<std::int64_t> dueForms(Day day, std::string_view exercise) = 0;
-
-    /// The first of these.
-    virtual std::optional<Form> nextDue(Day day, std::string_view exercise) = 0;
 
     /// Empties all tables.
     virtual Trouble clear() = 0;
@@ -91,8 +93,12 @@ struct Opened {
     Trouble trouble = Trouble::None;
 };
 
-/// Opens the store in a file, which is made where it is missing. A damaged file or a newer one stays as it
-/// is.
-using Opener = std::function<Opened(const std::filesystem::path& file)>;
+enum class Access {
+    Write, ///< a missing file is made, and what is missing in it
+    Read,  ///< no file is made or changed
+};
+
+/// Opens the store in a file. A damaged file or a newer one stays as it is.
+using Opener = std::function<Opened(const std::filesystem::path& file, Access access)>;
 
 } // namespace progress

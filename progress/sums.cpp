@@ -18,7 +18,8 @@ Share operator-(const Share& left, const Share& right)
     return {left.answered - right.answered, left.right - right.right};
 }
 
-// What some rows change: each form is read and written once, however many of them are its answers.
+// What some rows change: each form is read and written once, however many of them are its answers. The forms
+// stand in the order in which they were first asked; so the cells that they open do too.
 class Sums {
 public:
     explicit Sums(Store& store) : store_(store) {}
@@ -26,38 +27,42 @@ public:
     void add(const Row& row)
     {
         Form& form = formAsked(row);
-        const Share before = shareOf(form);
         form = after(std::move(form), row);
-        Share& cell = cells_[cellOf(form)];
-        cell = cell + (shareOf(form) - before);
         Share& day = days_[platform::localDay(row.moment)];
         day = day + Share{.answered = 1, .right = row.answer.right ? 1 : 0};
     }
 
     void write()
     {
-        for (const auto& [name, form] : forms_)
-            store_.put(form, cellOf(form));
-        for (const auto& [cell, more] : cells_)
-            store_.addToCell(cell, more);
+        for (const auto& [form, before] : changes_) {
+            const CellName cell = cellOf(form);
+            store_.put(form, cell);
+            store_.addToCell(cell, shareOf(form) - before);
+        }
         for (const auto& [day, more] : days_)
             store_.addToDay(day, more);
     }
 
 private:
+    struct Change {
+        Form form;
+        Share before;
+    };
+
     Form& formAsked(const Row& row)
     {
-        FormName name = nameOf(row.answer);
-        const auto known = forms_.find(name);
-        if (known != forms_.end())
-            return known->second;
-        Form kept = store_.form(name).value_or(Form{});
-        return forms_.emplace(std::move(name), std::move(kept)).first->second;
+        const FormName name = nameOf(row.answer);
+        const auto [known, isNew] = places_.try_emplace(name, changes_.size());
+        if (isNew) {
+            const Form kept = store_.form(name).value_or(Form{});
+            changes_.push_back({kept, shareOf(kept)});
+        }
+        return changes_[known->second].form;
     }
 
     Store& store_;
-    std::map<FormName, Form> forms_;
-    std::map<CellName, Share> cells_;
+    std::map<FormName, std::size_t> places_;
+    std::vector<Change> changes_;
     std::map<Day, Share> days_;
 };
 
@@ -82,11 +87,15 @@ bool sumUpSome(Store& store)
 
 Trouble bringUpToDate(Store& store)
 {
+    if (store.takeTrouble() == Trouble::Damaged)
+        return Trouble::Damaged;
     while (store.lastSummed() != store.lastRow()) {
         store.begin();
-        sumUpSome(store);
+        const bool some = sumUpSome(store);
         if (const Trouble trouble = store.commit(); trouble != Trouble::None)
             return trouble;
+        if (!some)
+            break;
     }
     return store.takeTrouble();
 }

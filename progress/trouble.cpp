@@ -55,6 +55,7 @@ std::string_view sentenceFor(Trouble trouble)
     case Trouble::Full:
         return FullTexts.currentOrDesigned();
     case Trouble::None:
+    case Trouble::OtherTables:
     case Trouble::Unavailable:
         return {};
     }

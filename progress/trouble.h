@@ -8,6 +8,7 @@ namespace progress {
 enum class Trouble {
     None,
     Damaged,
+    OtherTables, ///< a table is missing or not as it should be; to open it anew may make it
     Newer,       ///< a newer version of the program wrote it: it is left as it is
     Locked,      ///< another program holds it
     Full,        ///< it cannot grow, or the disk fails; what it holds is whole

@@ -1,6 +1,7 @@
 #include "progress/sqlite/database.h"
 
 #include <QSqlError>
+#include <QUrl>
 #include <QVariant>
 
 #include <utility>
@@ -19,40 +20,67 @@ QString newConnectionName()
 }
 
 // The result codes of SQLite, without what their upper bytes say in addition.
+enum ResultCode {
+    StatementDoesNotFit = 1,
+    Busy = 5,
+    TableLocked = 6,
+    InputOutputFailed = 10,
+    Corrupt = 11,
+    DiskFull = 13,
+    NoDatabase = 26,
+};
+
 Trouble troubleOf(int resultCode)
 {
     switch (resultCode & 0xFF) {
-    case 5: // busy
-    case 6: // locked
+    case Busy:
+    case TableLocked:
         return Trouble::Locked;
-    case 10: // input or output failed
-    case 13: // full
+    case InputOutputFailed:
+    case DiskFull:
         return Trouble::Full;
-    case 1:  // there are other tables in it
-    case 11: // corrupt
-    case 26: // no database
+    case StatementDoesNotFit:
+        return Trouble::OtherTables;
+    case Corrupt:
+    case NoDatabase:
         return Trouble::Damaged;
     default:
         return Trouble::Unavailable;
     }
 }
 
+// Where the log is empty or gone, the file alone holds everything, and is read without a lock or a new log.
+bool hasLog(std::filesystem::path file)
+{
+    file += "-wal";
+    std::error_code missing;
+    const auto bytes = std::filesystem::file_size(file, missing);
+    return !missing && bytes > 0;
+}
+
 } // namespace
 
 Database Database::writing(const std::filesystem::path& file)
 {
-    return {file, QStringLiteral("QSQLITE_BUSY_TIMEOUT=%1").arg(MillisecondsForOthers)};
+    return {QString::fromStdString(file.string()),
+            QStringLiteral("QSQLITE_BUSY_TIMEOUT=%1").arg(MillisecondsForOthers)};
 }
 
 Database Database::readingOnly(const std::filesystem::path& file)
 {
-    return {file, QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_BUSY_TIMEOUT=%1").arg(MillisecondsForOthers)};
+    const QString options =
+        QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_BUSY_TIMEOUT=%1").arg(MillisecondsForOthers);
+    if (hasLog(file))
+        return {QString::fromStdString(file.string()), options};
+    const QByteArray name = QUrl::toPercentEncoding(QString::fromStdString(file.string()), "/");
+    return {QStringLiteral("file:") + QString::fromLatin1(name) + QStringLiteral("?immutable=1"),
+            options + QStringLiteral(";QSQLITE_OPEN_URI")};
 }
 
-Database::Database(const std::filesystem::path& file, const QString& options)
+Database::Database(const QString& name, const QString& options)
     : connection_(QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), newConnectionName()))
 {
-    connection_.setDatabaseName(QString::fromStdString(file.string()));
+    connection_.setDatabaseName(name);
     connection_.setConnectOptions(options);
     if (!connection_.open())
         note(connection_.lastError());
@@ -102,6 +130,7 @@ qint64 Database::number(std::string_view statement, std::initializer_list<QVaria
 
 void Database::begin()
 {
+    takeTrouble();
     run("BEGIN IMMEDIATE");
     inTransaction_ = trouble_ == Trouble::None;
 }

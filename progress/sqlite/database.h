@@ -15,10 +15,11 @@
 namespace progress {
 
 /// A connection to an SQLite file. Statements are prepared once. After trouble it does nothing more until the
-/// trouble is taken; a transaction in which there was trouble is undone.
+/// trouble is taken or a transaction begins; one in which there was trouble is undone.
 class Database {
 public:
-    /// Connects to a file, for reading and writing, or so that nothing in it can be changed.
+    /// Connects to a file, for reading and writing, or so that nothing in it can be changed; then no file is
+    /// made beside it either, unless its log was left behind.
     static Database writing(const std::filesystem::path& file);
     static Database readingOnly(const std::filesystem::path& file);
 
@@ -40,7 +41,7 @@ public:
     Trouble takeTrouble();
 
 private:
-    Database(const std::filesystem::path& file, const QString& options);
+    Database(const QString& name, const QString& options);
 
     QSqlQuery* prepared(std::string_view statement);
     void note(const QSqlError& error);

@@ -4,9 +4,9 @@
 
 namespace progress {
 
-Opened SqlitePlugin::open(const std::filesystem::path& file)
+Opened SqlitePlugin::open(const std::filesystem::path& file, Access access)
 {
-    return openSqliteStore(file);
+    return openSqliteStore(file, access);
 }
 
 } // namespace progress

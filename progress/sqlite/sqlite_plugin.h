@@ -13,7 +13,7 @@ class SqlitePlugin : public QObject, public StorePlugin {
     Q_INTERFACES(progress::StorePlugin)
 
 public:
-    Opened open(const std::filesystem::path& file) override;
+    Opened open(const std::filesystem::path& file, Access access) override;
 };
 
 } // namespace progress

@@ -21,6 +21,7 @@ public:
     void append(const Row& row) override;
     std::vector<Row> rowsAfter(std::int64_t number, std::size_t atMost) override;
     std::int64_t lastRow() override;
+    std::int64_t lastDrill() override;
 
     std::int64_t lastSummed() override;
     void setLastSummed(std::int64_t row) override;
@@ -36,7 +37,6 @@ public:
     std::vector<Form> formsOf(const CellName& cell) override;
     std::vector<DayOfPractice> daysOfPractice(Day from, Day to) override;
     std::vector<std::int64_t> dueForms(Day day, std::string_view exercise) override;
-    std::optional<Form> nextDue(Day day, std::string_view exercise) override;
 
     Trouble clear() override;
     void settle() override;
@@ -74,9 +74,17 @@ std::int64_t SqliteStore::lastRow()
     return database_.number("SELECT max(number) FROM answers");
 }
 
+// The forms are few, however many the answers are.
+std::int64_t SqliteStore::lastDrill()
+{
+    return database_.number("SELECT max(drill) FROM (SELECT drill FROM forms UNION ALL"
+                            " SELECT drill FROM answers WHERE number = (SELECT max(number) FROM answers))");
+}
+
 std::int64_t SqliteStore::lastSummed()
 {
-    return database_.number("SELECT last_answer FROM sums WHERE EXISTS (SELECT 1 FROM forms)");
+    return database_.number("SELECT last_answer FROM sums WHERE EXISTS (SELECT 1 FROM forms)"
+                            " AND EXISTS (SELECT 1 FROM cells) AND EXISTS (SELECT 1 FROM days)");
 }
 
 void SqliteStore::setLastSummed(std::int64_t row)
@@ -181,20 +189,13 @@ std::vector<std::int64_t> SqliteStore::dueForms(Day day, std::string_view exerci
     std::vector<std::int64_t> numbers;
     const auto take = [&numbers](const QSqlQuery& row) { numbers.push_back(row.value(0).toLongLong()); };
     if (exercise.empty())
-        database_.run("SELECT number FROM forms WHERE due <= ? ORDER BY due, box, number", {number(day)},
-                      take);
+        database_.run("SELECT number FROM forms WHERE due <= ? ORDER BY due, box,"
+                      " row_number() OVER (PARTITION BY due, box, exercise ORDER BY number), number",
+                      {number(day)}, take);
     else
         database_.run("SELECT number FROM forms WHERE exercise = ? AND due <= ? ORDER BY due, box, number",
                       {text(exercise), number(day)}, take);
     return numbers;
-}
-
-std::optional<Form> SqliteStore::nextDue(Day day, std::string_view exercise)
-{
-    if (exercise.empty())
-        return firstForm("WHERE due <= ? ORDER BY due, box, number LIMIT 1", {number(day)});
-    return firstForm("WHERE exercise = ? AND due <= ? ORDER BY due, box, number LIMIT 1",
-                     {text(exercise), number(day)});
 }
 
 Trouble SqliteStore::clear()
@@ -202,15 +203,17 @@ Trouble SqliteStore::clear()
     begin();
     database_.run("DELETE FROM answers");
     forgetSums();
-    const Trouble trouble = commit();
+    if (const Trouble trouble = commit(); trouble != Trouble::None)
+        return trouble;
     // What was deleted shall neither be found in the file nor take room; where this cannot be, it is no harm.
     database_.run("VACUUM");
     settle();
-    return trouble;
+    return Trouble::None;
 }
 
 void SqliteStore::settle()
 {
+    database_.takeTrouble();
     database_.run("PRAGMA wal_checkpoint(TRUNCATE)");
     database_.takeTrouble();
 }
@@ -240,7 +243,7 @@ Trouble makeTables(Database& database)
         database.run(statement);
     for (const std::string_view statement : SumsTables)
         database.run(statement);
-    database.run(SetStoreVersion);
+    database.run("PRAGMA user_version = " + std::to_string(StoreVersion));
     return database.commit();
 }
 
@@ -259,12 +262,19 @@ Trouble troubleWithVersion(const std::filesystem::path& file)
     return version > StoreVersion ? Trouble::Newer : Trouble::None;
 }
 
-} // namespace
-
-Opened openSqliteStore(const std::filesystem::path& file)
+Opened openToRead(const std::filesystem::path& file)
 {
-    if (const Trouble trouble = troubleWithVersion(file); trouble != Trouble::None)
+    Database database = Database::readingOnly(file);
+    const bool complete = database.number(CountTables) == TableCount;
+    if (const Trouble trouble = database.takeTrouble(); trouble != Trouble::None)
         return {.store = nullptr, .trouble = trouble};
+    if (!complete)
+        return {.store = nullptr, .trouble = Trouble::OtherTables};
+    return {.store = std::make_unique<SqliteStore>(std::move(database)), .trouble = Trouble::None};
+}
+
+Opened openToWrite(const std::filesystem::path& file)
+{
     Database database = Database::writing(file);
     database.run("PRAGMA journal_mode = WAL");
     // A kill loses nothing; that a power cut may take the last answers is the price of never waiting for the
@@ -273,6 +283,15 @@ Opened openSqliteStore(const std::filesystem::path& file)
     if (const Trouble trouble = makeTables(database); trouble != Trouble::None)
         return {.store = nullptr, .trouble = trouble};
     return {.store = std::make_unique<SqliteStore>(std::move(database)), .trouble = Trouble::None};
+}
+
+} // namespace
+
+Opened openSqliteStore(const std::filesystem::path& file, Access access)
+{
+    if (const Trouble trouble = troubleWithVersion(file); trouble != Trouble::None)
+        return {.store = nullptr, .trouble = trouble};
+    return access == Access::Read ? openToRead(file) : openToWrite(file);
 }
 
 } // namespace progress

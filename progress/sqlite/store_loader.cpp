@@ -26,12 +26,12 @@ StorePlugin* load()
 
 } // namespace
 
-Opened openStore(const std::filesystem::path& file)
+Opened openStore(const std::filesystem::path& file, Access access)
 {
     static StorePlugin* const plugin = load();
     if (plugin == nullptr)
         return {.store = nullptr, .trouble = Trouble::Unavailable};
-    return plugin->open(file);
+    return plugin->open(file, access);
 }
 
 } // namespace progress

@@ -14,7 +14,7 @@ public:
     StorePlugin& operator=(const StorePlugin&) = delete;
     virtual ~StorePlugin() = default;
 
-    virtual Opened open(const std::filesystem::path& file) = 0;
+    virtual Opened open(const std::filesystem::path& file, Access access) = 0;
 };
 
 } // namespace progress

@@ -7,7 +7,6 @@ namespace progress {
 
 /// The layout of these tables, which stands in the file as its `user_version`.
 inline constexpr int StoreVersion = 1;
-inline constexpr std::string_view SetStoreVersion = "PRAGMA user_version = 1";
 
 /// The answers: what is kept. Another program may add rows; what it leaves out is unknown.
 inline constexpr std::string_view AnswersTable = R"(

@@ -28,10 +28,22 @@ constexpr std::array Headings = {
 };
 // clang-format on
 
-// A word of a list, or its translation, may hold a colon of its own.
-QString shown(const Form& form, const std::string& text)
+// The translation of a word may hold a colon of its own: it is what is expected, or what is asked.
+QString unlessTranslation(const Form& form, std::string_view promptOfTranslation, const std::string& text)
 {
-    return form.name.exercise == shell::exercise::Vcabtester ? fromUtf8(text) : shell::latinText(text);
+    const bool ofList = form.name.exercise == shell::exercise::Vcabtester;
+    const bool translation = ofList && shell::partsOfPlace(form.name.place)[1] == promptOfTranslation;
+    return translation ? fromUtf8(text) : shell::latinText(text);
+}
+
+QString asked(const Form& form, const std::string& text)
+{
+    return unlessTranslation(form, shell::AskedWithTranslation, text);
+}
+
+QString answered(const Form& form, const std::string& text)
+{
+    return unlessTranslation(form, shell::AskedWithWord, text);
 }
 
 // Nothing that was written is a dash.
@@ -39,7 +51,7 @@ QString writtenInstead(const Form& form)
 {
     QStringList texts;
     for (const std::string& written : form.wrongAnswers)
-        texts << (written.empty() ? QStringLiteral("–") : fromUtf8(written));
+        texts << (written.empty() ? QStringLiteral("–") : answered(form, written));
     return texts.join(QStringLiteral(", "));
 }
 
@@ -58,7 +70,7 @@ FormsTable::FormsTable(QWidget* parent) : QTableWidget(0, static_cast<int>(Headi
     shell::keepMeasure(*this, "rows", [this](shell::Growth) { fitRows(); });
 }
 
-void FormsTable::show(std::vector<Form> forms)
+void FormsTable::showForms(std::vector<Form> forms)
 {
     QStringList headings;
     for (const LanguageTexts& heading : Headings)
@@ -81,8 +93,8 @@ void FormsTable::fitRows()
 void FormsTable::showForm(int row, const Form& form)
 {
     const shell::AnswerRecord question = questionFor(form);
-    const std::array texts = {shown(form, question.asked), fromUtf8(textOf(shareOf(form))),
-                              shown(form, question.expected), writtenInstead(form)};
+    const std::array texts = {asked(form, question.asked), fromUtf8(textOf(shareOf(form))),
+                              answered(form, question.expected), writtenInstead(form)};
     int column = 0;
     for (const QString& text : texts)
         setItem(row, column++, new QTableWidgetItem(text));

@@ -16,7 +16,7 @@ class FormsTable : public QTableWidget {
 public:
     explicit FormsTable(QWidget* parent);
 
-    void show(std::vector<Form> forms);
+    void showForms(std::vector<Form> forms);
 
 private:
     void showForm(int row, const Form& form);

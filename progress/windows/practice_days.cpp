@@ -51,7 +51,7 @@ PracticeDays::PracticeDays(QWidget* parent) : QWidget(parent)
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
 
-void PracticeDays::show(std::vector<DayOfPractice> year)
+void PracticeDays::showYear(std::vector<DayOfPractice> year)
 {
     year_ = std::move(year);
     mostAnswers_ = 0;

@@ -17,7 +17,7 @@ public:
     explicit PracticeDays(QWidget* parent);
 
     /// Shows days that follow each other, the last of them today.
-    void show(std::vector<DayOfPractice> year);
+    void showYear(std::vector<DayOfPractice> year);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

@@ -48,7 +48,7 @@ constexpr std::array Captions = {
     Caption{"ProgressExport",    {"E&xport...",      "E&xporter...",         {},     "E&xportieren...",         "E&xportar...",             "E&xscribe..."}},
     Caption{"ProgressDelete",    {"&Delete...",      "&Supprimer...",        {},     "&Löschen...",             "&Borrar...",               "&Dele..."}},
     Caption{"ProgressReview",    {"&Review",         "&Réviser",             {},     "&Wiederholen",            "&Repasar",                 "Re&pete!"}},
-    Caption{"ProgressClose",     {"&Close",          "&Fermer",              {},     "&Schließen",              "&Cerrar",                  "&Claude!"}},
+    Caption{"ProgressClose",     {"&Close",          "&Fermer",              {},     "&Schließen",              "&Cerrar",                  "&Claude"}},
 };
 
 // In the order of `Grids`.
@@ -59,7 +59,8 @@ constexpr std::array Kinds = {
 };
 
 constexpr LanguageTexts Nothing{"Nothing has been answered here yet.", "Il n'y a encore aucune réponse ici.", {}, "Hier ist noch nichts beantwortet.", "Aquí aún no hay respuestas.", "Nihil hic adhuc responsum est."};
-constexpr LanguageTexts YearInWords{"Days of practice in the last year: %1. Answers: %2, right: %3.", "Jours d'exercice de l'année passée : %1. Réponses : %2, justes : %3.", {}, "Übungstage im letzten Jahr: %1. Antworten: %2, richtig: %3.", "Días de práctica del último año: %1. Respuestas: %2, bien: %3.", "Dies exercitationis anni proximi: %1. Responsa: %2, recta: %3."};
+constexpr LanguageTexts Unreadable{"The answers cannot be read now.", "Les réponses ne peuvent pas être lues maintenant.", {}, "Die Antworten lassen sich jetzt nicht lesen.", "Las respuestas no se pueden leer ahora.", "Responsa nunc legi non possunt."};
+constexpr LanguageTexts YearInWords{"Days of practice in the last year: %1. Answers: %2, right: %3.", "Jours d'exercice des douze derniers mois : %1. Réponses : %2, justes : %3.", {}, "Übungstage in den letzten zwölf Monaten: %1. Antworten: %2, richtig: %3.", "Días de práctica del último año: %1. Respuestas: %2, bien: %3.", "Dies exercitationis duodecim mensium proxime praeteritorum: %1. Responsa: %2, recta: %3."};
 constexpr LanguageTexts NotExported{"The answers were not exported.", "Les réponses n'ont pas été exportées.", {}, "Die Antworten wurden nicht exportiert.", "Las respuestas no se exportaron.", "Responsa non exscripta sunt."};
 // clang-format on
 
@@ -149,7 +150,6 @@ void Progress::connectControls()
 void Progress::setCaptions()
 {
     shell::applyCurrentOrDesignedCaptions(*this, Captions);
-    nothing_->setText(current(Nothing));
     const int chosen = kind_->currentIndex();
     kind_->clear();
     for (const LanguageTexts& kind : Kinds)
@@ -204,6 +204,7 @@ void Progress::showGrid()
     Store* const store = keeper_->store();
     cells_->show(store == nullptr ? std::vector<Cell>() : store->cellsOf(chosenGrid()));
     const QModelIndex worst = cells_->worst();
+    nothing_->setText(current(keeper_->isUnreadable() ? Unreadable : Nothing));
     nothing_->setVisible(!worst.isValid());
     for (QWidget* const part : std::initializer_list<QWidget*>{grid_, cellName_, forms_})
         part->setVisible(worst.isValid());
@@ -226,7 +227,7 @@ void Progress::showForms()
     Store* const store = keeper_->store();
     cellName_->setText(place.isValid() ? cells_->nameAt(place).replace(u'&', QStringLiteral("&&"))
                                        : QString());
-    forms_->show(cell == nullptr || store == nullptr ? std::vector<Form>() : store->formsOf(cell->name));
+    forms_->showForms(cell == nullptr || store == nullptr ? std::vector<Form>() : store->formsOf(cell->name));
 }
 
 void Progress::showDays()
@@ -246,7 +247,7 @@ void Progress::showDays()
     daysInWords_->setText(current(YearInWords).arg(days).arg(all.answered).arg(all.right));
     days_->setAccessibleName(daysInWords_->text());
     days_->setVisible(!year.empty());
-    days_->show(std::move(year));
+    days_->showYear(std::move(year));
 }
 
 void Progress::chooseFile()

@@ -103,7 +103,7 @@ TEST_F(Progress, WhatWasMissedInAReviewComesAgainAsTheLast)
 TEST_F(Progress, IsWrittenAsATableThatOtherProgramsRead)
 {
     // 29 February 2024, half past midnight in India, when it was the day before in Greenwich.
-    const platform::Moment moment{1709146800 + 0, 19800};
+    const platform::Moment moment{1709146800, 19800};
     EXPECT_EQ(progress::isoTime(moment), "2024-02-29T00:30:00+05:30");
     EXPECT_EQ(progress::isoTime({1704067199, -12600}), "2023-12-31T20:29:59-03:30");
     EXPECT_EQ(platform::localDay({-1, 0}), -1);

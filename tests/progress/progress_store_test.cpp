@@ -110,7 +110,7 @@ protected:
     void keepAnswers(int from, int to) const
     {
         for (int number = from; number <= to; ++number)
-            keeper->keep(answerNumber(number));
+            keeper->keep(Keeper::rowOf(answerNumber(number)));
     }
 };
 
@@ -120,7 +120,7 @@ protected:
     deadlyWrite = write;
     Keeper keeper("progress.db", progress::openStore);
     for (int number = from;; ++number) {
-        keeper.keep(answerNumber(number));
+        keeper.keep(Keeper::rowOf(answerNumber(number)));
         if (::write(pipe, "k", 1) != 1)
             ::_exit(1);
     }
@@ -129,7 +129,7 @@ protected:
 TEST_F(ProgressStore, KilledInAnyStepOfAWriteLosesAtMostTheAnswerUnderWay)
 {
     int kept = 0;
-    progress::openStore("loaded.db");
+    progress::openStore("loaded.db", progress::Access::Write);
     for (int write = 1; write <= 100; ++write) {
         std::array<int, 2> pipe{};
         ASSERT_EQ(::pipe(pipe.data()), 0);
@@ -266,6 +266,61 @@ TEST_F(ProgressStore, ThatCannotBeWrittenKeepsNothingAndSaysNothing)
     EXPECT_EQ(fake.messages, std::vector<std::string>{});
 }
 
+TEST_F(ProgressStore, WithoutItsSumsOrWithAnotherFileInItsPlaceGoesOnInTheOrderOfFirstAsking)
+{
+    const auto ask = [this](const std::string& word, bool right) {
+        auto record = answerNumber(0, right);
+        record.word = word;
+        keeper->keep(Keeper::rowOf(record));
+    };
+    for (const char* const word : {"Zeta", "Alpha", "Mu"})
+        ask(word, false);
+    for (const char* const harm :
+         {"DELETE FROM forms", "DELETE FROM cells", "DELETE FROM days", "DROP TABLE forms",
+          "DROP TABLE cells", "DROP TABLE days", "DROP TABLE sums"}) {
+        OtherProgram().run(harm);
+        ask("Zeta", false);
+        OtherProgram().run(harm);
+        std::string words;
+        for (const auto& cell : keeper->store()->cellsOf(progress::Grid::Words))
+            words += cell.name.row + " ";
+        EXPECT_EQ(words, "Zeta Alpha Mu ") << harm;
+    }
+    EXPECT_EQ(rows().size(), 10U);
+    fake.clock -= 100;
+    openAnew(); // another drill, though by the clock an earlier one
+    ask("Zeta", true);
+    EXPECT_EQ(keeper->store()->form(1)->box, 2);
+    keeper->close();
+    EXPECT_FALSE(fs::exists("progress.db-wal"));
+    fs::rename("progress.db", "elsewhere.db");
+    ask("Mu", true);
+    EXPECT_EQ(rows().size(), 1U);
+    keeper->close();
+    fs::rename("elsewhere.db", "progress.db");
+    OtherProgram().run("UPDATE answers SET number = -number");
+    EXPECT_EQ(rows().size(), 0U);
+    EXPECT_TRUE(fake.messages.empty());
+}
+
+TEST_F(ProgressStore, IsOnlyReadWhileNothingIsKept)
+{
+    keepAnswers(1, 3);
+    keeper->switchKeeping(false);
+    const auto files = [] { return std::distance(fs::directory_iterator("."), {}); };
+    const auto before = files();
+    const std::string bytes = tests::bytesOf("progress.db");
+    EXPECT_EQ(rows().size(), 3U);
+    EXPECT_EQ(files(), before);
+    keeper->close();
+    EXPECT_TRUE(tests::bytesOf("progress.db") == bytes);
+    tests::writeFile("progress.db", std::string(5000, 'x'));
+    EXPECT_EQ(keeper->store(), nullptr);
+    EXPECT_TRUE(keeper->isUnreadable());
+    EXPECT_NE(keeper->erase(), progress::Trouble::None);
+    EXPECT_EQ(files(), before);
+}
+
 TEST_F(ProgressStore, IsNotMadeWhileNothingIsKeptAndIsEmptyOnceItWasDeleted)
 {
     keeper->switchKeeping(false);
@@ -274,11 +329,11 @@ TEST_F(ProgressStore, IsNotMadeWhileNothingIsKeptAndIsEmptyOnceItWasDeleted)
     EXPECT_FALSE(fs::exists("progress.db"));
     keeper->switchKeeping(true);
     keepAnswers(1, 300);
-    keeper->endDrill();
+    keeper->close();
     const std::string before = tests::bytesOf("progress.db");
     EXPECT_NE(before.find("word3"), std::string::npos);
     EXPECT_EQ(std::ranges::count(progress::csvOf(*keeper->store()), '\n'), 301);
-    EXPECT_EQ(keeper->store()->clear(), progress::Trouble::None);
+    EXPECT_EQ(keeper->erase(), progress::Trouble::None);
     EXPECT_TRUE(rows().empty());
     EXPECT_TRUE(keeper->store()->cellsOf(progress::Grid::Words).empty());
     const std::string after = tests::bytesOf("progress.db");
@@ -291,16 +346,16 @@ TEST_F(ProgressStore, ReviewsAFormWithoutMarksAsLongAsItWasNeverAskedWithThem)
     auto record = answerNumber(1);
     record.exercise = "Conjugation";
     record.expected = "amo";
-    keeper->keep(record);
+    keeper->keep(Keeper::rowOf(record));
     shell::settings.ShowVowelLength = platform::FlagTrue;
     for (const char* const expected : {"amo", "amo", "amo:"}) {
-        const auto question = progress::questionFor(keeper->store()->nextDue(fake.day + 99, "").value());
+        const auto question = progress::questionFor(keeper->store()->form(1).value());
         EXPECT_EQ(question.expected, expected);
-        keeper->keep(progress::judged(question, "amo:"));
+        keeper->keep(Keeper::rowOf(progress::judged(question, "amo:")));
         EXPECT_TRUE(rows().back().answer.right);
         record.expected = "amo:";
         if (rows().size() == 3)
-            keeper->keep(record); // in the drill
+            keeper->keep(Keeper::rowOf(record)); // in the drill
     }
 }
 
@@ -311,7 +366,7 @@ TEST_F(ProgressStore, CountsWhatADrillCameTo)
     const std::multimap<int, bool> answers{{1, false}, {1, true}, {2, false}, {2, false}, {2, true},
                                            {2, true},  {3, true}, {4, true},  {5, false}};
     for (const auto& [word, right] : answers)
-        keeper->keep(answerNumber(word, right));
+        keeper->keep(Keeper::rowOf(answerNumber(word, right)));
     EXPECT_EQ(keeper->drillCount().right, 3);
     EXPECT_EQ(keeper->drillCount().toRepeat, 2);
     keeper->beginDrill();
@@ -365,14 +420,12 @@ private:
     std::map<std::size_t, Card> cards_;
 };
 
-// The forms that are due, as they are asked; the first of them is the next one.
+// The forms that are due, as they are asked.
 std::deque<std::string> dueIn(progress::Store& store, std::int64_t day)
 {
     std::deque<std::string> asked;
     for (const std::int64_t number : store.dueForms(day, ""))
         asked.push_back(store.form(number)->asked);
-    const auto next = store.nextDue(day, "");
-    EXPECT_EQ(next ? next->asked : "", asked.empty() ? "" : asked.front());
     return asked;
 }
 
@@ -385,7 +438,7 @@ TEST_F(ProgressStore, BringsEveryFormBackOnItsDayForAYearAndItsGridsAgreeWithThe
     const auto answer = [&](std::size_t form, bool right) {
         auto record = CardIndex::form(form);
         record.right = right;
-        keeper->keep(record);
+        keeper->keep(Keeper::rowOf(record));
         cards.answered(form, right, drill);
         return right;
     };

@@ -118,7 +118,15 @@ TEST_F(Progress, AnswersAreExportedAndKeptOrNotAndDeletedOnceTheQuestionIsAnswer
     EXPECT_EQ(tests::focusIn(tests::shown("ProgressErase")), "ProgressEraseCancel");
     tests::press(tests::shown("ProgressErase"), Qt::Key_Return);
     EXPECT_TRUE(button(progress, "ProgressDelete").isEnabled());
+    const std::string whole = tests::bytesOf("progress.db");
+    tests::writeFile("progress.db", std::string(5000, 'x'));
     tests::click(progress, "ProgressDelete");
+    tests::click(tests::shown("ProgressErase"), "ProgressEraseOK");
+    EXPECT_EQ(fake.messages.back(), "The answers were not deleted.");
+    EXPECT_EQ(label(progress, "ProgressNothing"), "The answers cannot be read now.");
+    tests::writeFile("progress.db", whole);
+    tests::press(progress, Qt::Key_Escape);
+    tests::click(openProgress(), "ProgressDelete");
     tests::click(tests::shown("ProgressErase"), "ProgressEraseOK");
     EXPECT_EQ(shownWindow("ProgressErase"), nullptr);
     EXPECT_FALSE(button(progress, "ProgressDelete").isEnabled());
