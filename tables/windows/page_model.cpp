@@ -102,7 +102,7 @@ QVariant PageModel::headerData(int section, Qt::Orientation orientation, int rol
 
 Qt::ItemFlags PageModel::flags(const QModelIndex& index) const
 {
-    return lineAt(index.row()).isHeading() ? Qt::ItemFlags() : QAbstractTableModel::flags(index);
+    return cellAt(index) == 0 ? Qt::ItemFlags() : QAbstractTableModel::flags(index);
 }
 
 } // namespace tables

@@ -217,6 +217,7 @@ void Tables::open()
 void Tables::openAt(const Word& word)
 {
     word_ = word;
+    listWords();
     filter_->clear();
     open();
     view_->setFocus();
@@ -230,16 +231,23 @@ void Tables::becameActive()
 void Tables::refresh()
 {
     setCaptions();
-    if (words_->isOutOfDate()) {
-        tree_->setCurrentIndex({});
-        words_->list();
-        filterWords();
-    }
-    markChosenWord();
+    listWords();
     const int row = readings_->currentRow();
     findReadings();
     readings_->setCurrentRow(row);
     showPage(word_, page_->cellAt(view_->currentIndex()));
+}
+
+// Where the chosen word is listed no more, the first one is chosen.
+void Tables::listWords()
+{
+    if (!words_->isOutOfDate())
+        return;
+    tree_->setCurrentIndex({});
+    words_->list();
+    if (!words_->indexOf(word_).isValid())
+        word_ = words_->wordAt(words_->index(0, 0, words_->index(0, 0))).value_or(word_);
+    filterWords();
 }
 
 // Without a current word none is taken in place of one that goes.
@@ -257,6 +265,8 @@ void Tables::filterWords()
 void Tables::markChosenWord()
 {
     const QModelIndex row = filtered_->mapFromSource(words_->indexOf(word_));
+    if (row == tree_->currentIndex())
+        return;
     tree_->setCurrentIndex(row);
     if (!row.isValid())
         return;

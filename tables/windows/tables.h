@@ -49,6 +49,7 @@ private:
     void setCaptions();
 
     void refresh();
+    void listWords();
     void filterWords();
     void markChosenWord();
     void goToWords();

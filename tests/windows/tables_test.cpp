@@ -164,7 +164,12 @@ TEST_F(Tables, OpenByF2AtTheWordThatStandsInADrillOrListAndCostNothing)
     tests::click(verbs, "VerbManagerAdd");
     EXPECT_EQ(titleAfterF2(verbs), "cantare, First Conjugation");
     tests::clickRow(list(verbs, "VMFormsList"), 12);
+    tests::fill(line(shown("Tables"), "TablesFilter"), "amare");
     EXPECT_EQ(titleAfterF2(verbs), "") << "a new verb";
+    press(verbs, Qt::Key_F2);
+    tests::fill(line(verbs, "VerbManagerLatinForms0"), "salt");
+    tests::click(verbs, "VerbManagerAdd");
+    EXPECT_EQ(titleAfterF2(verbs), "saltare, First Conjugation");
     QWidget& nouns = open("FileNounManager", "NounHandler");
     press(nouns, Qt::Key_End);
     tests::clickRow(list(nouns, "NHNounList"), 1);
