@@ -77,12 +77,17 @@ void Window::holdLeastSize(bool held)
         layout()->setSizeConstraint(held ? QLayout::SetDefaultConstraint : QLayout::SetNoConstraint);
 }
 
-void Window::showInFront()
+void Window::standAboveModal()
 {
-    winId();
     const QWidget* const below = isModal() ? QApplication::activeWindow() : QApplication::activeModalWidget();
     if (below != this)
         putAbove(*windowHandle(), below == nullptr ? nullptr : below->windowHandle());
+}
+
+void Window::showInFront()
+{
+    winId();
+    standAboveModal();
     if (!isVisible()) {
         centreOnScreen();
         windowHandle()->installEventFilter(this);
