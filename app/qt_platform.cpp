@@ -10,6 +10,7 @@
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTime>
 #include <QTimer>
 
@@ -73,6 +74,17 @@ void QtPlatform::showMessage(const std::string& text, std::function<void()> dism
     box->open();
 }
 
+namespace {
+
+// The first ending of a kind of files: "HTML (*.html *.htm)".
+QString endingOf(const QString& kind)
+{
+    const qsizetype begin = kind.indexOf(QLatin1String("*.")) + 2;
+    return kind.mid(begin).section(QRegularExpression(QStringLiteral("[ )]")), 0, 0);
+}
+
+} // namespace
+
 void QtPlatform::chooseFileToSave(const std::string& name, const std::vector<std::string>& kinds,
                                   std::function<void(const std::string& path)> chosen)
 {
@@ -86,6 +98,8 @@ void QtPlatform::chooseFileToSave(const std::string& name, const std::vector<std
         filters << QString::fromStdString(kind);
     dialog->setNameFilters(filters);
     dialog->selectFile(offered);
+    QObject::connect(dialog, &QFileDialog::filterSelected, dialog,
+                     [dialog](const QString& kind) { dialog->setDefaultSuffix(endingOf(kind)); });
     QObject::connect(
         dialog, &QFileDialog::fileSelected, dialog,
         [chosen = std::move(chosen)](const QString& path) { chosen(QFile::encodeName(path).toStdString()); });

@@ -1,5 +1,6 @@
 #include "shell/macrons.h"
 
+#include "shell/looks.h"
 #include "shell/vowel_marks.h"
 
 #include <algorithm>
@@ -69,6 +70,11 @@ std::string macronsForMarks(std::string_view text)
             shown.replace(shown.size() - 1, 1, vowel->withMacron);
     }
     return shown;
+}
+
+std::string macronsWhereShown(std::string_view text)
+{
+    return looks.ShowMacrons ? macronsForMarks(text) : std::string(text);
 }
 
 } // namespace shell

@@ -12,4 +12,7 @@ std::string marksForMacrons(std::string_view text);
 /// A text with a macron over each vowel that ":" stands behind. Any other ":" stays.
 std::string macronsForMarks(std::string_view text);
 
+/// The same where the learner wishes macrons; else the text with its marks.
+std::string macronsWhereShown(std::string_view text);
+
 } // namespace shell

@@ -32,6 +32,12 @@ constexpr char inSmall(char letter)
     return 'A' <= letter && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
 }
 
+std::string inSmall(std::string text)
+{
+    std::ranges::transform(text, text.begin(), [](char letter) { return inSmall(letter); });
+    return text;
+}
+
 constexpr bool isMark(char letter)
 {
     return letter == shell::LengthMark;
@@ -73,6 +79,38 @@ std::string_view withoutOuterBlanks(std::string_view text)
     const std::size_t first = std::min(text.find_first_not_of(' '), text.size());
     text.remove_prefix(first);
     return text.substr(0, text.find_last_not_of(' ') + 1);
+}
+
+// A compound form stands in the lists with its three genders, "amatus -a -um sum", or in the plural with the
+// masculine alone, "amati: sumus". In one gender it is any of these.
+struct Participle {
+    std::string_view ending;
+    std::string_view listed;
+};
+
+// clang-format off
+constexpr std::array Participles = {
+    Participle{"us", "us -a -um"},
+    Participle{"a",  "us -a -um"}, Participle{"a",  "us"}, Participle{"a", "i:"},
+    Participle{"um", "us -a -um"}, Participle{"um", "us"},
+    Participle{"ae", "i:"},
+};
+// clang-format on
+
+// What was typed, and the listed forms that it may be one gender of.
+std::vector<std::string> formsMeantBy(std::string typed)
+{
+    const std::size_t blank = typed.find(' ');
+    std::vector<std::string> forms{std::move(typed)};
+    if (blank == std::string::npos)
+        return forms;
+    const std::string participle = forms.front().substr(0, blank);
+    const std::string auxiliary = forms.front().substr(blank);
+    for (const auto& [ending, listed] : Participles)
+        if (participle.size() > ending.size() && inSmall(participle).ends_with(ending))
+            forms.push_back(participle.substr(0, participle.size() - ending.size()).append(listed) +
+                            auxiliary);
+    return forms;
 }
 
 // Every stem of every word: as long as it is the same, so are the forms.
@@ -150,12 +188,13 @@ std::vector<Reading> FormIndex::find(std::string_view typed) const
         std::uint32_t number;
         auto operator<=>(const Found&) const = default;
     };
-    const std::string form = shell::marksForMacrons(withoutOuterBlanks(typed));
     std::vector<Found> found;
-    std::uint32_t number = chains_[hashOn(EmptyHash, form) % chains_.size()];
-    for (; number != NoEntry; number = entries_[number].next)
-        if (const auto differing = differingMarks(form, textOf(entries_[number])))
-            found.push_back({*differing, number});
+    for (const std::string& form : formsMeantBy(shell::marksForMacrons(withoutOuterBlanks(typed)))) {
+        std::uint32_t number = chains_[hashOn(EmptyHash, form) % chains_.size()];
+        for (; number != NoEntry; number = entries_[number].next)
+            if (const auto differing = differingMarks(form, textOf(entries_[number])))
+                found.push_back({*differing, number});
+    }
     std::ranges::sort(found);
     std::vector<Reading> readings;
     for (const Found& one : found)

@@ -23,8 +23,9 @@ public:
     void add(const Word& word, std::span<const shell::FormParts> forms);
 
     /// The readings of a whole form, whatever its capitals and its marks, which may be ":" or macrons; blanks
-    /// around it do not count. Those whose marks agree come first, then by the number of marks that differ;
-    /// among the same, in the order in which the words were added.
+    /// around it do not count. A compound form is found in any gender: "amata est". Those whose marks agree
+    /// come first, then by the number of marks that differ; among the same, in the order in which the words
+    /// were added.
     std::vector<Reading> find(std::string_view typed) const;
 
     /// How many forms there are.

@@ -4,8 +4,8 @@
 #include "nouns/case_order.h"
 #include "nouns/pronoun_columns.h"
 #include "shell/language_texts.h"
-#include "shell/looks.h"
 #include "shell/macrons.h"
+#include "shell/settings.h"
 #include "tables/pronoun_table.h"
 #include "tables/word_forms.h"
 #include "verbdrills/quiz_texts.h"
@@ -17,6 +17,7 @@
 namespace tables {
 
 using shell::LanguageTexts;
+using shell::macronsWhereShown;
 
 namespace {
 
@@ -65,6 +66,7 @@ constexpr std::array<LanguageTexts, verbs::PersonCount> Persons = {{
 constexpr LanguageTexts Singular {"Singular", "Singulier", "Singolare", "Einzahl",  "Singular", "Singularis"};
 constexpr LanguageTexts Plural   {"Plural",   "Pluriel",   "Plurale",   "Mehrzahl", "Plural",   "Pluralis"};
 
+constexpr LanguageTexts Here      {" here. ",          " ici. ",                  " qui. ",              " hier. ",               " aquí. ",             " hic. "};
 constexpr LanguageTexts GrammarHas{"A grammar has: ", "Une grammaire donne : ", "Una grammatica ha: ", "Eine Grammatik hat: ", "Una gramática da: ", "Grammatica habet: "};
 // clang-format on
 
@@ -73,13 +75,21 @@ std::string inLanguage(const LanguageTexts& texts)
     return std::string(texts.currentOrDesigned());
 }
 
+// A form that differs in its marks alone looks like the grammar's where they are hidden.
+std::string saysOfGrammar(const Cell& cell)
+{
+    const bool marksAreHidden = shell::settings.ShowVowelLength != platform::FlagTrue;
+    const std::string asked = marksAreHidden ? cell.form.text + inLanguage(Here) : std::string();
+    return macronsWhereShown(asked) + inLanguage(GrammarHas) + macronsWhereShown(*cell.grammarsForm);
+}
+
 class PageMaker {
 public:
     explicit PageMaker(const Word& word) : word_(word), table_(tableOf(word)) {}
 
     Page make() const
     {
-        Page page{.title = withMacronsWhereShown(listedName(word_)), .columns = {}, .lines = {}};
+        Page page{.title = macronsWhereShown(listedName(word_)), .columns = {}, .lines = {}};
         if (word_.kind == WordKind::Verb)
             addVerb(page);
         else
@@ -143,8 +153,8 @@ private:
     {
         const Cell& cell = table_.at(static_cast<std::size_t>(number - 1));
         const Form form = asShown(cell.form);
-        return {number, withMacronsWhereShown(form.stem()), withMacronsWhereShown(form.ending()),
-                cell.grammarsForm};
+        return {number, macronsWhereShown(form.stem()), macronsWhereShown(form.ending()),
+                cell.grammarsForm ? std::optional(saysOfGrammar(cell)) : std::nullopt};
     }
 
     const Word word_;
@@ -158,16 +168,6 @@ Page pageOf(const Word& word)
     return PageMaker(word).make();
 }
 
-std::string withMacronsWhereShown(std::string_view text)
-{
-    return shell::looks.ShowMacrons ? shell::macronsForMarks(text) : std::string(text);
-}
-
-std::string saysOfGrammar(const std::string& grammarsForm)
-{
-    return inLanguage(GrammarHas) + withMacronsWhereShown(grammarsForm);
-}
-
 std::string asText(const Page& page)
 {
     std::string text = page.title + "\n\n";
@@ -177,7 +177,7 @@ std::string asText(const Page& page)
         text += "\n" + line.name;
         for (const PageCell& cell : line.cells) {
             text += "\t" + cell.form();
-            if (cell.grammarsForm)
+            if (cell.saysOfGrammar)
                 text += " (sic)";
         }
     }

@@ -8,13 +8,14 @@
 
 namespace tables {
 
-/// A cell of a word's table as it is shown: its stem, its ending, and the marked form of a grammar where that
-/// is another. Both empty: there is no such form.
+/// A cell of a word's table as it is shown: its stem, its ending, and where a grammar has another form what
+/// is said of that: "A grammar has: amantur", or where marks are hidden "ama:ntur here. A grammar has:
+/// amantur". Stem and ending empty: there is no such form.
 struct PageCell {
     int cell = 0;
     std::string stem;
     std::string ending;
-    std::optional<std::string> grammarsForm;
+    std::optional<std::string> saysOfGrammar;
 
     std::string form() const { return stem + ending; }
 
@@ -44,12 +45,6 @@ struct Page {
 };
 
 Page pageOf(const Word& word);
-
-/// A text with its marks, or with macrons where the learner wishes them.
-std::string withMacronsWhereShown(std::string_view text);
-
-/// What is said of a form where a grammar has another: "A grammar has: illius".
-std::string saysOfGrammar(const std::string& grammarsForm);
 
 /// The page as text: the title, then line by line with tabs between the columns.
 std::string asText(const Page& page);

@@ -49,8 +49,9 @@ constexpr std::array Cells = {
     CellOfGrammar{Verb, ThirdIoConjugation, "-fac", cellOf(Imperative,                 SecondSingular), ""},
     CellOfGrammar{Verb, ThirdIoConjugation, "-",    cellOf(PassivePresentSubjunctive,  ThirdPlural),    "iantur"},
     CellOfGrammar{Verb, FourthConjugation,  "-",    cellOf(ImperfectIndicative,        SecondPlural),   "ie:ba:tis"},
-    // sci:re has the imperative of the future.
+    // sci:re has the imperatives of the future.
     CellOfGrammar{Verb, FourthConjugation,  "sc",   cellOf(Imperative,                 SecondSingular), "i:to:"},
+    CellOfGrammar{Verb, FourthConjugation,  "sc",   cellOf(Imperative,                 SecondPlural),   "i:to:te"},
     CellOfGrammar{Verb, FourthConjugation,  "-",    cellOf(Imperative,                 SecondPlural),   "i:te"},
     CellOfGrammar{Verb, FourthConjugation,  "-",    cellOf(PassivePresentIndicative,   SecondPlural),   "i:mini:"},
     CellOfGrammar{Verb, FourthConjugation,  "-",    cellOf(PassivePresentSubjunctive,  ThirdPlural),    "iantur"},

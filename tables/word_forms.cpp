@@ -32,6 +32,8 @@ std::vector<shell::FormParts> formsOf(const Word& word)
 
 void appendStems(std::string& text, const Word& word)
 {
+    text.append(std::to_string(static_cast<int>(word.kind))).append(".");
+    text.append(std::to_string(word.paradigm)).append(":");
     if (word.kind == WordKind::Verb)
         appendStemsOfVerb(text, word.paradigm, word.number);
     if (word.kind == WordKind::Noun)

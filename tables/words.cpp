@@ -108,11 +108,17 @@ Form nameOf(const Word& word)
 std::optional<Word> wordShownAs(WordKind kind, int paradigm, std::string_view name)
 {
     const std::string letters = withoutMarks(name);
+    std::optional<Word> alike;
     for (const WordGroup& group : listedWords())
-        for (const Word& word : group.words)
-            if (word.kind == kind && word.paradigm == paradigm && withoutMarks(nameOf(word).text) == letters)
+        for (const Word& word : group.words) {
+            const std::string own = nameOf(word).text;
+            if (word.kind != kind || word.paradigm != paradigm || withoutMarks(own) != letters)
+                continue;
+            if (own == name)
                 return word;
-    return {};
+            alike = alike.value_or(word);
+        }
+    return alike;
 }
 
 std::string listedName(const Word& word)

@@ -38,7 +38,8 @@ std::vector<WordGroup> listedWords();
 Form nameOf(const Word& word);
 
 /// The listed word that a drill or quiz shows: its class or paradigm, and the verb's infinitive or the noun's
-/// nominative, whatever its marks. Of several the first; none where the list has it no more.
+/// nominative, whatever its marks. Of several the one with the same marks, or the first; none where the list
+/// has it no more.
 std::optional<Word> wordShownAs(WordKind kind, int paradigm, std::string_view name);
 
 /// How a word is listed, with its marks as they are shown: a verb by its infinitive, a noun by its nominative

@@ -119,7 +119,6 @@ void Review::connectControls()
     connect(ok_, &QPushButton::clicked, this, &Review::check);
     connect(hint_, &QPushButton::clicked, this, &Review::hint);
     connect(quit_, &QPushButton::clicked, this, &Review::left);
-    connect(this, &DrillWindow::answerJudged, this, &Review::explainAnswer);
 }
 
 void Review::setCaptions()
@@ -148,7 +147,7 @@ void Review::beginRound()
     const auto& kind = Kinds.at(static_cast<std::size_t>(kind_->currentIndex()));
     round_ =
         ReviewRound(store == nullptr ? std::vector<std::int64_t>() : store->dueForms(today, kind.exercise));
-    whyLabel()->clear();
+    clearWhy();
     ask();
     if (!asked_)
         question_->setText(current(NothingDue));
@@ -232,7 +231,7 @@ void Review::hint()
     if (!canAnswer() || !asked_)
         return;
     lockBox();
-    whyLabel()->clear();
+    clearWhy();
     answer_->lookRevealed();
     answer_->setText(fromUtf8(answer()));
     answer_->repaint();
@@ -248,16 +247,6 @@ void Review::lockBox()
 {
     answer_->setReadOnly(true);
     kind_->setEnabled(false);
-}
-
-// Another question follows a miss: the right answer stands beside it meanwhile.
-void Review::explainAnswer(bool right)
-{
-    if (right)
-        return;
-    const QString correct = QStringLiteral(" → ") + fromUtf8(answer());
-    whyLabel()->setText(whyLabel()->text() + QStringLiteral(" &nbsp;") + correct.toHtmlEscaped());
-    whyLabel()->setAccessibleName(whyLabel()->accessibleName() + correct);
 }
 
 void Review::showScore(const std::string& text)

@@ -51,7 +51,6 @@ private:
     void showQuestion();
     void lockBox();
     void hint();
-    void explainAnswer(bool right);
 
     Keeper* keeper_ = nullptr;
     ReviewRound round_;

@@ -1,7 +1,6 @@
 #include "shell/kit/latin_text.h"
 
 #include "shell/kit/text.h"
-#include "shell/looks.h"
 #include "shell/macrons.h"
 
 #include <QLineEdit>
@@ -43,7 +42,7 @@ private:
 
 QString latinText(std::string_view text)
 {
-    return fromUtf8(looks.ShowMacrons ? macronsForMarks(text) : std::string(text));
+    return fromUtf8(macronsWhereShown(text));
 }
 
 void takeMacrons(QLineEdit& box)

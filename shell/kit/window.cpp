@@ -101,14 +101,19 @@ void Window::holdLeastSize(bool held)
         layout()->setSizeConstraint(held ? QLayout::SetDefaultConstraint : QLayout::SetNoConstraint);
 }
 
+void Window::standAboveModal()
+{
+    const QWidget* const below = isModal() ? QApplication::activeWindow() : QApplication::activeModalWidget();
+    if (below != this)
+        putAbove(*windowHandle(), below == nullptr ? nullptr : below->windowHandle());
+}
+
 void Window::showInFront()
 {
     if (!measured_)
         takeSize(growth_);
     winId();
-    const QWidget* const below = isModal() ? QApplication::activeWindow() : QApplication::activeModalWidget();
-    if (below != this)
-        putAbove(*windowHandle(), below == nullptr ? nullptr : below->windowHandle());
+    standAboveModal();
     if (!isVisible()) {
         centreOnScreen();
         windowHandle()->installEventFilter(this);

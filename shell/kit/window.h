@@ -35,6 +35,9 @@ public:
     /// active.
     void showInFront();
 
+    /// Lets a window that is shown be used beside the one that is modal now, without going to it.
+    void standAboveModal();
+
 Q_SIGNALS:
     /// The window was left by its cancel, back or quit button, its close box or Escape, or has come to its
     /// end. It is still shown.

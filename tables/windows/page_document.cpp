@@ -45,7 +45,7 @@ void writeForm(QTextCursor cursor, const PageCell& cell)
 {
     cursor.insertText(shell::fromUtf8(cell.stem), typeOf(QFont::Normal));
     cursor.insertText(shell::fromUtf8(cell.ending), typeOf(QFont::Bold));
-    if (cell.grammarsForm)
+    if (cell.saysOfGrammar)
         cursor.insertText(QStringLiteral(" sic"), raised());
 }
 
@@ -84,8 +84,8 @@ void writeNotes(QTextCursor& cursor, const Page& page)
 {
     for (const PageLine& line : page.lines)
         for (const PageCell& cell : line.cells)
-            if (cell.grammarsForm) {
-                const std::string note = ". " + saysOfGrammar(*cell.grammarsForm);
+            if (cell.saysOfGrammar) {
+                const std::string note = ". " + *cell.saysOfGrammar;
                 cursor.insertText(shell::fromUtf8(cell.form()), typeOf(QFont::Normal));
                 cursor.insertText(QStringLiteral(" sic"), raised());
                 cursor.insertText(shell::fromUtf8(note), typeOf(QFont::Normal));

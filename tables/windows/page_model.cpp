@@ -60,9 +60,9 @@ QVariant PageModel::data(const QModelIndex& index, int role) const
     case EndingRole:
         return shell::fromUtf8(cell.ending);
     case SicRole:
-        return cell.grammarsForm.has_value();
+        return cell.saysOfGrammar.has_value();
     case Qt::ToolTipRole:
-        return cell.grammarsForm ? shell::fromUtf8(saysOfGrammar(*cell.grammarsForm)) : QVariant();
+        return cell.saysOfGrammar ? shell::fromUtf8(*cell.saysOfGrammar) : QVariant();
     case Qt::AccessibleDescriptionRole:
         return description(cell);
     default:
@@ -83,8 +83,8 @@ QVariant PageModel::dataOfHeading(const QModelIndex& index, int role) const
 QString PageModel::description(const PageCell& cell) const
 {
     std::string text = cellInWords(word_, cell.cell);
-    if (cell.grammarsForm)
-        text += ". sic. " + saysOfGrammar(*cell.grammarsForm);
+    if (cell.saysOfGrammar)
+        text += ". sic. " + *cell.saysOfGrammar;
     return shell::fromUtf8(text);
 }
 
@@ -102,7 +102,7 @@ QVariant PageModel::headerData(int section, Qt::Orientation orientation, int rol
 
 Qt::ItemFlags PageModel::flags(const QModelIndex& index) const
 {
-    return lineAt(index.row()).isHeading() ? Qt::ItemFlags() : QAbstractTableModel::flags(index);
+    return cellAt(index) == 0 ? Qt::ItemFlags() : QAbstractTableModel::flags(index);
 }
 
 } // namespace tables

@@ -3,13 +3,13 @@
 #include "platform/file_replacement.h"
 #include "platform/platform.h"
 #include "shell/kit/captions.h"
-#include "shell/kit/choice_list.h"
 #include "shell/kit/controls.h"
 #include "shell/kit/text.h"
 #include "tables/page.h"
 #include "tables/windows/form_delegate.h"
 #include "tables/windows/page_document.h"
 #include "tables/windows/page_model.h"
+#include "tables/windows/readings_panel.h"
 #include "tables/windows/words_model.h"
 
 #include <QBoxLayout>
@@ -21,7 +21,6 @@
 #include <QMimeData>
 #include <QPushButton>
 #include <QScreen>
-#include <QShortcut>
 #include <QTableView>
 #include <QTextDocument>
 #include <QTreeView>
@@ -32,8 +31,6 @@
 namespace tables {
 
 using shell::Caption;
-using shell::LanguageTexts;
-using shell::ListOfItsRows;
 using shell::makeButton;
 using shell::Part;
 
@@ -56,9 +53,6 @@ constexpr std::array Captions = {
     Caption{"TablesSave",        {"&Save...", "&Enregistrer...", "&Salva...", "&Speichern...", "&Guardar...", "&Serva..."}},
     Caption{"TablesClose",       {"C&lose",   "Ferme&r",         "C&hiudi",   "S&chließen",    "C&errar",     "&Claude"}},
 };
-
-constexpr LanguageTexts NotListed {"Not in the lists", "Pas dans les listes", "Non è nelle liste", "Nicht in den Listen", "No está en las listas", "Non est in indicibus"};
-constexpr LanguageTexts Readings  {"Readings",         "Analyses",            "Analisi",           "Bestimmungen",        "Análisis",              "Explicationes"};
 // clang-format on
 
 QString withoutAccessKey(const QLabel& label)
@@ -87,10 +81,7 @@ Tables::Tables()
 // In the order in which Tab goes through them.
 void Tables::makeControls()
 {
-    form_ = shell::makeControl<QLineEdit>(this, "TablesForm");
-    formLabel_ = shell::makeLabelOf(form_, "TablesFormLabel");
-    state_ = shell::makeLabel(this, "TablesState");
-    readings_ = shell::makeControl<ListOfItsRows>(this, "TablesReadings");
+    readings_ = new ReadingsPanel(this);
     filter_ = shell::makeControl<QLineEdit>(this, "TablesFilter");
     filterLabel_ = shell::makeLabelOf(filter_, "TablesFilterLabel");
     tree_ = shell::makeControl<QTreeView>(this, "TablesWords");
@@ -100,9 +91,6 @@ void Tables::makeControls()
     save_ = makeButton(this, "TablesSave");
     close_ = makeButton(this, "TablesClose");
 
-    shell::setType(*form_, shell::SentenceType);
-    form_->setClearButtonEnabled(true);
-    readings_->hide();
     prepareWords();
     prepareView();
 }
@@ -154,12 +142,10 @@ void Tables::fitPage()
 
 void Tables::layOut()
 {
-    shell::setContent(centredBlock(LargestBlock), {},
-                      shell::columnOf(shell::MediumSpace,
-                                      {shell::rowOf(shell::SmallSpace, {formLabel_, {form_, 1}, state_}),
-                                       readings_,
-                                       {wordsBesidePage(), 1},
-                                       shell::buttonRow({copy_, save_}, {close_})}));
+    shell::setContent(
+        centredBlock(LargestBlock), {},
+        shell::columnOf(shell::MediumSpace,
+                        {readings_, {wordsBesidePage(), 1}, shell::buttonRow({copy_, save_}, {close_})}));
     const QSize normal(NormalSize.width() * fontMetrics().averageCharWidth(),
                        NormalSize.height() * fontMetrics().lineSpacing());
     resize(normal.boundedTo(screen()->availableSize() * ShareOfScreen));
@@ -175,15 +161,10 @@ QBoxLayout* Tables::wordsBesidePage()
 
 void Tables::connectControls()
 {
-    connect(form_, &QLineEdit::textChanged, this, &Tables::findReadings);
-    connect(form_, &QLineEdit::returnPressed, this, &Tables::takeFirstReading);
-    connectDown(form_, &Tables::goToReadings);
-    connect(readings_, &ListOfItsRows::rowActivated, this, &Tables::takeReading);
-    connect(readings_, &QListWidget::itemClicked, this, [this] { takeReading(readings_->chosenRow()); });
-
+    connect(readings_, &ReadingsPanel::readingChosen, this, &Tables::showReading);
     connect(filter_, &QLineEdit::textChanged, this, &Tables::filterWords);
     connect(filter_, &QLineEdit::returnPressed, this, &Tables::takeFirstWord);
-    connectDown(filter_, &Tables::goToWords);
+    connectDown(*filter_, [this] { goToWords(); });
     connect(tree_->selectionModel(), &QItemSelectionModel::currentChanged, this, &Tables::takeWord);
 
     connect(page_, &QAbstractItemModel::modelReset, this, &Tables::fitPage);
@@ -192,31 +173,24 @@ void Tables::connectControls()
     connect(close_, &QPushButton::clicked, this, &Tables::left);
 }
 
-void Tables::connectDown(QWidget* field, void (Tables::*action)())
-{
-    auto* const shortcut = new QShortcut(Qt::Key_Down, field);
-    shortcut->setContext(Qt::WidgetShortcut);
-    connect(shortcut, &QShortcut::activated, this, action);
-}
-
 void Tables::setCaptions()
 {
     shell::applyCaptions(*this, Captions);
     tree_->setAccessibleName(withoutAccessKey(*filterLabel_));
-    readings_->setAccessibleName(shell::fromUtf8(Readings.currentOrDesigned()));
 }
 
 void Tables::open()
 {
     refresh();
     if (!isVisible())
-        form_->setFocus();
+        readings_->form().setFocus();
     showInFront();
 }
 
 void Tables::openAt(const Word& word)
 {
     word_ = word;
+    listWords();
     filter_->clear();
     open();
     view_->setFocus();
@@ -230,16 +204,21 @@ void Tables::becameActive()
 void Tables::refresh()
 {
     setCaptions();
-    if (words_->isOutOfDate()) {
-        tree_->setCurrentIndex({});
-        words_->list();
-        filterWords();
-    }
-    markChosenWord();
-    const int row = readings_->currentRow();
-    findReadings();
-    readings_->setCurrentRow(row);
+    listWords();
+    readings_->refresh();
     showPage(word_, page_->cellAt(view_->currentIndex()));
+}
+
+// Where the chosen word is listed no more, the first one is chosen.
+void Tables::listWords()
+{
+    if (!words_->isOutOfDate())
+        return;
+    tree_->setCurrentIndex({});
+    words_->list();
+    if (!words_->indexOf(word_).isValid())
+        word_ = words_->wordAt(words_->index(0, 0, words_->index(0, 0))).value_or(word_);
+    filterWords();
 }
 
 // Without a current word none is taken in place of one that goes.
@@ -257,6 +236,8 @@ void Tables::filterWords()
 void Tables::markChosenWord()
 {
     const QModelIndex row = filtered_->mapFromSource(words_->indexOf(word_));
+    if (row == tree_->currentIndex())
+        return;
     tree_->setCurrentIndex(row);
     if (!row.isValid())
         return;
@@ -293,45 +274,11 @@ void Tables::showPage(const Word& word, int cell)
     view_->setCurrentIndex(page_->indexOf(cell));
 }
 
-void Tables::findReadings()
+void Tables::showReading(const Reading& reading)
 {
-    const std::string typed = form_->text().toStdString();
-    found_ = listed_.index().find(typed);
-    readings_->clear();
-    for (const Reading& reading : found_) {
-        ReadingTexts texts = textsOf(reading);
-        texts.form = withMacronsWhereShown(texts.form);
-        texts.word = withMacronsWhereShown(texts.word);
-        readings_->addItem(shell::fromUtf8(inWords(texts)));
-    }
-    readings_->setVisible(!found_.empty());
-    const bool isMissing = found_.empty() && !form_->text().trimmed().isEmpty();
-    state_->setVisible(isMissing);
-    state_->setText(isMissing ? shell::fromUtf8(NotListed.currentOrDesigned()) : QString());
-}
-
-void Tables::goToReadings()
-{
-    if (found_.empty())
-        return;
-    readings_->setCurrentRow(0);
-    readings_->setFocus();
-}
-
-void Tables::takeFirstReading()
-{
-    takeReading(found_.empty() ? -1 : 0);
-}
-
-void Tables::takeReading(int row)
-{
-    if (row < 0)
-        return;
-    const Reading& reading = found_.at(static_cast<std::size_t>(row));
     word_ = reading.word;
     markChosenWord();
     showPage(reading.word, reading.cell);
-    form_->selectAll();
 }
 
 void Tables::copy()
@@ -344,8 +291,12 @@ void Tables::copy()
 
 void Tables::save()
 {
-    const std::string name = withoutMarks(nameOf(word_).text) + ".pdf";
-    platform::current().chooseFileToSave(name, {"PDF (*.pdf)", "HTML (*.html *.htm)"},
+    // A star in the name of a group would stand for any letters.
+    std::string name = withoutMarks(nameOf(word_).text);
+    std::erase_if(name, [](char letter) { return letter == '*'; });
+    if (name.ends_with('-'))
+        name.pop_back();
+    platform::current().chooseFileToSave(name + ".pdf", {"PDF (*.pdf)", "HTML (*.html *.htm)"},
                                          [this](const std::string& path) { writeFile(path); });
 }
 

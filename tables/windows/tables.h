@@ -1,7 +1,7 @@
 #pragma once
 
 #include "shell/kit/window.h"
-#include "tables/form_index.h"
+#include "tables/readings.h"
 
 class QBoxLayout;
 class QLabel;
@@ -11,19 +11,15 @@ class QPushButton;
 class QTableView;
 class QTreeView;
 
-namespace shell {
-class ListOfItsRows;
-}
-
 namespace tables {
 
 class PageModel;
+class ReadingsPanel;
 class WordsFilter;
 class WordsModel;
 
 /// Shows the whole table of any listed word, and all that a form can be. It stands beside the other windows.
-/// When it becomes the active one it shows the lists and the settings as they are then, and keeps what was
-/// chosen.
+/// When it becomes the active one it is refreshed, and keeps what was chosen.
 class Tables : public shell::Window {
     Q_OBJECT
 
@@ -33,6 +29,9 @@ public:
     /// Shows the window in front of the others, with the word that it had, or that word.
     void open();
     void openAt(const Word& word);
+
+    /// Shows the lists and the settings as they are now.
+    void refresh();
 
 protected:
     void becameActive() override;
@@ -45,10 +44,9 @@ private:
     void layOut();
     QBoxLayout* wordsBesidePage();
     void connectControls();
-    void connectDown(QWidget* field, void (Tables::*action)());
     void setCaptions();
 
-    void refresh();
+    void listWords();
     void filterWords();
     void markChosenWord();
     void goToWords();
@@ -56,27 +54,19 @@ private:
     void takeWord(const QModelIndex& row);
     void showPage(const Word& word, int cell);
 
-    void findReadings();
-    void goToReadings();
-    void takeFirstReading();
-    void takeReading(int row);
+    void showReading(const Reading& reading);
 
     void copy();
     void save();
     void writeFile(const std::string& path);
 
     Word word_{WordKind::Verb, 1, 1};
-    ListedForms listed_;
-    std::vector<Reading> found_;
 
     WordsModel* words_ = nullptr;
     WordsFilter* filtered_ = nullptr;
     PageModel* page_ = nullptr;
 
-    QLabel* formLabel_ = nullptr;
-    QLineEdit* form_ = nullptr;
-    QLabel* state_ = nullptr;
-    shell::ListOfItsRows* readings_ = nullptr;
+    ReadingsPanel* readings_ = nullptr;
     QLabel* filterLabel_ = nullptr;
     QLineEdit* filter_ = nullptr;
     QTreeView* tree_ = nullptr;

@@ -64,7 +64,7 @@ QModelIndex WordsModel::indexOf(const Word& word) const
         if (found != words.end())
             return index(static_cast<int>(found - words.begin()), 0, index(group, 0));
     }
-    return index(0, 0, index(0, 0));
+    return {};
 }
 
 WordsFilter::WordsFilter(QObject* parent) : QSortFilterProxyModel(parent)

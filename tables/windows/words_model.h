@@ -23,7 +23,7 @@ public:
     /// The word of a row; none for a group.
     std::optional<Word> wordAt(const QModelIndex& index) const;
 
-    /// The row of a word, the first word's where it is not listed.
+    /// The row of a word; none where it is not listed.
     QModelIndex indexOf(const Word& word) const;
 
 private:

@@ -164,6 +164,7 @@ const std::vector<std::tuple<WordKind, int, std::string, std::string>> Sic = {
     {Verb, 3, "regere",   "regi:mus>regimus regi:tis>regitis"},
     {Verb, 5, "capere",   "capia:ntur>capiantur"},
     {Verb, 4, "audi:re",  "audie:bat:is>audie:ba:tis audite>audi:te audi:mini>audi:mini: audia:ntur>audiantur"},
+    {Verb, 4, "sci:re",   "scie:bat:is>scie:ba:tis sci:>sci:to: scite>sci:to:te sci:mini>sci:mini: scia:ntur>sciantur"},
     {Verb, 6, "esse",     ""},
     {Verb, 7, "velle",    ""},
     {Verb, 8, "ferre",    "ferebar>fere:bar fereba:ris>fere:ba:ris fereba:tur>fere:ba:tur fereba:mur>fere:ba:mur "
@@ -218,6 +219,13 @@ TEST_F(Tables, FindWhatAFormCanBeInTheWordsOfTheQuizzes)
                                               "aquae: aqua, Plural Nominative\n");
     for (const char* const none : {"", ":", "pue", "puellax"})
         EXPECT_EQ(found(listed.index(), none), "");
+    for (const auto& [typed, form] : {std::pair{"amata EST", "amatus -a -um est"},
+                                      {"amatus est", "amatus -a -um est"},
+                                      {"monitum eras", "monitus eras"},
+                                      {"amatae sunt", "amati sunt"},
+                                      {"amata sunt", "amati sunt"}})
+        EXPECT_EQ(found(listed.index(), typed).find(form + std::string(": ")), 0U) << typed;
+    EXPECT_EQ(found(listed.index(), "amat sum"), "");
     EXPECT_EQ(found(listed.index(), "quos"), "quos: qui-quae-quod, Masc. Plur. Accusative\n");
     EXPECT_EQ(found(listed.index(), "vobis"),
               "vobis: ego-tu-*, 2 Pers. Plur. Dative\nvobis: ego-tu-*, 2 Pers. Plur. Ablative\n");

@@ -1,0 +1,149 @@
+#include "tables/windows/readings_panel.h"
+
+#include "shell/kit/choice_list.h"
+#include "shell/kit/controls.h"
+#include "shell/kit/layout.h"
+#include "shell/kit/text.h"
+#include "shell/kit/type.h"
+#include "shell/language_texts.h"
+#include "shell/macrons.h"
+
+#include <QBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QShortcut>
+#include <QSignalBlocker>
+
+namespace tables {
+
+using shell::LanguageTexts;
+using shell::ListOfItsRows;
+using shell::macronsWhereShown;
+
+namespace {
+
+// clang-format off
+//                                 English             French                Italian               German                 Spanish                  Latin
+constexpr LanguageTexts NotListed {"Not in the lists", "Pas dans les listes", "Non è nelle liste", "Nicht in den Listen", "No está en las listas", "Non est in indicibus"};
+constexpr LanguageTexts Readings  {"Readings",         "Analyses",            "Analisi",           "Bestimmungen",        "Análisis",              "Explicationes"};
+// clang-format on
+
+QString rowOf(const Reading& reading)
+{
+    ReadingTexts texts = textsOf(reading);
+    texts.form = macronsWhereShown(texts.form);
+    texts.word = macronsWhereShown(texts.word);
+    return shell::fromUtf8(inWords(texts));
+}
+
+} // namespace
+
+ReadingsPanel::ReadingsPanel(QWidget* parent) : QWidget(parent)
+{
+    makeControls();
+    layOut();
+    connectControls();
+}
+
+void ReadingsPanel::makeControls()
+{
+    form_ = shell::makeControl<QLineEdit>(this, "TablesForm");
+    label_ = shell::makeLabelOf(form_, "TablesFormLabel");
+    state_ = shell::makeLabel(this, "TablesState");
+    readings_ = shell::makeControl<ListOfItsRows>(this, "TablesReadings");
+
+    shell::setType(*form_, shell::SentenceType);
+    form_->setClearButtonEnabled(true);
+    readings_->setUniformItemSizes(true);
+    readings_->hide();
+}
+
+void ReadingsPanel::layOut()
+{
+    shell::setContent(
+        this, {},
+        shell::columnOf(shell::MediumSpace,
+                        {shell::rowOf(shell::SmallSpace, {label_, {form_, 1}, state_}), readings_}));
+}
+
+void ReadingsPanel::connectControls()
+{
+    connect(form_, &QLineEdit::textChanged, this, &ReadingsPanel::findReadings);
+    connect(form_, &QLineEdit::returnPressed, this, &ReadingsPanel::takeFirstReading);
+    connectDown(*form_, [this] { goToReadings(); });
+    connect(readings_, &ListOfItsRows::rowChosen, this, &ReadingsPanel::choose);
+    connect(readings_, &ListOfItsRows::rowActivated, this, &ReadingsPanel::take);
+    connect(readings_, &QListWidget::itemClicked, this, [this] { take(readings_->chosenRow()); });
+}
+
+void ReadingsPanel::refresh()
+{
+    readings_->setAccessibleName(shell::fromUtf8(Readings.currentOrDesigned()));
+    const int row = readings_->chosenRow();
+    findReadings();
+    const QSignalBlocker quiet(readings_);
+    if (row < readings_->count())
+        readings_->setCurrentRow(row);
+}
+
+void ReadingsPanel::findReadings()
+{
+    found_ = listed_.index().find(form_->text().toStdString());
+    QStringList rows;
+    for (const Reading& reading : found_)
+        rows << rowOf(reading);
+    if (rows != rows_ || form_->text().isEmpty()) {
+        rows_ = rows;
+        showReadings();
+    }
+    const bool isMissing = found_.empty() && !form_->text().trimmed().isEmpty();
+    state_->setVisible(isMissing);
+    state_->setText(isMissing ? shell::fromUtf8(NotListed.currentOrDesigned()) : QString());
+}
+
+// As long as a form is typed their room never shrinks: the table below would be laid out anew, and jump, at
+// each letter.
+void ReadingsPanel::showReadings()
+{
+    const bool roomStays = !readings_->isHidden() && !form_->text().isEmpty();
+    readings_->setMinimumHeight(roomStays ? readings_->height() : 0);
+    const QSignalBlocker quiet(readings_);
+    readings_->clear();
+    readings_->addItems(rows_);
+    readings_->setVisible(roomStays || !rows_.isEmpty());
+}
+
+void ReadingsPanel::goToReadings()
+{
+    if (found_.empty())
+        return;
+    readings_->setCurrentRow(0);
+    readings_->setFocus();
+}
+
+void ReadingsPanel::takeFirstReading()
+{
+    take(found_.empty() ? -1 : 0);
+}
+
+void ReadingsPanel::choose(int row)
+{
+    if (row >= 0)
+        Q_EMIT readingChosen(found_.at(static_cast<std::size_t>(row)));
+}
+
+void ReadingsPanel::take(int row)
+{
+    choose(row);
+    if (row >= 0)
+        form_->selectAll();
+}
+
+void connectDown(QLineEdit& field, const std::function<void()>& step)
+{
+    auto* const shortcut = new QShortcut(Qt::Key_Down, &field);
+    shortcut->setContext(Qt::WidgetShortcut);
+    QObject::connect(shortcut, &QShortcut::activated, &field, step);
+}
+
+} // namespace tables

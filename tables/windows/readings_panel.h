@@ -1,0 +1,63 @@
+#pragma once
+
+#include "tables/form_index.h"
+
+#include <QStringList>
+#include <QWidget>
+
+#include <functional>
+#include <vector>
+
+class QLabel;
+class QLineEdit;
+
+namespace shell {
+class ListOfItsRows;
+}
+
+namespace tables {
+
+/// A field for a form, and below it all that the form can be. A row that the arrow keys come to is chosen at
+/// once; Enter in the field chooses the first.
+class ReadingsPanel : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit ReadingsPanel(QWidget* parent);
+
+    /// Finds the readings anew where the lists, their marks or the language have changed. What was chosen
+    /// stays so without being told again.
+    void refresh();
+
+    /// The field for the form, which has the focus first.
+    QLineEdit& form() { return *form_; }
+
+Q_SIGNALS:
+    void readingChosen(const tables::Reading& reading);
+
+private:
+    void makeControls();
+    void layOut();
+    void connectControls();
+
+    void findReadings();
+    void showReadings();
+    void goToReadings();
+    void takeFirstReading();
+    void choose(int row);
+    void take(int row);
+
+    ListedForms listed_;
+    std::vector<Reading> found_;
+    QStringList rows_;
+
+    QLabel* label_ = nullptr;
+    QLineEdit* form_ = nullptr;
+    QLabel* state_ = nullptr;
+    shell::ListOfItsRows* readings_ = nullptr;
+};
+
+/// Does something at the down arrow in a field.
+void connectDown(QLineEdit& field, const std::function<void()>& step);
+
+} // namespace tables
