@@ -1,7 +1,7 @@
 // How the windows answer: the switch of captions beside the same number of texts on a bare window, the time
-// from Enter to the painted judgement, with the answers kept and without, the processor time of a pause, and what
-// a look-up in the tables takes.
-// Needs a display. Prints rows of a table, and fails where a limit is passed.
+// from Enter to the painted judgement, with the answers kept and without, the processor time of a pause, and
+// what a look-up in the tables takes. Needs a display. Prints rows of a table, and fails where a limit is
+// passed.
 
 #include "app/application.h"
 #include "app/navigation.h"

@@ -3,6 +3,7 @@
 #include "shell/kit/choice_list.h"
 #include "shell/kit/controls.h"
 #include "shell/kit/layout.h"
+#include "shell/kit/measure.h"
 #include "shell/kit/text.h"
 #include "shell/kit/type.h"
 #include "shell/language_texts.h"
@@ -21,6 +22,8 @@ using shell::ListOfItsRows;
 using shell::macronsWhereShown;
 
 namespace {
+
+constexpr int ReadingsShown = 5;
 
 // clang-format off
 //                                 English             French                Italian               German                 Spanish                  Latin
@@ -55,6 +58,10 @@ void ReadingsPanel::makeControls()
     shell::setType(*form_, shell::SentenceType);
     form_->setClearButtonEnabled(true);
     readings_->setUniformItemSizes(true);
+    shell::keepMeasure(*readings_, "height", [this](shell::Growth) {
+        readings_->setFixedHeight(ReadingsShown *
+                                  (readings_->fontMetrics().lineSpacing() + shell::SmallSpace));
+    });
     readings_->hide();
 }
 
@@ -101,12 +108,11 @@ void ReadingsPanel::findReadings()
     state_->setText(isMissing ? shell::fromUtf8(NotListed.currentOrDesigned()) : QString());
 }
 
-// As long as a form is typed their room never shrinks: the table below would be laid out anew, and jump, at
-// each letter.
+// As long as a form is typed their room stays: the table below would be laid out anew, and jump, at each
+// letter.
 void ReadingsPanel::showReadings()
 {
     const bool roomStays = !readings_->isHidden() && !form_->text().isEmpty();
-    readings_->setMinimumHeight(roomStays ? readings_->height() : 0);
     const QSignalBlocker quiet(readings_);
     readings_->clear();
     readings_->addItems(rows_);
