@@ -6,6 +6,7 @@
 #include "shell/looks.h"
 #include "shell/looks_file.h"
 
+#include <chrono>
 #include <utility>
 
 namespace app {
@@ -17,6 +18,9 @@ using progress::Review;
 namespace {
 
 constexpr auto RecordName = "progress.db";
+
+// A judgement is painted within a frame of the screen.
+constexpr std::chrono::milliseconds UntilPainted{20};
 
 // clang-format off
 constexpr shell::LanguageTexts NotDeleted = {
@@ -36,7 +40,7 @@ ProgressNavigation::ProgressNavigation(CommonWindows& common)
 {
     keeper_.switchKeeping(shell::looks.KeepAnswers);
     pause_.setSingleShot(true);
-    pause_.setInterval(0);
+    pause_.setInterval(UntilPainted);
     connect(&pause_, &QTimer::timeout, this, &ProgressNavigation::keepWaiting);
     shell::listenToAnswers([this](const shell::AnswerRecord& answer) { hear(answer); });
     common_.whenDrillIsLeft([this] { endDrill(); });

@@ -73,6 +73,8 @@ protected:
     {
         QStringList lines;
         const auto store = progress::openStore("progress.db", progress::Access::Read).store;
+        if (store == nullptr)
+            return lines;
         for (const auto& [number, moment, told, drill, marksShown] : store->rowsAfter(0, 100))
             lines << QString::fromStdString(told.word + "|" + told.place + "|" + told.asked + "|" +
                                             told.expected + "|" + told.written +
@@ -90,7 +92,7 @@ TEST_F(KeptAnswers, OfEachExerciseAreItsRowsWithoutHintsFromThePauseOnInWhichItM
         QWidget& menu = start();
         choose(menu, exercise.language + QStringLiteral("Lang"));
         QWidget& window = openExercise(exercise);
-        duringPause([] { EXPECT_EQ(rowsKept().size(), 1); });
+        duringPause([] { EXPECT_TRUE(QTest::qWaitFor([] { return rowsKept().size() == 1; })); });
         pressKeys(window, exercise.keys.chopped(1));
         duringPause([&] { press(window, Qt::Key_Escape); });
         pressKeys(window, exercise.keys.last(1));
