@@ -206,7 +206,7 @@ void NounQuiz::check()
     QPalette colours = palette();
     colours.setColor(QPalette::WindowText, colourOn(colours, right ? Green : Red));
     verdict_->setPalette(colours);
-    verdict_->setText(shell::fromUtf8(verdict.currentOrDesigned()));
+    verdict_->setText(shell::fromUtf8(verdict));
     score_->setText(shell::fromUtf8(nounQuizScore()));
     answer_->setText(shell::fromUtf8(rightCasesInWords()));
     if (shell::pauseWithDrill())

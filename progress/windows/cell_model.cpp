@@ -134,10 +134,10 @@ QString CellModel::inWords(const QModelIndex& place) const
 {
     const Cell* const cell = cellAt(place);
     if (cell == nullptr)
-        return shell::fromUtf8(NotAsked.currentOrDesigned());
+        return shell::fromUtf8(NotAsked);
     const auto& [answered, right] = cell->share;
     const QString percent = shell::fromUtf8(textOf(cell->share)).section(u' ', 0, 0);
-    return shell::fromUtf8(ShareInWords.currentOrDesigned()).arg(percent).arg(right).arg(answered);
+    return shell::fromUtf8(ShareInWords).arg(percent).arg(right).arg(answered);
 }
 
 } // namespace progress

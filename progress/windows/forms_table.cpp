@@ -74,7 +74,7 @@ void FormsTable::showForms(std::vector<Form> forms)
 {
     QStringList headings;
     for (const LanguageTexts& heading : Headings)
-        headings << fromUtf8(heading.currentOrDesigned());
+        headings << fromUtf8(heading);
     setHorizontalHeaderLabels(headings);
     sortWorstFirst(forms);
     setRowCount(static_cast<int>(forms.size()));

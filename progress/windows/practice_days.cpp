@@ -123,7 +123,7 @@ bool PracticeDays::event(QEvent* event)
     QString text;
     for (const DayOfPractice& day : year_)
         if (placeOf(day).contains(help.pos()))
-            text = shell::fromUtf8(OfDay.currentOrDesigned())
+            text = shell::fromUtf8(OfDay)
                        .arg(dateOf(day.day).toString(Qt::ISODate))
                        .arg(day.share.answered)
                        .arg(day.share.right);

@@ -66,11 +66,6 @@ constexpr LanguageTexts NotExported{"The answers were not exported.", "Les répo
 
 static_assert(Kinds.size() == Grids.size());
 
-QString current(const LanguageTexts& texts)
-{
-    return fromUtf8(texts.currentOrDesigned());
-}
-
 // So many lines of its own type are seen at the least.
 void keepLines(QWidget& view, int lines)
 {
@@ -153,7 +148,7 @@ void Progress::setCaptions()
     const int chosen = kind_->currentIndex();
     kind_->clear();
     for (const LanguageTexts& kind : Kinds)
-        kind_->addItem(current(kind));
+        kind_->addItem(fromUtf8(kind));
     kind_->setCurrentIndex(std::max(chosen, 0));
 }
 
@@ -204,7 +199,7 @@ void Progress::showGrid()
     Store* const store = keeper_->store();
     cells_->show(store == nullptr ? std::vector<Cell>() : store->cellsOf(chosenGrid()));
     const QModelIndex worst = cells_->worst();
-    nothing_->setText(current(keeper_->isUnreadable() ? Unreadable : Nothing));
+    nothing_->setText(fromUtf8(keeper_->isUnreadable() ? Unreadable : Nothing));
     nothing_->setVisible(!worst.isValid());
     for (QWidget* const part : std::initializer_list<QWidget*>{grid_, cellName_, forms_})
         part->setVisible(worst.isValid());
@@ -244,7 +239,7 @@ void Progress::showDays()
         all.answered += day.share.answered;
         all.right += day.share.right;
     }
-    daysInWords_->setText(current(YearInWords).arg(days).arg(all.answered).arg(all.right));
+    daysInWords_->setText(fromUtf8(YearInWords).arg(days).arg(all.answered).arg(all.right));
     days_->setAccessibleName(daysInWords_->text());
     days_->setVisible(!year.empty());
     days_->showYear(std::move(year));

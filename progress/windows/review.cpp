@@ -62,16 +62,11 @@ constexpr LanguageTexts NothingDue{"Nothing is due today.", "Rien n'est à revoi
 constexpr LanguageTexts AllDone{"All that was due is done.", "Tout ce qui était à revoir est fait.", {}, "Alles Fällige ist erledigt.", "Todo lo que había que repasar está hecho.", "Omnia repetenda peracta sunt."};
 // clang-format on
 
-QString current(const LanguageTexts& texts)
-{
-    return fromUtf8(texts.currentOrDesigned());
-}
-
 QString nameOfExercise(const std::string& exercise)
 {
     for (const Kind& kind : Kinds)
         if (kind.exercise == exercise)
-            return current(kind.texts);
+            return fromUtf8(kind.texts);
     return {};
 }
 
@@ -126,7 +121,7 @@ void Review::setCaptions()
     shell::applyCurrentOrDesignedCaptions(*this, Captions);
     kind_->clear();
     for (const Kind& kind : Kinds)
-        kind_->addItem(current(kind.texts));
+        kind_->addItem(fromUtf8(kind.texts));
 }
 
 void Review::open(Keeper& keeper)
@@ -150,7 +145,7 @@ void Review::beginRound()
     clearWhy();
     ask();
     if (!asked_)
-        question_->setText(current(NothingDue));
+        question_->setText(fromUtf8(NothingDue));
 }
 
 // A form that is gone from the store is passed over.
@@ -171,8 +166,8 @@ void Review::ask()
 void Review::showQuestion()
 {
     title_->setText(asked_ ? nameOfExercise(asked_->exercise) : windowTitle());
-    question_->setText(asked_ ? shownQuestion() : current(AllDone));
-    left_->setText(current(Left).arg(round_.left()));
+    question_->setText(asked_ ? shownQuestion() : fromUtf8(AllDone));
+    left_->setText(fromUtf8(Left).arg(round_.left()));
     if (asksWord())
         answer_->takeWord();
     else
@@ -221,29 +216,19 @@ void Review::check()
         return;
     }
     const shell::AnswerRecord record = judged(*asked_, typed);
-    lockBox();
+    holdBoxes();
     shell::tellAnswer(record);
     announce(record.right);
 }
 
 void Review::hint()
 {
-    if (!canAnswer() || !asked_)
-        return;
-    lockBox();
-    clearWhy();
-    answer_->lookRevealed();
-    answer_->setText(fromUtf8(answer()));
-    answer_->repaint();
-    if (!shell::pauseWithDrill())
-        return;
-    answer_->lookBlack();
-    answer_->clear();
-    focusQuestion();
+    if (asked_)
+        revealAnswer();
 }
 
 // What is judged or shown stands until the pause is over.
-void Review::lockBox()
+void Review::holdBoxes()
 {
     answer_->setReadOnly(true);
     kind_->setEnabled(false);

@@ -37,6 +37,7 @@ protected:
     std::string answer() const override;
     bool answersInLatin() const override;
     void check() override;
+    void holdBoxes() override;
 
 private:
     void makeControls();
@@ -49,7 +50,6 @@ private:
     void beginRound();
     void ask();
     void showQuestion();
-    void lockBox();
     void hint();
 
     Keeper* keeper_ = nullptr;

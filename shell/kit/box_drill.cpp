@@ -22,7 +22,7 @@ AnswerBox* BoxDrill::addBox(QWidget* parent, const QString& name)
     auto* const box = makeControl<AnswerBox>(parent, name);
     const auto number = static_cast<int>(boxes_.size());
     connect(box, &AnswerBox::focusReceived, this, [this, number] { boxReceivedFocus(number); });
-    connect(box, &AnswerBox::hintRequested, this, &BoxDrill::hint);
+    connect(box, &AnswerBox::hintRequested, this, &BoxDrill::revealAnswer);
     connect(box, &AnswerBox::returnPressed, this, &BoxDrill::check);
     joinBox(*box);
     takeMacrons(*box);
@@ -51,7 +51,7 @@ QPushButton* BoxDrill::makeCheckButton(QAnyStringView name)
 QPushButton* BoxDrill::makeQuestionButton(QAnyStringView name)
 {
     QPushButton* const button = shell::makeQuestionButton(this, name);
-    connect(button, &QPushButton::clicked, this, &BoxDrill::hint);
+    connect(button, &QPushButton::clicked, this, &BoxDrill::revealAnswer);
     return button;
 }
 
@@ -113,27 +113,6 @@ void BoxDrill::check()
         return;
     holdBoxes();
     announce(*right);
-}
-
-void BoxDrill::hint()
-{
-    if (!canAnswer())
-        return;
-    holdBoxes();
-    clearWhy();
-    askedBox().lookRevealed();
-    askedBox().setText(fromUtf8(answer()));
-    askedBox().repaint();
-    answerShown();
-    if (!pauseWithDrill())
-        return;
-    answerHidden();
-    askAgain();
-}
-
-void BoxDrill::answerHidden()
-{
-    askedBox().lookBlack();
 }
 
 void BoxDrill::askAgain()

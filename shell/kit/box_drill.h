@@ -41,10 +41,6 @@ protected:
     /// Called before the question is set because a box has received the focus.
     virtual void boxEntered(int /*number*/) {}
 
-    /// Called when the answer stands in the box, and when it is about to go again.
-    virtual void answerShown() {}
-    virtual void answerHidden();
-
     /// Leaves the drill.
     virtual void quit() = 0;
 
@@ -74,9 +70,8 @@ protected:
 
 private:
     void check() override;
-    void hint();
     void boxReceivedFocus(int number);
-    void holdBoxes();
+    void holdBoxes() override;
 
     std::vector<AnswerBox*> boxes_;
     QLabel* score_;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shell/language_texts.h"
+
 #include <QString>
 
 #include <string>
@@ -11,6 +13,12 @@ namespace shell {
 inline QString fromUtf8(std::string_view text)
 {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+/// A text in the language of the interface, or else as windows are designed with it.
+inline QString fromUtf8(const LanguageTexts& texts)
+{
+    return fromUtf8(texts.currentOrDesigned());
 }
 
 } // namespace shell

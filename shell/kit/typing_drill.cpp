@@ -5,6 +5,7 @@
 #include "shell/kit/text.h"
 #include "shell/kit/type.h"
 #include "shell/kit/typed_ahead.h"
+#include "shell/pause.h"
 
 #include <QAccessible>
 #include <QLabel>
@@ -75,7 +76,29 @@ void TypingDrill::joinBox(const AnswerBox& box)
 
 void TypingDrill::showPlace(const LanguageTexts& text, Place place)
 {
-    where_->setText(fromUtf8(text.currentOrDesigned()).arg(place.number).arg(place.count));
+    where_->setText(fromUtf8(text).arg(place.number).arg(place.count));
+}
+
+void TypingDrill::revealAnswer()
+{
+    if (!canAnswer())
+        return;
+    holdBoxes();
+    clearWhy();
+    askedBox().lookRevealed();
+    askedBox().setText(fromUtf8(answer()));
+    askedBox().repaint();
+    answerShown();
+    if (!pauseWithDrill())
+        return;
+    answerHidden();
+    askedBox().clear();
+    focusQuestion();
+}
+
+void TypingDrill::answerHidden()
+{
+    askedBox().lookBlack();
 }
 
 void TypingDrill::announce(bool right)

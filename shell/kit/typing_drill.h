@@ -48,6 +48,17 @@ protected:
     /// Whether the answer is Latin, where a colon marks a long vowel.
     virtual bool answersInLatin() const { return true; }
 
+    /// Shows the answer in the box asked for a pause, in which nothing can be typed, and asks again; it
+    /// counts for nothing. Does nothing while no answer can be shown.
+    void revealAnswer();
+
+    /// Called when the answer stands in the box, and when it is about to go again.
+    virtual void answerShown() {}
+    virtual void answerHidden();
+
+    /// Lets nothing be typed until the question is asked again.
+    virtual void holdBoxes() = 0;
+
     /// Makes a box one of those into which answers are typed.
     void joinBox(const AnswerBox& box);
 

@@ -14,7 +14,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 namespace shell {
 
@@ -76,8 +75,10 @@ void Window::showInMainWindowState()
 
 void Window::showAsDesigned()
 {
-    if (growth_ != 1 || !measured_)
+    if (growth_ != 1 || maximised_ || !measured_) {
+        maximised_ = false;
         takeSize(1);
+    }
     fitScreenAtFirst();
     if (settings.MainWindowState == window_state::Normal)
         showNormal();
@@ -88,17 +89,11 @@ void Window::showAsDesigned()
 // Takes the size that it will have at once: fonts of another size need not be loaded.
 void Window::showGrown()
 {
-    holdLeastSize(false);
-    if (!isVisible())
+    if (!isVisible()) {
+        maximised_ = true;
         takeSize(growthIn(screen()->availableSize()));
+    }
     showMaximized();
-}
-
-// Content that asks for more room would take a maximised window out of that state.
-void Window::holdLeastSize(bool held)
-{
-    if (layout() != nullptr)
-        layout()->setSizeConstraint(held ? QLayout::SetDefaultConstraint : QLayout::SetNoConstraint);
 }
 
 void Window::standAboveModal()
@@ -161,7 +156,7 @@ QWidget* Window::centredBlock(QSize charactersAndLines)
     auto* const column =
         columnOf(0, {Part::gap(1), {row, asHighAsItsLines ? 0 : BlockStretch}, Part::gap(1)});
     if (asHighAsItsLines)
-        keepMeasure(*column, "above", [=, this](Growth) { column->setStretch(0, isMaximized() ? 1 : 0); });
+        keepMeasure(*column, "above", [=, this](Growth) { column->setStretch(0, maximised_ ? 1 : 0); });
     setContent(area->widget(), EdgeMargins, column);
     setContent(this, {}, columnOf(0, {area}));
     return block;
@@ -178,21 +173,25 @@ void Window::grow()
     if (!isVisible())
         return;
     const Growth growth = isMaximized() ? growthIn(size()) : 1;
-    if (growth != growth_ || isMaximized() != wasMaximized_)
-        takeSize(growth);
+    const bool becameNormal = maximised_ && !isMaximized();
+    if (growth == growth_ && maximised_ == isMaximized())
+        return;
+    maximised_ = isMaximized();
+    takeSize(growth);
+    if (becameNormal)
+        QMetaObject::invokeMethod(this, &Window::fitScreenAtFirst, Qt::QueuedConnection);
 }
 
-// A window in the designed size has the desktop's own font.
+// A window in the designed size has the desktop's own font. Content that asks for more room would take a
+// maximised one out of that state.
 void Window::takeSize(Growth growth)
 {
     growth_ = growth;
     measured_ = true;
-    const bool becameNormal = std::exchange(wasMaximized_, isMaximized()) && !wasMaximized_;
-    holdLeastSize(!wasMaximized_);
+    if (layout() != nullptr)
+        layout()->setSizeConstraint(maximised_ ? QLayout::SetNoConstraint : QLayout::SetDefaultConstraint);
     setFont(growth == 1 ? QFont() : timesAsLarge(QApplication::font(), growth));
     takeMeasures(*this, growth);
-    if (becameNormal)
-        QMetaObject::invokeMethod(this, &Window::fitScreenAtFirst, Qt::QueuedConnection);
 }
 
 void Window::resizeEvent(QResizeEvent* event)

@@ -73,7 +73,6 @@ private:
 
     void showAsDesigned();
     void showGrown();
-    void holdLeastSize(bool held);
     void grow();
     void takeSize(Growth growth);
 
@@ -82,7 +81,9 @@ private:
 
     /// Whether the window was ever about to be shown: no font is loaded before.
     bool measured_ = false;
-    bool wasMaximized_ = false;
+
+    /// Whether the window is maximised, or about to be shown so.
+    bool maximised_ = false;
 };
 
 } // namespace shell

@@ -120,8 +120,8 @@ void Help::setCaptions()
 {
     applyCaptions(*this, HelpCaptions);
     text_->setAccessibleName(windowTitle());
-    find_->setPlaceholderText(fromUtf8(Find.currentOrDesigned()));
-    find_->setAccessibleName(fromUtf8(FindName.currentOrDesigned()));
+    find_->setPlaceholderText(fromUtf8(Find));
+    find_->setAccessibleName(fromUtf8(FindName));
     tellFound(true);
 }
 
@@ -217,7 +217,7 @@ void Help::findPrevious()
 void Help::tellFound(bool found)
 {
     find_->showFound(found);
-    state_->setText(found ? QString() : fromUtf8(NotFound.currentOrDesigned()));
+    state_->setText(found ? QString() : fromUtf8(NotFound));
 }
 
 } // namespace shell

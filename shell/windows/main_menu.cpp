@@ -181,7 +181,7 @@ void MainMenu::showFirstSteps()
         firstSteps_->setWordWrap(true);
         column_->addWidget(firstSteps_);
     }
-    firstSteps_->setText(fromUtf8(FirstStepsTexts.currentOrDesigned()));
+    firstSteps_->setText(fromUtf8(FirstStepsTexts));
 }
 
 void MainMenu::endFirstSteps()
@@ -227,7 +227,7 @@ void MainMenu::writeLastDrill()
 {
     if (lastDrill_ == nullptr)
         return;
-    const QString text = fromUtf8(LastDrillTexts.currentOrDesigned()).arg(lastRight_).arg(lastToRepeat_);
+    const QString text = fromUtf8(LastDrillTexts).arg(lastRight_).arg(lastToRepeat_);
     const QString colour = palette().color(QPalette::WindowText).name();
     lastDrill_->setText(QStringLiteral("<a href='review' style='color:%1'>%2</a>").arg(colour, text));
     lastDrill_->setAccessibleName(text);

@@ -85,7 +85,7 @@ void ReadingsPanel::connectControls()
 
 void ReadingsPanel::refresh()
 {
-    readings_->setAccessibleName(shell::fromUtf8(Readings.currentOrDesigned()));
+    readings_->setAccessibleName(shell::fromUtf8(Readings));
     const int row = readings_->chosenRow();
     findReadings();
     const QSignalBlocker quiet(readings_);
@@ -105,7 +105,7 @@ void ReadingsPanel::findReadings()
     }
     const bool isMissing = found_.empty() && !form_->text().trimmed().isEmpty();
     state_->setVisible(isMissing);
-    state_->setText(isMissing ? shell::fromUtf8(NotListed.currentOrDesigned()) : QString());
+    state_->setText(isMissing ? shell::fromUtf8(NotListed) : QString());
 }
 
 // As long as a form is typed their room stays: the table below would be laid out anew, and jump, at each

@@ -226,7 +226,7 @@ void Probatio::showRightAnswer()
     if (shell::pausing() || !verbQuiz.formIsAsked)
         return;
     showChosenAnswer();
-    correctHeading_->setText(shell::fromUtf8(CorrectHeading.currentOrDesigned()));
+    correctHeading_->setText(shell::fromUtf8(CorrectHeading));
     correct_->setText(shell::fromUtf8(describe(rightIdentification())));
 }
 

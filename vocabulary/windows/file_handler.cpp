@@ -118,7 +118,7 @@ void FileHandler::setCaptions()
 {
     shell::applyCurrentOrDesignedCaptions(*this, Captions);
     const LanguageTexts& title = isLoading() ? LoadTitle : SaveTitle;
-    setWindowTitle(shell::fromUtf8(title.currentOrDesigned()));
+    setWindowTitle(shell::fromUtf8(title));
     action_->setText(shell::fromUtf8(isLoading() ? LoadAction : SaveAction));
 }
 

@@ -41,8 +41,8 @@ QString countOf(const VocabularyFile& file)
     if (words == 0 && file.fault && file.fault->refused())
         return {};
     if (words <= LastCountedWord || words > MostWords)
-        return shell::fromUtf8(Count.currentOrDesigned()).arg(words);
-    return shell::fromUtf8(LongCount.currentOrDesigned()).arg(words).arg(LastCountedWord);
+        return shell::fromUtf8(Count).arg(words);
+    return shell::fromUtf8(LongCount).arg(words).arg(LastCountedWord);
 }
 
 } // namespace

@@ -36,7 +36,7 @@ QString contentsOf(const std::filesystem::path& path)
         return {};
     const QString words =
         tooLong ? QStringLiteral("> %1").arg(MostWords) : QString::number(file.records.size());
-    return QLatin1Char('\n') + shell::fromUtf8(Words.currentOrDesigned()).arg(words);
+    return QLatin1Char('\n') + shell::fromUtf8(Words).arg(words);
 }
 
 } // namespace
@@ -52,7 +52,7 @@ void VcabReplace::open(const std::filesystem::path& file)
 {
     shell::applyCurrentOrDesignedCaptions(*this, Captions);
     const QString name = shell::fromUtf8(file.filename().string());
-    text().setText(shell::fromUtf8(Exists.currentOrDesigned()).arg(name) + contentsOf(file));
+    text().setText(shell::fromUtf8(Exists).arg(name) + contentsOf(file));
     askWith(*cancel_);
 }
 

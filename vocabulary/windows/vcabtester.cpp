@@ -129,7 +129,7 @@ void Vcabtester::setCaptions()
 {
     shell::applyCurrentOrDesignedCaptions(*this, vcabtesterMenuCaptions());
     shell::applyCurrentOrDesignedCaptions(*this, Captions);
-    QString title = shell::fromUtf8(Title.currentOrDesigned());
+    QString title = shell::fromUtf8(Title);
     if (!vocabularyList.File.empty())
         title += QStringLiteral(" - ") + shell::fromUtf8(vocabularyList.File.filename().string());
     setWindowTitle(title);
@@ -160,7 +160,7 @@ void Vcabtester::comeBack()
 void Vcabtester::showTheWord()
 {
     const bool asked = vocabularyTester.WordIsAsked == platform::FlagTrue;
-    question_->setText(asked ? questionShown() : shell::fromUtf8(NoWord.currentOrDesigned()));
+    question_->setText(asked ? questionShown() : shell::fromUtf8(NoWord));
     showHint(hintGivesAnswerAway() ? std::string() : hintText());
     if (asked)
         showPlace(WordOf, {vocabularyList.CurrentWord, vocabularyList.WordCount});
@@ -212,27 +212,25 @@ void Vcabtester::check()
     }
     const bool right = judgement == Judgement::Right;
     shell::tellAnswer(recordOfWord(answer_->text().toStdString(), right));
-    answer_->setReadOnly(true);
+    holdBoxes();
     showHint(hintText());
     announce(right);
 }
 
 void Vcabtester::reveal()
 {
-    if (!canAnswer() || vocabularyTester.WordIsAsked != platform::FlagTrue)
-        return;
-    answer_->setReadOnly(true);
-    clearWhy();
-    answer_->clear();
-    answer_->lookRevealed();
-    answer_->setText(shell::fromUtf8(expectedAnswer()));
-    answer_->repaint();
+    if (vocabularyTester.WordIsAsked == platform::FlagTrue)
+        revealAnswer();
+}
+
+void Vcabtester::answerShown()
+{
     showHint(hintText());
-    if (!shell::pauseWithDrill())
-        return;
-    answer_->lookBlack();
-    answer_->clear();
-    focusQuestion();
+}
+
+void Vcabtester::holdBoxes()
+{
+    answer_->setReadOnly(true);
 }
 
 // The question that is being judged or shown stands; the next is asked the new way.

@@ -38,6 +38,8 @@ protected:
     std::string answer() const override;
     bool answersInLatin() const override;
     void check() override;
+    void answerShown() override;
+    void holdBoxes() override;
 
 Q_SIGNALS:
     void listRequested();
