@@ -44,7 +44,7 @@ void rememberWrongAnswer(Form& form, const std::string& written)
 void rememberQuestion(Form& form, const Row& row)
 {
     const bool same =
-        form.marksShown && !row.marksShown && withoutMarks(form.expected) == row.answer.expected;
+        form.marksShown && !row.marksShown && shell::withoutMarks(form.expected) == row.answer.expected;
     if (same)
         return;
     form.word = row.answer.word;
@@ -60,7 +60,7 @@ FormName nameOf(const shell::AnswerRecord& answer)
 {
     if (!marksCanBeHidden(answer.exercise))
         return {answer.exercise, answer.word, answer.place};
-    return {answer.exercise, withoutMarks(answer.word), withoutMarks(answer.place)};
+    return {answer.exercise, shell::withoutMarks(answer.word), shell::withoutMarks(answer.place)};
 }
 
 std::string textOf(const Share& share)
@@ -98,12 +98,6 @@ void sortWorstFirst(std::vector<Form>& forms)
         const double known = share.answered == 0 ? 1 : double(share.right) / share.answered;
         return std::tuple(known, form.box);
     });
-}
-
-std::string withoutMarks(std::string text)
-{
-    std::erase(text, shell::LengthMark);
-    return text;
 }
 
 bool marksCanBeHidden(const std::string& exercise)

@@ -79,9 +79,6 @@ Share shareOf(const Form& form);
 /// The worst first: by the share of right answers, then by the box.
 void sortWorstFirst(std::vector<Form>& forms);
 
-/// A text without the marks of long vowels.
-std::string withoutMarks(std::string text);
-
 /// Whether the marks of an exercise go with the option to show them. Those of a word list stay as written.
 bool marksCanBeHidden(const std::string& exercise);
 

@@ -4,6 +4,7 @@
 #include "progress/damaged_file.h"
 #include "progress/sums.h"
 #include "shell/settings.h"
+#include "shell/vowel_marks.h"
 
 #include <algorithm>
 #include <string>
@@ -37,7 +38,7 @@ DrillCount Keeper::drillCount() const
 
 Row Keeper::rowOf(const shell::AnswerRecord& answer)
 {
-    const bool shown = shell::settings.ShowVowelLength == platform::FlagTrue;
+    const bool shown = shell::marksAreShown();
     return {
         .moment = platform::current().now(), .answer = answer, .marksShown = shown && !answer.marksLeftOut};
 }

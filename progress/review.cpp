@@ -1,6 +1,7 @@
 #include "progress/review.h"
 
 #include "shell/settings.h"
+#include "shell/vowel_marks.h"
 
 namespace progress {
 
@@ -25,11 +26,11 @@ shell::AnswerRecord questionFor(const Form& form)
                                  .place = form.place,
                                  .asked = form.asked,
                                  .expected = form.expected};
-    const bool shown = shell::settings.ShowVowelLength == platform::FlagTrue;
+    const bool shown = shell::marksAreShown();
     if (shown == form.marksShown || !marksCanBeHidden(form.name.exercise))
         return question;
-    question.asked = withoutMarks(form.asked);
-    question.expected = withoutMarks(form.expected);
+    question.asked = shell::withoutMarks(form.asked);
+    question.expected = shell::withoutMarks(form.expected);
     question.marksLeftOut = shown;
     return question;
 }
@@ -37,7 +38,7 @@ shell::AnswerRecord questionFor(const Form& form)
 shell::AnswerRecord judged(shell::AnswerRecord question, const std::string& written)
 {
     question.written = written;
-    question.right = (question.marksLeftOut ? withoutMarks(written) : written) == question.expected;
+    question.right = (question.marksLeftOut ? shell::withoutMarks(written) : written) == question.expected;
     return question;
 }
 

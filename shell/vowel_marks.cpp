@@ -23,9 +23,21 @@ std::string StripOutColons(std::string_view stem)
     return stripped;
 }
 
+bool marksAreShown()
+{
+    return settings.ShowVowelLength == platform::FlagTrue;
+}
+
+std::string withoutMarks(std::string_view text)
+{
+    std::string letters(text);
+    std::erase(letters, LengthMark);
+    return letters;
+}
+
 std::string stemAsShown(std::string_view stem)
 {
-    return settings.ShowVowelLength == platform::FlagTrue ? std::string(stem) : StripOutColons(stem);
+    return marksAreShown() ? std::string(stem) : StripOutColons(stem);
 }
 
 void appendMarked(std::string& form, std::string_view text, std::string_view mark)
@@ -47,7 +59,7 @@ void setVowelMarkForDrill()
 
 void setVowelMarkWhereShown()
 {
-    if (settings.ShowVowelLength == platform::FlagTrue)
+    if (marksAreShown())
         settings.VowelMark = LengthMark;
 }
 

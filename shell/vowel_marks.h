@@ -12,6 +12,12 @@ inline constexpr char LengthMark = ':';
 /// the second stays.
 std::string StripOutColons(std::string_view stem);
 
+/// Whether long vowels are marked: `ShowVowelLength` is true.
+bool marksAreShown();
+
+/// The letters of a text, without any mark.
+std::string withoutMarks(std::string_view text);
+
 /// A stem as the lists keep it: with its marks where `ShowVowelLength` is true, else without.
 std::string stemAsShown(std::string_view stem);
 

@@ -12,20 +12,13 @@ Form formOf(const shell::FormParts& parts)
     return form;
 }
 
-std::string withoutMarks(std::string_view text)
-{
-    std::string letters(text);
-    std::erase(letters, shell::LengthMark);
-    return letters;
-}
-
 Form asShown(const Form& form)
 {
-    if (shell::settings.ShowVowelLength == platform::FlagTrue)
+    if (shell::marksAreShown())
         return form;
     Form shown{.text = shell::StripOutColons(form.stem())};
     shown.endingAt = shown.text.size();
-    shown.text += withoutMarks(form.ending());
+    shown.text += shell::withoutMarks(form.ending());
     return shown;
 }
 

@@ -26,7 +26,4 @@ Form formOf(const shell::FormParts& parts);
 /// side in a stem one stays, as in the lists.
 Form asShown(const Form& form);
 
-/// The letters of a form alone.
-std::string withoutMarks(std::string_view text);
-
 } // namespace tables

@@ -2,6 +2,7 @@
 
 #include "nouns/noun_endings.h"
 #include "nouns/noun_forms.h"
+#include "shell/vowel_marks.h"
 #include "tables/noun_table.h"
 #include "verbs/paradigm.h"
 
@@ -126,8 +127,8 @@ constexpr char AnyBefore = '-';
 bool isFor(std::string_view rowStem, std::string_view stem)
 {
     if (rowStem.starts_with(AnyBefore))
-        return rowStem.size() == 1 || withoutMarks(stem).ends_with(rowStem.substr(1));
-    return withoutMarks(stem) == rowStem;
+        return rowStem.size() == 1 || shell::withoutMarks(stem).ends_with(rowStem.substr(1));
+    return shell::withoutMarks(stem) == rowStem;
 }
 
 std::optional<std::string> formOnCell(const Word& word, int cell, std::string_view stem)
@@ -152,7 +153,7 @@ std::string_view endingOfGrammar(const NounOfGrammar& noun, int inCase)
 
 std::optional<std::string> formOfNoun(const Word& word, int inCase)
 {
-    const std::string listed = withoutMarks(writtenStem(word.paradigm, word.number));
+    const std::string listed = shell::withoutMarks(writtenStem(word.paradigm, word.number));
     const auto* const noun = std::ranges::find_if(Nouns, [&](const NounOfGrammar& one) {
         return one.paradigm == word.paradigm && one.listedStem == listed;
     });

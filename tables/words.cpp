@@ -3,6 +3,7 @@
 #include "nouns/chooser_rows.h"
 #include "nouns/noun_edits.h"
 #include "shell/language_texts.h"
+#include "shell/vowel_marks.h"
 #include "tables/noun_table.h"
 #include "tables/verb_table.h"
 #include "verbdrills/conjugation_choice.h"
@@ -107,12 +108,12 @@ Form nameOf(const Word& word)
 
 std::optional<Word> wordShownAs(WordKind kind, int paradigm, std::string_view name)
 {
-    const std::string letters = withoutMarks(name);
+    const std::string letters = shell::withoutMarks(name);
     std::optional<Word> alike;
     for (const WordGroup& group : listedWords())
         for (const Word& word : group.words) {
             const std::string own = nameOf(word).text;
-            if (word.kind != kind || word.paradigm != paradigm || withoutMarks(own) != letters)
+            if (word.kind != kind || word.paradigm != paradigm || shell::withoutMarks(own) != letters)
                 continue;
             if (own == name)
                 return word;

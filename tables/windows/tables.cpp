@@ -5,6 +5,7 @@
 #include "shell/kit/captions.h"
 #include "shell/kit/controls.h"
 #include "shell/kit/text.h"
+#include "shell/vowel_marks.h"
 #include "tables/page.h"
 #include "tables/windows/form_delegate.h"
 #include "tables/windows/page_document.h"
@@ -292,7 +293,7 @@ void Tables::copy()
 void Tables::save()
 {
     // A star in the name of a group would stand for any letters.
-    std::string name = withoutMarks(nameOf(word_).text);
+    std::string name = shell::withoutMarks(nameOf(word_).text);
     std::erase_if(name, [](char letter) { return letter == '*'; });
     if (name.ends_with('-'))
         name.pop_back();

@@ -3,6 +3,7 @@
 #include "shell/kit/latin_text.h"
 #include "shell/kit/text.h"
 #include "shell/macrons.h"
+#include "shell/vowel_marks.h"
 
 namespace tables {
 
@@ -10,7 +11,7 @@ namespace {
 
 QString lettersOf(const QString& text)
 {
-    return shell::fromUtf8(withoutMarks(shell::marksForMacrons(text.toLower().toStdString())));
+    return shell::fromUtf8(shell::withoutMarks(shell::marksForMacrons(text.toLower().toStdString())));
 }
 
 } // namespace

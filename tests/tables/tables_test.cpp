@@ -3,6 +3,7 @@
 #include "nouns/noun_list_file.h"
 #include "nouns/noun_tables.h"
 #include "shell/settings.h"
+#include "shell/vowel_marks.h"
 #include "tables/form_index.h"
 #include "tables/word_forms.h"
 #include "tests/nouns/declension_pages.h"
@@ -256,7 +257,7 @@ TEST_F(Tables, FindTheReadingsThatALookAtEveryFormFinds)
         for (int cell = 1; const auto& [form, grammars] : tableOf(word)) {
             if (!form.text.empty()) {
                 forms.push_back({word, cell, form});
-                letters.push_back(withoutMarks(form.text));
+                letters.push_back(shell::withoutMarks(form.text));
             }
             ++cell;
         }
@@ -275,7 +276,7 @@ TEST_F(Tables, FindTheReadingsThatALookAtEveryFormFinds)
             return marks.size();
         };
         std::vector<Reading> slowly;
-        const std::string plain = withoutMarks(typed);
+        const std::string plain = shell::withoutMarks(typed);
         for (std::size_t i = 0; i < forms.size(); ++i)
             if (letters[i] == plain)
                 slowly.push_back(forms[i]);
