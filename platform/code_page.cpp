@@ -10,6 +10,10 @@ namespace {
 
 constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
 
+// The same mark in UTF-16.
+constexpr std::string_view LowByteFirst = "\xFF\xFE";
+constexpr std::string_view HighByteFirst = "\xFE\xFF";
+
 // clang-format off
 // Windows-1252, 80 to 9F; every other byte is its own code point, and so are the five that it leaves empty.
 constexpr std::array<char32_t, 32> UpperControls = {
@@ -70,11 +74,63 @@ void appendUtf8(std::string& text, char32_t point)
         return byte(point);
     if (point < 0x800) {
         byte(0xC0 | point >> 6);
-    } else {
+    } else if (point < 0x10000) {
         byte(0xE0 | point >> 12);
+        byte(0x80 | (point >> 6 & 0x3F));
+    } else {
+        byte(0xF0 | point >> 18);
+        byte(0x80 | (point >> 12 & 0x3F));
         byte(0x80 | (point >> 6 & 0x3F));
     }
     byte(0x80 | (point & 0x3F));
+}
+
+constexpr bool isHighSurrogate(char32_t unit)
+{
+    return unit >= 0xD800 && unit < 0xDC00;
+}
+
+constexpr bool isLowSurrogate(char32_t unit)
+{
+    return unit >= 0xDC00 && unit < 0xE000;
+}
+
+// The units of UTF-16 that stand in these bytes, a byte too many at the end left out.
+std::u16string unitsOf(std::string_view bytes, bool lowByteFirst)
+{
+    std::u16string units;
+    units.reserve(bytes.size() / 2);
+    for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
+        const auto first = static_cast<std::uint8_t>(bytes[i]);
+        const auto second = static_cast<std::uint8_t>(bytes[i + 1]);
+        units.push_back(static_cast<char16_t>(lowByteFirst ? second << 8U | first : first << 8U | second));
+    }
+    return units;
+}
+
+bool isUtf16(std::string_view bytes)
+{
+    return (bytes.starts_with(LowByteFirst) || bytes.starts_with(HighByteFirst)) &&
+           bytes.find('\0') != bytes.npos;
+}
+
+std::string fromUtf16(std::string_view bytes)
+{
+    constexpr char32_t replacement = 0xFFFD;
+    const std::u16string units = unitsOf(bytes.substr(LowByteFirst.size()), bytes.starts_with(LowByteFirst));
+    std::string text;
+    text.reserve(units.size());
+    for (std::size_t i = 0; i < units.size(); ++i) {
+        const char32_t unit = units[i];
+        const char32_t next = i + 1 < units.size() ? units[i + 1] : 0;
+        if (isHighSurrogate(unit) && isLowSurrogate(next)) {
+            appendUtf8(text, 0x10000 + ((unit & 0x3FF) << 10) + (next & 0x3FF));
+            ++i;
+        } else {
+            appendUtf8(text, isHighSurrogate(unit) || isLowSurrogate(unit) ? replacement : unit);
+        }
+    }
+    return text;
 }
 
 } // namespace
@@ -104,6 +160,8 @@ std::string fromWindows1252(std::string_view bytes)
 
 std::string decoded(std::string_view bytes)
 {
+    if (isUtf16(bytes))
+        return fromUtf16(bytes);
     if (!isUtf8(bytes))
         return fromWindows1252(bytes);
     if (bytes.starts_with(ByteOrderMark))
