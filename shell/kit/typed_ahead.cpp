@@ -5,6 +5,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMenuBar>
 
@@ -40,10 +41,19 @@ bool TypedAhead::somethingIsTyped() const
 
 bool TypedAhead::eventFilter(QObject* receiver, QEvent* event)
 {
-    if (event->type() != QEvent::KeyPress || !receiver->isWidgetType() ||
-        static_cast<QWidget*>(receiver)->window() != &window_ || qobject_cast<QMenuBar*>(receiver) != nullptr)
+    if (!receiver->isWidgetType() || static_cast<QWidget*>(receiver)->window() != &window_ ||
+        qobject_cast<QMenuBar*>(receiver) != nullptr)
         return false;
-    const auto& key = *static_cast<QKeyEvent*>(event);
+    if (event->type() == QEvent::KeyPress)
+        return keeps(*static_cast<QKeyEvent*>(event));
+    if (event->type() != QEvent::InputMethod)
+        return false;
+    keep(static_cast<QInputMethodEvent*>(event)->commitString());
+    return true;
+}
+
+bool TypedAhead::keeps(const QKeyEvent& key)
+{
     if (wouldPressButton(key) && !somethingIsTyped())
         return false;
     if (isEnter(key)) {
@@ -57,9 +67,14 @@ bool TypedAhead::eventFilter(QObject* receiver, QEvent* event)
     }
     if (!isLetter(key))
         return false;
-    if (!asksForHint(key.text()))
-        keys_ += key.text();
+    keep(key.text());
     return true;
+}
+
+void TypedAhead::keep(const QString& typed)
+{
+    if (!asksForHint(typed))
+        keys_ += typed;
 }
 
 } // namespace shell
