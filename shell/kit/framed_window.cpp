@@ -26,7 +26,7 @@ QSize FramedWindow::sizeHint() const
 void FramedWindow::showFrame()
 {
     if (!isVisible())
-        setAttribute(Qt::WA_Resized, false);
+        forgetSize();
     showInMainWindowState();
     placeFrame();
 }

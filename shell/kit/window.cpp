@@ -57,10 +57,28 @@ void Window::closeOnEscape()
 }
 
 // A window larger than the screen would hide its buttons.
-void Window::fitScreenAtFirst()
+void Window::fitContent()
 {
-    if (!testAttribute(Qt::WA_Resized))
-        resize(sizeHint().boundedTo(screen()->availableSize() * ShareOfScreen));
+    if (layout() != nullptr)
+        layout()->activate();
+    resize(sizeHint().boundedTo(screen()->availableSize() * ShareOfScreen));
+    fitted_ = size();
+}
+
+// Once the content has taken its new measures; the window may have been maximised by then.
+void Window::fitContentSoon()
+{
+    const auto fit = [this] {
+        if (!maximised_)
+            fitContent();
+    };
+    QMetaObject::invokeMethod(this, fit, Qt::QueuedConnection);
+}
+
+// Content that asks for more room since then has made the window larger.
+bool Window::isAsFitted() const
+{
+    return !fitted_.isValid() || size() == fitted_.expandedTo(minimumSize());
 }
 
 void Window::showInMainWindowState()
@@ -77,9 +95,11 @@ void Window::showAsDesigned()
 {
     if (growth_ != 1 || maximised_ || !measured_) {
         maximised_ = false;
+        forgetSize();
         takeSize(1);
     }
-    fitScreenAtFirst();
+    if (!fitted_.isValid())
+        fitContent();
     if (settings.MainWindowState == window_state::Normal)
         showNormal();
     else
@@ -167,6 +187,11 @@ void Window::layOutLines(QSize charactersAndLines, const QMargins& margins, std:
     setContent(centredBlock(charactersAndLines), margins, columnOf(MediumSpace, lines));
 }
 
+void Window::forgetSize()
+{
+    fitted_ = {};
+}
+
 // By the size that it has, since a window manager may maximise a window before or after it gives it its size.
 void Window::grow()
 {
@@ -178,8 +203,8 @@ void Window::grow()
         return;
     maximised_ = isMaximized();
     takeSize(growth);
-    if (becameNormal)
-        QMetaObject::invokeMethod(this, &Window::fitScreenAtFirst, Qt::QueuedConnection);
+    if (becameNormal && !fitted_.isValid())
+        fitContentSoon();
 }
 
 // A window in the designed size has the desktop's own font. Content that asks for more room would take a
@@ -215,9 +240,15 @@ void Window::changeEvent(QEvent* event)
 // A change of the desktop's font does not come as a change of the window where it has a font of its own.
 bool Window::event(QEvent* event)
 {
+    const bool fits = isAsFitted();
     const bool known = QWidget::event(event);
-    if (event->type() == QEvent::ApplicationFontChange)
-        takeSize(growth_);
+    if (event->type() != QEvent::ApplicationFontChange)
+        return known;
+    takeSize(growth_);
+    if (maximised_ || (fits && isHidden()))
+        forgetSize();
+    else if (fits)
+        fitContentSoon();
     return known;
 }
 

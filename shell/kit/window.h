@@ -52,6 +52,9 @@ protected:
     /// Makes such a block of parts from top to bottom, with these margins.
     void layOutLines(QSize charactersAndLines, const QMargins& margins, std::initializer_list<Part> lines);
 
+    /// Lets the window take the size that its content asks for when it is shown next.
+    void forgetSize();
+
     /// Makes Escape do what the close box does, wherever the focus is.
     void closeOnEscape();
 
@@ -68,7 +71,9 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void fitScreenAtFirst();
+    void fitContent();
+    void fitContentSoon();
+    bool isAsFitted() const;
     void centreOnScreen();
 
     void showAsDesigned();
@@ -78,6 +83,10 @@ private:
 
     std::string_view activeName_;
     Growth growth_ = 1;
+
+    /// The size that the content asked for last; not valid where the window is to take such a one. A window
+    /// that the learner gave another keeps that.
+    QSize fitted_;
 
     /// Whether the window was ever about to be shown: no font is loaded before.
     bool measured_ = false;

@@ -55,6 +55,30 @@ TEST_F(Looks, GrowAndShrinkByKeysInEachWindowButAMessageUpToBothEndsAndAreKeptAt
     EXPECT_TRUE(fake.messages.empty());
 }
 
+TEST_F(Looks, LeaveANormalWindowAsLargeAsItsContentAfterLargeTypeAndAfterItWasMaximised)
+{
+    QWidget& menu = start();
+    const auto sizeIn = [&](std::int16_t state) {
+        QWidget& list = open("FileVerbManager", "VerbManager");
+        shell::settings.MainWindowState = state;
+        tests::click(list, "VerbManagerBack");
+        QApplication::processEvents();
+        return menu.size();
+    };
+    const QSize designed = sizeIn(shell::window_state::Normal);
+    percentAfter(menu, Qt::Key_Plus, Qt::ControlModifier, 9);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return menu.height() > designed.height(); }));
+    percentAfter(menu, Qt::Key_0);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return menu.size() == designed; }));
+    sizeIn(shell::window_state::Maximised);
+    menu.resize(menu.screen()->size());
+    menu.overrideWindowState(Qt::WindowMaximized);
+    EXPECT_EQ(sizeIn(shell::window_state::Normal), designed);
+    menu.resize(designed + QSize(40, 40));
+    percentAfter(menu, Qt::Key_Minus);
+    EXPECT_EQ(menu.size(), designed + QSize(40, 40));
+}
+
 TEST_F(Looks, TakeMacronsAsMarksWhereTheyAreTypedOrPastedWithTheCursorBehindThem)
 {
     QWidget& manager = open("FileVerbManager", "VerbManager");
