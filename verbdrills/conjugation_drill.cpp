@@ -113,13 +113,20 @@ bool judgeConjugation(const std::string& answer)
     return answer == conjugationDrill.CorrectForm;
 }
 
-bool answersAnotherPerson(const std::string& answer)
+std::optional<OtherEnding> otherEndingIn(const std::string& answer)
 {
     const auto& column = verbTables.Forms[currentParadigm.ConjugationCode];
+    const auto isAnswered = [&](int person) {
+        return answer == column[verbs::formNumber(currentParadigm.TenseMoodCode, person)];
+    };
+    constexpr int persons = verbs::PersonCount / 2;
+    const int asked = conjugationDrill.PersonIndex + 1;
+    if (isAnswered(asked <= persons ? asked + persons : asked - persons))
+        return OtherEnding::Number;
     for (int person = verbs::FirstSingular; person <= verbs::PersonCount; ++person)
-        if (answer == column[verbs::formNumber(currentParadigm.TenseMoodCode, person)])
-            return true;
-    return false;
+        if (isAnswered(person))
+            return OtherEnding::Person;
+    return {};
 }
 
 shell::Place placeOfTense()

@@ -6,6 +6,7 @@
 #include "verbs/paradigm.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace verbdrills {
@@ -58,8 +59,10 @@ void buildDrillHeading();
 /// Whether an answer is `CorrectForm`, letter by letter; notes the answer and sets `FeedbackPending`.
 bool judgeConjugation(const std::string& answer);
 
-/// Whether a wrong answer is the form of another person of the tense.
-bool answersAnotherPerson(const std::string& answer);
+/// What a wrong answer has the ending of, in the tense that is drilled: the same person of the other number,
+/// or another person.
+enum class OtherEnding { Number, Person };
+std::optional<OtherEnding> otherEndingIn(const std::string& answer);
 
 /// Which tense is drilled, of those of its class that have forms; which class, while one tense is drilled
 /// through the classes.

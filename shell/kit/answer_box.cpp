@@ -73,9 +73,12 @@ void AnswerBox::focusInEvent(QFocusEvent* event)
     Q_EMIT focusReceived();
 }
 
+// The letter of a menu or a button that the window does not have is none of the answer.
 void AnswerBox::keyPressEvent(QKeyEvent* event)
 {
-    if (asksForHint(event->text()))
+    if (event->modifiers() == Qt::AltModifier && !event->text().isEmpty())
+        event->ignore();
+    else if (asksForHint(event->text()))
         Q_EMIT hintRequested();
     else
         QLineEdit::keyPressEvent(event);

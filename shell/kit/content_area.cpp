@@ -90,10 +90,22 @@ void ContentArea::fitContent()
     widget()->resize(room.expandedTo(least));
 }
 
+// What stands above is seen as far as the focus lets it; under a pressed button of the mouse nothing moves
+// that needs not.
 void ContentArea::showFocus(QWidget* focused)
 {
-    if (focused != nullptr && widget()->isAncestorOf(focused))
-        ensureWidgetVisible(focused, LargeSpace, LargeSpace);
+    if (focused == nullptr || !widget()->isAncestorOf(focused))
+        return;
+    if (QApplication::mouseButtons() == Qt::NoButton)
+        verticalScrollBar()->setValue(0);
+    ensureWidgetVisible(focused, LargeSpace, LargeSpace);
+}
+
+void bringIntoView(QWidget& shown)
+{
+    for (QWidget* above = shown.parentWidget(); above != nullptr; above = above->parentWidget())
+        if (auto* const area = qobject_cast<ContentArea*>(above))
+            area->ensureWidgetVisible(&shown, 0, HairSpace);
 }
 
 } // namespace shell

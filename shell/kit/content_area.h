@@ -27,4 +27,7 @@ private:
     void showFocus(QWidget* focused);
 };
 
+/// Scrolls the content that a widget stands in, if need be, so that it is seen.
+void bringIntoView(QWidget& shown);
+
 } // namespace shell

@@ -1,6 +1,7 @@
 #include "shell/kit/typing_drill.h"
 
 #include "shell/kit/answer_box.h"
+#include "shell/kit/content_area.h"
 #include "shell/kit/controls.h"
 #include "shell/kit/text.h"
 #include "shell/kit/type.h"
@@ -121,7 +122,10 @@ void TypingDrill::announce(bool right)
 
 void TypingDrill::clearWhy()
 {
+    if (why_->text().isEmpty())
+        return;
     why_->clear();
+    bringIntoView(askedBox());
     why_->setAccessibleName({});
 }
 
@@ -136,6 +140,7 @@ void TypingDrill::explain(const std::string& typed)
         text += QStringLiteral(" &nbsp; ") + fromUtf8(reason->currentOrDesigned()).toHtmlEscaped();
     why_->setText(text);
     why_->setAccessibleName(QTextDocumentFragment::fromHtml(text).toPlainText());
+    bringIntoView(*why_);
     QAccessibleEvent alert(why_, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
 }

@@ -184,7 +184,10 @@ TEST_F(EveryDrill, SaysWhyAnAnswerWasWrongUntilTheNextKeyAndHowFarOneIs)
     EXPECT_EQ(label(verbs, "WhereLabel"), "Zeitform 1 von 11");
     answer(verbs, "es");
     EXPECT_EQ(label(verbs, "WhyLabel"), "<u>e</u>s &nbsp; Das ist die Endung einer anderen Person.");
+    answer(verbs, "sumus");
+    EXPECT_EQ(label(verbs, "WhyLabel"), "sum<u>u</u>s &nbsp; Das ist die Endung des anderen Numerus.");
     press(verbs, Qt::Key_Right);
+    QTest::keyClick(verbs.focusWidget(), Qt::Key_Y, Qt::AltModifier);
     EXPECT_NE(label(verbs, "WhyLabel"), "");
     type(verbs, "s");
     EXPECT_EQ(label(verbs, "WhyLabel"), "");

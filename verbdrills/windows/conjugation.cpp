@@ -47,6 +47,7 @@ constexpr std::array Captions = {
 constexpr shell::LanguageTexts TenseOf{"tense %1 of %2",  "temps %1 sur %2",   "tempo %1 di %2",      "Zeitform %1 von %2",   "tiempo %1 de %2",    "tempus %1 ex %2"};
 constexpr shell::LanguageTexts ClassOf{"class %1 of %2",  "classe %1 sur %2",  "classe %1 di %2",     "Konjugation %1 von %2",   "clase %1 de %2",     "coniugatio %1 ex %2"};
 constexpr shell::LanguageTexts OtherPerson{"This is the ending of another person.", "C'est la terminaison d'une autre personne.", "È la desinenza di un'altra persona.", "Das ist die Endung einer anderen Person.", "Es la terminación de otra persona.", "Haec est desinentia alterius personae."};
+constexpr shell::LanguageTexts OtherNumber{"This is the ending of the other number.", "C'est la terminaison de l'autre nombre.", "È la desinenza dell'altro numero.", "Das ist die Endung des anderen Numerus.", "Es la terminación del otro número.", "Haec est desinentia alterius numeri."};
 // clang-format on
 
 } // namespace
@@ -178,7 +179,10 @@ std::string Conjugation::answer() const
 
 std::optional<shell::LanguageTexts> Conjugation::answersAnother(const std::string& typed) const
 {
-    return answersAnotherPerson(typed) ? std::optional(OtherPerson) : std::nullopt;
+    const auto other = otherEndingIn(typed);
+    if (!other)
+        return {};
+    return *other == OtherEnding::Number ? OtherNumber : OtherPerson;
 }
 
 void Conjugation::answerShown()
