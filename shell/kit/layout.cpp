@@ -18,12 +18,13 @@ QBoxLayout* filled(QBoxLayout* layout, int space, std::initializer_list<Part> pa
     return layout;
 }
 
+// On a low screen space between lines gives way before the content is scrolled.
 void setLength(QBoxLayout& layout, QSpacerItem& space, int pixels)
 {
     const bool upright = layout.direction() == QBoxLayout::TopToBottom;
     space.changeSize(upright ? 0 : pixels, upright ? pixels : 0,
                      upright ? QSizePolicy::Minimum : QSizePolicy::Fixed,
-                     upright ? QSizePolicy::Fixed : QSizePolicy::Minimum);
+                     upright ? QSizePolicy::Maximum : QSizePolicy::Minimum);
     layout.invalidate();
 }
 

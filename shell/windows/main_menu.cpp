@@ -30,7 +30,7 @@ constexpr QSize LargestBlock{72, 34};
 
 constexpr int ButtonCharacters = 18;
 constexpr int ButtonLines = 3;
-constexpr int FewestButtonLines = 2;
+constexpr int FewestButtonLines = 1;
 
 constexpr int ButtonColumns = 2;
 
