@@ -150,11 +150,12 @@ void Declination::placeRows()
     placeTops(*nameRows_, accusativeSecond ? NameTopsWithAccusativeSecond : NameTops, box(0));
     shell::keepMeasure(*singular_, "firstBox", [this](shell::Growth growth) {
         const int title = singular_->contentsMargins().top();
+        const int foot = singular_->contentsMargins().bottom();
         const int belowTitle = std::max(shell::HairSpace, pixels(BoxTops.front(), growth) - title);
         for (const QGroupBox* const frame : {singular_, plural_})
             frame->layout()->setContentsMargins(shell::MediumSpace, belowTitle, shell::MediumSpace,
                                                 shell::SmallSpace);
-        nameRows_->setContentsMargins(0, title + belowTitle, 0, 0);
+        nameRows_->setContentsMargins(0, title + belowTitle, 0, shell::SmallSpace + foot);
     });
 }
 
