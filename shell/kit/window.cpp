@@ -63,6 +63,15 @@ void Window::fitContent()
         layout()->activate();
     resize(sizeHint().boundedTo(screen()->availableSize() * ShareOfScreen));
     fitted_ = size();
+    if (isVisible())
+        stayOnScreen();
+}
+
+void Window::stayOnScreen()
+{
+    const QPoint beyond = frameGeometry().bottomRight() - screen()->availableGeometry().bottomRight();
+    if (beyond.x() > 0 || beyond.y() > 0)
+        move(pos() - QPoint(std::max(beyond.x(), 0), std::max(beyond.y(), 0)));
 }
 
 // Once the content has taken its new measures; the window may have been maximised by then.

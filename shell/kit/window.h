@@ -73,6 +73,7 @@ protected:
 private:
     void fitContent();
     void fitContentSoon();
+    void stayOnScreen();
     bool isAsFitted() const;
     void centreOnScreen();
 
