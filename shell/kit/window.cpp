@@ -100,8 +100,10 @@ void Window::showInMainWindowState()
     activateWindow();
 }
 
+// A new size would hide from Qt that the hidden window is still maximised.
 void Window::showAsDesigned()
 {
+    setWindowState(windowState() & ~Qt::WindowMaximized);
     if (growth_ != 1 || maximised_ || !measured_) {
         maximised_ = false;
         forgetSize();
