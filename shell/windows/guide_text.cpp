@@ -7,6 +7,8 @@
 #include <QTextBlock>
 #include <QTextTable>
 
+#include <algorithm>
+
 namespace shell {
 
 namespace {
@@ -58,6 +60,20 @@ void setSpace(const QTextBlock& block)
     if (block.blockFormat().headingLevel() > 1)
         format.setTopMargin(WideSpace);
     QTextCursor(block).mergeBlockFormat(format);
+}
+
+// Type of a fixed size would not grow with the text.
+void growWithText(QTextDocument& text)
+{
+    for (QTextBlock block = text.begin(); block.isValid(); block = block.next())
+        for (const auto& range : block.textFormats()) {
+            QTextCharFormat format = range.format;
+            format.clearProperty(QTextFormat::FontPointSize);
+            QTextCursor cursor(block);
+            cursor.setPosition(block.position() + range.start);
+            cursor.setPosition(block.position() + range.start + range.length, QTextCursor::KeepAnchor);
+            cursor.setCharFormat(format);
+        }
 }
 
 void setTable(QTextTable& table, const QBrush& border)
@@ -117,6 +133,7 @@ QTextDocument* GuideText::madeReady(const QString& guide)
         if (block.blockFormat().headingLevel() > 0)
             openSections(block);
     }
+    growWithText(*ready);
     for (QTextFrame* const frame : ready->rootFrame()->childFrames())
         if (auto* const table = qobject_cast<QTextTable*>(frame))
             setTable(*table, palette().mid());
@@ -186,10 +203,30 @@ bool GuideText::mark(const QTextCursor& found)
 
 void GuideText::resizeEvent(QResizeEvent* event)
 {
-    const QTextCursor top = cursorForPosition(QPoint(0, 0));
-    const int before = cursorRect(top).top();
+    const QTextCursor place = readersPlace();
+    const int top = cursorRect(place).top();
     QTextBrowser::resizeEvent(event);
-    verticalScrollBar()->setValue(verticalScrollBar()->value() + cursorRect(top).top() - before);
+    bringBack(place, top);
+}
+
+// A text in type of another size is laid out anew.
+void GuideText::changeEvent(QEvent* event)
+{
+    const QTextCursor place = readersPlace();
+    const int top = cursorRect(place).top();
+    QTextBrowser::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::ApplicationFontChange)
+        bringBack(place, top);
+}
+
+// The scroll bar hears of the new height of the text only later.
+void GuideText::bringBack(const QTextCursor& place, int top)
+{
+    QScrollBar& bar = *verticalScrollBar();
+    bar.setMaximum(qRound(document()->size().height()) - viewport()->height());
+    const QRect now = cursorRect(place);
+    const int lowest = viewport()->height() - now.height();
+    bar.setValue(bar.value() + now.top() - std::min(top, lowest));
 }
 
 } // namespace shell

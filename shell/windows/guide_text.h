@@ -32,14 +32,16 @@ public:
     bool findPrevious(const QString& words);
 
 protected:
-    /// Keeps the line at the top where it is.
+    /// These keep the reader's place where it is.
     void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     void offerToScrollSideways(int least, int most);
     QTextDocument* madeReady(const QString& guide);
     void openSections(const QTextBlock& heading);
     QTextCursor readersPlace() const;
+    void bringBack(const QTextCursor& place, int top);
     bool mark(const QTextCursor& found);
 
     QString guide_;

@@ -26,7 +26,7 @@ namespace {
 // In characters and lines.
 constexpr QSize LargestBlock{100, 50};
 constexpr QSize NormalSize{92, 36};
-constexpr int LeastWidthBeside = 66;
+constexpr int LeastWidthBeside = 34;
 constexpr int WidthOfFind = 24;
 
 // clang-format off

@@ -97,7 +97,7 @@ const LanguageTexts FirstStepsTexts = {
     .italian = {},
     .german = "1. Wählen Sie eine Übung und dann den Stoff.\n"
               "2. Tippen Sie die Form ein und drücken Sie Enter.\n"
-              "3. Kennen Sie sie nicht, so zeigt „?“ sie Ihnen.",
+              "3. Wenn Sie sie nicht wissen, zeigt „?“ sie an.",
     .spanish = "1. Elija un ejercicio y luego qué practicar.\n"
                "2. Escriba la forma que se pide y pulse Intro.\n"
                "3. Si no la sabe, «?» se la muestra.",

@@ -160,14 +160,29 @@ TEST_F(Help, OpensAtTheSectionOfTheWindowThatAsksInGermanWhereThatGuideIsThere)
 
 TEST_F(Help, StandsBesideTheWindowThatAsksWhereThereIsRoom)
 {
-    for (const int x : {5, 500}) {
+    for (const auto& [x, width] : {std::pair{5, 200}, {500, 200}, {380, 400}}) {
         QWidget& window = open("MainABout", "About");
-        window.setGeometry(x, 40, 200, 200);
+        window.setGeometry(x, 40, width, 200);
         press(window, Qt::Key_F1);
         QWidget& help = tests::shown("Help");
         EXPECT_FALSE(help.frameGeometry().intersects(window.frameGeometry())) << x;
         EXPECT_TRUE(help.screen()->availableGeometry().contains(help.frameGeometry())) << x;
         help.close();
+    }
+}
+
+TEST_F(Help, KeepsTheHeadingAtTheTopAndGrowsInFixedTypeTooWhenTheTypeGrows)
+{
+    tests::copySample("morvanti.hlp");
+    press(open("SetDelay", "DelayInterval"), Qt::Key_F1);
+    const auto& text = tests::control<QTextBrowser>(tests::shown("Help"));
+    const QTextBlock example = text.document()->find("f. -ae, puell").block();
+    const double before = example.layout()->boundingRect().height();
+    for (const auto key : {Qt::Key_Plus, Qt::Key_Plus, Qt::Key_Plus, Qt::Key_0, Qt::Key_Minus}) {
+        QTest::keyClick(text.window(), key, Qt::ControlModifier);
+        QApplication::processEvents();
+        EXPECT_EQ(headingAtTheTop(text), "The pause") << key;
+        EXPECT_EQ(example.layout()->boundingRect().height() > before, key == Qt::Key_Plus);
     }
 }
 
