@@ -104,9 +104,13 @@ TEST_F(Tables, NarrowTheListByWhatIsTypedAndKeepTheChosenWordWhereItIsLeft)
     EXPECT_EQ(chosen() + ", " + chosen(Qt::AccessibleDescriptionRole), "puellae, singular Genitive");
     press(window, Qt::Key_Tab);
     EXPECT_EQ(tests::focusIn(window), "TablesCopy");
+    EXPECT_EQ(label(window, "TablesFilterState"), "");
     tests::fill(filter, "xyz");
     press(window, Qt::Key_Down);
-    EXPECT_EQ(title(), "puella (f. -ae)");
+    EXPECT_EQ(title() + label(window, "TablesFilterState"), "puella (f. -ae)Not in the lists");
+    window.resize(1280, 800);
+    choose("puella");
+    EXPECT_LE(tree().sizeHintForColumn(0), tree().viewport()->width()) << "names are cut off";
 }
 
 TEST_F(Tables, TellAllThatAFormCanBeAndShowItInItsTable)
@@ -121,6 +125,7 @@ TEST_F(Tables, TellAllThatAFormCanBeAndShowItInItsTable)
               QStringList{"amet: amare, 3rd Person Sing, First Conjugation, Present Subjunctive"});
     tests::fill(line(window, "TablesForm"), "reges");
     ASSERT_EQ(readings.count(), 3);
+    EXPECT_EQ(readings.viewport()->height(), 3 * readings.sizeHintForRow(0));
     press(window, Qt::Key_Return);
     EXPECT_EQ(title() + chosen(), "regere, Third Conjugationreges");
     press(window, Qt::Key_Down);
@@ -157,7 +162,12 @@ TEST_F(Tables, OpenByF2AtTheWordThatStandsInADrillOrListAndCostNothing)
     EXPECT_EQ(title(), "amare, First Conjugation");
     press(shown("Tables"), Qt::Key_Escape);
     EXPECT_TRUE(modal.isVisible() && shownWindow("Tables") == nullptr);
+    tree().collapseAll();
     press(modal, Qt::Key_F2);
+    EXPECT_EQ(tree().currentIndex().data().toString().toStdString(), title());
+    EXPECT_TRUE(tree().visualRect(tree().currentIndex()).isValid()) << "its branch is open";
+    EXPECT_EQ(line(shown("Tables"), "TablesForm").text(), "");
+    EXPECT_EQ(chosen(Qt::AccessibleDescriptionRole), "singular Nominative") << "not the form last looked up";
     press(modal, Qt::Key_Escape);
     EXPECT_EQ(shown("Tables").windowHandle()->transientParent(), shown("DeclinationChoose").windowHandle());
     tests::doubleClickRow(list(shown("DeclinationChoose"), "DeclinationList"), 1);
@@ -221,6 +231,11 @@ TEST_F(Tables, CopyAndSaveTheTableAsTextHtmlAndPdfAndTellWhatCannotBeWritten)
 {
     QWidget& window = openTables();
     choose("res");
+    view().setFocus();
+    press(window, Qt::Key_Down);
+    EXPECT_EQ(label(window, "TablesRemark"), "sic. re:i: here. A grammar has: rei:");
+    press(window, Qt::Key_Down);
+    EXPECT_EQ(label(window, "TablesRemark"), "");
     tests::click(window, "TablesCopy");
     const QMimeData& copied = *QGuiApplication::clipboard()->mimeData();
     EXPECT_EQ(copied.text().section('\n', 0, 4),
