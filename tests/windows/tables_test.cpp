@@ -107,10 +107,12 @@ TEST_F(Tables, NarrowTheListByWhatIsTypedAndKeepTheChosenWordWhereItIsLeft)
     EXPECT_EQ(label(window, "TablesFilterState"), "");
     tests::fill(filter, "xyz");
     press(window, Qt::Key_Down);
-    EXPECT_EQ(title() + label(window, "TablesFilterState"), "puella (f. -ae)Not in the lists");
+    EXPECT_EQ(title() + label(window, "TablesFilterState").toStdString(), "puella (f. -ae)Not in the lists");
     window.resize(1280, 800);
-    choose("puella");
-    EXPECT_LE(tree().sizeHintForColumn(0), tree().viewport()->width()) << "names are cut off";
+    choose("rex");
+    QApplication::processEvents();
+    const QModelIndex group = tree().currentIndex().parent();
+    EXPECT_GE(tree().visualRect(group).width(), tree().sizeHintForIndex(group).width()) << "cut off";
 }
 
 TEST_F(Tables, TellAllThatAFormCanBeAndShowItInItsTable)
@@ -160,9 +162,9 @@ TEST_F(Tables, OpenByF2AtTheWordThatStandsInADrillOrListAndCostNothing)
     tests::fill(line(shown("Tables"), "TablesForm"), "amet");
     press(shown("Tables"), Qt::Key_Return);
     EXPECT_EQ(title(), "amare, First Conjugation");
+    tree().collapseAll();
     press(shown("Tables"), Qt::Key_Escape);
     EXPECT_TRUE(modal.isVisible() && shownWindow("Tables") == nullptr);
-    tree().collapseAll();
     press(modal, Qt::Key_F2);
     EXPECT_EQ(tree().currentIndex().data().toString().toStdString(), title());
     EXPECT_TRUE(tree().visualRect(tree().currentIndex()).isValid()) << "its branch is open";
@@ -234,7 +236,7 @@ TEST_F(Tables, CopyAndSaveTheTableAsTextHtmlAndPdfAndTellWhatCannotBeWritten)
     view().setFocus();
     press(window, Qt::Key_Down);
     EXPECT_EQ(label(window, "TablesRemark"), "sic. re:i: here. A grammar has: rei:");
-    press(window, Qt::Key_Down);
+    press(window, Qt::Key_Down, 2);
     EXPECT_EQ(label(window, "TablesRemark"), "");
     tests::click(window, "TablesCopy");
     const QMimeData& copied = *QGuiApplication::clipboard()->mimeData();
