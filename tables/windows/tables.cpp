@@ -34,7 +34,6 @@ namespace tables {
 
 using shell::Caption;
 using shell::makeButton;
-using shell::Part;
 
 namespace {
 
