@@ -8,12 +8,14 @@
 #include "shell/kit/type.h"
 #include "shell/language_texts.h"
 #include "shell/macrons.h"
+#include "tables/windows/search_field.h"
 
 #include <QBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QShortcut>
 #include <QSignalBlocker>
+
+#include <algorithm>
 
 namespace tables {
 
@@ -23,12 +25,12 @@ using shell::macronsWhereShown;
 
 namespace {
 
-constexpr int ReadingsShown = 5;
+constexpr int MostReadingsShown = 5;
+constexpr int PartOfLowWindow = 4;
 
 // clang-format off
-//                                 English             French                Italian               German                 Spanish                  Latin
-constexpr LanguageTexts NotListed {"Not in the lists", "Pas dans les listes", "Non è nelle liste", "Nicht in den Listen", "No está en las listas", "Non est in indicibus"};
-constexpr LanguageTexts Readings  {"Readings",         "Analyses",            "Analisi",           "Bestimmungen",        "Análisis",              "Explicationes"};
+//                                English     French      Italian    German          Spanish     Latin
+constexpr LanguageTexts Readings {"Readings", "Analyses", "Analisi", "Bestimmungen", "Análisis", "Explicationes"};
 // clang-format on
 
 QString rowOf(const Reading& reading)
@@ -58,10 +60,7 @@ void ReadingsPanel::makeControls()
     shell::setType(*form_, shell::SentenceType);
     form_->setClearButtonEnabled(true);
     readings_->setUniformItemSizes(true);
-    shell::keepMeasure(*readings_, "height", [this](shell::Growth) {
-        readings_->setFixedHeight(ReadingsShown *
-                                  (readings_->fontMetrics().lineSpacing() + shell::SmallSpace));
-    });
+    shell::keepMeasure(*readings_, "height", [this](shell::Growth) { fitHeight(); });
     readings_->hide();
 }
 
@@ -104,19 +103,34 @@ void ReadingsPanel::findReadings()
         showReadings();
     }
     const bool isMissing = found_.empty() && !form_->text().trimmed().isEmpty();
-    state_->setVisible(isMissing);
-    state_->setText(isMissing ? shell::fromUtf8(NotListed) : QString());
+    tellThatNoneIsListed(*state_, isMissing);
 }
 
-// As long as a form is typed their room stays: the table below would be laid out anew, and jump, at each
-// letter.
+void ReadingsPanel::clear()
+{
+    form_->clear();
+}
+
+// While a form is typed the room of the readings stays where there are none: the table below would be laid
+// out anew, and jump, at each letter.
 void ReadingsPanel::showReadings()
 {
     const bool roomStays = !readings_->isHidden() && !form_->text().isEmpty();
     const QSignalBlocker quiet(readings_);
     readings_->clear();
     readings_->addItems(rows_);
+    fitHeight();
     readings_->setVisible(roomStays || !rows_.isEmpty());
+}
+
+void ReadingsPanel::fitHeight()
+{
+    if (rows_.isEmpty())
+        return;
+    const int row = readings_->sizeHintForRow(0);
+    const int most = std::min(MostReadingsShown, window()->height() / PartOfLowWindow / row);
+    const int rows = std::clamp(static_cast<int>(rows_.size()), 1, std::max(1, most));
+    readings_->setFixedHeight(rows * row + 2 * readings_->frameWidth());
 }
 
 void ReadingsPanel::goToReadings()
@@ -143,13 +157,6 @@ void ReadingsPanel::take(int row)
     choose(row);
     if (row >= 0)
         form_->selectAll();
-}
-
-void connectDown(QLineEdit& field, const std::function<void()>& step)
-{
-    auto* const shortcut = new QShortcut(Qt::Key_Down, &field);
-    shortcut->setContext(Qt::WidgetShortcut);
-    QObject::connect(shortcut, &QShortcut::activated, &field, step);
 }
 
 } // namespace tables

@@ -5,7 +5,6 @@
 #include <QStringList>
 #include <QWidget>
 
-#include <functional>
 #include <vector>
 
 class QLabel;
@@ -28,6 +27,13 @@ public:
     /// Finds the readings anew where the lists, their marks or the language have changed. What was chosen
     /// stays so without being told again.
     void refresh();
+
+    /// Forgets the form that was looked up.
+    void clear();
+
+    /// Gives the readings the height of their rows, up to five; in a low window, whose height has changed, at
+    /// most a quarter of it.
+    void fitHeight();
 
     /// The field for the form, which has the focus first.
     QLineEdit& form() { return *form_; }
@@ -56,8 +62,5 @@ private:
     QLabel* state_ = nullptr;
     shell::ListOfItsRows* readings_ = nullptr;
 };
-
-/// Does something at the down arrow in a field.
-void connectDown(QLineEdit& field, const std::function<void()>& step);
 
 } // namespace tables

@@ -11,7 +11,7 @@
 #include "tables/windows/page_document.h"
 #include "tables/windows/page_model.h"
 #include "tables/windows/readings_panel.h"
-#include "tables/windows/words_model.h"
+#include "tables/windows/words_panel.h"
 
 #include <QBoxLayout>
 #include <QClipboard>
@@ -22,10 +22,11 @@
 #include <QMimeData>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollBar>
 #include <QTableView>
 #include <QTextDocument>
-#include <QTreeView>
 
+#include <algorithm>
 #include <array>
 #include <filesystem>
 
@@ -33,7 +34,6 @@ namespace tables {
 
 using shell::Caption;
 using shell::makeButton;
-using shell::Part;
 
 namespace {
 
@@ -41,7 +41,7 @@ namespace {
 constexpr QSize LargestBlock{220, 60};
 constexpr QSize NormalSize{210, 50};
 constexpr double ShareOfScreen = 0.95;
-constexpr int WordCharacters = 28;
+constexpr int LeastCharactersOfPage = 50;
 constexpr int LeastLinesOfPage = 6;
 
 // clang-format off
@@ -56,11 +56,6 @@ constexpr std::array Captions = {
 };
 // clang-format on
 
-QString withoutAccessKey(const QLabel& label)
-{
-    return label.text().remove(QLatin1Char('&'));
-}
-
 bool isForHtml(const std::filesystem::path& path)
 {
     const QString ending = shell::fromUtf8(path.extension().string()).toLower();
@@ -69,9 +64,7 @@ bool isForHtml(const std::filesystem::path& path)
 
 } // namespace
 
-Tables::Tables()
-    : Window("Tables"), words_(new WordsModel(this)), filtered_(new WordsFilter(this)),
-      page_(new PageModel(this))
+Tables::Tables() : Window("Tables"), page_(new PageModel(this))
 {
     makeControls();
     layOut();
@@ -83,32 +76,16 @@ Tables::Tables()
 void Tables::makeControls()
 {
     readings_ = new ReadingsPanel(this);
-    filter_ = shell::makeControl<QLineEdit>(this, "TablesFilter");
-    filterLabel_ = shell::makeLabelOf(filter_, "TablesFilterLabel");
-    tree_ = shell::makeControl<QTreeView>(this, "TablesWords");
+    words_ = new WordsPanel(this);
     title_ = shell::makeHeading(this, "TablesTitle", shell::SentenceType);
     view_ = shell::makeControl<QTableView>(this, "TablesView");
     copy_ = makeButton(this, "TablesCopy");
     save_ = makeButton(this, "TablesSave");
+    remark_ = shell::makeLabel(this, "TablesRemark");
     close_ = makeButton(this, "TablesClose");
 
-    prepareWords();
+    shell::wrapText(*remark_, 1);
     prepareView();
-}
-
-void Tables::prepareWords()
-{
-    filter_->setClearButtonEnabled(true);
-    filter_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    filtered_->setSourceModel(words_);
-    tree_->setModel(filtered_);
-    tree_->setHeaderHidden(true);
-    tree_->setUniformRowHeights(true);
-    tree_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    shell::keepMeasure(*tree_, "width", [this](shell::Growth growth) {
-        // The table grows, and needs the room.
-        tree_->setFixedWidth(qRound(WordCharacters * tree_->fontMetrics().averageCharWidth() / growth));
-    });
 }
 
 // A little smaller than other type: on a maximised window too the six persons of a verb are to be seen.
@@ -125,6 +102,7 @@ void Tables::prepareView()
         header->setResizeContentsPrecision(-1);
         header->setHighlightSections(false);
     }
+    view_->installEventFilter(this);
     shell::keepMeasure(*view_, "lines", [this](shell::Growth) {
         view_->setMinimumHeight(LeastLinesOfPage * view_->fontMetrics().lineSpacing());
         fitPage();
@@ -139,6 +117,17 @@ void Tables::fitPage()
             view_->setSpan(row, 0, 1, page_->columnCount());
     view_->resizeColumnsToContents();
     view_->resizeRowsToContents();
+    fitWords();
+}
+
+// The table has its room first, and the names of the words what it leaves beside itself.
+void Tables::fitWords()
+{
+    const int page = view_->verticalHeader()->sizeHint().width() + view_->horizontalHeader()->length() +
+                     view_->verticalScrollBar()->sizeHint().width() + 2 * view_->frameWidth();
+    const int least =
+        std::max(title_->sizeHint().width(), LeastCharactersOfPage * fontMetrics().averageCharWidth());
+    words_->fitWidth(words_->width() + view_->width() - std::max(page, least));
 }
 
 void Tables::layOut()
@@ -146,7 +135,9 @@ void Tables::layOut()
     shell::setContent(
         centredBlock(LargestBlock), {},
         shell::columnOf(shell::MediumSpace,
-                        {readings_, {wordsBesidePage(), 1}, shell::buttonRow({copy_, save_}, {close_})}));
+                        {readings_,
+                         {wordsBesidePage(), 1},
+                         shell::rowOf(shell::SmallSpace, {copy_, save_, {remark_, 1}, close_})}));
     const QSize normal(NormalSize.width() * fontMetrics().averageCharWidth(),
                        NormalSize.height() * fontMetrics().lineSpacing());
     resize(normal.boundedTo(screen()->availableSize() * ShareOfScreen));
@@ -154,21 +145,16 @@ void Tables::layOut()
 
 QBoxLayout* Tables::wordsBesidePage()
 {
-    auto* const words = shell::columnOf(
-        shell::SmallSpace, {shell::rowOf(shell::SmallSpace, {filterLabel_, {filter_, 1}}), {tree_, 1}});
     auto* const page = shell::columnOf(shell::SmallSpace, {title_, {view_, 1}});
-    return shell::rowOf(shell::LargeSpace, {words, {page, 1}});
+    return shell::rowOf(shell::LargeSpace, {words_, {page, 1}});
 }
 
 void Tables::connectControls()
 {
     connect(readings_, &ReadingsPanel::readingChosen, this, &Tables::showReading);
-    connect(filter_, &QLineEdit::textChanged, this, &Tables::filterWords);
-    connect(filter_, &QLineEdit::returnPressed, this, &Tables::takeFirstWord);
-    connectDown(*filter_, [this] { goToWords(); });
-    connect(tree_->selectionModel(), &QItemSelectionModel::currentChanged, this, &Tables::takeWord);
-
+    connect(words_, &WordsPanel::wordChosen, this, &Tables::showPageFromTop);
     connect(page_, &QAbstractItemModel::modelReset, this, &Tables::fitPage);
+    connect(view_->selectionModel(), &QItemSelectionModel::currentChanged, this, &Tables::showRemark);
     connect(copy_, &QPushButton::clicked, this, &Tables::copy);
     connect(save_, &QPushButton::clicked, this, &Tables::save);
     connect(close_, &QPushButton::clicked, this, &Tables::left);
@@ -177,7 +163,6 @@ void Tables::connectControls()
 void Tables::setCaptions()
 {
     shell::applyCaptions(*this, Captions);
-    tree_->setAccessibleName(withoutAccessKey(*filterLabel_));
 }
 
 void Tables::open()
@@ -190,10 +175,10 @@ void Tables::open()
 
 void Tables::openAt(const Word& word)
 {
-    word_ = word;
-    listWords();
-    filter_->clear();
+    readings_->clear();
+    words_->chooseAmongAll(word);
     open();
+    showPageFromTop(words_->word());
     view_->setFocus();
 }
 
@@ -202,69 +187,25 @@ void Tables::becameActive()
     refresh();
 }
 
+void Tables::resizeEvent(QResizeEvent* event)
+{
+    Window::resizeEvent(event);
+    readings_->fitHeight();
+}
+
+bool Tables::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == view_ && event->type() == QEvent::Resize)
+        fitWords();
+    return Window::eventFilter(watched, event);
+}
+
 void Tables::refresh()
 {
     setCaptions();
-    listWords();
+    words_->refresh();
     readings_->refresh();
-    showPage(word_, page_->cellAt(view_->currentIndex()));
-}
-
-// Where the chosen word is listed no more, the first one is chosen.
-void Tables::listWords()
-{
-    if (!words_->isOutOfDate())
-        return;
-    tree_->setCurrentIndex({});
-    words_->list();
-    if (!words_->indexOf(word_).isValid())
-        word_ = words_->wordAt(words_->index(0, 0, words_->index(0, 0))).value_or(word_);
-    filterWords();
-}
-
-// Without a current word none is taken in place of one that goes.
-void Tables::filterWords()
-{
-    tree_->setCurrentIndex({});
-    filtered_->setTyped(filter_->text());
-    if (filter_->text().isEmpty())
-        tree_->collapseAll();
-    else
-        tree_->expandAll();
-    markChosenWord();
-}
-
-void Tables::markChosenWord()
-{
-    const QModelIndex row = filtered_->mapFromSource(words_->indexOf(word_));
-    if (row == tree_->currentIndex())
-        return;
-    tree_->setCurrentIndex(row);
-    if (!row.isValid())
-        return;
-    tree_->scrollTo(row.parent());
-    tree_->scrollTo(row);
-}
-
-void Tables::goToWords()
-{
-    if (!tree_->currentIndex().isValid())
-        takeFirstWord();
-    tree_->setFocus();
-}
-
-void Tables::takeFirstWord()
-{
-    tree_->setCurrentIndex(filtered_->index(0, 0, filtered_->index(0, 0)));
-}
-
-void Tables::takeWord(const QModelIndex& row)
-{
-    const auto word = words_->wordAt(filtered_->mapToSource(row));
-    if (!word || *word == word_)
-        return;
-    word_ = *word;
-    showPage(word_, 0);
+    showPage(words_->word(), page_->cellAt(view_->currentIndex()));
 }
 
 void Tables::showPage(const Word& word, int cell)
@@ -275,11 +216,24 @@ void Tables::showPage(const Word& word, int cell)
     view_->setCurrentIndex(page_->indexOf(cell));
 }
 
+// The first form stands below the heading of its mood, which comes into view with it.
+void Tables::showPageFromTop(const Word& word)
+{
+    showPage(word, 0);
+    view_->scrollToTop();
+}
+
 void Tables::showReading(const Reading& reading)
 {
-    word_ = reading.word;
-    markChosenWord();
+    words_->choose(reading.word);
     showPage(reading.word, reading.cell);
+}
+
+// What the tip of a "sic" says, for the cell that the arrow keys came to.
+void Tables::showRemark()
+{
+    const QString tip = view_->currentIndex().data(Qt::ToolTipRole).toString();
+    remark_->setText(tip.isEmpty() ? tip : QStringLiteral("sic. ") + tip);
 }
 
 void Tables::copy()
@@ -293,7 +247,7 @@ void Tables::copy()
 void Tables::save()
 {
     // A star in the name of a group would stand for any letters.
-    std::string name = shell::withoutMarks(nameOf(word_).text);
+    std::string name = shell::withoutMarks(nameOf(words_->word()).text);
     std::erase_if(name, [](char letter) { return letter == '*'; });
     if (name.ends_with('-'))
         name.pop_back();

@@ -5,18 +5,14 @@
 
 class QBoxLayout;
 class QLabel;
-class QLineEdit;
-class QModelIndex;
 class QPushButton;
 class QTableView;
-class QTreeView;
 
 namespace tables {
 
 class PageModel;
 class ReadingsPanel;
-class WordsFilter;
-class WordsModel;
+class WordsPanel;
 
 /// Shows the whole table of any listed word, and all that a form can be. It stands beside the other windows.
 /// When it becomes the active one it is refreshed, and keeps what was chosen.
@@ -26,8 +22,10 @@ class Tables : public shell::Window {
 public:
     Tables();
 
-    /// Shows the window in front of the others, with the word that it had, or that word.
+    /// Shows the window in front of the others, as it was left.
     void open();
+
+    /// The same with that word, its first form, and no form looked up.
     void openAt(const Word& word);
 
     /// Shows the lists and the settings as they are now.
@@ -35,43 +33,35 @@ public:
 
 protected:
     void becameActive() override;
+    void resizeEvent(QResizeEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void makeControls();
-    void prepareWords();
     void prepareView();
     void fitPage();
+    void fitWords();
     void layOut();
     QBoxLayout* wordsBesidePage();
     void connectControls();
     void setCaptions();
 
-    void listWords();
-    void filterWords();
-    void markChosenWord();
-    void goToWords();
-    void takeFirstWord();
-    void takeWord(const QModelIndex& row);
     void showPage(const Word& word, int cell);
-
+    void showPageFromTop(const Word& word);
     void showReading(const Reading& reading);
+    void showRemark();
 
     void copy();
     void save();
     void writeFile(const std::string& path);
 
-    Word word_{WordKind::Verb, 1, 1};
-
-    WordsModel* words_ = nullptr;
-    WordsFilter* filtered_ = nullptr;
     PageModel* page_ = nullptr;
 
     ReadingsPanel* readings_ = nullptr;
-    QLabel* filterLabel_ = nullptr;
-    QLineEdit* filter_ = nullptr;
-    QTreeView* tree_ = nullptr;
+    WordsPanel* words_ = nullptr;
     QLabel* title_ = nullptr;
     QTableView* view_ = nullptr;
+    QLabel* remark_ = nullptr;
     QPushButton* copy_ = nullptr;
     QPushButton* save_ = nullptr;
     QPushButton* close_ = nullptr;

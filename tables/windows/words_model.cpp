@@ -43,8 +43,11 @@ void WordsModel::list()
     for (const auto& [title, names] : names_) {
         auto* const group = new QStandardItem(title);
         group->setToolTip(title);
-        for (const QString& name : names)
-            group->appendRow(new QStandardItem(name));
+        for (const QString& name : names) {
+            auto* const word = new QStandardItem(name);
+            word->setToolTip(name);
+            group->appendRow(word);
+        }
         appendRow(group);
     }
 }

@@ -104,9 +104,15 @@ TEST_F(Tables, NarrowTheListByWhatIsTypedAndKeepTheChosenWordWhereItIsLeft)
     EXPECT_EQ(chosen() + ", " + chosen(Qt::AccessibleDescriptionRole), "puellae, singular Genitive");
     press(window, Qt::Key_Tab);
     EXPECT_EQ(tests::focusIn(window), "TablesCopy");
+    EXPECT_EQ(label(window, "TablesFilterState"), "");
     tests::fill(filter, "xyz");
     press(window, Qt::Key_Down);
-    EXPECT_EQ(title(), "puella (f. -ae)");
+    EXPECT_EQ(title() + label(window, "TablesFilterState").toStdString(), "puella (f. -ae)Not in the lists");
+    window.resize(1280, 800);
+    choose("rex");
+    QApplication::processEvents();
+    const QModelIndex group = tree().currentIndex().parent();
+    EXPECT_GE(tree().visualRect(group).width(), tree().sizeHintForIndex(group).width()) << "cut off";
 }
 
 TEST_F(Tables, TellAllThatAFormCanBeAndShowItInItsTable)
@@ -121,6 +127,7 @@ TEST_F(Tables, TellAllThatAFormCanBeAndShowItInItsTable)
               QStringList{"amet: amare, 3rd Person Sing, First Conjugation, Present Subjunctive"});
     tests::fill(line(window, "TablesForm"), "reges");
     ASSERT_EQ(readings.count(), 3);
+    EXPECT_EQ(readings.viewport()->height(), 3 * readings.sizeHintForRow(0));
     press(window, Qt::Key_Return);
     EXPECT_EQ(title() + chosen(), "regere, Third Conjugationreges");
     press(window, Qt::Key_Down);
@@ -155,9 +162,14 @@ TEST_F(Tables, OpenByF2AtTheWordThatStandsInADrillOrListAndCostNothing)
     tests::fill(line(shown("Tables"), "TablesForm"), "amet");
     press(shown("Tables"), Qt::Key_Return);
     EXPECT_EQ(title(), "amare, First Conjugation");
+    tree().collapseAll();
     press(shown("Tables"), Qt::Key_Escape);
     EXPECT_TRUE(modal.isVisible() && shownWindow("Tables") == nullptr);
     press(modal, Qt::Key_F2);
+    EXPECT_EQ(tree().currentIndex().data().toString().toStdString(), title());
+    EXPECT_TRUE(tree().visualRect(tree().currentIndex()).isValid()) << "its branch is open";
+    EXPECT_EQ(line(shown("Tables"), "TablesForm").text(), "");
+    EXPECT_EQ(chosen(Qt::AccessibleDescriptionRole), "singular Nominative") << "not the form last looked up";
     press(modal, Qt::Key_Escape);
     EXPECT_EQ(shown("Tables").windowHandle()->transientParent(), shown("DeclinationChoose").windowHandle());
     tests::doubleClickRow(list(shown("DeclinationChoose"), "DeclinationList"), 1);
@@ -221,6 +233,11 @@ TEST_F(Tables, CopyAndSaveTheTableAsTextHtmlAndPdfAndTellWhatCannotBeWritten)
 {
     QWidget& window = openTables();
     choose("res");
+    view().setFocus();
+    press(window, Qt::Key_Down);
+    EXPECT_EQ(label(window, "TablesRemark"), "sic. re:i: here. A grammar has: rei:");
+    press(window, Qt::Key_Down, 2);
+    EXPECT_EQ(label(window, "TablesRemark"), "");
     tests::click(window, "TablesCopy");
     const QMimeData& copied = *QGuiApplication::clipboard()->mimeData();
     EXPECT_EQ(copied.text().section('\n', 0, 4),
