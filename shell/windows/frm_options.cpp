@@ -157,9 +157,9 @@ void FrmOptions::connectControls()
     connect(ok_, &QPushButton::clicked, this, &FrmOptions::confirm);
     connect(cancel_, &QPushButton::clicked, this, &FrmOptions::left);
     connect(apply_, &QPushButton::clicked, this, &FrmOptions::apply);
-    const auto* const next = new QShortcut(QKeySequence::NextChild, this);
+    const auto* const next = new QShortcut(Qt::CTRL | Qt::Key_Tab, this);
     connect(next, &QShortcut::activated, this, [this] { turnPages(1); });
-    const auto* const previous = new QShortcut(QKeySequence::PreviousChild, this);
+    const auto* const previous = new QShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, this);
     connect(previous, &QShortcut::activated, this, [this] { turnPages(-1); });
 }
 
