@@ -35,6 +35,17 @@ int IndicatorStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, 
     return std::max(own, qRound(IndicatorOfLine * widget->fontMetrics().height()));
 }
 
+// An item of a menu leaves room for a mark of the style's own size.
+QSize IndicatorStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                                       const QWidget* widget) const
+{
+    QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    if (type == CT_MenuItem)
+        size.rwidth() += pixelMetric(PM_IndicatorWidth, option, widget) -
+                         QProxyStyle::pixelMetric(PM_IndicatorWidth, option, widget);
+    return size;
+}
+
 // Styles draw the outline by a shade darker than the window, which is not to be seen beside a dark one.
 void IndicatorStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                    const QWidget* widget) const
