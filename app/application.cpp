@@ -1,5 +1,7 @@
 #include "app/application.h"
 
+#include "shell/kit/indicator_style.h"
+
 #include <QIcon>
 
 #include <cstdlib>
@@ -38,6 +40,7 @@ Application::Application(int& argumentCount, char** arguments) : QApplication(ar
     setApplicationVersion(QStringLiteral(MORVANTI_VERSION));
     setDesktopFileName(QStringLiteral("morvanti"));
     setWindowIcon(programIcon());
+    setStyle(new shell::IndicatorStyle(style()));
     setQuitOnLastWindowClosed(false);
 }
 

@@ -4,6 +4,7 @@
 #include "app/key_filter.h"
 #include "app/noun_navigation.h"
 #include "app/progress_navigation.h"
+#include "app/qt_texts.h"
 #include "app/tables_navigation.h"
 #include "app/text_size_keys.h"
 #include "app/verb_navigation.h"
@@ -30,6 +31,7 @@ private:
 
     KeyFilter keyFilter_;
     TextSizeKeys textSizeKeys_;
+    ContextMenuTexts contextMenuTexts_;
     CommonWindows common_;
     VerbNavigation verbs_{common_};
     NounNavigation nouns_{common_};

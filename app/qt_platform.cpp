@@ -1,5 +1,6 @@
 #include "app/qt_platform.h"
 
+#include "app/qt_texts.h"
 #include "app/sound_player.h"
 
 #include <QApplication>
@@ -65,6 +66,7 @@ bool QtPlatform::startProgram(const std::string& commandLine)
 
 void QtPlatform::showMessage(const std::string& text, std::function<void()> dismissed)
 {
+    translateQtTexts();
     auto* const box =
         new QMessageBox(QMessageBox::Information, QCoreApplication::applicationName(),
                         QString::fromStdString(text), QMessageBox::Ok, QApplication::activeWindow());
@@ -88,6 +90,7 @@ QString endingOf(const QString& kind)
 void QtPlatform::chooseFileToSave(const std::string& name, const std::vector<std::string>& kinds,
                                   std::function<void(const std::string& path)> chosen)
 {
+    translateQtTexts();
     auto* const dialog = new QFileDialog(QApplication::activeWindow());
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setAcceptMode(QFileDialog::AcceptSave);

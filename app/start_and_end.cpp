@@ -5,6 +5,7 @@
 #include "platform/platform.h"
 #include "shell/drill.h"
 #include "shell/kit/text_size.h"
+#include "shell/looks.h"
 #include "shell/looks_file.h"
 #include "shell/settings.h"
 #include "shell/settings_file.h"
@@ -23,6 +24,24 @@ namespace app {
 namespace {
 
 constexpr std::chrono::milliseconds LongestSound{3000};
+
+// The entries of the verb quiz for which the settings file has no line stand beside it.
+void applyFirstEntriesOfQuiz()
+{
+    if (shell::looks.QuizFirstConjugation)
+        shell::settings.QuizConjInclude[0] = platform::flagOf(*shell::looks.QuizFirstConjugation);
+    if (shell::looks.QuizPresent)
+        shell::settings.QuizTenseInclude[0] = platform::flagOf(*shell::looks.QuizPresent);
+}
+
+void keepFirstEntriesOfQuiz()
+{
+    const shell::Looks before = shell::looks;
+    shell::looks.QuizFirstConjugation = shell::settings.QuizConjInclude[0] == platform::FlagTrue;
+    shell::looks.QuizPresent = shell::settings.QuizTenseInclude[0] == platform::FlagTrue;
+    if (shell::looks != before)
+        shell::keepLooks();
+}
 
 void hideAllWindows()
 {
@@ -54,7 +73,9 @@ void loadProgram(shell::MainMenu& mainMenu)
 {
     if (verbs::readVerbList(verbs::VerbListFileName)) // sic: before the settings
         nouns::readNounList(nouns::NounListFileName);
-    if (!shell::readSettings(shell::SettingsFileName))
+    if (shell::readSettings(shell::SettingsFileName))
+        applyFirstEntriesOfQuiz();
+    else
         shell::applyDefaultSettings();
     shell::mendSettings();
     shell::setVowelMarkAsShown();
@@ -78,6 +99,7 @@ void exitProgram(shell::MainMenu& mainMenu)
         platform.endProgram(EXIT_FAILURE);
         return;
     }
+    keepFirstEntriesOfQuiz();
     shell::settings.SettingsChangeCount = 0;
     hideAllWindows();
     shell::soundIfOn(ProgramSound);

@@ -28,4 +28,12 @@ void setDelay(int scroll)
     countSettingsChange();
 }
 
+void setDelaySeconds(int seconds)
+{
+    if (seconds == settings.DelaySeconds)
+        return;
+    settings.DelaySeconds = seconds;
+    countSettingsChange();
+}
+
 } // namespace shell

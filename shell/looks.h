@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 
 namespace shell {
 
@@ -22,6 +23,13 @@ struct Looks {
 
     /// Judged answers are kept, to be drawn and asked again.
     bool KeepAnswers = true;
+
+    /// Whether the verb quiz asks the first conjugation, and the present indicative: the settings file has no
+    /// line for them. Empty where that was not kept.
+    std::optional<bool> QuizFirstConjugation;
+    std::optional<bool> QuizPresent;
+
+    bool operator==(const Looks&) const = default;
 };
 
 inline Looks looks;

@@ -15,6 +15,8 @@ constexpr std::string_view TextSizeName = "TextSize";
 constexpr std::string_view ShowMacronsName = "ShowMacrons";
 constexpr std::string_view FirstStepsDoneName = "FirstStepsDone";
 constexpr std::string_view KeepAnswersName = "KeepAnswers";
+constexpr std::string_view QuizFirstConjugationName = "QuizFirstConjugation";
+constexpr std::string_view QuizPresentName = "QuizPresent";
 
 void takeTextSize(std::string_view value)
 {
@@ -23,7 +25,8 @@ void takeTextSize(std::string_view value)
             looks.TextSize = size;
 }
 
-void takeSwitch(bool& kept, std::string_view value)
+template <typename Switch>
+void takeSwitch(Switch& kept, std::string_view value)
 {
     if (value == "0" || value == "1")
         kept = value == "1";
@@ -41,6 +44,10 @@ void takeLine(std::string_view line)
         takeSwitch(looks.FirstStepsDone, value);
     else if (name == KeepAnswersName)
         takeSwitch(looks.KeepAnswers, value);
+    else if (name == QuizFirstConjugationName)
+        takeSwitch(looks.QuizFirstConjugation, value);
+    else if (name == QuizPresentName)
+        takeSwitch(looks.QuizPresent, value);
 }
 
 } // namespace
@@ -64,6 +71,10 @@ std::string looksText()
     line(ShowMacronsName, looks.ShowMacrons ? 1 : 0);
     line(FirstStepsDoneName, looks.FirstStepsDone ? 1 : 0);
     line(KeepAnswersName, looks.KeepAnswers ? 1 : 0);
+    if (looks.QuizFirstConjugation)
+        line(QuizFirstConjugationName, *looks.QuizFirstConjugation ? 1 : 0);
+    if (looks.QuizPresent)
+        line(QuizPresentName, *looks.QuizPresent ? 1 : 0);
     return text;
 }
 

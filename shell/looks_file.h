@@ -13,7 +13,7 @@ inline constexpr std::string_view LooksFileName = "looks.ini";
 /// is none, is passed over; what no line gives, and all where there is no file, has its first state.
 void readLooks(const std::filesystem::path& path);
 
-/// The text of that file for `looks` as it stands: a line for each value, ended by CR LF.
+/// The text of that file for `looks` as it stands: a line for each value that is there, ended by CR LF.
 std::string looksText();
 
 /// Replaces the file in the working folder, silently leaving it as it was where it cannot be written.

@@ -34,4 +34,5 @@ build() {
     cmake --build --preset "$preset" >"$log" 2>&1 || { cat "$log" >&2; exit 1; }
 }
 
-build_packages=(g++ cmake ninja-build qt6-base-dev qt6-multimedia-dev libqt6sql6-sqlite)
+build_packages=(g++ cmake ninja-build qt6-base-dev qt6-multimedia-dev libqt6sql6-sqlite
+    qt6-translations-l10n)

@@ -26,6 +26,7 @@ QAction* addMenu(QMenuBar& menuBar, const MenuEntry& entry)
     QMenu* const menu =
         entry.menu.empty() ? menuBar.addMenu(QString()) : menuNamed(menuBar, entry.menu).addMenu(QString());
     menu->setObjectName(fromUtf8(entry.name));
+    menu->setAttribute(Qt::WA_WindowPropagation); // the type of the bar
     return menu->menuAction();
 }
 

@@ -2,11 +2,13 @@
 
 #include "platform/platform.h"
 #include "platform/printed_number.h"
+#include "shell/delay.h"
 #include "shell/kit/captions.h"
 #include "shell/kit/controls.h"
 #include "shell/kit/layout.h"
 #include "shell/kit/text.h"
 #include "shell/kit/text_size.h"
+#include "shell/kit/type.h"
 #include "shell/looks.h"
 #include "shell/looks_file.h"
 #include "shell/settings.h"
@@ -21,6 +23,7 @@
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
+#include <QShortcut>
 #include <QSlider>
 #include <QTabBar>
 
@@ -36,6 +39,8 @@ namespace {
 // The places of the frames, given as 210 and -20000 at 15 to a pixel.
 constexpr int LeftOfChosenFrame = 210 / 15;
 constexpr int LeftOfOtherFrames = -20000 / 15;
+
+constexpr int ButtonCharacters = 16;
 
 // clang-format off
 constexpr std::array Captions = {
@@ -94,6 +99,8 @@ void FrmOptions::makeControls()
     ok_ = makeButton(this, "cmdOK");
     cancel_ = makeButton(this, "cmdCancel");
     apply_ = makeButton(this, "cmdApply");
+    for (QPushButton* const button : {ok_, cancel_, apply_})
+        setLeastWidth(*button, ButtonCharacters);
 }
 
 void FrmOptions::fillDelayFrame(QFrame& frame)
@@ -144,12 +151,16 @@ void FrmOptions::layOut()
 void FrmOptions::connectControls()
 {
     connect(tabs_, &QTabBar::currentChanged, this, &FrmOptions::placeFrames);
-    connect(slider_, &QSlider::valueChanged, this, &FrmOptions::showDelay);
+    connect(slider_, &QSlider::valueChanged, this, &FrmOptions::chooseDelay);
     connect(textSize_, &QComboBox::currentIndexChanged, this, &FrmOptions::chooseTextSizeInRow);
     connect(macrons_, &QCheckBox::toggled, this, &FrmOptions::switchMacrons);
     connect(ok_, &QPushButton::clicked, this, &FrmOptions::confirm);
     connect(cancel_, &QPushButton::clicked, this, &FrmOptions::left);
     connect(apply_, &QPushButton::clicked, this, &FrmOptions::apply);
+    const auto* const next = new QShortcut(Qt::CTRL | Qt::Key_Tab, this);
+    connect(next, &QShortcut::activated, this, [this] { turnPages(1); });
+    const auto* const previous = new QShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, this);
+    connect(previous, &QShortcut::activated, this, [this] { turnPages(-1); });
 }
 
 void FrmOptions::open()
@@ -161,6 +172,7 @@ void FrmOptions::open()
     tabs_->setFocus();
     fitFrames();
     showInFront();
+    setAttribute(Qt::WA_KeyboardFocusChange);
 }
 
 void FrmOptions::showCaptions()
@@ -174,7 +186,7 @@ void FrmOptions::showCaptions()
 void FrmOptions::showSettings()
 {
     slider_->setValue(settings.DelaySeconds);
-    showDelay(settings.DelaySeconds);
+    showDelay();
     const bool random = settings.QuestionOrder == question_order::Random;
     const bool accusativeSecond = settings.CaseOrder == case_order::NAGDAb;
     const std::array texts = {
@@ -190,9 +202,9 @@ void FrmOptions::showLooks()
     macrons_->setChecked(looks.ShowMacrons);
 }
 
-void FrmOptions::showDelay(int seconds)
+void FrmOptions::showDelay()
 {
-    delay_->setText(fromUtf8(platform::printedNumber(seconds) + " s"));
+    delay_->setText(fromUtf8(platform::printedNumber(settings.DelaySeconds) + " s"));
 }
 
 void FrmOptions::fitFrames()
@@ -215,6 +227,18 @@ void FrmOptions::placeFrames()
         frame->move(chosen ? LeftOfChosenFrame : LeftOfOtherFrames, space_->y());
         frame->setEnabled(chosen);
     }
+}
+
+void FrmOptions::turnPages(int pages)
+{
+    tabs_->setCurrentIndex((tabs_->currentIndex() + pages + tabs_->count()) % tabs_->count());
+    tabs_->setFocus();
+}
+
+void FrmOptions::chooseDelay(int seconds)
+{
+    setDelaySeconds(seconds);
+    showDelay();
 }
 
 void FrmOptions::chooseTextSizeInRow(int row)

@@ -14,8 +14,8 @@ class QTabBar;
 
 namespace shell {
 
-/// A tab strip over one frame a tab. It shows what is set, and its buttons say that they set nothing. How the
-/// learner likes to see things is set on the last frame, at once.
+/// A tab strip over one frame a tab. It shows what is set, and its buttons say that they set nothing. The
+/// pause on the first frame, and how the learner likes to see things on the last, are set at once.
 class FrmOptions : public Window {
     Q_OBJECT
 
@@ -39,7 +39,7 @@ private:
     void showCaptions();
     void showSettings();
     void showLooks();
-    void showDelay(int seconds);
+    void showDelay();
 
     /// Makes the window as large as its largest frame needs it.
     void fitFrames();
@@ -47,6 +47,10 @@ private:
     /// The frame of the chosen tab stands in the window and is enabled; all others stand far off it.
     void placeFrames();
 
+    /// Turns to a page further on or back, with the first after the last; the focus is on the tabs then.
+    void turnPages(int pages);
+
+    void chooseDelay(int seconds);
     void chooseTextSizeInRow(int row);
     void switchMacrons(bool shown);
     void apply();

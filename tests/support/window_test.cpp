@@ -1,6 +1,7 @@
 #include "tests/support/window_test.h"
 
 #include "app/start_and_end.h"
+#include "shell/kit/indicator_style.h"
 
 namespace tests {
 
@@ -155,7 +156,7 @@ int main(int argumentCount, char** arguments)
     QLocale::setDefault(QLocale::c());
     testing::InitGoogleTest(&argumentCount, arguments);
     const QApplication application(argumentCount, arguments);
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new shell::IndicatorStyle(QStyleFactory::create(QStringLiteral("Fusion"))));
     QApplication::setQuitOnLastWindowClosed(false);
     return RUN_ALL_TESTS();
 }

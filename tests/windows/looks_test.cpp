@@ -123,6 +123,24 @@ TEST_F(Looks, ShowMacronsWhereNothingIsTypedAndLeaveWhatIsComparedAndHeadingsAsT
     EXPECT_EQ(label(tests::shown("Declination"), "HeadingLabel"), "Prima Declinatio:");
 }
 
+TEST_F(Looks, SpeakTheLanguageOfTheInterfaceInContextMenusAndMessages)
+{
+    for (const auto& [language, copy] :
+         {std::pair{"German", "&Kopieren"}, {"French", "Cop&ier"}, {"Latin", "&Copy"}}) {
+        tests::choose(start(), QStringLiteral("%1Lang").arg(language));
+        auto& stem = line(open("FileVerbManager", "VerbManager"), "VerbManagerLatinForms0");
+        QContextMenuEvent asked(QContextMenuEvent::Keyboard, {1, 1}, {1, 1});
+        QApplication::sendEvent(&stem, &asked);
+        auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_NE(menu, nullptr);
+        QStringList texts;
+        for (const QAction* const item : menu->actions())
+            texts << item->text().section('\t', 0, 0);
+        EXPECT_TRUE(texts.contains(copy)) << texts.join(' ').toStdString();
+        menu->close();
+    }
+}
+
 TEST_F(Looks, SayTheFirstStepsUntilAnExerciseIsOpenedAndNeverAgain)
 {
     for (const auto& [exercise, window] :

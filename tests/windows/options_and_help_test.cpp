@@ -85,6 +85,24 @@ TEST_F(DelayInterval, StandsAboveTheMainWindowAndTheGuideThatStoodAboveIt)
     EXPECT_TRUE(window.isVisible());
 }
 
+TEST_F(FrmOptions, SetsThePauseAtOnceAndTurnsItsPagesFromAnywhereAndBackToTheFirst)
+{
+    QWidget& window = open("OptionsOptions", "frmOptions");
+    const auto& tabs = tests::control<QTabBar>(window);
+    EXPECT_TRUE(tabs.hasFocus());
+    tests::control<QSlider>(window).setFocus();
+    press(window, Qt::Key_Right, 3);
+    EXPECT_EQ(settings.DelaySeconds, 5);
+    EXPECT_EQ(settings.SettingsChangeCount, 3);
+    EXPECT_EQ(tests::control<QWidget>(window, "OptionsTab").findChildren<QLabel*>().front()->text(), " 5 s");
+    for (const int page : {1, 2, 0}) {
+        QTest::keyClick(window.focusWidget(), Qt::Key_Tab, Qt::ControlModifier);
+        EXPECT_EQ(tabs.currentIndex(), page);
+    }
+    QTest::keyClick(window.focusWidget(), Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(tabs.currentIndex(), 2);
+}
+
 TEST_F(FrmOptions, BringsTheFrameOfTheChosenTabInAndSaysWhatIsMissing)
 {
     tests::choose(start(), "RandomOrder");

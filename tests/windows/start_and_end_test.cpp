@@ -66,6 +66,27 @@ TEST_F(StartAndEnd, FindsTheSettingsThatItKeptAndSoundsOnTheWayOut)
     EXPECT_EQ(fake.exitStatus, 0);
 }
 
+TEST_F(StartAndEnd, KeepsTheEntriesOfTheQuizForWhichTheSettingsFileHasNoLineBesideIt)
+{
+    tests::writeFile("morvanti.ini", fileOf(Kept, 27));
+    for (const auto& [present, looks] :
+         {std::pair{false, ""}, {true, "QuizFirstConjugation=1\r\nQuizPresent=1\r\n"}}) {
+        tests::writeFile("looks.ini", looks);
+        QWidget& menu = start();
+        EXPECT_EQ(shell::settings.QuizTenseInclude[0] == platform::FlagTrue, present);
+        shell::settings.QuizConjInclude[0] = platform::FlagTrue;
+        click(menu, "ExitButton");
+        EXPECT_TRUE(tests::bytesOf("looks.ini")
+                        .ends_with(present ? "QuizFirstConjugation=1\r\nQuizPresent=1\r\n"
+                                           : "QuizFirstConjugation=1\r\nQuizPresent=0\r\n"));
+        EXPECT_EQ(tests::bytesOf("morvanti.ini"), fileOf(Kept, 27));
+    }
+    tests::writeFile("looks.ini", "QuizFirstConjugation=0\nQuizPresent=0");
+    tests::writeFile("morvanti.ini", fileOf(Kept, 0));
+    start();
+    EXPECT_EQ(shell::settings.QuizTenseInclude[0], platform::FlagTrue) << "one must be asked";
+}
+
 TEST_F(StartAndEnd, MendsOrGivesUpTheSettingsFromABadLineOnAndReadsNoNounsAfterABrokenVerbList)
 {
     tests::writeFile("verbs.cfg", "h\nmany\n");

@@ -1,0 +1,64 @@
+#include "shell/kit/indicator_style.h"
+
+#include <QStyleOptionButton>
+#include <QWidget>
+
+#include <algorithm>
+
+namespace shell {
+
+namespace {
+
+// An indicator is as high as a capital with a little air.
+constexpr double IndicatorOfLine = 0.75;
+
+bool isIndicatorSize(QStyle::PixelMetric metric)
+{
+    return metric == QStyle::PM_IndicatorWidth || metric == QStyle::PM_IndicatorHeight ||
+           metric == QStyle::PM_ExclusiveIndicatorWidth || metric == QStyle::PM_ExclusiveIndicatorHeight;
+}
+
+bool isDark(const QPalette& palette)
+{
+    return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
+}
+
+} // namespace
+
+IndicatorStyle::IndicatorStyle(QStyle* style) : QProxyStyle(style) {}
+
+int IndicatorStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
+{
+    const int own = QProxyStyle::pixelMetric(metric, option, widget);
+    if (!isIndicatorSize(metric) || widget == nullptr)
+        return own;
+    return std::max(own, qRound(IndicatorOfLine * widget->fontMetrics().height()));
+}
+
+// An item of a menu leaves room for a mark of the style's own size.
+QSize IndicatorStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                                       const QWidget* widget) const
+{
+    QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    if (type == CT_MenuItem)
+        size.rwidth() += pixelMetric(PM_IndicatorWidth, option, widget) -
+                         QProxyStyle::pixelMetric(PM_IndicatorWidth, option, widget);
+    return size;
+}
+
+// Styles draw the outline by a shade darker than the window, which is not to be seen beside a dark one.
+void IndicatorStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                                   const QWidget* widget) const
+{
+    const auto* const indicator = qstyleoption_cast<const QStyleOptionButton*>(option);
+    const bool drawn = element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton;
+    if (!drawn || indicator == nullptr || !isDark(indicator->palette)) {
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+        return;
+    }
+    QStyleOptionButton outlined = *indicator;
+    outlined.palette.setBrush(QPalette::Window, outlined.palette.windowText());
+    QProxyStyle::drawPrimitive(element, &outlined, painter, widget);
+}
+
+} // namespace shell

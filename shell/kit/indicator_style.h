@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QProxyStyle>
+
+namespace shell {
+
+/// The desktop's style, whose check boxes and radio buttons are as large as the type beside them, and have an
+/// outline that can be seen in dark palettes.
+class IndicatorStyle : public QProxyStyle {
+    Q_OBJECT
+
+public:
+    /// Owns the style that it changes.
+    explicit IndicatorStyle(QStyle* style);
+
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                           const QWidget* widget) const override;
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override;
+};
+
+} // namespace shell
