@@ -29,7 +29,7 @@ QPushButton* QuestionWindow::addAnswer(QAnyStringView name)
 
 void QuestionWindow::askWith(QPushButton& answer)
 {
-    adjustSize();
+    fitContent();
     showInFront();
     answer.setFocus();
 }

@@ -87,7 +87,7 @@ void Window::fitContentSoon()
 // Content that asks for more room since then has made the window larger.
 bool Window::isAsFitted() const
 {
-    return !fitted_.isValid() || size() == fitted_.expandedTo(minimumSize());
+    return fitted_.isValid() && size() == fitted_.expandedTo(minimumSize());
 }
 
 void Window::showInMainWindowState()

@@ -52,7 +52,9 @@ protected:
     /// Makes such a block of parts from top to bottom, with these margins.
     void layOutLines(QSize charactersAndLines, const QMargins& margins, std::initializer_list<Part> lines);
 
-    /// Lets the window take the size that its content asks for when it is shown next.
+    /// Gives the window the size that its content asks for, now or when it is shown next. It keeps pace with
+    /// the type then, until the learner gives the window another size.
+    void fitContent();
     void forgetSize();
 
     /// Makes Escape do what the close box does, wherever the focus is.
@@ -71,7 +73,6 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void fitContent();
     void fitContentSoon();
     void stayOnScreen();
     bool isAsFitted() const;

@@ -55,7 +55,7 @@ About::About() : Window("About", "About")
 void About::open()
 {
     applyCaptions(*this, AboutCaptions);
-    adjustSize();
+    fitContent();
     showInFront();
 }
 

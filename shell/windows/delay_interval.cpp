@@ -87,7 +87,7 @@ void DelayInterval::open()
     scroll_->setValue(scrollAtFirst());
     showLength(scroll_->value());
     scroll_->setFocus();
-    adjustSize();
+    fitContent();
     showInFront();
 }
 

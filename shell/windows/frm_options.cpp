@@ -214,7 +214,7 @@ void FrmOptions::fitFrames()
         largest = largest.expandedTo(frame->sizeHint());
     space_->setMinimumSize(largest);
     if (!isMaximized())
-        adjustSize();
+        fitContent();
     placeFrames();
 }
 
