@@ -44,6 +44,9 @@ inline constexpr std::array NamesOfPersons = {
     shell::englishToo("2nd Person Plur", "2. Person Plur.", "2nd Person Plur", "Persona ii Plur."),
     shell::englishToo("3rd Person Plur", "3. Person Plur.", "3rd Person Plur", "Persona iii Plur."),
 };
+
+/// What a wrong answer is that another person of the tense has.
+inline constexpr shell::LanguageTexts OtherPerson{"This is the ending of another person.", "C'est la terminaison d'une autre personne.", "È la desinenza di un'altra persona.", "Das ist die Endung einer anderen Person.", "Es la terminación de otra persona.", "Haec est desinentia alterius personae."};
 // clang-format on
 
 static_assert(NamesOfPersons.size() == verbs::PersonCount);

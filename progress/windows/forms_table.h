@@ -18,9 +18,15 @@ public:
 
     void showForms(std::vector<Form> forms);
 
+protected:
+    /// The columns share the width: what is too long is shortened in its middle, and its tooltip has it
+    /// whole.
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     void showForm(int row, const Form& form);
-    void fitRows();
+    void fitCells();
+    void fitColumns();
 };
 
 } // namespace progress
