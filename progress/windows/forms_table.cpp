@@ -13,6 +13,9 @@
 
 #include <algorithm>
 #include <array>
+#include <numeric>
+#include <span>
+#include <vector>
 
 namespace progress {
 
@@ -21,8 +24,12 @@ using shell::LanguageTexts;
 
 namespace {
 
-// Where the window has no room for so many in a column, it is scrolled.
-constexpr int LeastCharacters = 6;
+// Where the window has no room for so many in a column, the table is scrolled.
+constexpr int LeastCharacters = 8;
+
+constexpr int CharactersWished = 105;
+
+constexpr std::size_t AnswerColumn = 2;
 
 // clang-format off
 constexpr std::array Headings = {
@@ -73,17 +80,30 @@ QString writtenInstead(const Form& form)
 }
 
 // The width that none may pass so that all of them fit into the room.
-int widestIn(std::array<int, Headings.size()> widths, int room)
+int widestIn(std::span<const int> widths, int room)
 {
-    std::ranges::sort(widths);
-    int columns = static_cast<int>(widths.size());
-    for (const int width : widths) {
+    std::vector<int> ordered(widths.begin(), widths.end());
+    std::ranges::sort(ordered);
+    int columns = static_cast<int>(ordered.size());
+    for (const int width : ordered) {
         if (width * columns > room)
             return room / columns;
         room -= width;
         --columns;
     }
-    return widths.back();
+    return ordered.back();
+}
+
+// The answers give way first; what is asked does where they would have no room left.
+void fit(std::span<int> widths, int room, int leastForAnswer)
+{
+    const std::span<int> answers = widths.subspan(AnswerColumn);
+    const int roomForAnswers = room - std::accumulate(widths.begin(), widths.begin() + AnswerColumn, 0);
+    const bool answersFit = roomForAnswers >= leastForAnswer * static_cast<int>(answers.size());
+    const std::span<int> shortened = answersFit ? answers : widths;
+    const int widest = std::max(widestIn(shortened, answersFit ? roomForAnswers : room), leastForAnswer);
+    for (int& width : shortened)
+        width = std::min(width, widest);
 }
 
 } // namespace
@@ -99,6 +119,7 @@ FormsTable::FormsTable(QWidget* parent) : QTableWidget(0, static_cast<int>(Headi
     verticalHeader()->hide();
     horizontalHeader()->setStretchLastSection(true);
     horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setTextElideMode(Qt::ElideRight);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     shell::setType(*horizontalHeader(), 1);
     shell::keepMeasure(*this, "rows", [this](shell::Growth) { fitCells(); });
@@ -116,6 +137,11 @@ void FormsTable::showForms(std::vector<Form> forms)
         showForm(static_cast<int>(row), forms[row]);
     fitCells();
     setCurrentCell(0, 0, QItemSelectionModel::NoUpdate);
+}
+
+QSize FormsTable::sizeHint() const
+{
+    return {CharactersWished * fontMetrics().averageCharWidth(), QTableWidget::sizeHint().height()};
 }
 
 void FormsTable::resizeEvent(QResizeEvent* event)
@@ -136,10 +162,9 @@ void FormsTable::fitColumns()
     for (std::size_t column = 0; column < widths.size(); ++column)
         widths.at(column) = std::max(sizeHintForColumn(static_cast<int>(column)),
                                      horizontalHeader()->sectionSizeHint(static_cast<int>(column)));
-    const int widest =
-        std::max(widestIn(widths, viewport()->width()), LeastCharacters * fontMetrics().averageCharWidth());
+    fit(widths, viewport()->width(), LeastCharacters * fontMetrics().averageCharWidth());
     for (std::size_t column = 0; column < widths.size(); ++column)
-        setColumnWidth(static_cast<int>(column), std::min(widths.at(column), widest));
+        setColumnWidth(static_cast<int>(column), widths.at(column));
 }
 
 void FormsTable::showForm(int row, const Form& form)

@@ -18,6 +18,8 @@ public:
 
     void showForms(std::vector<Form> forms);
 
+    QSize sizeHint() const override;
+
 protected:
     /// The columns share the width: what is too long is shortened in its middle, and its tooltip has it
     /// whole.
