@@ -93,13 +93,14 @@ void ProgressNavigation::closeFile()
 
 void ProgressNavigation::endDrill()
 {
-    closeFile();
+    keepWaiting();
     if (!std::exchange(drillRuns_, false) || !keeper_.keeps()) {
         common_.mainMenu().forgetLastDrill();
+        keeper_.close();
         return;
     }
-    const progress::DrillCount count = keeper_.drillCount();
-    common_.mainMenu().showLastDrill(count.right, count.toRepeat);
+    common_.mainMenu().showLastDrill(keeper_.rightAtOnce(), keeper_.formsDue());
+    keeper_.close();
 }
 
 void ProgressNavigation::joinProgress(Progress& window)

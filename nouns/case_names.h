@@ -21,6 +21,9 @@ inline constexpr std::string_view PluralName = "Plural";
 //                                                   English     French       Italian     German      Spanish     Latin
 inline constexpr shell::LanguageTexts SingularTexts{"Singular", "Singulier", "Singular", "Einzahl",  "Singular", "numerus singularis"};
 inline constexpr shell::LanguageTexts PluralTexts  {"Plural",   "Pluriel",   "Plural",   "Mehrzahl", "Plural",   "numerus pluralis"};
+
+/// What a wrong answer is that the word has elsewhere.
+inline constexpr shell::LanguageTexts OtherForm{"This is another form of the same word.", "C'est une autre forme du même mot.", "È un'altra forma della stessa parola.", "Das ist eine andere Form desselben Wortes.", "Es otra forma de la misma palabra.", "Haec est alia forma eiusdem verbi."};
 // clang-format on
 
 } // namespace nouns

@@ -5,6 +5,7 @@
 #include "nouns/declension_drill.h"
 #include "nouns/noun_question.h"
 #include "nouns/noun_tables.h"
+#include "nouns/paradigm_names.h"
 #include "nouns/pronoun_columns.h"
 #include "nouns/pronoun_drill.h"
 #include "shell/settings.h"
@@ -13,31 +14,9 @@ namespace nouns {
 
 namespace {
 
-struct ParadigmName {
-    NounParadigm paradigm;
-    std::string_view text;
-};
-
-// Unlike the headings, each paradigm has a name of its own.
-// clang-format off
-constexpr std::array<ParadigmName, ParadigmCount> ParadigmNames = {{
-    {FirstDeclension,        "First Declension"},
-    {SecondDeclensionUs,     "Second Declension (-us)"},
-    {SecondDeclensionEr,     "Second Declension (-er)"},
-    {SecondDeclensionNeuter, "Second Declension (neuter)"},
-    {FourthDeclension,       "Fourth Declension"},
-    {FourthDeclensionNeuter, "Fourth Declension (neuter)"},
-    {FifthDeclension,        "Fifth Declension"},
-    {ThirdDeclension,        "Third Declension"},
-    {ThirdDeclensionNeuter,  "Third Declension (neuter)"},
-}};
-// clang-format on
-
-static_assert(standInOrder(ParadigmNames));
-
 std::string_view nameOfParadigm(int paradigm)
 {
-    return ParadigmNames.at(static_cast<std::size_t>(paradigm - 1)).text;
+    return *ParadigmNames.at(static_cast<std::size_t>(paradigm - 1)).texts.english;
 }
 
 std::string_view nameOfCase(int inCase)

@@ -31,9 +31,11 @@ void Keeper::beginDrill()
     misses_.clear();
 }
 
-DrillCount Keeper::drillCount() const
+int Keeper::formsDue()
 {
-    return {.right = right_, .toRepeat = static_cast<int>(misses_.size())};
+    Store* const kept = store();
+    const Day today = platform::localDay(platform::current().now());
+    return kept == nullptr ? 0 : static_cast<int>(kept->dueForms(today, {}).size());
 }
 
 Row Keeper::rowOf(const shell::AnswerRecord& answer)

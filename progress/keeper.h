@@ -11,12 +11,6 @@
 
 namespace progress {
 
-/// What a drill has come to: the answers that were right at once, and the forms to repeat.
-struct DrillCount {
-    int right = 0;
-    int toRepeat = 0;
-};
-
 /// Keeps judged answers in a store, with the time and the drill in which they were given. The store is opened
 /// with the first answer, or when it is asked for.
 ///
@@ -38,8 +32,8 @@ public:
     /// A drill, a quiz, a test or a review begins: its count starts at nothing.
     void beginDrill();
 
-    /// What the drill has come to so far, or came to when it was left.
-    DrillCount drillCount() const;
+    /// How many answers of the drill were right at once, so far or until it was left.
+    int rightAtOnce() const { return right_; }
 
     /// An answer as it is to be kept, with this moment and whether marks are shown now. Its drill is the one
     /// that runs when it is kept.
@@ -52,6 +46,9 @@ public:
     /// closed and opened anew by the next call of any of these: ask again each time. While answers are not
     /// kept, it is only read, as it is, and no file is made or changed.
     Store* store();
+
+    /// How many forms a review would ask now; none where they cannot be read.
+    int formsDue();
 
     /// Whether there are answers that cannot be read now, as `store` was asked last.
     bool isUnreadable() const { return unreadable_; }

@@ -113,20 +113,14 @@ bool judgeConjugation(const std::string& answer)
     return answer == conjugationDrill.CorrectForm;
 }
 
-std::optional<OtherEnding> otherEndingIn(const std::string& answer)
+Persons personsWithForm(const std::string& answer)
 {
     const auto& column = verbTables.Forms[currentParadigm.ConjugationCode];
-    const auto isAnswered = [&](int person) {
-        return answer == column[verbs::formNumber(currentParadigm.TenseMoodCode, person)];
-    };
-    constexpr int persons = verbs::PersonCount / 2;
-    const int asked = conjugationDrill.PersonIndex + 1;
-    if (isAnswered(asked <= persons ? asked + persons : asked - persons))
-        return OtherEnding::Number;
+    Persons persons{};
     for (int person = verbs::FirstSingular; person <= verbs::PersonCount; ++person)
-        if (isAnswered(person))
-            return OtherEnding::Person;
-    return {};
+        persons.at(static_cast<std::size_t>(person - 1)) =
+            answer == column[verbs::formNumber(currentParadigm.TenseMoodCode, person)];
+    return persons;
 }
 
 shell::Place placeOfTense()

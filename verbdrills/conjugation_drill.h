@@ -3,10 +3,10 @@
 #include "platform/flag.h"
 #include "platform/table.h"
 #include "shell/round.h"
+#include "verbdrills/other_ending.h"
 #include "verbs/paradigm.h"
 
 #include <cstdint>
-#include <optional>
 #include <string>
 
 namespace verbdrills {
@@ -59,10 +59,8 @@ void buildDrillHeading();
 /// Whether an answer is `CorrectForm`, letter by letter; notes the answer and sets `FeedbackPending`.
 bool judgeConjugation(const std::string& answer);
 
-/// What a wrong answer has the ending of, in the tense that is drilled: the same person of the other number,
-/// or another person.
-enum class OtherEnding { Number, Person };
-std::optional<OtherEnding> otherEndingIn(const std::string& answer);
+/// Which persons of the tense have this form.
+Persons personsWithForm(const std::string& answer);
 
 /// Which tense is drilled, of those of its class that have forms; which class, while one tense is drilled
 /// through the classes.

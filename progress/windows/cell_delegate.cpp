@@ -1,5 +1,7 @@
 #include "progress/windows/cell_delegate.h"
 
+#include "progress/windows/shade.h"
+
 #include <QPainter>
 
 namespace progress {
@@ -11,11 +13,15 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     QStyleOptionViewItem plain = option;
     plain.state &= ~(QStyle::State_Selected | QStyle::State_HasFocus | QStyle::State_MouseOver);
     QStyledItemDelegate::paint(painter, plain, index);
-    if (!option.state.testFlag(QStyle::State_Selected))
-        return;
     painter->save();
-    painter->setPen(QPen(option.palette.color(QPalette::Text), frameWidth));
-    painter->drawRect(option.rect.adjusted(1, 1, -frameWidth, -frameWidth));
+    if (index.data(Qt::BackgroundRole).isValid()) {
+        painter->setPen(outlineColour());
+        painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
+    }
+    if (option.state.testFlag(QStyle::State_Selected)) {
+        painter->setPen(QPen(option.palette.color(QPalette::Text), frameWidth));
+        painter->drawRect(option.rect.adjusted(1, 1, -frameWidth, -frameWidth));
+    }
     painter->restore();
 }
 

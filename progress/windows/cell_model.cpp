@@ -1,12 +1,15 @@
 #include "progress/windows/cell_model.h"
 
+#include "progress/grammar_names.h"
 #include "progress/windows/shade.h"
 #include "shell/kit/latin_text.h"
 #include "shell/kit/text.h"
 #include "shell/language_texts.h"
 
 #include <algorithm>
+#include <string>
 #include <unordered_map>
+#include <unordered_set>
 
 namespace progress {
 
@@ -28,23 +31,26 @@ double partRight(const Share& share)
     return static_cast<double>(share.right) / share.answered;
 }
 
-// Numbers the names in the order in which they come.
-class Numbers {
-public:
-    explicit Numbers(std::vector<std::string>& names) : names_(names) { names_.clear(); }
+// The names of columns or of rows, each once, in the order in which they are to stand.
+std::vector<std::string> namesIn(const std::vector<Cell>& cells, std::string CellName::*part)
+{
+    std::vector<std::string> names;
+    std::unordered_set<std::string> known;
+    for (const Cell& cell : cells)
+        if (known.insert(cell.name.*part).second)
+            names.push_back(cell.name.*part);
+    if (!cells.empty() && cells.front().name.grid != Grid::Words)
+        sortAsInGrammar(names);
+    return names;
+}
 
-    int of(const std::string& name)
-    {
-        const auto [found, isNew] = numbers_.try_emplace(name, static_cast<int>(names_.size()));
-        if (isNew)
-            names_.push_back(name);
-        return found->second;
-    }
-
-private:
-    std::vector<std::string>& names_;
-    std::unordered_map<std::string, int> numbers_;
-};
+std::unordered_map<std::string, int> numbered(const std::vector<std::string>& names)
+{
+    std::unordered_map<std::string, int> numbers;
+    for (const std::string& name : names)
+        numbers.emplace(name, static_cast<int>(numbers.size()));
+    return numbers;
+}
 
 QString inShortLines(const QString& heading)
 {
@@ -65,11 +71,20 @@ QString inShortLines(const QString& heading)
 void CellModel::show(const std::vector<Cell>& cells)
 {
     beginResetModel();
+    const auto columns = namesIn(cells, &CellName::column);
+    const auto rows = namesIn(cells, &CellName::row);
+    const bool ofWords = !cells.empty() && cells.front().name.grid == Grid::Words;
+    columns_.clear();
+    rows_.clear();
+    for (const std::string& column : columns)
+        columns_ << shell::fromUtf8(ofWords ? column : inLanguageShown(column));
+    for (const std::string& row : rows)
+        rows_ << (ofWords ? shell::latinText(row) : shell::fromUtf8(inLanguageShown(row)));
     cells_.clear();
-    Numbers columns(columns_);
-    Numbers rows(rows_);
+    const auto columnNumbers = numbered(columns);
+    const auto rowNumbers = numbered(rows);
     for (const Cell& cell : cells)
-        cells_.emplace(Place(rows.of(cell.name.row), columns.of(cell.name.column)), cell);
+        cells_.emplace(Place(rowNumbers.at(cell.name.row), columnNumbers.at(cell.name.column)), cell);
     endResetModel();
 }
 
@@ -88,8 +103,7 @@ QModelIndex CellModel::worst() const
 
 QString CellModel::nameAt(const QModelIndex& place) const
 {
-    return shell::fromUtf8(columns_.at(static_cast<std::size_t>(place.column()))) + QStringLiteral(", ") +
-           shell::latinText(rows_.at(static_cast<std::size_t>(place.row())));
+    return columns_.at(place.column()) + QStringLiteral(", ") + rows_.at(place.row());
 }
 
 int CellModel::rowCount(const QModelIndex& parent) const
@@ -124,10 +138,7 @@ QVariant CellModel::headerData(int section, Qt::Orientation orientation, int rol
 {
     if (role != Qt::DisplayRole)
         return {};
-    const auto number = static_cast<std::size_t>(section);
-    if (orientation == Qt::Horizontal)
-        return inShortLines(shell::fromUtf8(columns_.at(number)));
-    return shell::latinText(rows_.at(number));
+    return orientation == Qt::Horizontal ? inShortLines(columns_.at(section)) : rows_.at(section);
 }
 
 QString CellModel::inWords(const QModelIndex& place) const

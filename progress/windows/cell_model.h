@@ -3,17 +3,17 @@
 #include "progress/grid.h"
 
 #include <QAbstractTableModel>
+#include <QStringList>
 
 #include <map>
-#include <string>
 #include <utility>
 #include <vector>
 
 namespace progress {
 
-/// One of the three grids: its columns and rows stand in the order in which they were first answered. A
-/// cell's text is its share, its ground the shade of that, and its accessible text and tooltip say both in
-/// words.
+/// One of the three grids: its columns and rows stand in the order of a grammar, words in that in which they
+/// were first answered. Names are shown in the language of the interface. A cell's text is its share, its
+/// ground the shade of that, and its accessible text and tooltip say both in words.
 class CellModel : public QAbstractTableModel {
     Q_OBJECT
 
@@ -41,8 +41,8 @@ private:
 
     QString inWords(const QModelIndex& place) const;
 
-    std::vector<std::string> columns_;
-    std::vector<std::string> rows_;
+    QStringList columns_;
+    QStringList rows_;
     std::map<Place, Cell> cells_;
 };
 

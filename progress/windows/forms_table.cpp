@@ -1,15 +1,21 @@
 #include "progress/windows/forms_table.h"
 
+#include "progress/grammar_names.h"
 #include "progress/review.h"
 #include "shell/kit/latin_text.h"
 #include "shell/kit/measure.h"
 #include "shell/kit/text.h"
+#include "shell/kit/type.h"
 #include "shell/language_texts.h"
 #include "shell/settings.h"
 
 #include <QHeaderView>
 
+#include <algorithm>
 #include <array>
+#include <numeric>
+#include <span>
+#include <vector>
 
 namespace progress {
 
@@ -17,6 +23,13 @@ using shell::fromUtf8;
 using shell::LanguageTexts;
 
 namespace {
+
+// Where the window has no room for so many in a column, the table is scrolled.
+constexpr int LeastCharacters = 8;
+
+constexpr int CharactersWished = 105;
+
+constexpr std::size_t AnswerColumn = 2;
 
 // clang-format off
 constexpr std::array Headings = {
@@ -28,22 +41,33 @@ constexpr std::array Headings = {
 };
 // clang-format on
 
-// The translation of a word may hold a colon of its own: it is what is expected, or what is asked.
-QString unlessTranslation(const Form& form, std::string_view promptOfTranslation, const std::string& text)
+bool isTranslation(const Form& form, std::string_view promptOfTranslation)
 {
-    const bool ofList = form.name.exercise == shell::exercise::Vcabtester;
-    const bool translation = ofList && shell::partsOfPlace(form.name.place)[1] == promptOfTranslation;
-    return translation ? fromUtf8(text) : shell::latinText(text);
+    return shell::partsOfPlace(form.name.place)[1] == promptOfTranslation;
+}
+
+// The translation of a word may hold a colon of its own: it is what is expected, or what is asked.
+QString ofList(const Form& form, std::string_view promptOfTranslation, const std::string& text)
+{
+    return isTranslation(form, promptOfTranslation) ? fromUtf8(text) : shell::latinText(text);
 }
 
 QString asked(const Form& form, const std::string& text)
 {
-    return unlessTranslation(form, shell::AskedWithTranslation, text);
+    if (form.name.exercise == shell::exercise::Vcabtester)
+        return ofList(form, shell::AskedWithTranslation, text);
+    return shell::latinText(inLanguageShown(text));
 }
 
+// The quizzes are answered in words.
 QString answered(const Form& form, const std::string& text)
 {
-    return unlessTranslation(form, shell::AskedWithWord, text);
+    const std::string& exercise = form.name.exercise;
+    if (exercise == shell::exercise::Vcabtester)
+        return ofList(form, shell::AskedWithWord, text);
+    if (exercise == shell::exercise::Quiz || exercise == shell::exercise::NounQuiz)
+        return fromUtf8(inLanguageShown(text));
+    return shell::latinText(text);
 }
 
 // Nothing that was written is a dash.
@@ -55,6 +79,33 @@ QString writtenInstead(const Form& form)
     return texts.join(QStringLiteral(", "));
 }
 
+// The width that none may pass so that all of them fit into the room.
+int widestIn(std::span<const int> widths, int room)
+{
+    std::vector<int> ordered(widths.begin(), widths.end());
+    std::ranges::sort(ordered);
+    int columns = static_cast<int>(ordered.size());
+    for (const int width : ordered) {
+        if (width * columns > room)
+            return room / columns;
+        room -= width;
+        --columns;
+    }
+    return ordered.back();
+}
+
+// The answers give way first; what is asked does where they would have no room left.
+void fit(std::span<int> widths, int room, int leastForAnswer)
+{
+    const std::span<int> answers = widths.subspan(AnswerColumn);
+    const int roomForAnswers = room - std::accumulate(widths.begin(), widths.begin() + AnswerColumn, 0);
+    const bool answersFit = roomForAnswers >= leastForAnswer * static_cast<int>(answers.size());
+    const std::span<int> shortened = answersFit ? answers : widths;
+    const int widest = std::max(widestIn(shortened, answersFit ? roomForAnswers : room), leastForAnswer);
+    for (int& width : shortened)
+        width = std::min(width, widest);
+}
+
 } // namespace
 
 FormsTable::FormsTable(QWidget* parent) : QTableWidget(0, static_cast<int>(Headings.size()), parent)
@@ -63,11 +114,15 @@ FormsTable::FormsTable(QWidget* parent) : QTableWidget(0, static_cast<int>(Headi
     setSelectionBehavior(SelectRows);
     setSelectionMode(SingleSelection);
     setTabKeyNavigation(false);
+    setWordWrap(false);
+    setTextElideMode(Qt::ElideMiddle);
     verticalHeader()->hide();
     horizontalHeader()->setStretchLastSection(true);
     horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setTextElideMode(Qt::ElideRight);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    shell::keepMeasure(*this, "rows", [this](shell::Growth) { fitRows(); });
+    shell::setType(*horizontalHeader(), 1);
+    shell::keepMeasure(*this, "rows", [this](shell::Growth) { fitCells(); });
 }
 
 void FormsTable::showForms(std::vector<Form> forms)
@@ -80,14 +135,36 @@ void FormsTable::showForms(std::vector<Form> forms)
     setRowCount(static_cast<int>(forms.size()));
     for (std::size_t row = 0; row < forms.size(); ++row)
         showForm(static_cast<int>(row), forms[row]);
-    fitRows();
+    fitCells();
     setCurrentCell(0, 0, QItemSelectionModel::NoUpdate);
 }
 
-void FormsTable::fitRows()
+QSize FormsTable::sizeHint() const
 {
-    resizeColumnsToContents();
+    return {CharactersWished * fontMetrics().averageCharWidth(), QTableWidget::sizeHint().height()};
+}
+
+void FormsTable::resizeEvent(QResizeEvent* event)
+{
+    QTableWidget::resizeEvent(event);
+    fitColumns();
+}
+
+void FormsTable::fitCells()
+{
     resizeRowsToContents();
+    fitColumns();
+}
+
+void FormsTable::fitColumns()
+{
+    std::array<int, Headings.size()> widths{};
+    for (std::size_t column = 0; column < widths.size(); ++column)
+        widths.at(column) = std::max(sizeHintForColumn(static_cast<int>(column)),
+                                     horizontalHeader()->sectionSizeHint(static_cast<int>(column)));
+    fit(widths, viewport()->width(), LeastCharacters * fontMetrics().averageCharWidth());
+    for (std::size_t column = 0; column < widths.size(); ++column)
+        setColumnWidth(static_cast<int>(column), widths.at(column));
 }
 
 void FormsTable::showForm(int row, const Form& form)
@@ -96,8 +173,11 @@ void FormsTable::showForm(int row, const Form& form)
     const std::array texts = {asked(form, question.asked), fromUtf8(textOf(shareOf(form))),
                               answered(form, question.expected), writtenInstead(form)};
     int column = 0;
-    for (const QString& text : texts)
-        setItem(row, column++, new QTableWidgetItem(text));
+    for (const QString& text : texts) {
+        auto* const item = new QTableWidgetItem(text);
+        item->setToolTip(text.toHtmlEscaped());
+        setItem(row, column++, item);
+    }
 }
 
 } // namespace progress

@@ -18,9 +18,17 @@ public:
 
     void showForms(std::vector<Form> forms);
 
+    QSize sizeHint() const override;
+
+protected:
+    /// The columns share the width: what is too long is shortened in its middle, and its tooltip has it
+    /// whole.
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     void showForm(int row, const Form& form);
-    void fitRows();
+    void fitCells();
+    void fitColumns();
 };
 
 } // namespace progress

@@ -6,12 +6,16 @@
 
 #include <QDate>
 #include <QHelpEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QToolTip>
 
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstdint>
+#include <optional>
 #include <utility>
 
 namespace progress {
@@ -23,6 +27,7 @@ constexpr int DaysOfWeek = 7;
 constexpr int SmallestStep = 6;
 constexpr double StepInLines = 0.8;
 constexpr int Gap = 2;
+constexpr int FrameWidth = 2;
 
 // The first of January 1970 was a Thursday.
 constexpr int WeekdayOfDayNought = 3;
@@ -44,11 +49,29 @@ QDate dateOf(Day day)
     return QDate(1970, 1, 1).addDays(day);
 }
 
+// How far an arrow goes: the weeks stand beside each other.
+std::optional<int> daysTo(int key)
+{
+    switch (key) {
+    case Qt::Key_Up:
+        return -1;
+    case Qt::Key_Down:
+        return 1;
+    case Qt::Key_Left:
+        return -DaysOfWeek;
+    case Qt::Key_Right:
+        return DaysOfWeek;
+    default:
+        return {};
+    }
+}
+
 } // namespace
 
 PracticeDays::PracticeDays(QWidget* parent) : QWidget(parent)
 {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    setFocusPolicy(Qt::StrongFocus);
 }
 
 void PracticeDays::showYear(std::vector<DayOfPractice> year)
@@ -57,6 +80,56 @@ void PracticeDays::showYear(std::vector<DayOfPractice> year)
     mostAnswers_ = 0;
     for (const DayOfPractice& day : year_)
         mostAnswers_ = std::max(mostAnswers_, day.share.answered);
+    if (!year_.empty())
+        choose(year_.size() - 1);
+    update();
+}
+
+void PracticeDays::choose(std::size_t day)
+{
+    chosen_ = day;
+    const QString text = inWords(year_.at(day));
+    setAccessibleDescription(text);
+    update();
+    Q_EMIT dayChosen(text);
+}
+
+QString PracticeDays::inWords(const DayOfPractice& day) const
+{
+    return shell::fromUtf8(OfDay)
+        .arg(dateOf(day.day).toString(Qt::ISODate))
+        .arg(day.share.answered)
+        .arg(day.share.right);
+}
+
+void PracticeDays::keyPressEvent(QKeyEvent* event)
+{
+    const auto step = daysTo(event->key());
+    if (!step || year_.empty()) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    const auto day = static_cast<std::int64_t>(chosen_) + *step;
+    const auto last = static_cast<std::int64_t>(year_.size()) - 1;
+    choose(static_cast<std::size_t>(std::clamp<std::int64_t>(day, 0, last)));
+}
+
+void PracticeDays::mousePressEvent(QMouseEvent* event)
+{
+    for (std::size_t day = 0; day < year_.size(); ++day)
+        if (placeOf(year_[day]).contains(event->pos()))
+            choose(day);
+}
+
+void PracticeDays::focusInEvent(QFocusEvent* event)
+{
+    QWidget::focusInEvent(event);
+    update();
+}
+
+void PracticeDays::focusOutEvent(QFocusEvent* event)
+{
+    QWidget::focusOutEvent(event);
     update();
 }
 
@@ -92,7 +165,7 @@ void PracticeDays::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
     const QColor none = palette().color(QPalette::AlternateBase);
-    const QColor edge = palette().color(QPalette::Mid);
+    const QColor edge = outlineColour();
     for (const DayOfPractice& day : year_) {
         const QRect place = placeOf(day);
         const bool practised = day.share.answered > 0;
@@ -106,6 +179,10 @@ void PracticeDays::paintEvent(QPaintEvent* /*event*/)
             painter.drawText(QPoint(place.left(), fontMetrics().ascent()),
                              QLatin1String(Months.at(static_cast<std::size_t>(date.month() - 1))));
     }
+    if (year_.empty() || !hasFocus())
+        return;
+    painter.setPen(QPen(palette().color(QPalette::WindowText), FrameWidth));
+    painter.drawRect(placeOf(year_.at(chosen_)));
 }
 
 void PracticeDays::changeEvent(QEvent* event)
@@ -123,10 +200,7 @@ bool PracticeDays::event(QEvent* event)
     QString text;
     for (const DayOfPractice& day : year_)
         if (placeOf(day).contains(help.pos()))
-            text = shell::fromUtf8(OfDay)
-                       .arg(dateOf(day.day).toString(Qt::ISODate))
-                       .arg(day.share.answered)
-                       .arg(day.share.right);
+            text = inWords(day);
     QToolTip::showText(help.globalPos(), text, this);
     return true;
 }

@@ -12,6 +12,7 @@
 #include "shell/kit/captions.h"
 #include "shell/kit/controls.h"
 #include "shell/kit/text.h"
+#include "shell/kit/type.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>
@@ -94,8 +95,10 @@ void Progress::makeControls()
     grid_->setItemDelegate(new CellDelegate(grid_));
     grid_->setSelectionMode(QAbstractItemView::SingleSelection);
     grid_->setTabKeyNavigation(false);
-    for (QHeaderView* const header : {grid_->horizontalHeader(), grid_->verticalHeader()})
+    for (QHeaderView* const header : {grid_->horizontalHeader(), grid_->verticalHeader()}) {
         header->setHighlightSections(false);
+        shell::setType(*header, 1);
+    }
     keepLines(*grid_, GridLines);
     shell::keepMeasure(*grid_, "cells", [this](shell::Growth) { fitCells(); });
     forms_ = shell::makeControl<FormsTable>(this, "ProgressForms");
@@ -105,6 +108,7 @@ void Progress::makeControls()
     daysInWords_ = shell::makeLabel(this, "ProgressDaysLabel");
     shell::wrapText(*daysInWords_, 1);
     days_ = shell::makeControl<PracticeDays>(this, "ProgressDays");
+    day_ = shell::makeLabel(this, "ProgressDay", shell::NoteType);
     keep_ = shell::makeControl<QCheckBox>(this, "ProgressKeep");
     export_ = shell::makeButton(this, "ProgressExport");
     delete_ = shell::makeButton(this, "ProgressDelete");
@@ -125,6 +129,7 @@ void Progress::layOut()
                                        Part::space(shell::SmallSpace),
                                        daysInWords_,
                                        days_,
+                                       day_,
                                        Part::space(shell::SmallSpace),
                                        keep_,
                                        shell::buttonRow({export_, delete_}, {review_, close_})}));
@@ -135,6 +140,7 @@ void Progress::connectControls()
     connect(kind_, &QComboBox::activated, this, &Progress::showGrid);
     connect(grid_->selectionModel(), &QItemSelectionModel::currentChanged, this, &Progress::showForms);
     shell::onEnter(*grid_, [this] { forms_->setFocus(); });
+    connect(days_, &PracticeDays::dayChosen, day_, &QLabel::setText);
     connect(keep_, &QCheckBox::clicked, this, &Progress::keepingSwitched);
     connect(export_, &QPushButton::clicked, this, &Progress::chooseFile);
     connect(delete_, &QPushButton::clicked, this, &Progress::erasureRequested);
@@ -242,6 +248,7 @@ void Progress::showDays()
     daysInWords_->setText(fromUtf8(YearInWords).arg(days).arg(all.answered).arg(all.right));
     days_->setAccessibleName(daysInWords_->text());
     days_->setVisible(!year.empty());
+    day_->setVisible(!year.empty());
     days_->showYear(std::move(year));
 }
 

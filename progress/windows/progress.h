@@ -65,6 +65,7 @@ private:
     FormsTable* forms_ = nullptr;
     QLabel* daysInWords_ = nullptr;
     PracticeDays* days_ = nullptr;
+    QLabel* day_ = nullptr;
     QCheckBox* keep_ = nullptr;
     QPushButton* export_ = nullptr;
     QPushButton* delete_ = nullptr;

@@ -1,7 +1,9 @@
 #include "progress/windows/review.h"
 
 #include "platform/platform.h"
+#include "progress/grammar_names.h"
 #include "progress/keeper.h"
+#include "progress/other_form.h"
 #include "progress/windows/review_box.h"
 #include "shell/kit/captions.h"
 #include "shell/kit/controls.h"
@@ -58,6 +60,8 @@ constexpr std::array Kinds = {
 };
 
 constexpr LanguageTexts Left{"%1 left", "%1 à revoir", {}, "%1 übrig", "%1 por repasar", "%1 repetenda"};
+constexpr LanguageTexts Before{"Before: %1, not %2", "Avant : %1, et non %2", {}, "Zuvor: %1, nicht %2", "Antes: %1, no %2", "Antea: %1, non %2"};
+constexpr LanguageTexts BeforeEmpty{"Before: %1", "Avant : %1", {}, "Zuvor: %1", "Antes: %1", "Antea: %1"};
 constexpr LanguageTexts NothingDue{"Nothing is due today.", "Rien n'est à revoir aujourd'hui.", {}, "Heute ist nichts fällig.", "Hoy no hay nada que repasar.", "Hodie nihil repetendum est."};
 constexpr LanguageTexts AllDone{"All that was due is done.", "Tout ce qui était à revoir est fait.", {}, "Alles Fällige ist erledigt.", "Todo lo que había que repasar está hecho.", "Omnia repetenda peracta sunt."};
 // clang-format on
@@ -91,6 +95,8 @@ void Review::makeControls()
     answer_ = shell::makeControl<ReviewBox>(this, "ReviewAnswer");
     joinBox(*answer_);
     shell::setLeastWidth(*answer_, AnswerCharacters);
+    before_ = shell::makeLabel(this, "ReviewBefore", shell::SentenceType);
+    shell::wrapText(*before_, 1);
     ok_ = shell::makeButton(this, "ReviewOK");
     hint_ = shell::makeQuestionButton(this, "ReviewHint");
     quit_ = shell::makeButton(this, "ReviewQuit");
@@ -103,7 +109,8 @@ void Review::layOut()
                 {shell::rowOf(shell::SmallSpace, {kindLabel_, kind_, Part::gap(1), score_}),
                  shell::rowOf(shell::SmallSpace, {title_, Part::gap(1), left_}), question_,
                  Part::space(shell::SmallSpace), shell::makeLabelOf(answer_, "ReviewAnswerLabel"), answer_,
-                 whyLabel(), shell::buttonRow({shell::makeLabel(this, "HelpLabel")}, {ok_, hint_, quit_})});
+                 whyLabel(), before_,
+                 shell::buttonRow({shell::makeLabel(this, "HelpLabel")}, {ok_, hint_, quit_})});
 }
 
 void Review::connectControls()
@@ -143,6 +150,7 @@ void Review::beginRound()
     round_ =
         ReviewRound(store == nullptr ? std::vector<std::int64_t>() : store->dueForms(today, kind.exercise));
     clearWhy();
+    before_->clear();
     ask();
     if (!asked_)
         question_->setText(fromUtf8(NothingDue));
@@ -187,8 +195,14 @@ bool Review::asksWord() const
 // A translation may hold a colon of its own.
 QString Review::shownQuestion() const
 {
-    const bool latin = !asksWord() || !answersInLatin();
-    return latin ? shell::latinText(asked_->asked) : fromUtf8(asked_->asked);
+    if (!asksWord())
+        return shell::latinText(inLanguageShown(asked_->asked));
+    return !answersInLatin() ? shell::latinText(asked_->asked) : fromUtf8(asked_->asked);
+}
+
+QString Review::shownAnswer(const std::string& text) const
+{
+    return answersInLatin() ? shell::latinText(text) : fromUtf8(text);
 }
 
 shell::AnswerBox& Review::askedBox() const
@@ -206,6 +220,11 @@ bool Review::answersInLatin() const
     return !asksWord() || shell::partsOfPlace(asked_->place)[1] == shell::AskedWithTranslation;
 }
 
+std::optional<LanguageTexts> Review::answersAnother(const std::string& typed) const
+{
+    return asked_ ? otherFormOf(*asked_, typed) : std::nullopt;
+}
+
 void Review::check()
 {
     if (!canAnswer() || !asked_)
@@ -216,6 +235,8 @@ void Review::check()
         return;
     }
     const shell::AnswerRecord record = judged(*asked_, typed);
+    written_ = typed;
+    before_->clear();
     holdBoxes();
     shell::tellAnswer(record);
     announce(record.right);
@@ -249,10 +270,23 @@ void Review::askAgain()
 {
     const auto missed = round_.asked();
     round_.moveOn(false);
-    if (round_.asked() != missed)
+    if (round_.asked() != missed) {
         dropKeysKept();
+        showBefore();
+    }
     ask();
     focusQuestion();
+}
+
+// What explains the wrong answer goes with its question; the right one stays in sight beside the next.
+void Review::showBefore()
+{
+    clearWhy();
+    if (!asked_)
+        return;
+    const QString right = shownAnswer(asked_->expected);
+    before_->setText(written_.empty() ? fromUtf8(BeforeEmpty).arg(right)
+                                      : fromUtf8(Before).arg(right, shownAnswer(written_)));
 }
 
 void Review::focusQuestion()

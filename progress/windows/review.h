@@ -16,8 +16,8 @@ class Keeper;
 class ReviewBox;
 
 /// Asks the forms and words that are due, of all kinds of exercise or of one. One that was missed comes again
-/// as the last. Words are typed as they stand in their list: there "/", "?" and macrons are letters like all
-/// others, and a "?" alone asks for the answer.
+/// as the last, and beside the next question a line says what was right. Words are typed as they stand in
+/// their list: there "/", "?" and macrons are letters like all others, and a "?" alone asks for the answer.
 class Review : public shell::TypingDrill {
     Q_OBJECT
 
@@ -36,6 +36,7 @@ protected:
     shell::AnswerBox& askedBox() const override;
     std::string answer() const override;
     bool answersInLatin() const override;
+    std::optional<shell::LanguageTexts> answersAnother(const std::string& typed) const override;
     void check() override;
     void holdBoxes() override;
 
@@ -47,6 +48,8 @@ private:
 
     bool asksWord() const;
     QString shownQuestion() const;
+    QString shownAnswer(const std::string& text) const;
+    void showBefore();
     void beginRound();
     void ask();
     void showQuestion();
@@ -55,10 +58,12 @@ private:
     Keeper* keeper_ = nullptr;
     ReviewRound round_;
     std::optional<shell::AnswerRecord> asked_;
+    std::string written_;
     QLabel* title_ = nullptr;
     QLabel* left_ = nullptr;
     QLabel* score_ = nullptr;
     QLabel* question_ = nullptr;
+    QLabel* before_ = nullptr;
     ReviewBox* answer_ = nullptr;
     QLabel* kindLabel_ = nullptr;
     QComboBox* kind_ = nullptr;

@@ -10,6 +10,7 @@ namespace progress {
 namespace {
 
 constexpr double Palest = 0.12;
+constexpr double HalfWay = 0.5;
 
 // At this luminance black and white differ from a colour alike.
 constexpr double MiddleLuminance = 0.179;
@@ -17,6 +18,13 @@ constexpr double MiddleLuminance = 0.179;
 double mixed(double from, double to, double part)
 {
     return from + (to - from) * part;
+}
+
+QColor between(const QColor& from, const QColor& to, double part)
+{
+    return QColor::fromRgbF(static_cast<float>(mixed(from.redF(), to.redF(), part)),
+                            static_cast<float>(mixed(from.greenF(), to.greenF(), part)),
+                            static_cast<float>(mixed(from.blueF(), to.blueF(), part)));
 }
 
 double linear(double channel)
@@ -31,10 +39,14 @@ QColor shadeOf(double share)
     const QPalette palette = QGuiApplication::palette();
     const QColor ground = palette.color(QPalette::Active, QPalette::Base);
     const QColor accent = palette.color(QPalette::Active, QPalette::Highlight);
-    const double part = mixed(Palest, 1, share);
-    return QColor::fromRgbF(static_cast<float>(mixed(ground.redF(), accent.redF(), part)),
-                            static_cast<float>(mixed(ground.greenF(), accent.greenF(), part)),
-                            static_cast<float>(mixed(ground.blueF(), accent.blueF(), part)));
+    return between(ground, accent, mixed(Palest, 1, share));
+}
+
+QColor outlineColour()
+{
+    const QPalette palette = QGuiApplication::palette();
+    return between(palette.color(QPalette::Active, QPalette::Base),
+                   palette.color(QPalette::Active, QPalette::Text), HalfWay);
 }
 
 QColor readableOn(const QColor& colour)

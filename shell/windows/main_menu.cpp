@@ -77,9 +77,15 @@ private:
 // A line that is a link, and shows when it has the focus.
 class LinkLine : public QLabel {
 public:
-    using QLabel::QLabel;
+    explicit LinkLine(QWidget* parent) : QLabel(parent) { setCursor(Qt::PointingHandCursor); }
 
 protected:
+    void mouseReleaseEvent(QMouseEvent* event) override
+    {
+        if (event->button() == Qt::LeftButton && rect().contains(event->pos()))
+            Q_EMIT linkActivated({});
+    }
+
     void focusInEvent(QFocusEvent* event) override
     {
         QLabel::focusInEvent(event);
@@ -216,10 +222,10 @@ void MainMenu::makeLastDrill()
     lastDrill_->setTextFormat(Qt::RichText);
     lastDrill_->setAlignment(Qt::AlignHCenter);
     lastDrill_->setContentsMargins(0, LargeSpace, 0, 0);
-    lastDrill_->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    lastDrill_->setTextInteractionFlags(Qt::LinksAccessibleByKeyboard);
     connect(lastDrill_, &QLabel::linkActivated, this, &MainMenu::reviewRequested);
     onEnter(*lastDrill_, [this] { Q_EMIT reviewRequested(); });
-    column_->addWidget(lastDrill_);
+    column_->addWidget(lastDrill_, 0, Qt::AlignHCenter);
 }
 
 // In the colour of all text, which can be read in a dark window as well.

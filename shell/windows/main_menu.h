@@ -30,7 +30,8 @@ public:
     /// An exercise was opened: the first steps go, for good.
     void endFirstSteps();
 
-    /// Says in one line what the exercise just left has come to, with a link that requests a review.
+    /// Says in one line how many answers of the exercise just left were right at once, and how many forms are
+    /// to be repeated now. The line is a link that requests a review.
     void showLastDrill(int right, int toRepeat);
 
     /// The line goes.

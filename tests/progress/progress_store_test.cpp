@@ -359,7 +359,7 @@ TEST_F(ProgressStore, ReviewsAFormWithoutMarksAsLongAsItWasNeverAskedWithThem)
     }
 }
 
-TEST_F(ProgressStore, CountsWhatADrillCameTo)
+TEST_F(ProgressStore, CountsWhatADrillCameToAndWhatIsDueThen)
 {
     keeper->beginDrill();
     // Whether each was right: 1 is missed and corrected, 2 missed, corrected and known later.
@@ -367,10 +367,13 @@ TEST_F(ProgressStore, CountsWhatADrillCameTo)
                                            {2, true},  {3, true}, {4, true},  {5, false}};
     for (const auto& [word, right] : answers)
         keeper->keep(Keeper::rowOf(answerNumber(word, right)));
-    EXPECT_EQ(keeper->drillCount().right, 3);
-    EXPECT_EQ(keeper->drillCount().toRepeat, 2);
+    auto ofQuiz = answerNumber(6, false);
+    ofQuiz.exercise = "NounQuiz";
+    keeper->keep(Keeper::rowOf(ofQuiz));
+    EXPECT_EQ(keeper->rightAtOnce(), 3);
     keeper->beginDrill();
-    EXPECT_EQ(keeper->drillCount().toRepeat, 0);
+    EXPECT_EQ(keeper->rightAtOnce(), 0);
+    EXPECT_EQ(keeper->formsDue(), 2);
 }
 
 // Sixty forms, and where each lies in a card index of the learner's own.

@@ -37,11 +37,11 @@ const Exercise Exercises[] = {
     {"German", {"QuizButton"}, "Probatio", "⏎↓⇥⇥⇥↓⏎", {
         "lauda:re|First Conjugation / Present Indicative / 1st Person Sing|laudo:|1. Person Sing., 1. Konjugation, Präsens Indikativ|1. Person Sing., |wrong",
         "lauda:re|First Conjugation / Present Indicative / 1st Person Sing|laudo:|1. Person Sing., 1. Konjugation, Präsens Indikativ|1. Person Sing., 1. Konjugation, Präsens Indikativ|right"},
-        "0 richtig, 1 zu wiederholen"},
+        "0 richtig, 0 zu wiederholen"},
     {"English", {"FileNounQuiz"}, "NounQuiz", "␣⏎␣⇥␣⇥⇥⇥⇥␣⇥⇥⇥␣⏎", {
         "insula|First Declension / Accusative Singular|insulam|singular Accusative|singular Nominative|wrong",
         "fructus|Fourth Declension / Accusative Plural|fructus|singular Nominative Genitive Plural Nominative Accusative|singular Nominative Genitive Plural Nominative Accusative|right"},
-        "1 right, 1 to repeat"},
+        "1 right, 0 to repeat"},
     {"Spanish", {"VocabularyButton"}, "Vcabtester", "x⏎?⏎rose⏎key⏎", {
         "rosa|vr-vcab.lst / word|rosa, f.|rose|x|wrong", "rosa|vr-vcab.lst / word|rosa, f.|rose|rose|right",
         "cla:vis|vr-vcab.lst / word|cla:vis|key|key|right"},
@@ -128,6 +128,8 @@ TEST_F(KeptAnswers, AreCountedThroughATestPutAsideAndLeadToTheReviewUntilNothing
     press(menu, Qt::Key_Tab);
     press(menu, Qt::Key_Return);
     EXPECT_EQ(reviews.count(), 1);
+    QTest::mouseClick(&control<QLabel>(menu, "LastDrill"), Qt::LeftButton);
+    EXPECT_EQ(reviews.count(), 2);
     EXPECT_EQ(answerAndLeave({}), "");
     writeFile("looks.ini", "KeepAnswers=0");
     start();

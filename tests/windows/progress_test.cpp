@@ -61,12 +61,12 @@ TEST_F(Progress, AGridHasTheShareOfEachCellAndACellItsWorstFormFirstWithWhatWasW
     const auto textAt = [&](int row, int column, int role = Qt::DisplayRole) {
         return grid.model()->index(row, column).data(role).toString();
     };
-    EXPECT_EQ(grid.model()->headerData(1, Qt::Vertical).toString(), "Present Indicative");
+    EXPECT_EQ(grid.model()->headerData(0, Qt::Vertical).toString(), "Present Indicative");
     EXPECT_EQ(grid.model()->headerData(1, Qt::Horizontal).toString().simplified(), "Third Conjugation");
-    EXPECT_EQ(textAt(0, 0) + '|' + textAt(0, 1) + '|' + textAt(1, 0) + '|' + textAt(1, 1), "100 %||63 %|0 %");
-    EXPECT_EQ(textAt(1, 0, Qt::AccessibleTextRole),
+    EXPECT_EQ(textAt(0, 0) + '|' + textAt(0, 1) + '|' + textAt(1, 0) + '|' + textAt(1, 1), "63 %|0 %|100 %|");
+    EXPECT_EQ(textAt(0, 0, Qt::AccessibleTextRole),
               "First Conjugation, Present Indicative: 63 percent right, 5 of 8 answers");
-    EXPECT_EQ(textAt(0, 1, Qt::AccessibleTextRole), "Third Conjugation, Imperative: not asked yet");
+    EXPECT_EQ(textAt(1, 1, Qt::AccessibleTextRole), "Third Conjugation, Imperative: not asked yet");
 
     EXPECT_EQ(tests::focusIn(progress), "ProgressGrid");
     tests::press(progress, Qt::Key_Left);
@@ -76,9 +76,15 @@ TEST_F(Progress, AGridHasTheShareOfEachCellAndACellItsWorstFormFirstWithWhatWasW
     QStringList first;
     for (int column = 0; column < forms.columnCount(); ++column)
         first << forms.item(0, column)->text();
-    EXPECT_EQ(first.join('|'), "amare, Present Indicative / 3rd Person Sing|40 %|amat|amabt, ambat");
+    EXPECT_EQ(first.join('|'), "amare, Present Indicative, 3rd Person Sing|40 %|amat|amabt, ambat");
     EXPECT_EQ(forms.item(1, 1)->text(), "100 %");
     EXPECT_TRUE(label(progress, "ProgressDaysLabel").contains("year: 1. Answers: 11, right: 7."));
+
+    EXPECT_EQ(label(progress, "ProgressDay"), "2024-10-04: 11 answers, 7 right");
+    tests::press(progress, Qt::Key_Tab);
+    tests::press(progress, Qt::Key_Left);
+    tests::press(progress, Qt::Key_Down);
+    EXPECT_EQ(label(progress, "ProgressDay"), "2024-09-28: 0 answers, 0 right");
 
     auto& kind = tests::control<QComboBox>(progress, "ProgressKind");
     kind.setFocus();
@@ -87,6 +93,24 @@ TEST_F(Progress, AGridHasTheShareOfEachCellAndACellItsWorstFormFirstWithWhatWasW
     tests::press(progress, Qt::Key_Up);
     EXPECT_FALSE(grid.isVisible());
     EXPECT_EQ(label(progress, "ProgressNothing"), "Nothing has been answered here yet.");
+}
+
+TEST_F(Progress, StandsInTheOrderOfAGrammarAndInTheLanguageOfTheInterface)
+{
+    QWidget& menu = start();
+    tell("NounQuiz", "rex", "Third Declension / Genitive Plural", "Genitive Plural", "singular Dative");
+    tell("Pronouns", "is", "is-ea-id / Dative Singular / Fem. Sing.", "ei", "ei");
+    tell("Declination", "fides", "Second Declension (-us) / Ablative Singular", "fide", "fides");
+    tests::choose(menu, "GermanLang");
+    const auto& grid = tests::control<QTableView>(openProgress(), "ProgressGrid");
+    QStringList names;
+    for (int column = 0; column < 3; ++column)
+        names << grid.model()->headerData(column, Qt::Horizontal).toString().simplified();
+    for (int row = 0; row < 3; ++row)
+        names << grid.model()->headerData(row, Qt::Vertical).toString();
+    EXPECT_EQ(names.join('|'), "2. Deklination (-us)|3. Deklination|is-ea-id|"
+                               "Dativ Einzahl|Ablativ Einzahl|Genitiv Mehrzahl");
+    EXPECT_EQ(asked(openReview()), "fides, Ablativ Einzahl");
 }
 
 TEST_F(Progress, AnswersAreExportedAndKeptOrNotAndDeletedOnceTheQuestionIsAnswered)
@@ -139,20 +163,25 @@ TEST_F(Progress, AReviewAsksWhatIsDueAndWhatWasMissedAsTheLast)
     tellOfThreeForms();
     tell("NounQuiz", "rex", "Third Declension / Genitive Singular", "Genitive", "Dative");
     QWidget& review = openReview();
-    EXPECT_EQ(asked(review) + leftIn(review), "amare, Imperative / 2nd Person Sing3");
-    duringPause([&] { tests::type(review, "amate"); });
-    tests::answer(review, "ame");
-    EXPECT_EQ(label(review, "WhyLabel"), "am<u>e</u>");
+    EXPECT_EQ(asked(review) + leftIn(review), "amare, Imperative, 2nd Person Sing3");
+    duringPause([&] {
+        EXPECT_EQ(label(review, "WhyLabel"), "ama<u>t</u>e &nbsp; This is the ending of another person.");
+        tests::type(review, "amate");
+    });
+    tests::answer(review, "amate");
+    EXPECT_EQ(label(review, "WhyLabel"), "");
+    EXPECT_EQ(label(review, "ReviewBefore"), "Before: ama, not amate");
     EXPECT_EQ(asked(review) + leftIn(review), "insula, word3");
     EXPECT_EQ(line(review, "ReviewAnswer").text(), "");
 
     tests::answer(review, "?");
     tests::answer(review, "and/or?");
+    EXPECT_EQ(label(review, "ReviewBefore"), "");
     EXPECT_EQ(asked(review) + leftIn(review), "rex, Genitive Singular2");
     duringPause([&] { EXPECT_EQ(line(review, "ReviewAnswer").text(), "regis"); });
     tests::type(review, "reg/");
     tests::answer(review, "regis");
-    EXPECT_EQ(asked(review) + leftIn(review), "amare, Imperative / 2nd Person Sing1");
+    EXPECT_EQ(asked(review) + leftIn(review), "amare, Imperative, 2nd Person Sing1");
     tests::answer(review, "ama");
     EXPECT_EQ(leftIn(review), "0");
     EXPECT_EQ(label(review, "ScoreLabel").trimmed(), "75%");
@@ -163,7 +192,7 @@ TEST_F(Progress, AReviewAsksWhatIsDueAndWhatWasMissedAsTheLast)
     // The two that were right at once are due in a day; the miss that was corrected still lies in the first
     // box.
     tests::click(tests::shown("Progress"), "ProgressReview");
-    EXPECT_EQ(asked(review) + leftIn(review), "amare, Imperative / 2nd Person Sing1");
+    EXPECT_EQ(asked(review) + leftIn(review), "amare, Imperative, 2nd Person Sing1");
     fake.day += 1;
     auto& kind = tests::control<QComboBox>(review, "ReviewKind");
     kind.setFocus();

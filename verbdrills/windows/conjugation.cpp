@@ -9,6 +9,7 @@
 #include "shell/kit/type.h"
 #include "shell/settings.h"
 #include "verbdrills/gloss.h"
+#include "verbdrills/tense_names.h"
 #include "verbdrills/verb_records.h"
 #include "verbs/verb_tables.h"
 
@@ -46,8 +47,6 @@ constexpr std::array Captions = {
 //                                     English             French               Italian                German                Spanish               Latin
 constexpr shell::LanguageTexts TenseOf{"tense %1 of %2",  "temps %1 sur %2",   "tempo %1 di %2",      "Zeitform %1 von %2",   "tiempo %1 de %2",    "tempus %1 ex %2"};
 constexpr shell::LanguageTexts ClassOf{"class %1 of %2",  "classe %1 sur %2",  "classe %1 di %2",     "Konjugation %1 von %2",   "clase %1 de %2",     "coniugatio %1 ex %2"};
-constexpr shell::LanguageTexts OtherPerson{"This is the ending of another person.", "C'est la terminaison d'une autre personne.", "È la desinenza di un'altra persona.", "Das ist die Endung einer anderen Person.", "Es la terminación de otra persona.", "Haec est desinentia alterius personae."};
-constexpr shell::LanguageTexts OtherNumber{"This is the ending of the other number.", "C'est la terminaison de l'autre nombre.", "È la desinenza dell'altro numero.", "Das ist die Endung des anderen Numerus.", "Es la terminación del otro número.", "Haec est desinentia alterius numeri."};
 // clang-format on
 
 } // namespace
@@ -179,10 +178,7 @@ std::string Conjugation::answer() const
 
 std::optional<shell::LanguageTexts> Conjugation::answersAnother(const std::string& typed) const
 {
-    const auto other = otherEndingIn(typed);
-    if (!other)
-        return {};
-    return *other == OtherEnding::Number ? OtherNumber : OtherPerson;
+    return otherEndingOf(conjugationDrill.PersonIndex + verbs::FirstSingular, personsWithForm(typed));
 }
 
 void Conjugation::answerShown()

@@ -1,0 +1,165 @@
+#include "progress/grammar_names.h"
+
+#include "nouns/case_names.h"
+#include "nouns/case_order.h"
+#include "nouns/chooser_rows.h"
+#include "nouns/paradigm_names.h"
+#include "verbdrills/conjugation_choice.h"
+#include "verbdrills/quiz_texts.h"
+#include "verbdrills/tense_names.h"
+
+#include <algorithm>
+#include <array>
+#include <initializer_list>
+#include <span>
+
+namespace progress {
+
+using shell::LanguageTexts;
+
+namespace {
+
+constexpr std::string_view Comma = ", ";
+constexpr std::array<std::string_view, 2> Separators = {Comma, " / "};
+
+// clang-format off
+// The drills have these in English alone, whatever the language.
+constexpr std::array Cases = {
+    //            English       French        Italian German       Spanish       Latin
+    LanguageTexts{"Nominative", "Nominatif",  {},     "Nominativ", "Nominativo", "Nominativus"},
+    LanguageTexts{"Genitive",   "Génitif",    {},     "Genitiv",   "Genitivo",   "Genetivus"},
+    LanguageTexts{"Dative",     "Datif",      {},     "Dativ",     "Dativo",     "Dativus"},
+    LanguageTexts{"Accusative", "Accusatif",  {},     "Akkusativ", "Acusativo",  "Accusativus"},
+    LanguageTexts{"Ablative",   "Ablatif",    {},     "Ablativ",   "Ablativo",   "Ablativus"},
+};
+
+constexpr std::array Genders = {
+    LanguageTexts{"Masc.", "Masc.",  {}, "Mask.",  "Masc.", "Masc."},
+    LanguageTexts{"Fem.",  "Fém.",   {}, "Fem.",   "Fem.",  "Fem."},
+    LanguageTexts{"Neut.", "Neutre", {}, "Neutr.", "Neut.", "Neutr."},
+};
+
+// The number of the noun quiz comes first, those of the declension drill are kept in a place.
+constexpr std::array Numbers = {
+    LanguageTexts{nouns::SingularName, "singulier", {}, "Einzahl", "singular", "singularis"},
+    nouns::SingularTexts,
+    nouns::PluralTexts,
+};
+// clang-format on
+
+static_assert(Cases.size() == nouns::CaseNames.size());
+
+bool names(const LanguageTexts& texts, std::string_view name)
+{
+    const auto all = {texts.english, texts.french, texts.italian, texts.german, texts.spanish, texts.latin};
+    return std::ranges::find(all, std::optional(name)) != all.end();
+}
+
+const LanguageTexts* findIn(std::span<const LanguageTexts> table, std::string_view name)
+{
+    const auto found = std::ranges::find_if(table, [&](const auto& texts) { return names(texts, name); });
+    return found == table.end() ? nullptr : &*found;
+}
+
+const LanguageTexts* findName(std::string_view name)
+{
+    const std::initializer_list<std::span<const LanguageTexts>> tables = {verbdrills::quizClassNames(),
+                                                                          verbdrills::NamesOfTenses,
+                                                                          verbdrills::NamesOfPersons,
+                                                                          Cases,
+                                                                          Numbers,
+                                                                          Genders};
+    for (const auto table : tables)
+        if (const LanguageTexts* const texts = findIn(table, name))
+            return texts;
+    for (const nouns::ParadigmName& paradigm : nouns::ParadigmNames)
+        if (names(paradigm.texts, name))
+            return &paradigm.texts;
+    return nullptr;
+}
+
+// The words of a part from the left, of each the longest name that begins with it: "Genitive Singular".
+std::string partInLanguage(std::string_view part)
+{
+    if (part.empty())
+        return {};
+    for (std::size_t end = part.size(); end != 0 && end != std::string_view::npos;
+         end = part.rfind(' ', end - 1)) {
+        const LanguageTexts* const texts = findName(part.substr(0, end));
+        if (texts == nullptr)
+            continue;
+        const std::string name(texts->currentOrDesigned());
+        return end == part.size() ? name : name + " " + partInLanguage(part.substr(end + 1));
+    }
+    const std::size_t blank = part.find(' ');
+    if (blank == std::string_view::npos)
+        return std::string(part);
+    return std::string(part.substr(0, blank + 1)) + partInLanguage(part.substr(blank + 1));
+}
+
+struct Cut {
+    std::size_t at = std::string_view::npos;
+    std::size_t length = 0;
+};
+
+Cut firstSeparator(std::string_view text)
+{
+    Cut cut;
+    for (const std::string_view separator : Separators)
+        if (const std::size_t at = text.find(separator); at < cut.at)
+            cut = {at, separator.size()};
+    return cut;
+}
+
+std::vector<std::string> casesInOrder(const LanguageTexts& number)
+{
+    std::vector<std::string> cases;
+    for (const int inCase : nouns::casesInOrder())
+        cases.push_back(std::string(nouns::CaseNames.at(static_cast<std::size_t>(inCase)))
+                            .append(" ")
+                            .append(*number.english));
+    return cases;
+}
+
+std::vector<std::string> namesInOrder()
+{
+    std::vector<std::string> ordered;
+    for (const int verbClass : verbdrills::OfferedClasses)
+        ordered.emplace_back(*verbdrills::quizClassNames()[static_cast<std::size_t>(verbClass - 1)].english);
+    for (const LanguageTexts& tense : verbdrills::NamesOfTenses)
+        ordered.emplace_back(*tense.english);
+    for (const int paradigm : nouns::OfferedParadigms)
+        ordered.emplace_back(*nouns::ParadigmNames.at(static_cast<std::size_t>(paradigm - 1)).texts.english);
+    for (const LanguageTexts& group : nouns::PronounRows)
+        ordered.emplace_back(*group.latin);
+    for (const LanguageTexts& number : {nouns::SingularTexts, nouns::PluralTexts})
+        std::ranges::copy(casesInOrder(number), std::back_inserter(ordered));
+    return ordered;
+}
+
+} // namespace
+
+std::string inLanguageShown(std::string_view text)
+{
+    std::string shown;
+    while (true) {
+        const Cut cut = firstSeparator(text);
+        shown += partInLanguage(text.substr(0, cut.at));
+        if (cut.at == std::string_view::npos)
+            return shown;
+        text.remove_prefix(cut.at + cut.length);
+        if (text.empty())
+            return shown;
+        shown += Comma;
+    }
+}
+
+void sortAsInGrammar(std::vector<std::string>& names)
+{
+    const std::vector<std::string> ordered = namesInOrder();
+    std::ranges::stable_sort(names, {}, [&ordered](const std::string& name) {
+        return std::ranges::find(ordered, name) - ordered.begin();
+    });
+}
+
+} // namespace progress
