@@ -165,7 +165,7 @@ TEST_F(Progress, AReviewAsksWhatIsDueAndWhatWasMissedAsTheLast)
     QWidget& review = openReview();
     EXPECT_EQ(asked(review) + leftIn(review), "amare, Imperative, 2nd Person Sing3");
     duringPause([&] {
-        EXPECT_EQ(label(review, "WhyLabel"), "ama<u>t</u>e &nbsp; This is the ending of another person.");
+        EXPECT_EQ(label(review, "WhyLabel"), "ama<u>t</u>e &nbsp; This is the ending of the other number.");
         tests::type(review, "amate");
     });
     tests::answer(review, "amate");
