@@ -94,12 +94,11 @@ void ProgressNavigation::closeFile()
 void ProgressNavigation::endDrill()
 {
     keepWaiting();
-    if (!std::exchange(drillRuns_, false) || !keeper_.keeps()) {
+    const bool isKept = std::exchange(drillRuns_, false) && keeper_.keeps();
+    if (const auto due = isKept ? keeper_.formsDue() : std::nullopt)
+        common_.mainMenu().showLastDrill(keeper_.rightAtOnce(), *due);
+    else
         common_.mainMenu().forgetLastDrill();
-        keeper_.close();
-        return;
-    }
-    common_.mainMenu().showLastDrill(keeper_.rightAtOnce(), keeper_.formsDue());
     keeper_.close();
 }
 

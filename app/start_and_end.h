@@ -26,8 +26,8 @@ void loadProgram(shell::MainMenu& mainMenu);
 
 /// Ends the program as `ExitButton` does. Where `SaveSettingsOnExit` is false, at once. Else the settings
 /// file is written, and beside it what it has no line for, all windows are hidden, and when sound is on the
-/// sound is played to its end, for three seconds at the most. A file that cannot be written is told on
-/// standard error, and the exit status is 1.
+/// sound is played to its end, for three seconds at the most. A settings file that cannot be written is
+/// told on standard error, and the exit status is 1.
 void exitProgram(shell::MainMenu& mainMenu);
 
 /// Ends the program at once, without saving.

@@ -47,7 +47,7 @@ constexpr std::array Numbers = {
 };
 // clang-format on
 
-static_assert(Cases.size() == nouns::CaseNames.size());
+static_assert(std::ranges::equal(Cases, nouns::CaseNames, {}, &LanguageTexts::english));
 
 bool names(const LanguageTexts& texts, std::string_view name)
 {

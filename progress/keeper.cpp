@@ -21,21 +21,23 @@ void Keeper::switchKeeping(bool on)
     close();
     keeps_ = on;
     right_ = 0;
-    misses_.clear();
+    missed_.clear();
 }
 
 void Keeper::beginDrill()
 {
     drill_ = 0;
     right_ = 0;
-    misses_.clear();
+    missed_.clear();
 }
 
-int Keeper::formsDue()
+std::optional<int> Keeper::formsDue()
 {
     Store* const kept = store();
     const Day today = platform::localDay(platform::current().now());
-    return kept == nullptr ? 0 : static_cast<int>(kept->dueForms(today, {}).size());
+    if (kept != nullptr)
+        return static_cast<int>(kept->dueForms(today, {}).size());
+    return isUnreadable() ? std::nullopt : std::optional(0);
 }
 
 Row Keeper::rowOf(const shell::AnswerRecord& answer)
@@ -86,19 +88,13 @@ void Keeper::close()
     store_.reset();
 }
 
-// A right answer that corrects a miss counts for neither, one that comes later takes the miss away.
+// A right answer that corrects a miss does not count.
 void Keeper::count(const shell::AnswerRecord& answer)
 {
-    const FormName name = nameOf(answer);
-    const auto miss = misses_.find(name);
-    if (!answer.right) {
-        misses_[name] = Miss::Just;
-    } else if (miss != misses_.end() && miss->second == Miss::Just) {
-        miss->second = Miss::Corrected;
-    } else {
-        misses_.erase(name);
+    if (!answer.right)
+        missed_.insert(nameOf(answer));
+    else if (missed_.erase(nameOf(answer)) == 0)
         ++right_;
-    }
 }
 
 Trouble Keeper::write(Row row)

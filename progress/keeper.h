@@ -6,8 +6,9 @@
 #include <cstdint>
 #include <filesystem>
 #include <functional>
-#include <map>
 #include <memory>
+#include <optional>
+#include <set>
 
 namespace progress {
 
@@ -47,8 +48,8 @@ public:
     /// kept, it is only read, as it is, and no file is made or changed.
     Store* store();
 
-    /// How many forms a review would ask now; none where they cannot be read.
-    int formsDue();
+    /// How many forms a review would ask now; empty where they cannot be read.
+    std::optional<int> formsDue();
 
     /// Whether there are answers that cannot be read now, as `store` was asked last.
     bool isUnreadable() const { return unreadable_; }
@@ -61,8 +62,6 @@ public:
     void close();
 
 private:
-    enum class Miss { Just, Corrected };
-
     using Work = std::function<Trouble(Store&)>;
 
     void count(const shell::AnswerRecord& answer);
@@ -85,7 +84,7 @@ private:
     /// The drill that runs, numbered with its first answer; 0 before that.
     std::int64_t drill_ = 0;
     int right_ = 0;
-    std::map<FormName, Miss> misses_;
+    std::set<FormName> missed_;
 };
 
 } // namespace progress

@@ -9,6 +9,7 @@
 #include "verbdrills/other_ending.h"
 #include "verbdrills/quiz_texts.h"
 #include "verbdrills/tense_names.h"
+#include "verbs/paradigm.h"
 
 #include <algorithm>
 #include <span>

@@ -28,12 +28,4 @@ void setDelay(int scroll)
     countSettingsChange();
 }
 
-void setDelaySeconds(int seconds)
-{
-    if (seconds == settings.DelaySeconds)
-        return;
-    settings.DelaySeconds = seconds;
-    countSettingsChange();
-}
-
 } // namespace shell

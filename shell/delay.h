@@ -19,9 +19,6 @@ std::string delayText(int scroll);
 /// The seconds that a scroll value stands for.
 double secondsOfScroll(int scroll);
 
-/// Sets `DelaySeconds`, and raises `SettingsChangeCount` by one where that changes it.
-void setDelaySeconds(int seconds);
-
 /// Sets `DelaySeconds` to the seconds of a scroll value, rounded to the nearest whole number, halves to the
 /// even one, and raises `SettingsChangeCount` by one.
 void setDelay(int scroll);

@@ -78,7 +78,7 @@ std::string looksText()
     return text;
 }
 
-// How things look is worth no message.
+// Nothing that stands in this file is worth a message.
 void keepLooks()
 {
     static_cast<void>(platform::replaceFile(LooksFileName, looksText()));

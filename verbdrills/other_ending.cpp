@@ -18,11 +18,11 @@ constexpr int PersonsOfNumber = verbs::PersonCount / 2;
 
 std::optional<shell::LanguageTexts> otherEndingOf(int asked, const Persons& answered)
 {
+    const auto isAnswered = [&](int person) { return answered.at(static_cast<std::size_t>(person - 1)); };
+    if (isAnswered(asked) || std::ranges::count(answered, true) == 0)
+        return {};
     const int inOtherNumber = asked < verbs::FirstPlural ? asked + PersonsOfNumber : asked - PersonsOfNumber;
-    if (answered.at(static_cast<std::size_t>(inOtherNumber - 1)))
-        return OtherNumber;
-    const bool isAnswered = std::ranges::find(answered, true) != answered.end();
-    return isAnswered ? std::optional(OtherPerson) : std::nullopt;
+    return isAnswered(inOtherNumber) ? OtherNumber : OtherPerson;
 }
 
 } // namespace verbdrills

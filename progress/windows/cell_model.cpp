@@ -31,6 +31,11 @@ double partRight(const Share& share)
     return static_cast<double>(share.right) / share.answered;
 }
 
+bool areOfWords(const std::vector<Cell>& cells)
+{
+    return !cells.empty() && cells.front().name.grid == Grid::Words;
+}
+
 // The names of columns or of rows, each once, in the order in which they are to stand.
 std::vector<std::string> namesIn(const std::vector<Cell>& cells, std::string CellName::*part)
 {
@@ -39,7 +44,7 @@ std::vector<std::string> namesIn(const std::vector<Cell>& cells, std::string Cel
     for (const Cell& cell : cells)
         if (known.insert(cell.name.*part).second)
             names.push_back(cell.name.*part);
-    if (!cells.empty() && cells.front().name.grid != Grid::Words)
+    if (!areOfWords(cells))
         sortAsInGrammar(names);
     return names;
 }
@@ -73,7 +78,7 @@ void CellModel::show(const std::vector<Cell>& cells)
     beginResetModel();
     const auto columns = namesIn(cells, &CellName::column);
     const auto rows = namesIn(cells, &CellName::row);
-    const bool ofWords = !cells.empty() && cells.front().name.grid == Grid::Words;
+    const bool ofWords = areOfWords(cells);
     columns_.clear();
     rows_.clear();
     for (const std::string& column : columns)

@@ -175,7 +175,7 @@ void FormsTable::showForm(int row, const Form& form)
     int column = 0;
     for (const QString& text : texts) {
         auto* const item = new QTableWidgetItem(text);
-        item->setToolTip(text.toHtmlEscaped());
+        item->setToolTip(QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped()));
         setItem(row, column++, item);
     }
 }

@@ -23,13 +23,7 @@ public:
     void takeWord() { setValidator(nullptr); }
 
 protected:
-    void keyPressEvent(QKeyEvent* event) override
-    {
-        if (validator() == nullptr)
-            QLineEdit::keyPressEvent(event);
-        else
-            AnswerBox::keyPressEvent(event);
-    }
+    bool takesHintKeys() const override { return validator() != nullptr; }
 
 private:
     const QValidator* macrons_;

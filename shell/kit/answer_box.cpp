@@ -78,7 +78,7 @@ void AnswerBox::keyPressEvent(QKeyEvent* event)
 {
     if (event->modifiers() == Qt::AltModifier && !event->text().isEmpty())
         event->ignore();
-    else if (asksForHint(event->text()))
+    else if (takesHintKeys() && asksForHint(event->text()))
         Q_EMIT hintRequested();
     else
         QLineEdit::keyPressEvent(event);

@@ -101,11 +101,20 @@ void ContentArea::showFocus(QWidget* focused)
     ensureWidgetVisible(focused, LargeSpace, LargeSpace);
 }
 
+// Its room may just have changed.
+void ContentArea::bringIntoView(QWidget& shown)
+{
+    fitContent();
+    if (widget()->layout() != nullptr)
+        widget()->layout()->activate();
+    ensureWidgetVisible(&shown, 0, HairSpace);
+}
+
 void bringIntoView(QWidget& shown)
 {
     for (QWidget* above = shown.parentWidget(); above != nullptr; above = above->parentWidget())
         if (auto* const area = qobject_cast<ContentArea*>(above))
-            area->ensureWidgetVisible(&shown, 0, HairSpace);
+            area->bringIntoView(shown);
 }
 
 } // namespace shell

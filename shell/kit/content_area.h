@@ -16,6 +16,9 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
+    /// Scrolls, if need be, so that a widget of the content is seen.
+    void bringIntoView(QWidget& shown);
+
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;

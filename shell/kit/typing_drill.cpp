@@ -114,10 +114,13 @@ void TypingDrill::announce(bool right)
         const TypedAhead typedAhead(*this, keys_);
         Q_EMIT answerJudged(right);
     }
-    if (stay.lasts())
-        typeKeysKept();
-    else
+    if (!stay.lasts()) {
         keys_.clear();
+        return;
+    }
+    if (!why_->text().isEmpty())
+        bringIntoView(*why_);
+    typeKeysKept();
 }
 
 void TypingDrill::clearWhy()

@@ -59,35 +59,38 @@ void Window::closeOnEscape()
 // A window larger than the screen would hide its buttons.
 void Window::fitContent()
 {
+    if (maximised_)
+        return;
     if (layout() != nullptr)
         layout()->activate();
     resize(sizeHint().boundedTo(screen()->availableSize() * ShareOfScreen));
     fitted_ = size();
+    sizeForgotten_ = false;
     if (isVisible())
         stayOnScreen();
 }
 
 void Window::stayOnScreen()
 {
-    const QPoint beyond = frameGeometry().bottomRight() - screen()->availableGeometry().bottomRight();
-    if (beyond.x() > 0 || beyond.y() > 0)
-        move(pos() - QPoint(std::max(beyond.x(), 0), std::max(beyond.y(), 0)));
+    const QRect room = screen()->availableGeometry();
+    const QPoint last = room.bottomRight() - QPoint(frameGeometry().width(), frameGeometry().height());
+    const QPoint place(std::max(room.left(), std::min(x(), last.x())),
+                       std::max(room.top(), std::min(y(), last.y())));
+    if (place != pos())
+        move(place);
 }
 
 // Once the content has taken its new measures; the window may have been maximised by then.
 void Window::fitContentSoon()
 {
-    const auto fit = [this] {
-        if (!maximised_)
-            fitContent();
-    };
-    QMetaObject::invokeMethod(this, fit, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, &Window::fitContent, Qt::QueuedConnection);
 }
 
 // Content that asks for more room since then has made the window larger.
 bool Window::isAsFitted() const
 {
-    return fitted_.isValid() && size() == fitted_.expandedTo(minimumSize());
+    const QSize inNormalState = maximised_ ? normalGeometry().size() : size();
+    return fitted_.isValid() && inNormalState == fitted_.expandedTo(minimumSize());
 }
 
 void Window::showInMainWindowState()
@@ -109,7 +112,7 @@ void Window::showAsDesigned()
         forgetSize();
         takeSize(1);
     }
-    if (!fitted_.isValid())
+    if (sizeForgotten_ || !fitted_.isValid())
         fitContent();
     if (settings.MainWindowState == window_state::Normal)
         showNormal();
@@ -122,6 +125,7 @@ void Window::showGrown()
 {
     if (!isVisible()) {
         maximised_ = true;
+        sizeForgotten_ = sizeForgotten_ || !fitted_.isValid();
         takeSize(growthIn(screen()->availableSize()));
     }
     showMaximized();
@@ -200,7 +204,7 @@ void Window::layOutLines(QSize charactersAndLines, const QMargins& margins, std:
 
 void Window::forgetSize()
 {
-    fitted_ = {};
+    sizeForgotten_ = true;
 }
 
 // By the size that it has, since a window manager may maximise a window before or after it gives it its size.
@@ -214,7 +218,7 @@ void Window::grow()
         return;
     maximised_ = isMaximized();
     takeSize(growth);
-    if (becameNormal && !fitted_.isValid())
+    if (becameNormal && sizeForgotten_)
         fitContentSoon();
 }
 
@@ -251,12 +255,12 @@ void Window::changeEvent(QEvent* event)
 // A change of the desktop's font does not come as a change of the window where it has a font of its own.
 bool Window::event(QEvent* event)
 {
+    if (event->type() != QEvent::ApplicationFontChange)
+        return QWidget::event(event);
     const bool fits = isAsFitted();
     const bool known = QWidget::event(event);
-    if (event->type() != QEvent::ApplicationFontChange)
-        return known;
     takeSize(growth_);
-    if (maximised_ || (fits && isHidden()))
+    if (fits && (maximised_ || isHidden()))
         forgetSize();
     else if (fits)
         fitContentSoon();

@@ -86,9 +86,11 @@ private:
     std::string_view activeName_;
     Growth growth_ = 1;
 
-    /// The size that the content asked for last; not valid where the window is to take such a one. A window
-    /// that the learner gave another keeps that.
+    /// The size that the content asked for last; not valid where it was never asked.
     QSize fitted_;
+
+    /// Whether the window is to take such a size when it is normal next.
+    bool sizeForgotten_ = false;
 
     /// Whether the window was ever about to be shown: no font is loaded before.
     bool measured_ = false;

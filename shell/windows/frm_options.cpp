@@ -49,6 +49,7 @@ constexpr std::array Captions = {
     Caption{"cmdOK",        {"&OK",                    "&Oui",                     "&OK",                    "&OK",                       "&Si",                          "&Ita"}},
     Caption{"cmdCancel",    {"&Cancel",                "&Annuler",                 "&Annulla",               "&Abbruch",                  "&Cancelar",                    "&Reverte!"}},
     Caption{"cmdApply",     {"A&pply",                 "A&ppliquer",               "A&pplica",               "Über&nehmen",               "A&plicar",                     "A&dhibe!"}},
+    Caption{"GODelayNote",  {"It is set in the options menu.", "Elle se règle dans le menu Options.", "Si imposta nel menu Options.", "Eingestellt wird sie im Menü Optionen.", "Se ajusta en el menú Opciones.", "In indice Optiones constituitur."}},
     Caption{"GODelayLabel", {"Pause after an answer:", "Pause après une réponse :", "Pausa dopo una risposta:", "Pause nach einer Antwort:", "Pausa después de una respuesta:", "Mora post responsum:"}},
     Caption{"TextSizeLabel", {"&Text size (Ctrl and +, -, 0):", "&Taille du texte (Ctrl et +, -, 0) :", "&Dimensione del testo (Ctrl e +, -, 0):", "&Schriftgröße (Strg und +, -, 0):", "&Tamaño del texto (Ctrl y +, -, 0):", "&Magnitudo litterarum (Ctrl et +, -, 0):"}},
     Caption{"ShowMacrons",  {"Show &macrons: ā, not a:", "&Macrons : ā et non a:",  "&Macron: ā e non a:",    "&Längenstriche: ā statt a:", "&Macrones: ā y no a:",         "&Lineolas ostende: ā pro a:"}},
@@ -109,9 +110,10 @@ void FrmOptions::fillDelayFrame(QFrame& frame)
     slider_ = makeControl<QSlider>(page, "GODelaySlider");
     slider_->setOrientation(Qt::Horizontal);
     slider_->setRange(0, LongestDelay);
+    slider_->setEnabled(false); // sic: it shows what the menu sets
     delay_ = makeLabel(page, {}, HeadingType);
-    page->setLayout(
-        columnOf(MediumSpace, {makeLabelOf(slider_, "GODelayLabel"), delay_, slider_, Part::gap()}));
+    page->setLayout(columnOf(MediumSpace, {makeLabelOf(slider_, "GODelayLabel"), delay_, slider_,
+                                           makeLabel(page, "GODelayNote"), Part::gap()}));
     frame.setLayout(columnOf(0, {page}));
 }
 
@@ -151,7 +153,6 @@ void FrmOptions::layOut()
 void FrmOptions::connectControls()
 {
     connect(tabs_, &QTabBar::currentChanged, this, &FrmOptions::placeFrames);
-    connect(slider_, &QSlider::valueChanged, this, &FrmOptions::chooseDelay);
     connect(textSize_, &QComboBox::currentIndexChanged, this, &FrmOptions::chooseTextSizeInRow);
     connect(macrons_, &QCheckBox::toggled, this, &FrmOptions::switchMacrons);
     connect(ok_, &QPushButton::clicked, this, &FrmOptions::confirm);
@@ -213,8 +214,7 @@ void FrmOptions::fitFrames()
     for (const QFrame* const frame : frames_)
         largest = largest.expandedTo(frame->sizeHint());
     space_->setMinimumSize(largest);
-    if (!isMaximized())
-        fitContent();
+    fitContent();
     placeFrames();
 }
 
@@ -233,12 +233,6 @@ void FrmOptions::turnPages(int pages)
 {
     tabs_->setCurrentIndex((tabs_->currentIndex() + pages + tabs_->count()) % tabs_->count());
     tabs_->setFocus();
-}
-
-void FrmOptions::chooseDelay(int seconds)
-{
-    setDelaySeconds(seconds);
-    showDelay();
 }
 
 void FrmOptions::chooseTextSizeInRow(int row)

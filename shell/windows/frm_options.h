@@ -50,7 +50,6 @@ private:
     /// Turns to a page further on or back, with the first after the last; the focus is on the tabs then.
     void turnPages(int pages);
 
-    void chooseDelay(int seconds);
     void chooseTextSizeInRow(int row);
     void switchMacrons(bool shown);
     void apply();

@@ -212,18 +212,21 @@ void GuideText::resizeEvent(QResizeEvent* event)
 // A text in type of another size is laid out anew.
 void GuideText::changeEvent(QEvent* event)
 {
+    if (event->type() != QEvent::FontChange && event->type() != QEvent::ApplicationFontChange) {
+        QTextBrowser::changeEvent(event);
+        return;
+    }
     const QTextCursor place = readersPlace();
     const int top = cursorRect(place).top();
     QTextBrowser::changeEvent(event);
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::ApplicationFontChange)
-        bringBack(place, top);
+    bringBack(place, top);
 }
 
 // The scroll bar hears of the new height of the text only later.
 void GuideText::bringBack(const QTextCursor& place, int top)
 {
     QScrollBar& bar = *verticalScrollBar();
-    bar.setMaximum(qRound(document()->size().height()) - viewport()->height());
+    bar.setMaximum(std::max(0, qRound(document()->size().height()) - viewport()->height()));
     const QRect now = cursorRect(place);
     const int lowest = viewport()->height() - now.height();
     bar.setValue(bar.value() + now.top() - std::min(top, lowest));

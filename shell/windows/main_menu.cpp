@@ -57,7 +57,7 @@ constexpr std::array<Choice, 10> Choices = {{
 }};
 // clang-format on
 
-// At least three lines of its type high.
+// Three lines of its type high; on a low screen down to one.
 class BigButton : public QPushButton {
 public:
     using QPushButton::QPushButton;

@@ -45,7 +45,7 @@ void WordsModel::list()
         group->setToolTip(title);
         for (const QString& name : names) {
             auto* const word = new QStandardItem(name);
-            word->setToolTip(name);
+            word->setToolTip(QStringLiteral("<span>%1</span>").arg(name.toHtmlEscaped()));
             group->appendRow(word);
         }
         appendRow(group);

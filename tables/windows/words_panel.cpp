@@ -46,6 +46,7 @@ void WordsPanel::makeControls()
     tree_->setUniformRowHeights(true);
     tree_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     shell::keepMeasure(*tree_, "width", [this](shell::Growth growth) {
+        widthOfNames_.reset();
         // The table grows, and needs the room.
         leastWidth_ = qRound(LeastCharacters * tree_->fontMetrics().averageCharWidth() / growth);
     });
@@ -74,6 +75,7 @@ void WordsPanel::refresh()
         return;
     tree_->setCurrentIndex({});
     words_->list();
+    widthOfNames_.reset();
     if (!words_->indexOf(word_).isValid())
         word_ = words_->wordAt(words_->index(0, 0, words_->index(0, 0))).value_or(word_);
     filterWords();
@@ -138,7 +140,9 @@ void WordsPanel::takeWord(const QModelIndex& row)
 
 void WordsPanel::fitWidth(int room)
 {
-    setFixedWidth(std::clamp(room, leastWidth_, std::max(leastWidth_, widthOfNames())));
+    if (!widthOfNames_)
+        widthOfNames_ = widthOfNames();
+    setFixedWidth(std::clamp(room, leastWidth_, std::max(leastWidth_, *widthOfNames_)));
 }
 
 // The scroll bar has its room also while all rows are seen.

@@ -4,6 +4,8 @@
 
 #include <QWidget>
 
+#include <optional>
+
 class QLabel;
 class QLineEdit;
 class QModelIndex;
@@ -56,6 +58,9 @@ private:
 
     Word word_{WordKind::Verb, 1, 1};
     int leastWidth_ = 0;
+
+    /// Empty until it is asked for with these words in this type.
+    std::optional<int> widthOfNames_;
 
     WordsModel* words_ = nullptr;
     WordsFilter* filtered_ = nullptr;

@@ -20,7 +20,7 @@ may verbdrills platform shell verbs
 may nouns platform shell
 may vocabulary platform shell
 may tables platform shell verbs verbdrills nouns
-may progress platform shell verbdrills nouns tables
+may progress platform shell verbs verbdrills nouns tables
 none < <(grep -rn '^#include "shell/windows/' shell/kit verbs verbdrills nouns vocabulary tables progress)
 
 exit $wrong

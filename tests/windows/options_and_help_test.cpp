@@ -85,16 +85,11 @@ TEST_F(DelayInterval, StandsAboveTheMainWindowAndTheGuideThatStoodAboveIt)
     EXPECT_TRUE(window.isVisible());
 }
 
-TEST_F(FrmOptions, SetsThePauseAtOnceAndTurnsItsPagesFromAnywhereAndBackToTheFirst)
+TEST_F(FrmOptions, TurnsItsPagesFromAnywhereAndBackToTheFirst)
 {
     QWidget& window = open("OptionsOptions", "frmOptions");
     const auto& tabs = tests::control<QTabBar>(window);
     EXPECT_TRUE(tabs.hasFocus());
-    tests::control<QSlider>(window).setFocus();
-    press(window, Qt::Key_Right, 3);
-    EXPECT_EQ(settings.DelaySeconds, 5);
-    EXPECT_EQ(settings.SettingsChangeCount, 3);
-    EXPECT_EQ(tests::control<QWidget>(window, "OptionsTab").findChildren<QLabel*>().front()->text(), " 5 s");
     for (const int page : {1, 2, 0}) {
         QTest::keyClick(window.focusWidget(), Qt::Key_Tab, Qt::ControlModifier);
         EXPECT_EQ(tabs.currentIndex(), page);
@@ -209,6 +204,7 @@ TEST_F(Help, FindsWordsAsOneTypesAndBeginsAnewAtTheEnd)
     tests::writeFile("morvanti.hlp", "# Sol\n\nluna sol Luna");
     QWidget& help = open("HELPME", "Help");
     const auto& text = tests::control<QTextBrowser>(help);
+    EXPECT_EQ(text.verticalScrollBar()->value(), 0);
     const auto found = [&] { return text.textCursor().selectionStart(); };
     QTest::keyClick(help.focusWidget(), Qt::Key_F, Qt::ControlModifier);
     EXPECT_EQ(tests::focusIn(help), "HelpFind");

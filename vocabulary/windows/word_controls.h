@@ -16,7 +16,7 @@ public:
     using AnswerBox::AnswerBox;
 
 protected:
-    void keyPressEvent(QKeyEvent* event) override { QLineEdit::keyPressEvent(event); }
+    bool takesHintKeys() const override { return false; }
 };
 
 /// A label for a text of a list, shown letter by letter as it stands, in as many lines as it takes. It asks
