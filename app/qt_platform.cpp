@@ -2,6 +2,7 @@
 
 #include "app/qt_texts.h"
 #include "app/sound_player.h"
+#include "shell/kit/layout.h"
 
 #include <QApplication>
 #include <QDateTime>
@@ -12,6 +13,7 @@
 #include <QMessageBox>
 #include <QProcess>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QTime>
 #include <QTimer>
 
@@ -106,6 +108,7 @@ void QtPlatform::chooseFileToSave(const std::string& name, const std::vector<std
     QObject::connect(
         dialog, &QFileDialog::fileSelected, dialog,
         [chosen = std::move(chosen)](const QString& path) { chosen(QFile::encodeName(path).toStdString()); });
+    dialog->resize(dialog->sizeHint().boundedTo(dialog->screen()->availableSize() * shell::ShareOfScreen));
     dialog->open();
 }
 

@@ -44,6 +44,7 @@ void WordsPanel::makeControls()
     tree_->setModel(filtered_);
     tree_->setHeaderHidden(true);
     tree_->setUniformRowHeights(true);
+    tree_->setTextElideMode(Qt::ElideMiddle); // titles differ at their end
     tree_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     shell::keepMeasure(*tree_, "width", [this](shell::Growth growth) {
         widthOfNames_.reset();

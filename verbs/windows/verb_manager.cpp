@@ -94,6 +94,9 @@ VerbManager::VerbManager() : ListManager(Names)
     makeForm();
     makePreviews();
     addEndOfProgram();
+    connect(form(), &shell::RecordForm::edited, this, [this] {
+        drafts_[{chosenClass(), chosenVerb()}] = typedVerb();
+    });
 }
 
 void VerbManager::makeForm()
@@ -155,10 +158,19 @@ void VerbManager::listWords()
     showRoom(count, MostVerbs);
 }
 
-void VerbManager::showWord(int row)
+VerbRecord VerbManager::verbToShow() const
 {
-    const bool isNew = row == words()->count() - 1;
-    form()->show(textsOf(isNew ? VerbRecord{} : verbAt(chosenClass(), row + 1)));
+    const auto draft = drafts_.find({chosenClass(), chosenVerb()});
+    if (draft != drafts_.end())
+        return draft->second;
+    const bool isNew = chosenVerb() == words()->count();
+    return isNew ? VerbRecord{} : verbAt(chosenClass(), chosenVerb());
+}
+
+void VerbManager::showWord(int /*row*/)
+{
+    const VerbRecord verb = verbToShow();
+    form()->show(textsOf(verb));
     showPreviews();
 }
 
@@ -183,6 +195,7 @@ void VerbManager::add()
         platform::current().showMessage(std::string(edit == VerbEdit::ListFull ? ListFull : NoPresentStem));
         return;
     }
+    drafts_.erase({chosenClass(), row + 1});
     listWords();
     words()->setCurrentRow(row);
 }

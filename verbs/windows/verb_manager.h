@@ -4,13 +4,15 @@
 #include "verbs/verb_list.h"
 
 #include <array>
+#include <map>
+#include <utility>
 
 class QLabel;
 
 namespace verbs {
 
 /// The verb manager: lets the learner change the verbs that are listed as well. What was typed and not added
-/// goes as soon as another row is chosen or the window is left.
+/// stays on its row.
 class VerbManager : public shell::ListManager {
     Q_OBJECT
 
@@ -37,8 +39,12 @@ private:
     void addEndOfProgram();
     void showPreviews();
     VerbRecord typedVerb() const;
+    VerbRecord verbToShow() const;
 
     std::array<QLabel*, 3> previews_{};
+
+    /// What was typed and not added, by class and number.
+    std::map<std::pair<int, int>, VerbRecord> drafts_;
 };
 
 } // namespace verbs
