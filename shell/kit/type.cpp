@@ -10,11 +10,19 @@ namespace shell {
 
 namespace {
 
+// The type of a heading is large enough to be read as well without hinting, which costs more than all else of
+// it.
+QFont::HintingPreference hintingOf(double factor)
+{
+    return factor < HeadingType ? QFont::PreferDefaultHinting : QFont::PreferNoHinting;
+}
+
 void setFont(QWidget& widget, double factor, QFont::Weight weight)
 {
     keepMeasure(widget, "type", [&widget, factor, weight](Growth growth) {
         QFont font = timesAsLarge(QApplication::font(), factor * growth);
         font.setWeight(weight);
+        font.setHintingPreference(hintingOf(factor));
         widget.setFont(font);
     });
 }
