@@ -107,12 +107,12 @@ const LanguageTexts FirstStepsTexts = {
 };
 
 const LanguageTexts LastDrillTexts = {
-    .english = "%1 right, %2 to repeat",
-    .french = "Justes : %1, à répéter : %2",
+    .english = "Right at once: %1. To repeat today: %2.",
+    .french = "Justes du premier coup : %1. À revoir aujourd'hui : %2.",
     .italian = {},
-    .german = "%1 richtig, %2 zu wiederholen",
-    .spanish = "Correctas: %1, por repetir: %2",
-    .latin = "Recta: %1, repetenda: %2",
+    .german = "Auf Anhieb richtig: %1. Heute zu wiederholen: %2.",
+    .spanish = "Bien a la primera: %1. Para repasar hoy: %2.",
+    .latin = "Statim recta: %1. Hodie repetenda: %2.",
 };
 
 void makeMainMenuItems(QMenuBar& menuBar, MainMenu& window)
