@@ -94,12 +94,17 @@ void ProgressNavigation::closeFile()
 void ProgressNavigation::endDrill()
 {
     keepWaiting();
-    const bool isKept = std::exchange(drillRuns_, false) && keeper_.keeps();
-    if (const auto due = isKept ? keeper_.formsDue() : std::nullopt)
+    if (std::exchange(drillRuns_, false))
+        tellOfDrill();
+    keeper_.close();
+}
+
+void ProgressNavigation::tellOfDrill()
+{
+    if (const auto due = keeper_.keeps() ? keeper_.formsDue() : std::nullopt)
         common_.mainMenu().showLastDrill(keeper_.rightAtOnce(), *due);
     else
         common_.mainMenu().forgetLastDrill();
-    keeper_.close();
 }
 
 void ProgressNavigation::joinProgress(Progress& window)

@@ -21,8 +21,8 @@ namespace app {
 /// the program ends. So no judgement waits for the file, and a kill loses no answer but the last.
 ///
 /// A drill begins with its first answer and ends when it is left: a test or a quiz that is put aside for
-/// another window goes on. Then the main window says how many of its
-/// answers were right at once, and how many forms a review would ask now.
+/// another window goes on. Then the main window says how many of its answers were right at once, and how many
+/// forms a review would ask now; after one that was left without an answer it says what it said before.
 class ProgressNavigation : public QObject {
 public:
     /// Keeps answers where `looks` says so.
@@ -37,6 +37,7 @@ private:
     void keepWaiting();
     void closeFile();
     void endDrill();
+    void tellOfDrill();
 
     void joinProgress(progress::Progress& window);
     void joinErase(progress::ProgressErase& window);

@@ -1,13 +1,13 @@
 #include "progress/windows/forms_table.h"
 
 #include "progress/grammar_names.h"
-#include "progress/review.h"
 #include "shell/kit/latin_text.h"
 #include "shell/kit/measure.h"
 #include "shell/kit/text.h"
 #include "shell/kit/type.h"
 #include "shell/language_texts.h"
 #include "shell/settings.h"
+#include "shell/vowel_marks.h"
 
 #include <QHeaderView>
 
@@ -27,7 +27,7 @@ namespace {
 // Where the window has no room for so many in a column, the table is scrolled.
 constexpr int LeastCharacters = 8;
 
-constexpr int CharactersWished = 105;
+constexpr int CharactersWished = 110;
 
 constexpr std::size_t AnswerColumn = 2;
 
@@ -36,10 +36,17 @@ constexpr std::array Headings = {
     //            English            French               Italian German                    Spanish               Latin
     LanguageTexts{"Form",            "Forme",             {},     "Form",                   "Forma",              "Forma"},
     LanguageTexts{"Right",           "Juste",             {},     "Richtig",                "Bien",               "Recte"},
-    LanguageTexts{"Answer",          "Réponse",           {},     "Antwort",                "Respuesta",          "Responsum"},
+    LanguageTexts{"Right form",      "Forme juste",       {},     "Richtige Form",          "Forma correcta",     "Forma recta"},
     LanguageTexts{"Written instead", "Écrit à la place",  {},     "Stattdessen geschrieben", "Escrito en su lugar", "Pro eo scriptum"},
 };
 // clang-format on
+
+// As it was asked; marks go where they are hidden now, and are never looked for in a text kept without them.
+std::string withMarksAsShown(const Form& form, const std::string& text)
+{
+    const bool hidden = form.marksShown && !shell::marksAreShown() && marksCanBeHidden(form.name.exercise);
+    return hidden ? shell::withoutMarks(text) : text;
+}
 
 bool isTranslation(const Form& form, std::string_view promptOfTranslation)
 {
@@ -169,9 +176,9 @@ void FormsTable::fitColumns()
 
 void FormsTable::showForm(int row, const Form& form)
 {
-    const shell::AnswerRecord question = questionFor(form);
-    const std::array texts = {asked(form, question.asked), fromUtf8(textOf(shareOf(form))),
-                              answered(form, question.expected), writtenInstead(form)};
+    const std::array texts = {asked(form, withMarksAsShown(form, form.asked)),
+                              fromUtf8(textOf(shareOf(form))),
+                              answered(form, withMarksAsShown(form, form.expected)), writtenInstead(form)};
     int column = 0;
     for (const QString& text : texts) {
         auto* const item = new QTableWidgetItem(text);

@@ -7,6 +7,7 @@
 #include <QDate>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QLocale>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QToolTip>
@@ -37,6 +38,10 @@ constexpr std::array Months = {"I", "II", "III", "IV", "V", "VI", "VII", "VIII",
 // clang-format off
 //                                   English                     French                           Italian German                       Spanish                         Latin
 constexpr shell::LanguageTexts OfDay{"%1: %2 answers, %3 right", "%1 : %2 réponses, %3 justes",   {},     "%1: %2 Antworten, %3 richtig", "%1: %2 respuestas, %3 bien", "%1: %2 responsa, %3 recta"};
+
+// The names of months are English ones.
+//                                        English        French        Italian German        Spanish       Latin
+constexpr shell::LanguageTexts DateFormat{"d MMMM yyyy", "dd/MM/yyyy", {},     "dd.MM.yyyy", "dd/MM/yyyy", "yyyy-MM-dd"};
 // clang-format on
 
 Day weekdayOf(Day day)
@@ -97,7 +102,7 @@ void PracticeDays::choose(std::size_t day)
 QString PracticeDays::inWords(const DayOfPractice& day) const
 {
     return shell::fromUtf8(OfDay)
-        .arg(dateOf(day.day).toString(Qt::ISODate))
+        .arg(QLocale::c().toString(dateOf(day.day), shell::fromUtf8(DateFormat)))
         .arg(day.share.answered)
         .arg(day.share.right);
 }

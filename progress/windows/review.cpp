@@ -4,6 +4,7 @@
 #include "progress/grammar_names.h"
 #include "progress/keeper.h"
 #include "progress/other_form.h"
+#include "progress/windows/kind_box.h"
 #include "progress/windows/review_box.h"
 #include "shell/kit/captions.h"
 #include "shell/kit/controls.h"
@@ -11,8 +12,8 @@
 #include "shell/pause.h"
 #include "shell/settings.h"
 
+#include <QApplication>
 #include <QBoxLayout>
-#include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
 
@@ -85,7 +86,7 @@ Review::Review() : TypingDrill("Review", "review", shell::exercise::Review)
 
 void Review::makeControls()
 {
-    kind_ = shell::makeControl<QComboBox>(this, "ReviewKind");
+    kind_ = shell::makeControl<KindBox>(this, "ReviewKind");
     kindLabel_ = shell::makeLabelOf(kind_, "ReviewKindLabel");
     title_ = shell::makeLabel(this, "ReviewTitle", shell::FormType);
     left_ = shell::makeLabel(this, "ReviewLeft");
@@ -115,7 +116,9 @@ void Review::layOut()
 
 void Review::connectControls()
 {
-    connect(kind_, &QComboBox::activated, this, &Review::beginRound);
+    connect(kind_, &KindBox::activated, this, &Review::beginRound);
+    connect(kind_, &KindBox::chosen, this, &Review::focusQuestion);
+    connect(kind_, &KindBox::letterTyped, this, &Review::typeIntoAnswer);
     connect(answer_, &ReviewBox::returnPressed, this, &Review::check);
     connect(answer_, &ReviewBox::hintRequested, this, &Review::hint);
     connect(ok_, &QPushButton::clicked, this, &Review::check);
@@ -154,6 +157,14 @@ void Review::beginRound()
     ask();
     if (!asked_)
         question_->setText(fromUtf8(NothingDue));
+}
+
+void Review::typeIntoAnswer(QKeyEvent* key)
+{
+    if (!asked_)
+        return;
+    answer_->setFocus();
+    QApplication::sendEvent(answer_, key);
 }
 
 // A form that is gone from the store is passed over.

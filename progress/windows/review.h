@@ -6,13 +6,14 @@
 #include <optional>
 #include <string>
 
-class QComboBox;
+class QKeyEvent;
 class QLabel;
 class QPushButton;
 
 namespace progress {
 
 class Keeper;
+class KindBox;
 class ReviewBox;
 
 /// Asks the forms and words that are due, of all kinds of exercise or of one. One that was missed comes again
@@ -51,6 +52,7 @@ private:
     QString shownAnswer(const std::string& text) const;
     void showBefore();
     void beginRound();
+    void typeIntoAnswer(QKeyEvent* key);
     void ask();
     void showQuestion();
     void hint();
@@ -66,7 +68,7 @@ private:
     QLabel* before_ = nullptr;
     ReviewBox* answer_ = nullptr;
     QLabel* kindLabel_ = nullptr;
-    QComboBox* kind_ = nullptr;
+    KindBox* kind_ = nullptr;
     QPushButton* ok_ = nullptr;
     QPushButton* hint_ = nullptr;
     QPushButton* quit_ = nullptr;

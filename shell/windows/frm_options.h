@@ -14,8 +14,8 @@ class QTabBar;
 
 namespace shell {
 
-/// A tab strip over one frame a tab. It shows what is set, and its buttons say that they set nothing. The
-/// pause on the first frame, and how the learner likes to see things on the last, are set at once.
+/// A tab strip over one frame a tab. It shows what is set, and its buttons say that they set nothing. How the
+/// learner likes to see things, on the last frame, is set at once.
 class FrmOptions : public Window {
     Q_OBJECT
 

@@ -103,7 +103,7 @@ TEST_F(KeptAnswers, OfEachExerciseAreItsRowsWithoutHintsFromThePauseOnInWhichItM
 }
 
 // The link is the next after the last button.
-TEST_F(KeptAnswers, AreCountedThroughATestPutAsideAndLeadToTheReviewUntilNothingWasAnswered)
+TEST_F(KeptAnswers, AreCountedThroughATestPutAsideAndLeadToTheReviewAlsoWhenNothingMoreWasAnswered)
 {
     auto& menu = static_cast<shell::MainMenu&>(start());
     const QSignalSpy reviews(&menu, &shell::MainMenu::reviewRequested);
@@ -123,14 +123,13 @@ TEST_F(KeptAnswers, AreCountedThroughATestPutAsideAndLeadToTheReviewUntilNothing
     EXPECT_EQ(answerAndLeave({"rosa", "clavis"}), "1 right, 1 to repeat");
     EXPECT_EQ(rowsKept().last(), "cla:vis|vr-vcab.lst / translation|key|cla:vis|clavis|wrong");
     choose(menu, "GermanLang");
-    EXPECT_EQ(control<QLabel>(menu, "LastDrill").accessibleName(), "1 richtig, 1 zu wiederholen");
+    EXPECT_EQ(answerAndLeave({}), "1 richtig, 1 zu wiederholen");
     button(menu, "ExitButton").setFocus();
     press(menu, Qt::Key_Tab);
     press(menu, Qt::Key_Return);
     EXPECT_EQ(reviews.count(), 1);
     QTest::mouseClick(&control<QLabel>(menu, "LastDrill"), Qt::LeftButton);
     EXPECT_EQ(reviews.count(), 2);
-    EXPECT_EQ(answerAndLeave({}), "");
     writeFile("looks.ini", "KeepAnswers=0");
     start();
     std::filesystem::remove("progress.db");

@@ -47,14 +47,15 @@ protected:
 
 TEST_F(Progress, AGridHasTheShareOfEachCellAndACellItsWorstFormFirstWithWhatWasWritten)
 {
-    start();
+    QWidget& menu = start();
     tellOfAmare("Imperative", "2nd Person Sing", "ama", "ama");
     for (const char* const written : {"amo", "amo", "amo"})
         tellOfAmare("Present Indicative", "1st Person Sing", "amo", written);
     for (const char* const written : {"amat", "amabt", "amat", "ambat", "amabt"})
         tellOfAmare("Present Indicative", "3rd Person Sing", "amat", written);
-    tell("Quiz", "regere", "Third Conjugation / Present Indicative / 1st Person Sing", "sum", "est");
+    tell("Quiz", "re:gere", "Third Conjugation / Present Indicative / 1st Person Sing", "sum", "est");
     tell("Vcabtester", "insula", "vr-vcab.lst / word", "island", "island");
+    tests::choose(menu, "VowelLengthVal");
 
     QWidget& progress = openProgress();
     auto& grid = tests::control<QTableView>(progress, "ProgressGrid");
@@ -69,10 +70,11 @@ TEST_F(Progress, AGridHasTheShareOfEachCellAndACellItsWorstFormFirstWithWhatWasW
     EXPECT_EQ(textAt(1, 1, Qt::AccessibleTextRole), "Third Conjugation, Imperative: not asked yet");
 
     EXPECT_EQ(tests::focusIn(progress), "ProgressGrid");
+    const auto& forms = tests::control<QTableWidget>(progress, "ProgressForms");
+    EXPECT_EQ(forms.item(0, 0)->text().section(',', 0, 0), "re:gere");
     tests::press(progress, Qt::Key_Left);
     tests::press(progress, Qt::Key_Return);
     EXPECT_EQ(tests::focusIn(progress), "ProgressForms");
-    const auto& forms = tests::control<QTableWidget>(progress, "ProgressForms");
     QStringList first;
     for (int column = 0; column < forms.columnCount(); ++column)
         first << forms.item(0, column)->text();
@@ -80,11 +82,11 @@ TEST_F(Progress, AGridHasTheShareOfEachCellAndACellItsWorstFormFirstWithWhatWasW
     EXPECT_EQ(forms.item(1, 1)->text(), "100 %");
     EXPECT_TRUE(label(progress, "ProgressDaysLabel").contains("year: 1. Answers: 11, right: 7."));
 
-    EXPECT_EQ(label(progress, "ProgressDay"), "2024-10-04: 11 answers, 7 right");
+    EXPECT_EQ(label(progress, "ProgressDay"), "4 October 2024: 11 answers, 7 right");
     tests::press(progress, Qt::Key_Tab);
     tests::press(progress, Qt::Key_Left);
     tests::press(progress, Qt::Key_Down);
-    EXPECT_EQ(label(progress, "ProgressDay"), "2024-09-28: 0 answers, 0 right");
+    EXPECT_EQ(label(progress, "ProgressDay"), "28 September 2024: 0 answers, 0 right");
 
     auto& kind = tests::control<QComboBox>(progress, "ProgressKind");
     kind.setFocus();
@@ -199,6 +201,11 @@ TEST_F(Progress, AReviewAsksWhatIsDueAndWhatWasMissedAsTheLast)
     tests::press(review, Qt::Key_Down);
     tests::press(review, Qt::Key_Down);
     EXPECT_EQ(asked(review) + leftIn(review), "rex, Genitive Singular1");
+    tests::press(review, Qt::Key_Return);
+    EXPECT_EQ(tests::focusIn(review), "ReviewAnswer");
+    kind.setFocus();
+    tests::type(review, "verbis");
+    EXPECT_EQ(kind.currentText() + line(review, "ReviewAnswer").text(), "Nounsverbis");
 }
 
 TEST_F(Progress, AReviewWithNothingDueSaysSoAndOneThatIsLeftInThePauseAsksNothingMore)
