@@ -31,7 +31,9 @@ AnswerBox::AnswerBox(QWidget* parent) : QLineEdit(parent)
 void AnswerBox::lookIdle()
 {
     keepsItsLook_ = false;
-    setPalette(QApplication::palette(this));
+    QPalette colours = QApplication::palette(this);
+    colours.setColor(QPalette::Disabled, QPalette::Base, colours.color(QPalette::Disabled, QPalette::Window));
+    setPalette(colours);
 }
 
 void AnswerBox::lookAnswered()

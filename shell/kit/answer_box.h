@@ -16,7 +16,7 @@ class AnswerBox : public QLineEdit {
 public:
     explicit AnswerBox(QWidget* parent = nullptr);
 
-    /// The plain colours of an empty box.
+    /// The plain colours of an empty box; one that cannot be asked has the window's ground.
     void lookIdle();
 
     /// Grey: answered right in this round.

@@ -117,6 +117,7 @@ void Tables::fitPage()
             view_->setSpan(row, 0, 1, page_->columnCount());
     view_->resizeColumnsToContents();
     view_->resizeRowsToContents();
+    view_->doItemsLayout(); // so that it can be scrolled to the end of its new columns
     fitWords();
 }
 
