@@ -22,32 +22,12 @@ namespace {
 constexpr std::string_view Comma = ", ";
 constexpr std::array<std::string_view, 2> Separators = {Comma, " / "};
 
-// clang-format off
-// The drills have these in English alone, whatever the language.
-constexpr std::array Cases = {
-    //            English       French        Italian German       Spanish       Latin
-    LanguageTexts{"Nominative", "Nominatif",  {},     "Nominativ", "Nominativo", "Nominativus"},
-    LanguageTexts{"Genitive",   "Génitif",    {},     "Genitiv",   "Genitivo",   "Genetivus"},
-    LanguageTexts{"Dative",     "Datif",      {},     "Dativ",     "Dativo",     "Dativus"},
-    LanguageTexts{"Accusative", "Accusatif",  {},     "Akkusativ", "Acusativo",  "Accusativus"},
-    LanguageTexts{"Ablative",   "Ablatif",    {},     "Ablativ",   "Ablativo",   "Ablativus"},
-};
-
-constexpr std::array Genders = {
-    LanguageTexts{"Masc.", "Masc.",  {}, "Mask.",  "Masc.", "Masc."},
-    LanguageTexts{"Fem.",  "Fém.",   {}, "Fem.",   "Fem.",  "Fem."},
-    LanguageTexts{"Neut.", "Neutre", {}, "Neutr.", "Neut.", "Neutr."},
-};
-
 // The number of the noun quiz comes first, those of the declension drill are kept in a place.
 constexpr std::array Numbers = {
-    LanguageTexts{nouns::SingularName, "singulier", {}, "Einzahl", "singular", "singularis"},
+    nouns::SingularOfCase,
     nouns::SingularTexts,
     nouns::PluralTexts,
 };
-// clang-format on
-
-static_assert(std::ranges::equal(Cases, nouns::CaseNames, {}, &LanguageTexts::english));
 
 bool names(const LanguageTexts& texts, std::string_view name)
 {
@@ -66,9 +46,9 @@ const LanguageTexts* findName(std::string_view name)
     const std::initializer_list<std::span<const LanguageTexts>> tables = {verbdrills::quizClassNames(),
                                                                           verbdrills::NamesOfTenses,
                                                                           verbdrills::NamesOfPersons,
-                                                                          Cases,
+                                                                          nouns::CaseTexts,
                                                                           Numbers,
-                                                                          Genders};
+                                                                          nouns::GenderTexts};
     for (const auto table : tables)
         if (const LanguageTexts* const texts = findIn(table, name))
             return texts;

@@ -2,7 +2,6 @@
 
 #include "nouns/case_names.h"
 #include "nouns/case_order.h"
-#include "nouns/pronoun_columns.h"
 #include "shell/language_texts.h"
 #include "shell/macrons.h"
 #include "shell/settings.h"
@@ -28,7 +27,7 @@ constexpr LanguageTexts Imperfect    {"Imperfect",      "Imparfait",        "Imp
 constexpr LanguageTexts Future       {"Future",         "Futur",            "Futuro",            "Futur",           "Futuro",            "Futurum"};
 constexpr LanguageTexts Perfect      {"Perfect",        "Parfait",          "Perfetto",          "Perfekt",         "Perfecto",          "Perfectum"};
 constexpr LanguageTexts Pluperfect   {"Pluperfect",     "Plus-que-parfait", "Piuccheperfetto",   "Plusquamperfekt", "Pluscuamperfecto",  "Plusquamperfectum"};
-constexpr LanguageTexts FuturePerfect{"Future Perfect", "Futur antérieur",  "Futuro anteriore",  "Futur II",        "Futuro perfecto",   "Futurum exactum"};
+constexpr LanguageTexts FuturePerfect{"Future Perfect", "Futur antérieur",  "Futuro anteriore",  "Futur Perfekt",   "Futuro perfecto",   "Futurum Perfectum"};
 
 constexpr std::array<LanguageTexts, verbs::BlockCount> Tenses = {
     Present, Imperfect, Future, Perfect, Pluperfect, FuturePerfect, // indicative
@@ -66,8 +65,11 @@ constexpr std::array<LanguageTexts, verbs::PersonCount> Persons = {{
 constexpr LanguageTexts Singular {"Singular", "Singulier", "Singolare", "Einzahl",  "Singular", "Singularis"};
 constexpr LanguageTexts Plural   {"Plural",   "Pluriel",   "Plurale",   "Mehrzahl", "Plural",   "Pluralis"};
 
-constexpr LanguageTexts Here      {" here. ",          " ici. ",                  " qui. ",              " hier. ",               " aquí. ",             " hic. "};
-constexpr LanguageTexts GrammarHas{"A grammar has: ", "Une grammaire donne : ", "Una grammatica ha: ", "Eine Grammatik hat: ", "Una gramática da: ", "Grammatica habet: "};
+constexpr LanguageTexts Here      {"here ",          "ici ",                  "qui ",               "hier ",              "aquí ",             "hic "};
+constexpr LanguageTexts GrammarHas{"a grammar has ", "une grammaire donne ", "una grammatica ha ", "eine Grammatik hat ", "una gramática da ", "grammatica habet "};
+
+constexpr LanguageTexts QuoteOpens {"“", "«\u00A0", "«", "„", "«", "“"};
+constexpr LanguageTexts QuoteCloses{"”", "\u00A0»", "»", "“", "»", "”"};
 // clang-format on
 
 std::string inLanguage(const LanguageTexts& texts)
@@ -75,12 +77,18 @@ std::string inLanguage(const LanguageTexts& texts)
     return std::string(texts.currentOrDesigned());
 }
 
+std::string quoted(std::string_view form)
+{
+    return inLanguage(QuoteOpens) + macronsWhereShown(form) + inLanguage(QuoteCloses);
+}
+
 // A form that differs in its marks alone looks like the grammar's where they are hidden.
 std::string saysOfGrammar(const Cell& cell)
 {
     const bool marksAreHidden = shell::settings.ShowVowelLength != platform::FlagTrue;
-    const std::string asked = marksAreHidden ? cell.form.text + inLanguage(Here) : std::string();
-    return macronsWhereShown(asked) + inLanguage(GrammarHas) + macronsWhereShown(*cell.grammarsForm);
+    const std::string asked =
+        marksAreHidden ? inLanguage(Here) + quoted(cell.form.text) + "; " : std::string();
+    return "sic: " + asked + inLanguage(GrammarHas) + quoted(*cell.grammarsForm) + ".";
 }
 
 class PageMaker {
@@ -133,7 +141,7 @@ private:
             for (int column = 0; column < columns; ++column)
                 page.columns.push_back(columnName(first, column));
         for (const int inCase : casesInOrder()) {
-            PageLine line{std::string(CaseNames.at(static_cast<std::size_t>(inCase))), {}};
+            PageLine line{inLanguage(CaseTexts.at(static_cast<std::size_t>(inCase))), {}};
             for (const int first : numbers)
                 for (int column = 0; column < columns; ++column)
                     line.cells.push_back(cellAt(pronounCell(column, first + inCase)));
@@ -145,8 +153,7 @@ private:
     {
         if (word_.kind == WordKind::Noun)
             return inLanguage(firstCase == nouns::NominativeSingular ? Singular : Plural);
-        return std::string(
-            nouns::columnTexts(word_.paradigm, firstCase).at(static_cast<std::size_t>(column)));
+        return columnOfPronouns(word_.paradigm, column, firstCase);
     }
 
     PageCell cellAt(int number) const

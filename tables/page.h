@@ -9,8 +9,8 @@
 namespace tables {
 
 /// A cell of a word's table as it is shown: its stem, its ending, and where a grammar has another form what
-/// is said of that: "A grammar has: amantur", or where marks are hidden "ama:ntur here. A grammar has:
-/// amantur". Stem and ending empty: there is no such form.
+/// is said of that: "sic: a grammar has “amantur”.", or where marks are hidden "sic: here “ama:ntur”; a
+/// grammar has “amantur”.". Stem and ending empty: there is no such form.
 struct PageCell {
     int cell = 0;
     std::string stem;

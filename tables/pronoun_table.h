@@ -4,6 +4,7 @@
 #include "shell/form_parts.h"
 
 #include <array>
+#include <string>
 
 namespace tables {
 
@@ -19,5 +20,9 @@ constexpr int pronounCell(int column, int inCase)
 /// The reflexive has no nominative.
 using FormsOfPronouns = std::array<shell::FormParts, PronounCellCount>;
 FormsOfPronouns formsOfPronouns(int group);
+
+/// The name of a column, 0 to 2, of a group in the number of a case, 1 to 10, in the language of the
+/// interface: "Masc. Sing.".
+std::string columnOfPronouns(int group, int column, int inCase);
 
 } // namespace tables

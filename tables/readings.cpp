@@ -1,7 +1,8 @@
 #include "tables/readings.h"
 
 #include "nouns/case_names.h"
-#include "nouns/pronoun_columns.h"
+#include "shell/language_texts.h"
+#include "tables/pronoun_table.h"
 #include "verbdrills/quiz_texts.h"
 #include "verbdrills/verb_question.h"
 
@@ -16,14 +17,14 @@ using namespace nouns;
 std::string caseBehind(std::string_view number, int inCase)
 {
     const auto index = static_cast<std::size_t>((inCase - NominativeSingular) % CasesOfNumber);
-    return std::string(number).append(" ").append(CaseNames.at(index));
+    return std::string(number).append(" ").append(CaseTexts.at(index).currentOrDesigned());
 }
 
 std::string pronounInWords(int group, int cell)
 {
     const int column = (cell - 1) / CaseCount;
     const int inCase = (cell - 1) % CaseCount + NominativeSingular;
-    return caseBehind(columnTexts(group, inCase).at(static_cast<std::size_t>(column)), inCase);
+    return caseBehind(columnOfPronouns(group, column, inCase), inCase);
 }
 
 } // namespace
@@ -34,7 +35,8 @@ std::string cellInWords(const Word& word, int cell)
     case WordKind::Verb:
         return verbdrills::describe(verbdrills::identificationOf(word.paradigm, cell));
     case WordKind::Noun:
-        return caseBehind(cell < NominativePlural ? SingularName : PluralName, cell);
+        return caseBehind((cell < NominativePlural ? SingularOfCase : PluralOfCase).currentOrDesigned(),
+                          cell);
     case WordKind::Pronoun:
         break;
     }

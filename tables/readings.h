@@ -15,8 +15,8 @@ struct Reading {
     bool operator==(const Reading&) const = default;
 };
 
-/// What stands in a cell, in words: for verbs those of the verb quiz, in the language of the interface; for
-/// nouns "singular Genitive", for pronouns "Masc. Sing. Genitive", which all languages share.
+/// What stands in a cell, in words and in the language of the interface: for verbs those of the verb quiz,
+/// for nouns "singular Genitive", for pronouns "Masc. Sing. Genitive".
 std::string cellInWords(const Word& word, int cell);
 
 /// The three parts of a reading, the first two with their marks as they are shown. The word must still be

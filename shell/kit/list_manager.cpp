@@ -3,6 +3,7 @@
 #include "shell/kit/choice_list.h"
 #include "shell/kit/controls.h"
 #include "shell/kit/layout.h"
+#include "shell/kit/passing_note.h"
 #include "shell/kit/record_form.h"
 #include "shell/kit/text.h"
 #include "shell/kit/type.h"
@@ -96,6 +97,7 @@ void ListManager::showChosen(int row)
 void ListManager::copyLine()
 {
     QGuiApplication::clipboard()->setText(fromUtf8(lineOf(words_->currentRow())));
+    showPassingNote(*copy_, QStringLiteral("Copied"));
 }
 
 void ListManager::showRoom(int listed, int most)

@@ -85,9 +85,7 @@ void writeNotes(QTextCursor& cursor, const Page& page)
     for (const PageLine& line : page.lines)
         for (const PageCell& cell : line.cells)
             if (cell.saysOfGrammar) {
-                const std::string note = ". " + *cell.saysOfGrammar;
-                cursor.insertText(shell::fromUtf8(cell.form()), typeOf(QFont::Normal));
-                cursor.insertText(QStringLiteral(" sic"), raised());
+                const std::string note = cell.form() + " " + *cell.saysOfGrammar;
                 cursor.insertText(shell::fromUtf8(note), typeOf(QFont::Normal));
                 cursor.insertBlock();
             }

@@ -84,7 +84,7 @@ QString PageModel::description(const PageCell& cell) const
 {
     std::string text = cellInWords(word_, cell.cell);
     if (cell.saysOfGrammar)
-        text += ". sic. " + *cell.saysOfGrammar;
+        text += ". " + *cell.saysOfGrammar;
     return shell::fromUtf8(text);
 }
 

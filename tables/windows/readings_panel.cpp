@@ -111,6 +111,18 @@ void ReadingsPanel::clear()
     form_->clear();
 }
 
+void ReadingsPanel::unmark()
+{
+    const QSignalBlocker quiet(readings_);
+    readings_->setCurrentRow(-1);
+}
+
+void ReadingsPanel::beginLookUp()
+{
+    form_->setFocus();
+    form_->selectAll();
+}
+
 // While a form is typed the room of the readings stays where there are none: the table below would be laid
 // out anew, and jump, at each letter.
 void ReadingsPanel::showReadings()

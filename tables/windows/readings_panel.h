@@ -31,12 +31,15 @@ public:
     /// Forgets the form that was looked up.
     void clear();
 
+    /// Takes the mark from the reading that was chosen; the readings stay.
+    void unmark();
+
+    /// Goes to the field for the form. What is typed then takes the place of the form that was looked up.
+    void beginLookUp();
+
     /// Gives the readings the height of their rows, up to five; in a low window, whose height has changed, at
     /// most a quarter of it.
     void fitHeight();
-
-    /// The field for the form, which has the focus first.
-    QLineEdit& form() { return *form_; }
 
 Q_SIGNALS:
     void readingChosen(const tables::Reading& reading);

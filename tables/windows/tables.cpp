@@ -4,6 +4,7 @@
 #include "platform/platform.h"
 #include "shell/kit/captions.h"
 #include "shell/kit/controls.h"
+#include "shell/kit/passing_note.h"
 #include "shell/kit/text.h"
 #include "shell/vowel_marks.h"
 #include "tables/page.h"
@@ -54,6 +55,9 @@ constexpr std::array Captions = {
     Caption{"TablesSave",        {"&Save...", "&Enregistrer...", "&Salva...", "&Speichern...", "&Guardar...", "&Serva..."}},
     Caption{"TablesClose",       {"C&lose",   "Ferme&r",         "C&hiudi",   "S&chließen",    "C&errar",     "&Claude"}},
 };
+
+//                                      English   French   Italian    German     Spanish    Latin
+constexpr shell::LanguageTexts Copied {"Copied", "Copié", "Copiato", "Kopiert", "Copiado", "Transcriptum est"};
 // clang-format on
 
 bool isForHtml(const std::filesystem::path& path)
@@ -84,6 +88,7 @@ void Tables::makeControls()
     remark_ = shell::makeLabel(this, "TablesRemark");
     close_ = makeButton(this, "TablesClose");
 
+    shell::wrapText(*title_, 1);
     shell::wrapText(*remark_, 1);
     prepareView();
 }
@@ -121,14 +126,11 @@ void Tables::fitPage()
     fitWords();
 }
 
-// The table has its room first, and the names of the words what it leaves beside itself.
+// The names of the words have the same room beside every table; a wide one is scrolled.
 void Tables::fitWords()
 {
-    const int page = view_->verticalHeader()->sizeHint().width() + view_->horizontalHeader()->length() +
-                     view_->verticalScrollBar()->sizeHint().width() + 2 * view_->frameWidth();
-    const int least =
-        std::max(title_->sizeHint().width(), LeastCharactersOfPage * fontMetrics().averageCharWidth());
-    words_->fitWidth(words_->width() + view_->width() - std::max(page, least));
+    const int page = LeastCharactersOfPage * fontMetrics().averageCharWidth();
+    words_->fitWidth(words_->width() + view_->width() - page);
 }
 
 void Tables::layOut()
@@ -139,9 +141,21 @@ void Tables::layOut()
                         {readings_,
                          {wordsBesidePage(), 1},
                          shell::rowOf(shell::SmallSpace, {copy_, save_, {remark_, 1}, close_})}));
+    takeNormalSize();
+}
+
+void Tables::takeNormalSize()
+{
     const QSize normal(NormalSize.width() * fontMetrics().averageCharWidth(),
                        NormalSize.height() * fontMetrics().lineSpacing());
     resize(normal.boundedTo(screen()->availableSize() * ShareOfScreen));
+    normal_ = size();
+}
+
+// Content that asks for more room since then has made the window larger.
+bool Tables::isSizedByLearner() const
+{
+    return isMaximized() || size() != normal_.expandedTo(minimumSize());
 }
 
 QBoxLayout* Tables::wordsBesidePage()
@@ -153,7 +167,7 @@ QBoxLayout* Tables::wordsBesidePage()
 void Tables::connectControls()
 {
     connect(readings_, &ReadingsPanel::readingChosen, this, &Tables::showReading);
-    connect(words_, &WordsPanel::wordChosen, this, &Tables::showPageFromTop);
+    connect(words_, &WordsPanel::wordChosen, this, &Tables::showChosenWord);
     connect(page_, &QAbstractItemModel::modelReset, this, &Tables::fitPage);
     connect(view_->selectionModel(), &QItemSelectionModel::currentChanged, this, &Tables::showRemark);
     connect(copy_, &QPushButton::clicked, this, &Tables::copy);
@@ -169,8 +183,11 @@ void Tables::setCaptions()
 void Tables::open()
 {
     refresh();
-    if (!isVisible())
-        readings_->form().setFocus();
+    if (!isVisible()) {
+        readings_->beginLookUp();
+        if (!isSizedByLearner())
+            takeNormalSize();
+    }
     showInFront();
 }
 
@@ -224,6 +241,13 @@ void Tables::showPageFromTop(const Word& word)
     view_->scrollToTop();
 }
 
+// The readings are those of another word then.
+void Tables::showChosenWord(const Word& word)
+{
+    readings_->unmark();
+    showPageFromTop(word);
+}
+
 void Tables::showReading(const Reading& reading)
 {
     words_->choose(reading.word);
@@ -233,8 +257,7 @@ void Tables::showReading(const Reading& reading)
 // What the tip of a "sic" says, for the cell that the arrow keys came to.
 void Tables::showRemark()
 {
-    const QString tip = view_->currentIndex().data(Qt::ToolTipRole).toString();
-    remark_->setText(tip.isEmpty() ? tip : QStringLiteral("sic. ") + tip);
+    remark_->setText(view_->currentIndex().data(Qt::ToolTipRole).toString());
 }
 
 void Tables::copy()
@@ -243,6 +266,7 @@ void Tables::copy()
     table->setText(shell::fromUtf8(asText(page_->page())));
     table->setHtml(documentOf(page_->page())->toHtml());
     QGuiApplication::clipboard()->setMimeData(table);
+    shell::showPassingNote(*copy_, shell::fromUtf8(Copied));
 }
 
 void Tables::save()

@@ -39,6 +39,8 @@ protected:
 private:
     void makeControls();
     void prepareView();
+    void takeNormalSize();
+    bool isSizedByLearner() const;
     void fitPage();
     void fitWords();
     void layOut();
@@ -48,6 +50,7 @@ private:
 
     void showPage(const Word& word, int cell);
     void showPageFromTop(const Word& word);
+    void showChosenWord(const Word& word);
     void showReading(const Reading& reading);
     void showRemark();
 
@@ -56,6 +59,9 @@ private:
     void writeFile(const std::string& path);
 
     PageModel* page_ = nullptr;
+
+    /// The size that the window gave itself last.
+    QSize normal_;
 
     ReadingsPanel* readings_ = nullptr;
     WordsPanel* words_ = nullptr;
