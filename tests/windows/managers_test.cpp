@@ -169,6 +169,7 @@ TEST_F(Managers, CopyAWordAsALineOfItsFileWithMarksThatAreNotShown)
     openVerbs();
     chooseWord(1, 4);
     EXPECT_EQ(copied(), "mov, mo:t, mo:v, move, moved, moved, moving");
+    EXPECT_EQ(QToolTip::text(), "Copied");
     fillBox("VerbManagerLatinForms2", "mo:ss");
     fillBox("VerbManagerGermanForms0", "move, stir");
     clickAdd();

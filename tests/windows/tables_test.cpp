@@ -6,6 +6,8 @@
 #include "verbdrills/verb_question.h"
 #include "verbs/verb_tables.h"
 
+#include <set>
+
 namespace {
 
 using shell::settings;
@@ -69,8 +71,8 @@ TEST_F(Tables, ShowAWordAsAGrammarPrintsItAndWhatAGrammarHasInstead)
          {std::tuple{"ESSE", 8, "Present sim si:s sit si:mus si:tis sint"},
           {"VELLE", 11, "Pluperfect voluissem voluisse:s voluisset voluisse:mus voluisse:tis voluissent"},
           {"regere", 12, " Imperative Active     "},
-          {"ferre", 16, "Imperfect ferebar [A grammar has: fere:bar]"},
-          {"res", 2, "Genitive re:i: [A grammar has: rei:] re:rum"},
+          {"ferre", 16, "Imperfect ferebar [sic: a grammar has “fere:bar”.]"},
+          {"res", 2, "Genitive re:i: [sic: a grammar has “rei:”.] re:rum"},
           {"ílle", 0, ""},
           {"ille", 1, "Accusative illum illam illud illo:s illa:s illa"}}) {
         choose(word);
@@ -109,10 +111,15 @@ TEST_F(Tables, NarrowTheListByWhatIsTypedAndKeepTheChosenWordWhereItIsLeft)
     press(window, Qt::Key_Down);
     EXPECT_EQ(title() + label(window, "TablesFilterState").toStdString(), "puella (f. -ae)Not in the lists");
     window.resize(1280, 800);
-    choose("rex");
-    QApplication::processEvents();
-    const QModelIndex group = tree().currentIndex().parent();
-    EXPECT_GE(tree().visualRect(group).width(), tree().sizeHintForIndex(group).width()) << "cut off";
+    std::set<int> widths;
+    for (const char* const word : {"sermo", "aedificare", "is-ea"}) {
+        choose(word);
+        QApplication::processEvents();
+        const QModelIndex group = tree().currentIndex().parent();
+        EXPECT_GE(tree().visualRect(group).width(), tree().sizeHintForIndex(group).width()) << "cut off";
+        widths.insert(tree().width());
+    }
+    EXPECT_EQ(widths.size(), 1U) << "as wide beside every table";
 }
 
 TEST_F(Tables, TellAllThatAFormCanBeAndShowItInItsTable)
@@ -136,12 +143,49 @@ TEST_F(Tables, TellAllThatAFormCanBeAndShowItInItsTable)
     EXPECT_EQ(title() + ", " + chosen(Qt::AccessibleDescriptionRole), "rex (m. regis), Plural Accusative");
     tests::clickRow(readings, 1);
     EXPECT_EQ(chosen(Qt::AccessibleDescriptionRole), "Plural Nominative");
+    choose("puella");
+    openTables();
+    EXPECT_EQ(readings.count() - readings.selectedItems().size(), 3) << "they are another word's now";
     // Marks and macrons in the forms alone: the colon behind a form is none.
     settings.ShowVowelLength = platform::FlagTrue;
     shell::looks.ShowMacrons = true;
     openTables();
     tests::fill(line(window, "TablesForm"), "ama");
     EXPECT_EQ(tests::rows(readings).first(), "amā: amāre, 2nd Person Sing, First Conjugation, Imperative");
+}
+
+TEST_F(Tables, OpenAgainInTheSizeThatTheTypeNeedsOrTheLearnerGaveAndTakeANewFormForTheOld)
+{
+    QWidget& menu = start();
+    const auto reopenedAfter = [&](Qt::Key key) {
+        press(shown("Tables"), Qt::Key_Escape);
+        QApplication::setActiveWindow(&menu);
+        QTest::keyClick(&menu, key, Qt::ControlModifier);
+        QApplication::processEvents();
+        return openTables().size();
+    };
+    openTables();
+    tests::type(shown("Tables"), "ama");
+    const QSize small = reopenedAfter(Qt::Key_Minus);
+    EXPECT_GT(reopenedAfter(Qt::Key_0).height(), small.height());
+    shown("Tables").resize(700, 555);
+    EXPECT_EQ(reopenedAfter(Qt::Key_Minus), QSize(700, 555));
+    tests::type(shown("Tables"), "rex");
+    EXPECT_EQ(line(shown("Tables"), "TablesForm").text(), "rex");
+}
+
+TEST_F(Tables, NameTensesAndCasesAsReadingsAndAnswersKeptDo)
+{
+    tests::choose(start(), "GermanLang");
+    QWidget& window = openTables();
+    EXPECT_EQ(lineOf(6).substr(0, 21), "Futur Perfekt amavero");
+    tests::fill(line(window, "TablesForm"), "regem");
+    EXPECT_EQ(tests::rows(list(window, "TablesReadings")).back(), "regem: rex, Einzahl Akkusativ");
+    tests::fill(line(window, "TablesForm"), "quos");
+    press(window, Qt::Key_Return);
+    EXPECT_EQ(chosen(Qt::AccessibleDescriptionRole), "Mask. Plur. Akkusativ");
+    tests::click(window, "TablesCopy");
+    EXPECT_TRUE(QGuiApplication::clipboard()->text().contains("\tNeutr. Plur.\nNominativ\tqui"));
 }
 
 TEST_F(Tables, OpenByF2AtTheWordThatStandsInADrillOrListAndCostNothing)
@@ -235,10 +279,11 @@ TEST_F(Tables, CopyAndSaveTheTableAsTextHtmlAndPdfAndTellWhatCannotBeWritten)
     choose("res");
     view().setFocus();
     press(window, Qt::Key_Down);
-    EXPECT_EQ(label(window, "TablesRemark"), "sic. re:i: here. A grammar has: rei:");
+    EXPECT_EQ(label(window, "TablesRemark"), "sic: here “re:i:”; a grammar has “rei:”.");
     press(window, Qt::Key_Down, 2);
     EXPECT_EQ(label(window, "TablesRemark"), "");
     tests::click(window, "TablesCopy");
+    EXPECT_EQ(QToolTip::text(), "Copied");
     const QMimeData& copied = *QGuiApplication::clipboard()->mimeData();
     EXPECT_EQ(copied.text().section('\n', 0, 4),
               "res (f)\n\n\tSingular\tPlural\nNominative\tres\tres\nGenitive\trei (sic)\trerum");
@@ -253,7 +298,8 @@ TEST_F(Tables, CopyAndSaveTheTableAsTextHtmlAndPdfAndTellWhatCannotBeWritten)
         EXPECT_EQ(tests::bytesOf(file).find(begin), 0U) << file;
     }
     EXPECT_EQ(fake.offeredNames.at(1), "res.pdf");
-    EXPECT_NE(tests::bytesOf("a.html").find("re:i: here. A grammar has: rei:"), std::string::npos);
+    EXPECT_NE(tests::bytesOf("a.html").find("rei sic: here “re:i:”; a grammar has “rei:”."),
+              std::string::npos);
     const std::string before = tests::bytesOf("c.pdf");
     fake.chosenName = "c.pdf";
     EXPECT_TRUE(fake.messages.empty());
