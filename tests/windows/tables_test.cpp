@@ -110,7 +110,7 @@ TEST_F(Tables, NarrowTheListByWhatIsTypedAndKeepTheChosenWordWhereItIsLeft)
     tests::fill(filter, "xyz");
     press(window, Qt::Key_Down);
     EXPECT_EQ(title() + label(window, "TablesFilterState").toStdString(), "puella (f. -ae)Not in the lists");
-    window.resize(1280, 800);
+    window.resize(1000, 700);
     std::set<int> widths;
     for (const char* const word : {"sermo", "aedificare", "is-ea"}) {
         choose(word);
