@@ -5,8 +5,20 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QLineEdit>
 
 namespace app {
+
+namespace {
+
+// Ctrl with Alt is the third level of some keyboards, and writes.
+bool isLetterWithAlt(const QKeyEvent& key)
+{
+    return (key.modifiers() & (Qt::AltModifier | Qt::ControlModifier)) == Qt::AltModifier &&
+           !key.text().isEmpty() && key.text().front().isPrint();
+}
+
+} // namespace
 
 const shell::Window* windowWithTheKeys()
 {
@@ -20,11 +32,13 @@ KeyFilter::KeyFilter()
     qApp->installEventFilter(this);
 }
 
-bool KeyFilter::eventFilter(QObject* /*receiver*/, QEvent* event)
+bool KeyFilter::eventFilter(QObject* receiver, QEvent* event)
 {
     if (event->type() != QEvent::KeyPress)
         return false;
     const auto& key = *static_cast<QKeyEvent*>(event);
+    if (isLetterWithAlt(key) && qobject_cast<QLineEdit*>(receiver) != nullptr)
+        return true;
     const shell::Window* const window = windowWithTheKeys();
     if (key.key() == Qt::Key_F1 && key.modifiers() == Qt::NoModifier && window != nullptr) {
         if (!key.isAutoRepeat())

@@ -49,11 +49,11 @@ std::string_view nameOfGroup(int group)
     return *PronounRows.at(static_cast<std::size_t>(group)).latin;
 }
 
-// The persons are three words, the genders one. The reflexive has no nominative.
+// The reflexive has no nominative.
 const std::string& pronounOf(int group, int column)
 {
     const int first = group * ColumnsOfGroup + 1;
-    const auto& forms = pronounDrill.PronounForms[group == PersonalGroup ? first + column : first];
+    const auto& forms = pronounDrill.PronounForms[columnsAreOneWord(group) ? first : first + column];
     return forms[NominativeSingular].empty() ? forms[GenitiveSingular] : forms[NominativeSingular];
 }
 

@@ -20,6 +20,12 @@ inline constexpr ColumnTexts PluralGenders   = {"Masc. Plur.",   "Fem. Plur.",  
 /// The group whose columns are persons; those of the others are genders.
 inline constexpr int PersonalGroup = 0;
 
+/// Whether the columns of a group, 0 to 4, are the forms of one word: genders are, persons are three words.
+constexpr bool columnsAreOneWord(int group)
+{
+    return group != PersonalGroup;
+}
+
 /// The columns of a group, 0 to 4, in the number to which a case, 1 to 10, belongs.
 constexpr const ColumnTexts& columnTexts(int group, int inCase)
 {

@@ -1,6 +1,7 @@
 #include "nouns/pronoun_drill.h"
 
 #include "nouns/case_order.h"
+#include "nouns/pronoun_columns.h"
 #include "shell/round.h"
 #include "shell/settings.h"
 #include "shell/vowel_marks.h"
@@ -16,6 +17,16 @@ constexpr std::string_view RandomInSmallLetters = "random"; // sic
 bool hasForm(int cell)
 {
     return !pronounFormAt(cell).empty();
+}
+
+int columnOf(int cell)
+{
+    return (cell - 1) / CasesOfNumber;
+}
+
+bool isOfWordAsked(int cell)
+{
+    return columnsAreOneWord(pronounDrill.Group) || columnOf(cell) == columnOf(pronounDrill.CurrentCell);
 }
 
 int cellAfter(int cell)
@@ -92,7 +103,7 @@ void beginPronouns()
 
 const std::string& pronounFormAt(int cell)
 {
-    const int column = pronounDrill.Group * ColumnsOfGroup + (cell - 1) / CasesOfNumber + 1;
+    const int column = pronounDrill.Group * ColumnsOfGroup + columnOf(cell) + 1;
     return pronounDrill.PronounForms[column][pronounDrill.FirstCase + (cell - 1) % CasesOfNumber];
 }
 
@@ -109,7 +120,7 @@ bool isRightPronoun(const std::string& answer)
 bool answersAnotherCell(const std::string& answer)
 {
     for (int cell = 1; cell <= CellCount; ++cell)
-        if (hasForm(cell) && answer == pronounFormAt(cell))
+        if (hasForm(cell) && isOfWordAsked(cell) && answer == pronounFormAt(cell))
             return true;
     return false;
 }

@@ -59,7 +59,7 @@ void setPronounQuestion();
 /// Checks an answer against `ExpectedAnswer`, letter by letter.
 bool isRightPronoun(const std::string& answer);
 
-/// Whether a wrong answer is the form of another box.
+/// Whether a wrong answer is the form that another box has of the same word.
 bool answersAnotherCell(const std::string& answer);
 
 /// The how-many-th form of this number is asked.

@@ -3,6 +3,7 @@
 #include "nouns/case_names.h"
 #include "nouns/chooser_rows.h"
 #include "nouns/paradigm_names.h"
+#include "nouns/pronoun_columns.h"
 #include "shell/settings.h"
 #include "shell/vowel_marks.h"
 #include "tables/word_forms.h"
@@ -70,6 +71,26 @@ std::optional<Word> declinedWord(const AnswerRecord& question)
     return {};
 }
 
+std::optional<std::size_t> personNamed(std::string_view name)
+{
+    for (std::size_t person = 0; person < nouns::ColumnsOfGroup; ++person)
+        if (name == nouns::SingularPersons.at(person) || name == nouns::PluralPersons.at(person))
+            return person;
+    return {};
+}
+
+// Of the personal pronouns, which are three words, only those of the person that is asked.
+std::span<const shell::FormParts> formsOfWordAsked(std::span<const shell::FormParts> forms, const Word& word,
+                                                   const AnswerRecord& question)
+{
+    if (word.kind != WordKind::Pronoun || nouns::columnsAreOneWord(word.paradigm))
+        return forms;
+    const auto person = personNamed(partsOfPlace(question.place)[2]);
+    if (!person)
+        return {};
+    return forms.subspan(*person * nouns::CaseCount, nouns::CaseCount);
+}
+
 } // namespace
 
 std::optional<LanguageTexts> otherFormOf(const AnswerRecord& question, const std::string& written)
@@ -82,8 +103,9 @@ std::optional<LanguageTexts> otherFormOf(const AnswerRecord& question, const std
     if (!word)
         return {};
     const auto forms = tables::formsOf(*word);
-    const bool isOther = std::ranges::any_of(
-        forms, [&](const shell::FormParts& form) { return isForm(form, question, written); });
+    const bool isOther =
+        std::ranges::any_of(formsOfWordAsked(forms, *word, question),
+                            [&](const shell::FormParts& form) { return isForm(form, question, written); });
     return isOther ? std::optional(nouns::OtherForm) : std::nullopt;
 }
 

@@ -32,7 +32,7 @@ struct ConjugationDrill {
     /// The answers given in this round, by person. Nothing reads it.
     platform::Table<std::string, BoxCount> AnswerSlots;
 
-    /// The box that last received the focus. Nothing reads it.
+    /// The box that last received the focus.
     std::int16_t FocusedBox = 0;
 
     /// 1 once an answer was checked. Nothing reads it.

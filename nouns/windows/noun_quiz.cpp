@@ -92,7 +92,7 @@ void NounQuiz::makeControls()
     form_ = makeHeading(this, "NounQuizForm", shell::TitleType);
     info_ = makeLabel(this, "NounQuizInfo", shell::FormType);
     indices_ = makeLabel(this, "NounQuizIndices", shell::NoteType);
-    score_ = makeHeading(this, "NounQuizScore", shell::HeadingType);
+    score_ = shell::makeScore(this, "NounQuizScore");
     verdict_ = makeHeading(this, "NounVerdict", shell::HeadingType);
     answer_ = makeLabel(this, "NounRightAnswer", shell::FormType);
     answer_->setAlignment(Qt::AlignTop);
@@ -166,6 +166,7 @@ void NounQuiz::open()
     score_->clear();
     ask();
     showInMainWindowState();
+    shell::setFocusInSight(*checks_.front());
 }
 
 bool NounQuiz::verdictStands() const

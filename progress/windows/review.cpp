@@ -90,7 +90,7 @@ void Review::makeControls()
     kindLabel_ = shell::makeLabelOf(kind_, "ReviewKindLabel");
     title_ = shell::makeLabel(this, "ReviewTitle", shell::FormType);
     left_ = shell::makeLabel(this, "ReviewLeft");
-    score_ = shell::makeLabel(this, "ScoreLabel");
+    score_ = shell::makeScore(this, "ScoreLabel");
     question_ = shell::makeHeading(this, "ReviewQuestion", shell::HeadingType);
     shell::wrapText(*question_, QuestionLines);
     answer_ = shell::makeControl<ReviewBox>(this, "ReviewAnswer");

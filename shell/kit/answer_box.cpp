@@ -75,12 +75,9 @@ void AnswerBox::focusInEvent(QFocusEvent* event)
     Q_EMIT focusReceived();
 }
 
-// The letter of a menu or a button that the window does not have is none of the answer.
 void AnswerBox::keyPressEvent(QKeyEvent* event)
 {
-    if (event->modifiers() == Qt::AltModifier && !event->text().isEmpty())
-        event->ignore();
-    else if (takesHintKeys() && asksForHint(event->text()))
+    if (takesHintKeys() && asksForHint(event->text()))
         Q_EMIT hintRequested();
     else
         QLineEdit::keyPressEvent(event);

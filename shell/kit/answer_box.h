@@ -7,9 +7,9 @@ namespace shell {
 /// Whether what a key would type asks for a hint where forms are typed: "/" and "?" do.
 bool asksForHint(const QString& typed);
 
-/// A box into which a form is typed. A key that asks for a hint is not entered, nor is a letter with Alt. Its
-/// looks are the colours that all drills share; a fixed colour of the text always comes with one of the
-/// background that it can be read on.
+/// A box into which a form is typed. A key that asks for a hint is not entered. Its looks are the colours
+/// that all drills share; a fixed colour of the text always comes with one of the background that it can be
+/// read on.
 class AnswerBox : public QLineEdit {
     Q_OBJECT
 

@@ -13,7 +13,7 @@
 namespace shell {
 
 BoxDrill::BoxDrill(std::string_view name, std::string_view activeName, std::string_view exerciseType)
-    : TypingDrill(name, activeName, exerciseType), score_(makeHeading(this, "ScoreLabel", HeadingType))
+    : TypingDrill(name, activeName, exerciseType), score_(makeScore(this, "ScoreLabel"))
 {
 }
 
@@ -32,10 +32,6 @@ AnswerBox* BoxDrill::addBox(QWidget* parent, const QString& name)
 
 QBoxLayout* BoxDrill::withScore(const Part& heading)
 {
-    keepMeasure(*score_, "room", [this](Growth) {
-        const QFontMetrics metrics = score_->fontMetrics();
-        score_->setMinimumSize(metrics.horizontalAdvance(QStringLiteral(" 100% ")), metrics.lineSpacing());
-    });
     QBoxLayout* const scoreAndPlace =
         columnOf(HairSpace, {{score_, 0, Qt::AlignRight}, {whereLabel(), 0, Qt::AlignRight}, Part::gap()});
     return rowOf(MediumSpace, {heading, scoreAndPlace});

@@ -33,6 +33,18 @@ QLabel* makeHeading(QWidget* parent, QAnyStringView name, double type)
     return label;
 }
 
+QLabel* makeScore(QWidget* parent, QAnyStringView name)
+{
+    QLabel* const score = makeHeading(parent, name, HeadingType);
+    score->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    keepMeasure(*score, "room", [score](Growth) {
+        const QFontMetrics metrics = score->fontMetrics();
+        score->setMargin(-metrics.horizontalAdvance(u' '));
+        score->setMinimumSize(metrics.horizontalAdvance(QStringLiteral("100%")), metrics.lineSpacing());
+    });
+    return score;
+}
+
 QLabel* makeLabelOf(QWidget* control, QAnyStringView name)
 {
     QLabel* const label = makeLabel(control->parentWidget(), name);
@@ -68,6 +80,12 @@ QPushButton* makeQuestionButton(QWidget* parent, QAnyStringView name)
     QPushButton* const button = makeButton(parent, name, "?");
     button->setAccessibleName(QStringLiteral("Show the answer"));
     return button;
+}
+
+void setFocusInSight(QWidget& control)
+{
+    control.window()->setAttribute(Qt::WA_KeyboardFocusChange);
+    control.setFocus();
 }
 
 void onEnter(QWidget& control, const std::function<void()>& step)

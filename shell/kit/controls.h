@@ -30,6 +30,10 @@ QLabel* makeLabel(QWidget* parent, QAnyStringView name);
 QLabel* makeLabel(QWidget* parent, QAnyStringView name, double type);
 QLabel* makeHeading(QWidget* parent, QAnyStringView name, double type);
 
+/// The label of a percentage, whose text has a blank at either end. Its last sign ends where the label does:
+/// the blank hangs over.
+QLabel* makeScore(QWidget* parent, QAnyStringView name);
+
 /// The label of a control, to which its access key leads.
 QLabel* makeLabelOf(QWidget* control, QAnyStringView name);
 
@@ -45,6 +49,10 @@ QPushButton* makeButton(QWidget* parent, QAnyStringView name, std::string_view t
 
 /// The "?" button of a drill, which shows the answer.
 QPushButton* makeQuestionButton(QWidget* parent, QAnyStringView name);
+
+/// Gives a control of a window that is shown the focus, and lets it be seen there: in a check box styles show
+/// it only once Tab was pressed, and showing a window forgets that.
+void setFocusInSight(QWidget& control);
 
 /// Does something when Enter is pressed in a control, or in what stands in it: once, however long it is held.
 void onEnter(QWidget& control, const std::function<void()>& step);

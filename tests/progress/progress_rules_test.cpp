@@ -1,5 +1,6 @@
 #include "progress/calendar.h"
 #include "progress/csv.h"
+#include "progress/other_form.h"
 #include "progress/review.h"
 #include "shell/settings.h"
 #include "tests/support/fresh_state.h"
@@ -117,6 +118,20 @@ TEST_F(Progress, IsWrittenAsATableThatOtherProgramsRead)
                                             .right = false}}),
               "2024-02-29T00:30:00+05:30,Vcabtester,\"a, ab\",\"my \"\"list\"\".lst / word\",\"a, ab\",from,"
               "\"by\nfrom\",0\r\n");
+}
+
+// ego, tu and the reflexive are three words; is, ea, id are one.
+TEST_F(Progress, AnAnswerIsAnotherFormOfTheWordThatIsAsked)
+{
+    for (const auto& [place, written, isOther] :
+         {std::tuple{"ego-tu-* / Genitive Singular / 1 Pers. Sing.", "tu", false},
+          {"ego-tu-* / Genitive Singular / 1 Pers. Sing.", "nos", true},
+          {"ego-tu-* / Dative Plural / 3 Pers. Plur.", "sui", true},
+          {"is-ea-id / Dative Plural / Fem. Plur.", "id", true}}) {
+        shell::AnswerRecord question = row(true, 0, 0, "Pronouns").answer;
+        question.place = place;
+        EXPECT_EQ(progress::otherFormOf(question, written).has_value(), isOther) << place << written;
+    }
 }
 
 } // namespace

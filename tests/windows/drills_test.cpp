@@ -83,6 +83,14 @@ TEST_F(EveryDrill, IsLeftAtOnceInAPauseAndDoesNotMoveOn)
             }
 }
 
+bool endsAtItsEdge(QLabel& label)
+{
+    const QImage edge = label.grab({label.width() - 4, 0, 4, label.height()}).toImage();
+    QImage bare = edge;
+    bare.fill(edge.pixel(0, 0));
+    return edge != bare;
+}
+
 // A box that was answered right turns grey. What is typed after a click on another comes into the one asked.
 TEST_F(EveryDrill, JudgesOnceWhateverIsPressedInThePauseAndMovesOnAfterARightAnswer)
 {
@@ -99,6 +107,7 @@ TEST_F(EveryDrill, JudgesOnceWhateverIsPressedInThePauseAndMovesOnAfterARightAns
             if (hasBoxes)
                 QTest::mouseClick(&box(window, drill.box, 4), Qt::LeftButton);
             QApplication::processEvents();
+            EXPECT_TRUE(drill.window != "Conjugation" || label(window, "Ctransl4").isEmpty());
             fillIn(drill, window, right);
             const std::string asked = drill.asked();
             duringPause([&] {
@@ -119,6 +128,8 @@ TEST_F(EveryDrill, JudgesOnceWhateverIsPressedInThePauseAndMovesOnAfterARightAns
             }
             EXPECT_TRUE(!hasBoxes || window.focusWidget() == &askedBox(window, drill));
             EXPECT_TRUE(!hasBoxes || !right || label(window, "ScoreLabel") == " 33% ");
+            for (QLabel* const score : window.findChildren<QLabel*>(QRegularExpression("Score")))
+                EXPECT_TRUE(score->text().isEmpty() || endsAtItsEdge(*score));
         }
     }
 }
@@ -191,6 +202,11 @@ TEST_F(EveryDrill, SaysWhyAnAnswerWasWrongUntilTheNextKeyAndHowFarOneIs)
     EXPECT_NE(label(verbs, "WhyLabel"), "");
     type(verbs, "s");
     EXPECT_EQ(label(verbs, "WhyLabel"), "");
+    QWidget& persons = open(Pronoun);
+    answer(persons, "tu");
+    EXPECT_EQ(label(persons, "WhyLabel"), "<u>t</u>u");
+    answer(persons, "mihi");
+    EXPECT_TRUE(label(persons, "WhyLabel").endsWith("Das ist eine andere Form desselben Wortes."));
     settings.QuestionOrder = shell::question_order::Random;
     for (const Drill& drill : {Declension, Pronoun})
         for (int number = 1; number < 4; ++number) {

@@ -86,6 +86,10 @@ TEST_F(Quizzes, OfVerbsAreAnsweredFromTheKeyboardAndShowBothAnswersInTheLanguage
     click(quiz(), "QuizSkip");
     EXPECT_EQ(fake.beeps, 6);
     expectQuestion();
+    for (const char* const name : {"QuizFirst", "QuizSing", "QuizTenseList"}) {
+        press(quiz(), Qt::Key_Tab);
+        EXPECT_EQ(focusIn(quiz()), name);
+    }
 }
 
 // A click on a class stores the tenses with it; the two buttons, and a click on a tense, store nothing yet.
@@ -94,6 +98,7 @@ TEST_F(Quizzes, OfVerbsAskWhatIsIncludedAndAreLeftForTheChoiceInAPause)
     const QString form = text("QuizItem");
     click(quiz(), "QuizOptions");
     EXPECT_EQ(ticked(), QStringList({"InclConj0", "InclTense0"}));
+    EXPECT_TRUE(choice().testAttribute(Qt::WA_KeyboardFocusChange));
     clickChoices("InclTense3 InclConj4 InclInclude");
     EXPECT_EQ(ticked().size(), 29);
     clickChoices("InclClear InclTense4");
@@ -159,6 +164,7 @@ TEST_F(Quizzes, OfVerbsLeadToTheChoiceWhereNothingCanBeAsked)
 TEST_F(Quizzes, OfNounsJudgeTheTicksAndAskAnew)
 {
     QWidget& nounQuiz = open("FileNounQuiz", "NounQuiz");
+    EXPECT_TRUE(nounQuiz.testAttribute(Qt::WA_KeyboardFocusChange));
     constexpr std::array Declensions = {0, 1, 1, 1, 4, 4, 5, 2};
     const QStringList scores = {" 100% ", " 50% ", " 67% "};
     QColor right;

@@ -114,6 +114,7 @@ TEST_F(VcabWindows, TakeOverWhatWasTypedBeforeAnythingElseComes)
     fillIn(Rome);
     chooseWord(0);
     fill(line(*manager, "VcabManHint"), "rosae, f.");
+    QTest::keyClick(&line(*manager, "VcabManHint"), Qt::Key_Y, Qt::AltModifier);
     chooseWord(1);
     EXPECT_EQ(shownIn("VcabManTrans"), "Rome, Italy");
     press(*manager, Qt::Key_Up);

@@ -141,9 +141,19 @@ void Conjugation::setQuestion()
 void Conjugation::boxEntered(int number)
 {
     buildDrillHeading();
+    clearGlossPassedBy();
     showGloss(number);
     nameForTheEar(number);
     conjugationDrill.FocusedBox = static_cast<std::int16_t>(number);
+}
+
+// A box that only sent the focus on shows no gloss beside the one that is asked; an answered one keeps its
+// own.
+void Conjugation::clearGlossPassedBy()
+{
+    const int last = conjugationDrill.FocusedBox;
+    if (last != askedBoxNumber() && box(last).text().isEmpty())
+        glosses_.at(static_cast<std::size_t>(last))->clear();
 }
 
 void Conjugation::showGloss(int number)

@@ -37,6 +37,7 @@ private:
     void makeControls();
     void layOut();
     QGridLayout* answerGrid();
+    void clearGlossPassedBy();
     void showGloss(int number);
     void nameForTheEar(int number);
     void emptyRound();

@@ -22,6 +22,14 @@ constexpr int FirstPerson = 1;
 constexpr int Singular = 0;
 constexpr int Plural = 1;
 
+// Tab comes to the option that is chosen. Qt sees to that only where the learner chooses.
+void chooseOption(const QButtonGroup& group, int chosen)
+{
+    group.button(chosen)->setChecked(true);
+    for (QAbstractButton* const option : group.buttons())
+        option->setFocusPolicy(option->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
+}
+
 } // namespace
 
 PersonAndNumber::PersonAndNumber(QWidget* parent)
@@ -57,8 +65,8 @@ std::string_view PersonAndNumber::number() const
 
 void PersonAndNumber::reset()
 {
-    persons_->button(FirstPerson)->setChecked(true);
-    numbers_->button(Singular)->setChecked(true);
+    chooseOption(*persons_, FirstPerson);
+    chooseOption(*numbers_, Singular);
 }
 
 } // namespace verbdrills

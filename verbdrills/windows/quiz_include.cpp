@@ -183,7 +183,7 @@ void QuizInclude::appear()
         part->updateGeometry();
     fitFrame();
     showFrame();
-    classes_.front()->setFocus();
+    shell::setFocusInSight(*classes_.front());
 }
 
 QuizTicks QuizInclude::ticks() const
