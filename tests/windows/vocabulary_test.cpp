@@ -289,6 +289,23 @@ TEST_F(VcabWindows, RefuseTheThreeHundredAndFirstWordAndKeepItsText)
     EXPECT_EQ(shownIn("VcabManTrans"), "Rome, Italy");
 }
 
+TEST_F(VcabWindows, RefuseAHintWithoutAWordAndShowEachWordThatIsAdded)
+{
+    editFrom(openTester(QByteArray(RoseInAFile).repeated(150).toStdString()));
+    const auto& words = list(*manager, "VcabManMainForm");
+    const auto endIsSeen = [&] {
+        return words.viewport()->rect().contains(words.visualItemRect(words.item(words.count() - 1)));
+    };
+    add("//f.");
+    EXPECT_TRUE(words.count() == 150 && !endIsSeen() && shownIn("VcabManHint") == "f.");
+    EXPECT_EQ(focusIn(*manager), "VcabManWord");
+    add(Rome);
+    EXPECT_TRUE(words.count() == 151 && endIsSeen());
+    fillIn(Rome);
+    saveAs("more");
+    EXPECT_TRUE(words.count() == 152 && endIsSeen());
+}
+
 TEST_F(VcabWindows, AskBeforeAFileOfAnotherNameIsWrittenOverAndKeepAllWhereASaveFails)
 {
     writeFile("old.dat", ThreeWords);
