@@ -135,8 +135,7 @@ TEST_F(FrmOptions, BringsTheFrameOfTheChosenTabInAndSaysWhatIsMissing)
 // The desktop's frame and title count: at the first showing, and after the learner moved the window.
 TEST_F(DelayInterval, StandsInTheMiddleOfTheScreenWithItsFrameAsAboutDoes)
 {
-    for (const auto& [item, name] :
-         {std::pair{"MainABout", "About"}, {"SetDelay", "DelayInterval"}})
+    for (const auto& [item, name] : {std::pair{"MainABout", "About"}, {"SetDelay", "DelayInterval"}})
         for (int opening = 1; opening <= 3; ++opening) {
             QWidget& window = open(item, name);
             const QPoint off = window.frameGeometry().center() - window.screen()->geometry().center();
@@ -187,9 +186,8 @@ TEST_F(Help, StandsBesideTheWindowThatAsksWhereThereIsRoom)
 
 TEST_F(Help, StandsAtTheRightEdgeOfAMaximisedWindowAndCoversNothingWhereThereIsRoom)
 {
-    settings.MainWindowState = shell::window_state::Maximised;
     QWidget& menu = start();
-    for (int times = 0; times < 2; ++times)
+    for ([[maybe_unused]] const int percent : {90, 80})
         QTest::keyClick(&menu, Qt::Key_Minus, Qt::ControlModifier);
     for (const auto& [item, name, last, hasRoom] :
          {std::tuple{"FileConj", "ConjugationChoose", "Command2", true},
