@@ -21,7 +21,7 @@ constexpr std::array Captions = {
                                     "Se borrarán todas las respuestas guardadas. No se pueden recuperar.",
                                     "Omnia responsa servata delebuntur neque restitui poterunt."}},
     Caption{"ProgressEraseOK",     {"&Delete", "&Supprimer", {}, "&Löschen",   "&Borrar",   "&Dele!"}},
-    Caption{"ProgressEraseCancel", {"&Cancel", "&Annuler",   {}, "&Abbrechen", "&Cancelar", "&Reverte!"}},
+    Caption{"ProgressEraseCancel", {"&Cancel", "&Annuler",   {}, "&Abbruch",   "&Cancelar", "&Reverte!"}},
 };
 // clang-format on
 

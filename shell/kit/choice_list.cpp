@@ -37,6 +37,8 @@ bool beginsChoice(int key)
 ChoiceList::ChoiceList(QWidget* parent) : QListWidget(parent)
 {
     setItemDelegate(new AiryRows(this));
+    setBackgroundRole(QPalette::Base);
+    setAutoFillBackground(true);
     connect(this, &QListWidget::itemSelectionChanged, this, [this] { Q_EMIT rowChosen(chosenRow()); });
     connect(this, &QListWidget::itemDoubleClicked, this, &ChoiceList::activateChosenRow);
 }
@@ -64,6 +66,17 @@ QItemSelectionModel::SelectionFlags ChoiceList::selectionCommand(const QModelInd
                                                                  const QEvent* event) const
 {
     return index.isValid() ? QListWidget::selectionCommand(index, event) : QItemSelectionModel::NoUpdate;
+}
+
+// The lowest row that is seen is seen whole: less than the height of one stays empty below it.
+void ChoiceList::updateGeometries()
+{
+    const int row = std::max(1, sizeHintForRow(0));
+    const int room = viewport()->height() + viewportMargins().bottom();
+    const int empty = room > row && count() * row > room ? room % row : 0;
+    if (empty != viewportMargins().bottom())
+        setViewportMargins(0, 0, 0, empty);
+    QListWidget::updateGeometries();
 }
 
 void ChoiceList::activateChosenRow()

@@ -5,7 +5,8 @@
 namespace shell {
 
 /// A list from which one row is chosen: a click or the arrow keys choose it, a double click or Enter
-/// activates it. A click beside the rows leaves the choice as it is.
+/// activates it. A click beside the rows leaves the choice as it is. Where the rows scroll, whole ones are
+/// shown.
 class ChoiceList : public QListWidget {
     Q_OBJECT
 
@@ -24,6 +25,7 @@ Q_SIGNALS:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void updateGeometries() override;
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                          const QEvent* event) const override;
 

@@ -35,6 +35,13 @@ int IndicatorStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, 
     return std::max(own, qRound(IndicatorOfLine * widget->fontMetrics().height()));
 }
 
+// The light copy of a disabled text, a pixel beside it, smears the text on a dark window.
+int IndicatorStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                              QStyleHintReturn* result) const
+{
+    return hint == SH_EtchDisabledText ? 0 : QProxyStyle::styleHint(hint, option, widget, result);
+}
+
 // An item of a menu leaves room for a mark of the style's own size.
 QSize IndicatorStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                                        const QWidget* widget) const
@@ -46,10 +53,25 @@ QSize IndicatorStyle::sizeFromContents(ContentsType type, const QStyleOption* op
     return size;
 }
 
+// The frame of the focus is a faint shade of what is chosen, as dark as a dark window.
+void IndicatorStyle::drawFocus(const QStyleOptionFocusRect& focus, QPainter* painter,
+                               const QWidget* widget) const
+{
+    QStyleOptionFocusRect plain = focus;
+    if (isDark(focus.palette))
+        plain.palette.setBrush(QPalette::Highlight, plain.palette.windowText());
+    QProxyStyle::drawPrimitive(PE_FrameFocusRect, &plain, painter, widget);
+}
+
 // Styles draw the outline by a shade darker than the window, which is not to be seen beside a dark one.
 void IndicatorStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                    const QWidget* widget) const
 {
+    const auto* const focus = qstyleoption_cast<const QStyleOptionFocusRect*>(option);
+    if (element == PE_FrameFocusRect && focus != nullptr) {
+        drawFocus(*focus, painter, widget);
+        return;
+    }
     const auto* const indicator = qstyleoption_cast<const QStyleOptionButton*>(option);
     const bool drawn = element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton;
     if (!drawn || indicator == nullptr || !isDark(indicator->palette)) {

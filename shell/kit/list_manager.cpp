@@ -21,7 +21,7 @@ namespace {
 
 constexpr QSize LargestBlock{110, 36};
 constexpr int ListCharacters = 30;
-constexpr int LinesOfKept = 2;
+constexpr int LinesOfKept = 3;
 
 } // namespace
 
@@ -117,8 +117,9 @@ void ListManager::showNote(const QString& note)
 
 QString ListManager::howToKeep() const
 {
-    return QStringLiteral("Changes last until the program ends. To keep one, copy the %1's line into \"%2\" "
-                          "and count new %1s there.")
+    return QStringLiteral(
+               "Changes last until the program ends. To keep one, copy the %1's line into \"%2\". For "
+               "each new %1, raise the number at the head of its section by one.")
         .arg(fromUtf8(names_.word), fromUtf8(names_.file));
 }
 

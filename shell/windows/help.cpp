@@ -11,6 +11,7 @@
 
 #include <QBoxLayout>
 #include <QLabel>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QScreen>
 #include <QShortcut>
@@ -24,7 +25,7 @@ namespace shell {
 namespace {
 
 // In characters and lines.
-constexpr QSize LargestBlock{100, 50};
+constexpr QSize LargestBlock{100, 100};
 constexpr QSize NormalSize{92, 36};
 constexpr int LeastWidthBeside = 34;
 constexpr int WidthOfFind = 24;
@@ -56,6 +57,32 @@ QSize inLetters(const QFontMetrics& metrics, QSize charactersAndLines)
             charactersAndLines.height() * metrics.lineSpacing()};
 }
 
+// What stands in a window, but for its menus.
+QRect contentOf(const QWidget& window)
+{
+    QRect content;
+    for (const QWidget* const part : window.findChildren<QWidget*>())
+        if (part->isVisible() && part->findChild<QWidget*>() == nullptr &&
+            qobject_cast<const QMenuBar*>(part) == nullptr)
+            content |= QRect(part->mapToGlobal(QPoint()), part->size());
+    return content;
+}
+
+// What of a window is to stay in sight.
+QRect neededOf(const QWidget& window)
+{
+    return window.isMaximized() ? contentOf(window) : window.frameGeometry();
+}
+
+// At the right edge of a maximised window, below its title: as wide as the room beside its content, and never
+// narrower than the least.
+QRect placeAtRight(const QRect& window, const QRect& content, int width, int leastWidth)
+{
+    const int room = window.right() - content.right() - MediumSpace;
+    const int taken = std::max(leastWidth, std::min(width, room));
+    return {window.right() + 1 - taken, window.top(), taken, window.height()};
+}
+
 // At the side of the window where there is more room, as wide as that allows; none where it is too narrow.
 std::optional<QRect> placeBeside(const QRect& window, const QRect& screen, QSize size, int leastWidth)
 {
@@ -68,6 +95,13 @@ std::optional<QRect> placeBeside(const QRect& window, const QRect& screen, QSize
     const int x = right >= left ? window.right() + 1 : window.left() - width;
     const int y = std::clamp(window.top(), screen.top(), screen.bottom() + 1 - height);
     return QRect(x, y, width, height);
+}
+
+std::optional<QRect> placeFor(const QWidget& asking, QSize size, int leastWidth)
+{
+    if (asking.isMaximized())
+        return placeAtRight(asking.geometry(), contentOf(asking), size.width(), leastWidth);
+    return placeBeside(asking.frameGeometry(), asking.screen()->availableGeometry(), size, leastWidth);
 }
 
 } // namespace
@@ -138,7 +172,7 @@ void Help::showGuide(const QWidget& asking)
 // A guide that is open already stays where the learner has put it, as long as it covers nothing.
 void Help::showBeside(const QWidget& asking)
 {
-    const bool standsWell = isVisible() && !frameGeometry().intersects(asking.frameGeometry());
+    const bool standsWell = isVisible() && !frameGeometry().intersects(neededOf(asking));
     if (!isVisible())
         takeOwnSize();
     asking_ = &asking;
@@ -162,13 +196,13 @@ void Help::standBesideAsking()
     const QMargins frame = windowHandle()->frameMargins();
     const int leastWidth =
         std::max(minimumSizeHint().width(), LeastWidthBeside * fontMetrics().averageCharWidth());
-    const auto place = placeBeside(asking_->frameGeometry(), asking_->screen()->availableGeometry(),
-                                   whole.grownBy(frame), leastWidth + frame.left() + frame.right());
+    const auto place = placeFor(*asking_, whole.grownBy(frame), leastWidth + frame.left() + frame.right());
     if (!place)
         return;
-    if (place->marginsRemoved(frame).width() < whole.width())
+    const QRect inside = place->marginsRemoved(frame);
+    if (inside.size() != whole)
         ownSize_ = whole;
-    setGeometry(place->marginsRemoved(frame));
+    setGeometry(inside);
 }
 
 // The desktop has framed the window by the time that it was put in the middle once more.

@@ -211,8 +211,14 @@ TEST_F(Managers, SayHowAChangeIsKeptRightAboveTheButtonThatLeavesHoweverLargeThe
         manager = &open(item, window);
         EXPECT_EQ(label(*manager, kept),
                   QString("Changes last until the program ends. To keep one, copy the %1's line into "
-                          "\"%1s.cfg\" and count new %1s there.")
+                          "\"%1s.cfg\". For each new %1, raise the number at the head of its section by one.")
                       .arg(word));
+        const auto& words = *manager->findChildren<QListWidget*>().back();
+        for (const int height : {333, 340}) {
+            manager->resize(manager->width(), height);
+            EXPECT_EQ(words.viewport()->height() % words.sizeHintForRow(0), 0)
+                << "a row is cut at " << height;
+        }
         manager->resize(1920, 1080);
         QCoreApplication::processEvents();
         const int below = control<QLabel>(*manager, kept).geometry().bottom();

@@ -106,7 +106,8 @@ TEST_F(FrmOptions, BringsTheFrameOfTheChosenTabInAndSaysWhatIsMissing)
     QStringList orders;
     for (const QLabel* const text : tests::control<QFrame>(window, "picOptions1").findChildren<QLabel*>())
         orders << text->text();
-    EXPECT_EQ(orders.join(", "), "Order, Random Order, Case Order, Nom. Gen. Dat. Acc. Abl.");
+    EXPECT_EQ(orders.join(", "), "Order, Random Order, Case Order, Nom. Gen. Dat. Acc. Abl., "
+                                 "They are set in the options menu.");
     auto& tabs = tests::control<QTabBar>(window);
     for (const int chosen : {0, 1, 0, 1}) {
         QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(chosen).center());
@@ -132,10 +133,9 @@ TEST_F(FrmOptions, BringsTheFrameOfTheChosenTabInAndSaysWhatIsMissing)
 }
 
 // The desktop's frame and title count: at the first showing, and after the learner moved the window.
-TEST_F(Help, StandsInTheMiddleOfTheScreenWithItsFrameAsTheSmallWindowsDo)
+TEST_F(DelayInterval, StandsInTheMiddleOfTheScreenWithItsFrameAsAboutDoes)
 {
-    for (const auto& [item, name] :
-         {std::pair{"HELPME", "Help"}, {"MainABout", "About"}, {"SetDelay", "DelayInterval"}})
+    for (const auto& [item, name] : {std::pair{"MainABout", "About"}, {"SetDelay", "DelayInterval"}})
         for (int opening = 1; opening <= 3; ++opening) {
             QWidget& window = open(item, name);
             const QPoint off = window.frameGeometry().center() - window.screen()->geometry().center();
@@ -181,6 +181,25 @@ TEST_F(Help, StandsBesideTheWindowThatAsksWhereThereIsRoom)
         EXPECT_FALSE(help.frameGeometry().intersects(window.frameGeometry())) << x;
         EXPECT_TRUE(help.screen()->availableGeometry().contains(help.frameGeometry())) << x;
         help.close();
+    }
+}
+
+TEST_F(Help, StandsAtTheRightEdgeOfAMaximisedWindowAndCoversNothingWhereThereIsRoom)
+{
+    QWidget& menu = start();
+    for ([[maybe_unused]] const int percent : {90, 80})
+        QTest::keyClick(&menu, Qt::Key_Minus, Qt::ControlModifier);
+    for (const auto& [item, name, last, hasRoom] :
+         {std::tuple{"FileConj", "ConjugationChoose", "Command2", true},
+          {"FileNounManager", "NounHandler", "NHClose", false}}) {
+        QWidget& window = open(item, name);
+        press(window, Qt::Key_F1);
+        const QRect help = tests::shown("Help").frameGeometry();
+        EXPECT_EQ(help.bottomRight(), window.geometry().bottomRight());
+        EXPECT_EQ(help.top(), window.geometry().top());
+        const QWidget& rightmost = button(window, last);
+        EXPECT_EQ(help.left() > rightmost.mapToGlobal(rightmost.rect().bottomRight()).x(), hasRoom);
+        tests::shown("Help").close();
     }
 }
 

@@ -290,6 +290,20 @@ TEST_F(VcabWindows, RefuseTheThreeHundredAndFirstWordAndKeepItsText)
     EXPECT_EQ(shownIn("VcabManTrans"), "Rome, Italy");
 }
 
+TEST_F(VcabWindows, RefuseAHintWithoutAWordAndShowAWordThatASaveAdds)
+{
+    editFrom(openTester(QByteArray(RoseInAFile).repeated(150).toStdString()));
+    const auto& words = list(*manager, "VcabManMainForm");
+    const auto endIsSeen = [&] {
+        return words.viewport()->rect().contains(words.visualItemRect(words.item(words.count() - 1)));
+    };
+    add("//f.");
+    EXPECT_TRUE(words.count() == 150 && !endIsSeen() && focusIn(*manager) == "VcabManWord");
+    fillIn(Rome);
+    saveAs("more");
+    EXPECT_TRUE(words.count() == 151 && endIsSeen());
+}
+
 TEST_F(VcabWindows, AskBeforeAFileOfAnotherNameIsWrittenOverAndKeepAllWhereASaveFails)
 {
     writeFile("old.dat", ThreeWords);

@@ -35,7 +35,7 @@ constexpr std::array Captions = {
     Caption{"FHDirLabel",   {"&Folders",   "&Dossiers",        {},     "&Ordner",    "&Carpetas",           "&Capsae"}},
     Caption{"FHFileLabel",  {"F&iles",     "&Fichiers",        {},     "&Dateien",   "&Archivos",           "&Fasciculi"}},
     Caption{"FHNameLabel",  {"File &name", "&Nom du fichier",  {},     "Datei&name", "&Nombre del archivo", "&Nomen fasciculi"}},
-    Caption{"CancelFH",     {"&Cancel",    "&Annuler",         {},     "&Abbrechen", "Canc&elar",           "&Reverte!"}},
+    Caption{"CancelFH",     {"&Cancel",    "&Annuler",         {},     "&Abbruch",   "Canc&elar",           "&Reverte!"}},
 };
 
 constexpr LanguageTexts LoadTitle{"Load a Word List",   "Charger une liste de mots",    {}, "Wortliste laden",     "Cargar una lista de palabras",  "Indicem verborum aperi!"};

@@ -21,7 +21,7 @@ constexpr std::array Captions = {
     //                          English            French                Italian  German            Spanish               Latin
     Caption{"VcabDivide",       {"Divide a File", "Diviser un fichier",  {},     "Datei aufteilen", "Dividir un archivo", "Fasciculum divide!"}},
     Caption{"VcabDivideOK",     {"&Divide",       "&Diviser",            {},     "Auf&teilen",      "&Dividir",           "&Divide!"}},
-    Caption{"VcabDivideCancel", {"&Cancel",       "&Annuler",            {},     "&Abbrechen",      "&Cancelar",          "&Reverte!"}},
+    Caption{"VcabDivideCancel", {"&Cancel",       "&Annuler",            {},     "&Abbruch",        "&Cancelar",          "&Reverte!"}},
 };
 
 // The name of the file stands in the place of %1, then the number of its words, the most that a list holds, the

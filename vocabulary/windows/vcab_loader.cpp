@@ -27,7 +27,7 @@ constexpr std::array Captions = {
     //                          English             French                     Italian  German              Spanish                     Latin
     Caption{"VcabLoader",       {"Open a Word List", "Ouvrir une liste de mots", {},     "Wortliste öffnen", "Abrir una lista de palabras", "Indicem verborum aperi!"}},
     Caption{"VcabLoaderOpen",   {"&Open",            "&Ouvrir",                  {},     "Ö&ffnen",          "&Abrir",                      "&Aperi!"}},
-    Caption{"VcabLoaderCancel", {"&Cancel",          "&Annuler",                 {},     "&Abbrechen",       "&Cancelar",                   "&Reverte!"}},
+    Caption{"VcabLoaderCancel", {"&Cancel",          "&Annuler",                 {},     "&Abbruch",         "&Cancelar",                   "&Reverte!"}},
 };
 
 // The number of words stands in the place of %1.
@@ -59,7 +59,7 @@ void VcabLoader::makeControls()
 {
     files_ = shell::makeChoiceList(this, "VcabFile");
     count_ = shell::makeLabel(this, "VcabLoaderCount");
-    count_->setWordWrap(true);
+    shell::wrapText(*count_, 1);
     open_ = shell::makeButton(this, "VcabLoaderOpen");
     cancel_ = shell::makeButton(this, "VcabLoaderCancel");
 }
@@ -67,8 +67,7 @@ void VcabLoader::makeControls()
 void VcabLoader::layOut()
 {
     layOutLines(LargestBlock, shell::FormMargins,
-                {{shell::rowOf(shell::LargeSpace, {{files_, 2}, {count_, 1, Qt::AlignTop}}), 1},
-                 shell::buttonRow({}, {open_, cancel_})});
+                {{files_, 1}, count_, shell::buttonRow({}, {open_, cancel_})});
 }
 
 void VcabLoader::connectControls()

@@ -13,6 +13,7 @@
 #include "vocabulary/vocabulary_edits.h"
 
 #include <QBoxLayout>
+#include <QGridLayout>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
@@ -101,11 +102,26 @@ void VcabManager::makeControls()
 void VcabManager::layOut()
 {
     form_->setColumnStretch(1, 1);
-    QBoxLayout* const record =
-        shell::columnOf(shell::MediumSpace, {form_, shell::buttonRow({accept_, add_}, {delete_}),
-                                             shell::Part::gap(), shell::buttonRow({load_, save_}, {exit_})});
+    QBoxLayout* const record = shell::columnOf(shell::MediumSpace, {form_, {buttons(), 1}});
     shell::setContent(centredBlock(LargestBlock), shell::FormMargins,
                       shell::rowOf(shell::WideSpace, {{words_, 2}, {record, 3}}));
+}
+
+// The buttons for a word above those for the list.
+QLayout* VcabManager::buttons()
+{
+    QGridLayout* const grid = shell::gridOf(shell::SmallSpace, shell::MediumSpace);
+    const std::array<std::array<QPushButton*, 3>, 2> rows = {
+        {{accept_, add_, delete_}, {load_, save_, exit_}}};
+    for (int row = 0; const auto& [left, middle, right] : rows) {
+        grid->addWidget(left, row, 0);
+        grid->addWidget(middle, row, 1);
+        grid->addWidget(right, row, 3);
+        row += 2;
+    }
+    grid->setColumnStretch(2, 1);
+    grid->setRowStretch(1, 1);
+    return grid;
 }
 
 void VcabManager::connectControls()
@@ -174,9 +190,10 @@ bool VcabManager::boxesAreEdited() const
     return std::ranges::any_of(form_->boxes(), [](const QLineEdit* box) { return box->isModified(); });
 }
 
-bool VcabManager::boxesAreEmpty() const
+// A hint alone is a hint to nothing.
+bool VcabManager::boxesHoldNoWord() const
 {
-    return std::ranges::all_of(form_->boxes(), [](const QLineEdit* box) { return box->text().isEmpty(); });
+    return form_->box(Word)->text().isEmpty() && form_->box(Translation)->text().isEmpty();
 }
 
 WordRecord VcabManager::recordInBoxes() const
@@ -201,7 +218,7 @@ bool VcabManager::takeBoxes()
     if (!boxesAreEdited())
         return true;
     if (shown_ == 0)
-        return boxesAreEmpty() || addBoxes();
+        return boxesHoldNoWord() || addBoxes();
     acceptWord(shown_, recordInBoxes());
     listWords();
     return true;
@@ -227,7 +244,7 @@ void VcabManager::accept()
 
 void VcabManager::add()
 {
-    if (!boxesAreEmpty() && addBoxes()) {
+    if (!boxesHoldNoWord() && addBoxes()) {
         showRecord(0);
         words_->scrollToBottom();
     }
@@ -260,9 +277,12 @@ void VcabManager::enterRecord()
 
 void VcabManager::leaveFor(void (VcabManager::*request)())
 {
+    const int words = vocabularyList.WordCount;
     if (!takeBoxes())
         return;
     showRecord(shown_);
+    if (vocabularyList.WordCount > words)
+        words_->scrollToBottom();
     Q_EMIT(this->*request)();
 }
 

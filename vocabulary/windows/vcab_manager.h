@@ -3,6 +3,7 @@
 #include "shell/kit/window.h"
 #include "vocabulary/vocabulary_list.h"
 
+class QLayout;
 class QPushButton;
 
 namespace shell {
@@ -16,7 +17,8 @@ namespace vocabulary {
 /// names the list's file.
 ///
 /// What was typed and not yet accepted is taken over before another record, another list or another window
-/// comes: into the record that is chosen, or as a new one where none is.
+/// comes: into the record that is chosen, or as a new one where none is. A new record needs a word or its
+/// translation.
 class VcabManager : public shell::Window {
     Q_OBJECT
 
@@ -40,6 +42,7 @@ protected:
 private:
     void makeControls();
     void layOut();
+    QLayout* buttons();
     void connectControls();
 
     void accept();
@@ -55,7 +58,7 @@ private:
     void markChosen(int number);
     void showRecord(int number);
     bool boxesAreEdited() const;
-    bool boxesAreEmpty() const;
+    bool boxesHoldNoWord() const;
     WordRecord recordInBoxes() const;
 
     /// The record in the boxes, 1 to `WordCount`; 0 for a new one.

@@ -19,7 +19,7 @@ constexpr std::array Captions = {
     //                          English           French                 Italian  German            Spanish                 Latin
     Caption{"VcabReplace",       {"Replace a File", "Remplacer un fichier", {},     "Datei ersetzen", "Reemplazar un archivo", "Fasciculum muta!"}},
     Caption{"VcabReplaceOK",     {"&Replace",       "&Remplacer",           {},     "&Ersetzen",      "&Reemplazar",           "&Muta!"}},
-    Caption{"VcabReplaceCancel", {"&Cancel",        "&Annuler",             {},     "&Abbrechen",     "&Cancelar",             "&Reverte!"}},
+    Caption{"VcabReplaceCancel", {"&Cancel",        "&Annuler",             {},     "&Abbruch",       "&Cancelar",             "&Reverte!"}},
 };
 
 // The name of the file, and the number of its words, stand in the place of %1.

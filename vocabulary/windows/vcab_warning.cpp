@@ -20,7 +20,7 @@ constexpr std::array Captions = {
                                    "Index verborum mutatus est neque servatus."}},
     Caption{"VcabWarningSave",    {"&Save",    "&Enregistrer",     {}, "&Speichern",    "&Guardar", "&Serva"}},
     Caption{"VcabWarningDiscard", {"&Don't save", "&Ne pas enregistrer", {}, "&Nicht speichern", "&No guardar", "&Noli servare"}},
-    Caption{"VcabWarningCancel",  {"&Cancel",     "&Annuler",            {}, "&Abbrechen",       "&Cancelar",   "&Reverte!"}},
+    Caption{"VcabWarningCancel",  {"&Cancel",     "&Annuler",            {}, "&Abbruch",         "&Cancelar",   "&Reverte!"}},
 };
 // clang-format on
 
