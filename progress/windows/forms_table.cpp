@@ -36,7 +36,7 @@ constexpr std::array Headings = {
     //            English            French               Italian German                    Spanish               Latin
     LanguageTexts{"Form",            "Forme",             {},     "Form",                   "Forma",              "Forma"},
     LanguageTexts{"Right",           "Juste",             {},     "Richtig",                "Bien",               "Recte"},
-    LanguageTexts{"Right form",      "Forme juste",       {},     "Richtige Form",          "Forma correcta",     "Forma recta"},
+    LanguageTexts{"Right answer",    "Réponse juste",     {},     "Richtige Antwort",       "Respuesta correcta", "Responsum rectum"},
     LanguageTexts{"Written instead", "Écrit à la place",  {},     "Stattdessen geschrieben", "Escrito en su lugar", "Pro eo scriptum"},
 };
 // clang-format on

@@ -61,7 +61,7 @@ constexpr std::array Kinds = {
 
 constexpr LanguageTexts Nothing{"Nothing has been answered here yet.", "Il n'y a encore aucune réponse ici.", {}, "Hier ist noch nichts beantwortet.", "Aquí aún no hay respuestas.", "Nihil hic adhuc responsum est."};
 constexpr LanguageTexts Unreadable{"The answers cannot be read now.", "Les réponses ne peuvent pas être lues maintenant.", {}, "Die Antworten lassen sich jetzt nicht lesen.", "Las respuestas no se pueden leer ahora.", "Responsa nunc legi non possunt."};
-constexpr LanguageTexts YearInWords{"Days of practice in the last year: %1. Answers: %2, right: %3.", "Jours d'exercice des douze derniers mois : %1. Réponses : %2, justes : %3.", {}, "Übungstage in den letzten zwölf Monaten: %1. Antworten: %2, richtig: %3.", "Días de práctica del último año: %1. Respuestas: %2, bien: %3.", "Dies exercitationis duodecim mensium proxime praeteritorum: %1. Responsa: %2, recta: %3."};
+constexpr LanguageTexts YearInWords{"Days of practice in the last year: %1; answers: %2, right: %3.", "Jours d'exercice des douze derniers mois : %1 ; réponses : %2, justes : %3.", {}, "Übungstage in den letzten zwölf Monaten: %1; Antworten: %2, richtig: %3.", "Días de práctica del último año: %1; respuestas: %2, bien: %3.", "Dies exercitationis duodecim mensium proxime praeteritorum: %1; responsa: %2, recta: %3."};
 constexpr LanguageTexts NotExported{"The answers were not exported.", "Les réponses n'ont pas été exportées.", {}, "Die Antworten wurden nicht exportiert.", "Las respuestas no se exportaron.", "Responsa non exscripta sunt."};
 // clang-format on
 

@@ -80,7 +80,7 @@ TEST_F(Progress, AGridHasTheShareOfEachCellAndACellItsWorstFormFirstWithWhatWasW
         first << forms.item(0, column)->text();
     EXPECT_EQ(first.join('|'), "amare, Present Indicative, 3rd Person Sing|40 %|amat|amabt, ambat");
     EXPECT_EQ(forms.item(1, 1)->text(), "100 %");
-    EXPECT_TRUE(label(progress, "ProgressDaysLabel").contains("year: 1. Answers: 11, right: 7."));
+    EXPECT_TRUE(label(progress, "ProgressDaysLabel").contains("year: 1; answers: 11, right: 7."));
 
     EXPECT_EQ(label(progress, "ProgressDay"), "4 October 2024: 11 answers, 7 right");
     tests::press(progress, Qt::Key_Tab);
