@@ -1,6 +1,7 @@
 #include "progress/windows/forms_table.h"
 
 #include "progress/grammar_names.h"
+#include "progress/windows/wrapping_header.h"
 #include "shell/kit/latin_text.h"
 #include "shell/kit/measure.h"
 #include "shell/kit/text.h"
@@ -9,7 +10,8 @@
 #include "shell/settings.h"
 #include "shell/vowel_marks.h"
 
-#include <QHeaderView>
+#include <QResizeEvent>
+#include <QScrollBar>
 
 #include <algorithm>
 #include <array>
@@ -25,9 +27,16 @@ using shell::LanguageTexts;
 namespace {
 
 // Where the window has no room for so many in a column, the table is scrolled.
-constexpr int LeastCharacters = 8;
+constexpr int LeastCharacters = 16;
 
 constexpr int CharactersWished = 110;
+constexpr int LinesWished = 6;
+
+// On a low screen so many lines are seen at the least, with the headings.
+constexpr int LeastLines = 3;
+
+// Between what stands in a column and the next one.
+constexpr int CharactersBetween = 2;
 
 constexpr std::size_t AnswerColumn = 2;
 
@@ -63,7 +72,7 @@ QString asked(const Form& form, const std::string& text)
 {
     if (form.name.exercise == shell::exercise::Vcabtester)
         return ofList(form, shell::AskedWithTranslation, text);
-    return shell::latinText(inLanguageShown(text));
+    return shell::latinText(questionInLanguageShown(form.name.exercise, text));
 }
 
 // The quizzes are answered in words.
@@ -121,15 +130,13 @@ FormsTable::FormsTable(QWidget* parent) : QTableWidget(0, static_cast<int>(Headi
     setSelectionBehavior(SelectRows);
     setSelectionMode(SingleSelection);
     setTabKeyNavigation(false);
-    setWordWrap(false);
-    setTextElideMode(Qt::ElideMiddle);
+    setHorizontalHeader(new WrappingHeader(this));
+    setVerticalScrollMode(ScrollPerPixel);
     verticalHeader()->hide();
     horizontalHeader()->setStretchLastSection(true);
     horizontalHeader()->setHighlightSections(false);
-    horizontalHeader()->setTextElideMode(Qt::ElideRight);
-    horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     shell::setType(*horizontalHeader(), 1);
-    shell::keepMeasure(*this, "rows", [this](shell::Growth) { fitCells(); });
+    shell::keepMeasure(*this, "rows", [this](shell::Growth) { fitColumns(); });
 }
 
 void FormsTable::showForms(std::vector<Form> forms)
@@ -142,36 +149,43 @@ void FormsTable::showForms(std::vector<Form> forms)
     setRowCount(static_cast<int>(forms.size()));
     for (std::size_t row = 0; row < forms.size(); ++row)
         showForm(static_cast<int>(row), forms[row]);
-    fitCells();
+    fitColumns();
     setCurrentCell(0, 0, QItemSelectionModel::NoUpdate);
 }
 
 QSize FormsTable::sizeHint() const
 {
-    return {CharactersWished * fontMetrics().averageCharWidth(), QTableWidget::sizeHint().height()};
+    return {CharactersWished * fontMetrics().averageCharWidth(), LinesWished * fontMetrics().lineSpacing()};
+}
+
+QSize FormsTable::minimumSizeHint() const
+{
+    return {QTableWidget::minimumSizeHint().width(), LeastLines * fontMetrics().lineSpacing()};
 }
 
 void FormsTable::resizeEvent(QResizeEvent* event)
 {
     QTableWidget::resizeEvent(event);
-    fitColumns();
+    if (event->size().width() != event->oldSize().width())
+        fitColumns();
 }
 
-void FormsTable::fitCells()
-{
-    resizeRowsToContents();
-    fitColumns();
-}
-
+// Room for the scroll bar is kept even where there is none, so that the rows never break otherwise for it.
 void FormsTable::fitColumns()
 {
+    const int character = fontMetrics().averageCharWidth();
     std::array<int, Headings.size()> widths{};
     for (std::size_t column = 0; column < widths.size(); ++column)
         widths.at(column) = std::max(sizeHintForColumn(static_cast<int>(column)),
-                                     horizontalHeader()->sectionSizeHint(static_cast<int>(column)));
-    fit(widths, viewport()->width(), LeastCharacters * fontMetrics().averageCharWidth());
+                                     horizontalHeader()->sectionSizeHint(static_cast<int>(column))) +
+                            CharactersBetween * character;
+    fit(widths, maximumViewportSize().width() - verticalScrollBar()->sizeHint().width(),
+        LeastCharacters * character);
     for (std::size_t column = 0; column < widths.size(); ++column)
         setColumnWidth(static_cast<int>(column), widths.at(column));
+    resizeRowsToContents();
+    horizontalHeader()->headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
+    updateGeometries();
 }
 
 void FormsTable::showForm(int row, const Form& form)

@@ -90,7 +90,8 @@ TEST_F(Progress, AFormIsTheSameWithAndWithoutMarksAndIsAskedAsMarksAreShownNow)
 
 TEST_F(Progress, WhatWasMissedInAReviewComesAgainAsTheLast)
 {
-    progress::ReviewRound round({5, 3, 8});
+    progress::ReviewRound round;
+    round.begin({5, 3, 8});
     std::vector<std::pair<std::int64_t, int>> asked;
     for (bool right = false; round.asked(); right = true) {
         asked.emplace_back(*round.asked(), round.left());
@@ -98,6 +99,8 @@ TEST_F(Progress, WhatWasMissedInAReviewComesAgainAsTheLast)
     }
     EXPECT_EQ(asked, (std::vector<std::pair<std::int64_t, int>>{{5, 3}, {3, 3}, {8, 2}, {5, 1}}));
     EXPECT_EQ(round.left(), 0);
+    round.begin({3, 5});
+    EXPECT_EQ(round.missed(), 1);
 }
 
 TEST_F(Progress, IsWrittenAsATableThatOtherProgramsRead)
