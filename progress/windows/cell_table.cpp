@@ -2,6 +2,7 @@
 
 #include "progress/windows/cell_delegate.h"
 #include "progress/windows/cell_model.h"
+#include "progress/windows/scroll_bar_room.h"
 #include "shell/kit/measure.h"
 #include "shell/kit/type.h"
 
@@ -44,13 +45,14 @@ void CellTable::fitCells()
     fitColumns();
 }
 
+// Headers and bars that were never shown may want a little less than they get.
 QSize CellTable::sizeHint() const
 {
     const int frame = 2 * frameWidth();
-    const bool allColumnsSeen = horizontalHeader()->length() <= viewport()->width();
+    const bool allColumnsSeen = horizontalHeader()->length() <= roomForColumns();
     const int bar = allColumnsSeen ? 0 : horizontalScrollBar()->sizeHint().height();
-    return {frame + verticalHeader()->sizeHint().width() + unbroken_ +
-                verticalScrollBar()->sizeHint().width(),
+    return {frame + verticalHeader()->sizeHint().width() + unbroken_ + roomForScrollBar(*this) +
+                shell::SmallSpace,
             frame + horizontalHeader()->sizeHint().height() + verticalHeader()->length() + bar};
 }
 
@@ -67,13 +69,18 @@ void CellTable::resizeEvent(QResizeEvent* event)
         fitColumns();
 }
 
+int CellTable::roomForColumns() const
+{
+    return width() - 2 * frameWidth() - verticalHeader()->sizeHint().width() - roomForScrollBar(*this);
+}
+
 void CellTable::fitColumns()
 {
     cells_->joinHeadings();
     resizeColumnsToContents();
     unbroken_ = horizontalHeader()->length();
     for (const int characters : LinesOfHeadings) {
-        if (horizontalHeader()->length() <= viewport()->width())
+        if (horizontalHeader()->length() <= roomForColumns())
             break;
         cells_->breakHeadings(characters);
         resizeColumnsToContents();

@@ -26,6 +26,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    int roomForColumns() const;
     void fitColumns();
 
     CellModel* cells_;

@@ -1,6 +1,7 @@
 #include "progress/windows/forms_table.h"
 
 #include "progress/grammar_names.h"
+#include "progress/windows/scroll_bar_room.h"
 #include "progress/windows/wrapping_header.h"
 #include "shell/kit/latin_text.h"
 #include "shell/kit/measure.h"
@@ -11,11 +12,9 @@
 #include "shell/vowel_marks.h"
 
 #include <QResizeEvent>
-#include <QScrollBar>
 
 #include <algorithm>
 #include <array>
-#include <numeric>
 #include <span>
 #include <vector>
 
@@ -33,12 +32,10 @@ constexpr int CharactersWished = 110;
 constexpr int LinesWished = 6;
 
 // On a low screen so many lines are seen at the least, with the headings.
-constexpr int LeastLines = 3;
+constexpr int LeastLines = 4;
 
 // Between what stands in a column and the next one.
 constexpr int CharactersBetween = 2;
-
-constexpr std::size_t AnswerColumn = 2;
 
 // clang-format off
 constexpr std::array Headings = {
@@ -110,18 +107,6 @@ int widestIn(std::span<const int> widths, int room)
     return ordered.back();
 }
 
-// The answers give way first; what is asked does where they would have no room left.
-void fit(std::span<int> widths, int room, int leastForAnswer)
-{
-    const std::span<int> answers = widths.subspan(AnswerColumn);
-    const int roomForAnswers = room - std::accumulate(widths.begin(), widths.begin() + AnswerColumn, 0);
-    const bool answersFit = roomForAnswers >= leastForAnswer * static_cast<int>(answers.size());
-    const std::span<int> shortened = answersFit ? answers : widths;
-    const int widest = std::max(widestIn(shortened, answersFit ? roomForAnswers : room), leastForAnswer);
-    for (int& width : shortened)
-        width = std::min(width, widest);
-}
-
 } // namespace
 
 FormsTable::FormsTable(QWidget* parent) : QTableWidget(0, static_cast<int>(Headings.size()), parent)
@@ -179,10 +164,10 @@ void FormsTable::fitColumns()
         widths.at(column) = std::max(sizeHintForColumn(static_cast<int>(column)),
                                      horizontalHeader()->sectionSizeHint(static_cast<int>(column))) +
                             CharactersBetween * character;
-    fit(widths, maximumViewportSize().width() - verticalScrollBar()->sizeHint().width(),
-        LeastCharacters * character);
+    const int room = maximumViewportSize().width() - roomForScrollBar(*this);
+    const int widest = std::max(widestIn(widths, room), LeastCharacters * character);
     for (std::size_t column = 0; column < widths.size(); ++column)
-        setColumnWidth(static_cast<int>(column), widths.at(column));
+        setColumnWidth(static_cast<int>(column), std::min(widths.at(column), widest));
     resizeRowsToContents();
     horizontalHeader()->headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
     updateGeometries();
@@ -196,6 +181,7 @@ void FormsTable::showForm(int row, const Form& form)
     int column = 0;
     for (const QString& text : texts) {
         auto* const item = new QTableWidgetItem(text);
+        item->setTextAlignment(Qt::AlignLeft | Qt::AlignTop);
         item->setToolTip(QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped()));
         setItem(row, column++, item);
     }

@@ -31,7 +31,7 @@ using shell::Part;
 
 namespace {
 
-constexpr QSize LargestBlock{170, 48};
+constexpr QSize LargestBlock{190, 48};
 
 constexpr auto OfferedName = "progress.csv";
 constexpr auto OfferedKind = "CSV (*.csv)";

@@ -1,5 +1,6 @@
 #include "progress/calendar.h"
 #include "progress/csv.h"
+#include "progress/grammar_names.h"
 #include "progress/review.h"
 #include "shell/settings.h"
 #include "tests/support/fresh_state.h"
@@ -120,6 +121,42 @@ TEST_F(Progress, IsWrittenAsATableThatOtherProgramsRead)
                                             .right = false}}),
               "2024-02-29T00:30:00+05:30,Vcabtester,\"a, ab\",\"my \"\"list\"\".lst / word\",\"a, ab\",from,"
               "\"by\nfrom\",0\r\n");
+}
+
+TEST_F(Progress, IsExportedWithEnglishNamesFromWhicheverLanguageTheyWereKeptIn)
+{
+    struct Kept {
+        std::string exercise, asked, expected, exported;
+    };
+    for (const Kept& kept : {
+             Kept{"Conjugation", "amare, Passiv Präsens Indikativ, 3. Person Plur.", "amantur",
+                  "\"amare, Passive Present Indicative, 3rd Person Plur\",amantur"},
+             Kept{"Conjugation", "amare, Futuro de subjuntivo pasivo, 1st Person Sing", "x",
+                  "\"amare, Passive Future Perfect Indicative, 1st Person Sing\",x"},
+             Kept{"Declination", "equus, Dative Einzahl", "equo", "\"equus, Dative Singular\",equo"},
+             Kept{"Declination", "rex, Genitive numerus pluralis", "regum", "\"rex, Genitive Plural\",regum"},
+             Kept{"Quiz", "capio", "Persona i Sing., Conjugatio III (-io), Praesens Indicativum",
+                  "capio,\"1st Person Sing, Third Conjugation (-io), Present Indicative\""},
+             Kept{"NounQuiz", "equi", "singular Genitive Plural Nominative",
+                  "equi,singular Genitive Plural Nominative"},
+             Kept{"Vcabtester", "Einzahl", "Singular", "Einzahl,Singular"},
+         }) {
+        const Row row{.moment = {},
+                      .answer = {.exercise = kept.exercise,
+                                 .word = {},
+                                 .place = {},
+                                 .asked = kept.asked,
+                                 .expected = kept.expected}};
+        EXPECT_NE(progress::csvLine(row).find("," + kept.exported + ","), std::string::npos) << kept.asked;
+    }
+}
+
+TEST_F(Progress, SetsTheCaseOfAPronounOffFromItsPerson)
+{
+    EXPECT_EQ(progress::questionInLanguageShown("Pronouns", "ego-tu-*, 1 Pers. Sing. Accusative"),
+              "ego-tu-*, 1 Pers. Sing., Accusative");
+    EXPECT_EQ(progress::questionInLanguageShown("Declination", "equus, Dative Singular"),
+              "equus, Dative Singular");
 }
 
 } // namespace
