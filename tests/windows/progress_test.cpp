@@ -80,6 +80,9 @@ TEST_F(Progress, AGridHasTheShareOfEachCellAndACellItsWorstFormFirstWithWhatWasW
         first << forms.item(0, column)->text();
     EXPECT_EQ(first.join('|'), "amare, Present Indicative, 3rd Person Sing|40 %|amat|amabt, ambat");
     EXPECT_EQ(forms.item(1, 1)->text(), "100 %");
+    const int line = forms.rowHeight(0);
+    progress.resize(300, 600);
+    EXPECT_GT(forms.rowHeight(0), line);
     EXPECT_TRUE(label(progress, "ProgressDaysLabel").contains("year: 1; answers: 11, right: 7."));
 
     EXPECT_EQ(label(progress, "ProgressDay"), "4 October 2024: 11 answers, 7 right");
@@ -92,9 +95,6 @@ TEST_F(Progress, AGridHasTheShareOfEachCellAndACellItsWorstFormFirstWithWhatWasW
     kind.setFocus();
     tests::press(progress, Qt::Key_Down, 2);
     EXPECT_EQ(textAt(0, 0), "100 %");
-    const int line = forms.rowHeight(0);
-    progress.resize(300, 600);
-    EXPECT_GT(forms.rowHeight(0), line);
     tests::press(progress, Qt::Key_Up);
     EXPECT_FALSE(grid.isVisible());
     EXPECT_EQ(label(progress, "ProgressNothing"), "Nothing has been answered here yet.");
