@@ -1,6 +1,8 @@
 #include "progress/csv.h"
 
 #include "progress/calendar.h"
+#include "progress/grammar_names.h"
+#include "shell/settings.h"
 
 #include <string_view>
 
@@ -26,11 +28,23 @@ void appendField(std::string& line, std::string_view field)
     line += "\",";
 }
 
+// The drills ask by names of the grammar, and the verb quiz is answered with them; all else is Latin, a word
+// of a list, or English as it is.
+shell::AnswerRecord withEnglishNames(shell::AnswerRecord answer)
+{
+    if (answer.exercise == shell::exercise::Conjugation || answer.exercise == shell::exercise::Declination)
+        answer.asked = inEnglish(answer.asked);
+    if (answer.exercise == shell::exercise::Quiz)
+        for (std::string* const text : {&answer.expected, &answer.written})
+            *text = inEnglish(*text);
+    return answer;
+}
+
 } // namespace
 
 std::string csvLine(const Row& row)
 {
-    const shell::AnswerRecord& answer = row.answer;
+    const shell::AnswerRecord answer = withEnglishNames(row.answer);
     std::string line = isoTime(row.moment) + ",";
     for (const auto& field :
          {answer.exercise, answer.word, answer.place, answer.asked, answer.expected, answer.written})

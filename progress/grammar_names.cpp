@@ -4,6 +4,7 @@
 #include "nouns/case_order.h"
 #include "nouns/chooser_rows.h"
 #include "nouns/paradigm_names.h"
+#include "shell/settings.h"
 #include "verbdrills/conjugation_choice.h"
 #include "verbdrills/quiz_texts.h"
 #include "verbdrills/tense_names.h"
@@ -22,11 +23,11 @@ namespace {
 constexpr std::string_view Comma = ", ";
 constexpr std::array<std::string_view, 2> Separators = {Comma, " / "};
 
-// The number of the noun quiz comes first, those of the declension drill are kept in a place.
+// As the declension drill names them; the noun quiz has a word of its own for the first.
 constexpr std::array Numbers = {
-    nouns::SingularOfCase,
     nouns::SingularTexts,
     nouns::PluralTexts,
+    nouns::SingularOfCase,
 };
 
 bool names(const LanguageTexts& texts, std::string_view name)
@@ -58,8 +59,20 @@ const LanguageTexts* findName(std::string_view name)
     return nullptr;
 }
 
+using Naming = std::string_view (*)(const LanguageTexts&);
+
+std::string_view nameShown(const LanguageTexts& texts)
+{
+    return texts.currentOrDesigned();
+}
+
+std::string_view englishName(const LanguageTexts& texts)
+{
+    return *texts.english;
+}
+
 // The words of a part from the left, of each the longest name that begins with it: "Genitive Singular".
-std::string partInLanguage(std::string_view part)
+std::string renamed(std::string_view part, Naming naming)
 {
     if (part.empty())
         return {};
@@ -68,13 +81,13 @@ std::string partInLanguage(std::string_view part)
         const LanguageTexts* const texts = findName(part.substr(0, end));
         if (texts == nullptr)
             continue;
-        const std::string name(texts->currentOrDesigned());
-        return end == part.size() ? name : name + " " + partInLanguage(part.substr(end + 1));
+        const std::string name(naming(*texts));
+        return end == part.size() ? name : name + " " + renamed(part.substr(end + 1), naming);
     }
     const std::size_t blank = part.find(' ');
     if (blank == std::string_view::npos)
         return std::string(part);
-    return std::string(part.substr(0, blank + 1)) + partInLanguage(part.substr(blank + 1));
+    return std::string(part.substr(0, blank + 1)) + renamed(part.substr(blank + 1), naming);
 }
 
 struct Cut {
@@ -124,7 +137,7 @@ std::string inLanguageShown(std::string_view text)
     std::string shown;
     while (true) {
         const Cut cut = firstSeparator(text);
-        shown += partInLanguage(text.substr(0, cut.at));
+        shown += renamed(text.substr(0, cut.at), nameShown);
         if (cut.at == std::string_view::npos)
             return shown;
         text.remove_prefix(cut.at + cut.length);
@@ -132,6 +145,23 @@ std::string inLanguageShown(std::string_view text)
             return shown;
         shown += Comma;
     }
+}
+
+std::string inEnglish(std::string_view text)
+{
+    const Cut cut = firstSeparator(text);
+    const std::string part = renamed(text.substr(0, cut.at), englishName);
+    if (cut.at == std::string_view::npos)
+        return part;
+    return part + std::string(text.substr(cut.at, cut.length)) + inEnglish(text.substr(cut.at + cut.length));
+}
+
+std::string questionInLanguageShown(const std::string& exercise, std::string_view asked)
+{
+    const std::size_t blank = asked.rfind(' ');
+    if (exercise != shell::exercise::Pronouns || blank == std::string_view::npos)
+        return inLanguageShown(asked);
+    return inLanguageShown(std::string(asked.substr(0, blank)).append(Comma).append(asked.substr(blank + 1)));
 }
 
 void sortAsInGrammar(std::vector<std::string>& names)

@@ -3,7 +3,22 @@
 #include "shell/settings.h"
 #include "shell/vowel_marks.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace progress {
+
+void ReviewRound::begin(std::vector<std::int64_t> due)
+{
+    due_ = std::move(due);
+    waiting_.assign(due_.begin(), due_.end());
+}
+
+int ReviewRound::missed() const
+{
+    return static_cast<int>(
+        std::ranges::count_if(due_, [this](std::int64_t form) { return missed_.contains(form); }));
+}
 
 std::optional<std::int64_t> ReviewRound::asked() const
 {
@@ -14,8 +29,10 @@ void ReviewRound::moveOn(bool right)
 {
     if (waiting_.empty())
         return;
-    if (!right)
+    if (!right) {
+        missed_.insert(waiting_.front());
         waiting_.push_back(waiting_.front());
+    }
     waiting_.pop_front();
 }
 

@@ -17,9 +17,6 @@ using shell::LanguageTexts;
 
 namespace {
 
-// The length up to which a column's heading fills a line.
-constexpr qsizetype HeadingCharacters = 12;
-
 // clang-format off
 //                              English                               French                                    Italian German                               Spanish                                 Latin
 constexpr LanguageTexts ShareInWords{"%1 percent right, %2 of %3 answers", "%1 pour cent justes, %2 réponses sur %3", {}, "%1 Prozent richtig, %2 von %3 Antworten", "%1 por ciento bien, %2 de %3 respuestas", "%1 centesimae rectae, %2 ex %3 responsis"};
@@ -57,12 +54,12 @@ std::unordered_map<std::string, int> numbered(const std::vector<std::string>& na
     return numbers;
 }
 
-QString inShortLines(const QString& heading)
+QString inLines(const QString& heading, int characters)
 {
     QString lines;
     qsizetype length = 0;
     for (const QString& word : heading.split(u' ')) {
-        const bool fits = length == 0 || length + 1 + word.size() <= HeadingCharacters;
+        const bool fits = length == 0 || length + 1 + word.size() <= characters;
         if (!lines.isEmpty())
             lines += fits ? u' ' : u'\n';
         length = fits ? length + 1 + word.size() : word.size();
@@ -85,12 +82,26 @@ void CellModel::show(const std::vector<Cell>& cells)
         columns_ << shell::fromUtf8(ofWords ? column : inLanguageShown(column));
     for (const std::string& row : rows)
         rows_ << (ofWords ? shell::latinText(row) : shell::fromUtf8(inLanguageShown(row)));
+    headings_ = columns_;
     cells_.clear();
     const auto columnNumbers = numbered(columns);
     const auto rowNumbers = numbered(rows);
     for (const Cell& cell : cells)
         cells_.emplace(Place(rowNumbers.at(cell.name.row), columnNumbers.at(cell.name.column)), cell);
     endResetModel();
+}
+
+void CellModel::joinHeadings()
+{
+    setHeadings(columns_);
+}
+
+void CellModel::breakHeadings(int characters)
+{
+    QStringList broken;
+    for (const QString& column : columns_)
+        broken << inLines(column, characters);
+    setHeadings(broken);
 }
 
 const Cell* CellModel::cellAt(const QModelIndex& place) const
@@ -143,7 +154,14 @@ QVariant CellModel::headerData(int section, Qt::Orientation orientation, int rol
 {
     if (role != Qt::DisplayRole)
         return {};
-    return orientation == Qt::Horizontal ? inShortLines(columns_.at(section)) : rows_.at(section);
+    return orientation == Qt::Horizontal ? headings_.at(section) : rows_.at(section);
+}
+
+void CellModel::setHeadings(QStringList headings)
+{
+    headings_ = std::move(headings);
+    if (!headings_.isEmpty())
+        Q_EMIT headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
 }
 
 QString CellModel::inWords(const QModelIndex& place) const

@@ -22,6 +22,11 @@ public:
 
     void show(const std::vector<Cell>& cells);
 
+    /// Shows the headings of the columns in one line each, or in lines of at most so many characters, longer
+    /// words apart.
+    void joinHeadings();
+    void breakHeadings(int characters);
+
     /// The cell at a place; nullptr where nothing was answered.
     const Cell* cellAt(const QModelIndex& place) const;
 
@@ -41,7 +46,10 @@ private:
 
     QString inWords(const QModelIndex& place) const;
 
+    void setHeadings(QStringList headings);
+
     QStringList columns_;
+    QStringList headings_;
     QStringList rows_;
     std::map<Place, Cell> cells_;
 };

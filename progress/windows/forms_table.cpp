@@ -1,6 +1,8 @@
 #include "progress/windows/forms_table.h"
 
 #include "progress/grammar_names.h"
+#include "progress/windows/scroll_bar_room.h"
+#include "progress/windows/wrapping_header.h"
 #include "shell/kit/latin_text.h"
 #include "shell/kit/measure.h"
 #include "shell/kit/text.h"
@@ -9,11 +11,10 @@
 #include "shell/settings.h"
 #include "shell/vowel_marks.h"
 
-#include <QHeaderView>
+#include <QResizeEvent>
 
 #include <algorithm>
 #include <array>
-#include <numeric>
 #include <span>
 #include <vector>
 
@@ -25,18 +26,23 @@ using shell::LanguageTexts;
 namespace {
 
 // Where the window has no room for so many in a column, the table is scrolled.
-constexpr int LeastCharacters = 8;
+constexpr int LeastCharacters = 16;
 
 constexpr int CharactersWished = 110;
+constexpr int LinesWished = 6;
 
-constexpr std::size_t AnswerColumn = 2;
+// On a low screen so many lines are seen at the least, with the headings.
+constexpr int LeastLines = 4;
+
+// Between what stands in a column and the next one.
+constexpr int CharactersBetween = 2;
 
 // clang-format off
 constexpr std::array Headings = {
     //            English            French               Italian German                    Spanish               Latin
     LanguageTexts{"Form",            "Forme",             {},     "Form",                   "Forma",              "Forma"},
     LanguageTexts{"Right",           "Juste",             {},     "Richtig",                "Bien",               "Recte"},
-    LanguageTexts{"Right form",      "Forme juste",       {},     "Richtige Form",          "Forma correcta",     "Forma recta"},
+    LanguageTexts{"Right answer",    "Réponse juste",     {},     "Richtige Antwort",       "Respuesta correcta", "Responsum rectum"},
     LanguageTexts{"Written instead", "Écrit à la place",  {},     "Stattdessen geschrieben", "Escrito en su lugar", "Pro eo scriptum"},
 };
 // clang-format on
@@ -63,7 +69,7 @@ QString asked(const Form& form, const std::string& text)
 {
     if (form.name.exercise == shell::exercise::Vcabtester)
         return ofList(form, shell::AskedWithTranslation, text);
-    return shell::latinText(inLanguageShown(text));
+    return shell::latinText(questionInLanguageShown(form.name.exercise, text));
 }
 
 // The quizzes are answered in words.
@@ -101,18 +107,6 @@ int widestIn(std::span<const int> widths, int room)
     return ordered.back();
 }
 
-// The answers give way first; what is asked does where they would have no room left.
-void fit(std::span<int> widths, int room, int leastForAnswer)
-{
-    const std::span<int> answers = widths.subspan(AnswerColumn);
-    const int roomForAnswers = room - std::accumulate(widths.begin(), widths.begin() + AnswerColumn, 0);
-    const bool answersFit = roomForAnswers >= leastForAnswer * static_cast<int>(answers.size());
-    const std::span<int> shortened = answersFit ? answers : widths;
-    const int widest = std::max(widestIn(shortened, answersFit ? roomForAnswers : room), leastForAnswer);
-    for (int& width : shortened)
-        width = std::min(width, widest);
-}
-
 } // namespace
 
 FormsTable::FormsTable(QWidget* parent) : QTableWidget(0, static_cast<int>(Headings.size()), parent)
@@ -121,15 +115,13 @@ FormsTable::FormsTable(QWidget* parent) : QTableWidget(0, static_cast<int>(Headi
     setSelectionBehavior(SelectRows);
     setSelectionMode(SingleSelection);
     setTabKeyNavigation(false);
-    setWordWrap(false);
-    setTextElideMode(Qt::ElideMiddle);
+    setHorizontalHeader(new WrappingHeader(this));
+    setVerticalScrollMode(ScrollPerPixel);
     verticalHeader()->hide();
     horizontalHeader()->setStretchLastSection(true);
     horizontalHeader()->setHighlightSections(false);
-    horizontalHeader()->setTextElideMode(Qt::ElideRight);
-    horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     shell::setType(*horizontalHeader(), 1);
-    shell::keepMeasure(*this, "rows", [this](shell::Growth) { fitCells(); });
+    shell::keepMeasure(*this, "rows", [this](shell::Growth) { fitColumns(); });
 }
 
 void FormsTable::showForms(std::vector<Form> forms)
@@ -142,36 +134,43 @@ void FormsTable::showForms(std::vector<Form> forms)
     setRowCount(static_cast<int>(forms.size()));
     for (std::size_t row = 0; row < forms.size(); ++row)
         showForm(static_cast<int>(row), forms[row]);
-    fitCells();
+    fitColumns();
     setCurrentCell(0, 0, QItemSelectionModel::NoUpdate);
 }
 
 QSize FormsTable::sizeHint() const
 {
-    return {CharactersWished * fontMetrics().averageCharWidth(), QTableWidget::sizeHint().height()};
+    return {CharactersWished * fontMetrics().averageCharWidth(), LinesWished * fontMetrics().lineSpacing()};
+}
+
+QSize FormsTable::minimumSizeHint() const
+{
+    return {QTableWidget::minimumSizeHint().width(), LeastLines * fontMetrics().lineSpacing()};
 }
 
 void FormsTable::resizeEvent(QResizeEvent* event)
 {
     QTableWidget::resizeEvent(event);
-    fitColumns();
+    if (event->size().width() != event->oldSize().width())
+        fitColumns();
 }
 
-void FormsTable::fitCells()
-{
-    resizeRowsToContents();
-    fitColumns();
-}
-
+// Room for the scroll bar is kept even where there is none, so that the rows never break otherwise for it.
 void FormsTable::fitColumns()
 {
+    const int character = fontMetrics().averageCharWidth();
     std::array<int, Headings.size()> widths{};
     for (std::size_t column = 0; column < widths.size(); ++column)
         widths.at(column) = std::max(sizeHintForColumn(static_cast<int>(column)),
-                                     horizontalHeader()->sectionSizeHint(static_cast<int>(column)));
-    fit(widths, viewport()->width(), LeastCharacters * fontMetrics().averageCharWidth());
+                                     horizontalHeader()->sectionSizeHint(static_cast<int>(column))) +
+                            CharactersBetween * character;
+    const int room = maximumViewportSize().width() - roomForScrollBar(*this);
+    const int widest = std::max(widestIn(widths, room), LeastCharacters * character);
     for (std::size_t column = 0; column < widths.size(); ++column)
-        setColumnWidth(static_cast<int>(column), widths.at(column));
+        setColumnWidth(static_cast<int>(column), std::min(widths.at(column), widest));
+    resizeRowsToContents();
+    horizontalHeader()->headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
+    updateGeometries();
 }
 
 void FormsTable::showForm(int row, const Form& form)
@@ -182,6 +181,7 @@ void FormsTable::showForm(int row, const Form& form)
     int column = 0;
     for (const QString& text : texts) {
         auto* const item = new QTableWidgetItem(text);
+        item->setTextAlignment(Qt::AlignLeft | Qt::AlignTop);
         item->setToolTip(QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped()));
         setItem(row, column++, item);
     }

@@ -19,15 +19,14 @@ public:
     void showForms(std::vector<Form> forms);
 
     QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
 
 protected:
-    /// The columns share the width: what is too long is shortened in its middle, and its tooltip has it
-    /// whole.
+    /// The columns share the width: what is too long is broken into lines.
     void resizeEvent(QResizeEvent* event) override;
 
 private:
     void showForm(int row, const Form& form);
-    void fitCells();
     void fitColumns();
 };
 

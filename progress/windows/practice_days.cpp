@@ -27,6 +27,7 @@ constexpr int Weeks = 53;
 constexpr int DaysOfWeek = 7;
 constexpr int SmallestStep = 6;
 constexpr double StepInLines = 0.8;
+constexpr double LeastStepInLines = 0.6;
 constexpr int Gap = 2;
 constexpr int FrameWidth = 2;
 
@@ -75,7 +76,7 @@ std::optional<int> daysTo(int key)
 
 PracticeDays::PracticeDays(QWidget* parent) : QWidget(parent)
 {
-    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     setFocusPolicy(Qt::StrongFocus);
 }
 
@@ -145,7 +146,8 @@ QSize PracticeDays::sizeHint() const
 
 QSize PracticeDays::minimumSizeHint() const
 {
-    return {Weeks * SmallestStep, sizeHint().height()};
+    const int least = std::max(SmallestStep, qRound(LeastStepInLines * fontMetrics().lineSpacing()));
+    return {Weeks * SmallestStep, monthsHeight() + DaysOfWeek * least};
 }
 
 int PracticeDays::designedStep() const
@@ -155,7 +157,8 @@ int PracticeDays::designedStep() const
 
 int PracticeDays::step() const
 {
-    return std::clamp(width() / Weeks, SmallestStep, designedStep());
+    const int room = std::min(width() / Weeks, (height() - monthsHeight()) / DaysOfWeek);
+    return std::clamp(room, SmallestStep, designedStep());
 }
 
 QRect PracticeDays::placeOf(const DayOfPractice& day) const

@@ -5,8 +5,8 @@
 #include "progress/calendar.h"
 #include "progress/csv.h"
 #include "progress/keeper.h"
-#include "progress/windows/cell_delegate.h"
 #include "progress/windows/cell_model.h"
+#include "progress/windows/cell_table.h"
 #include "progress/windows/forms_table.h"
 #include "progress/windows/practice_days.h"
 #include "shell/kit/captions.h"
@@ -17,10 +17,8 @@
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
-#include <QTableView>
 
 #include <array>
 
@@ -33,9 +31,7 @@ using shell::Part;
 
 namespace {
 
-constexpr QSize LargestBlock{130, 48};
-constexpr int GridLines = 8;
-constexpr int FormsLines = 5;
+constexpr QSize LargestBlock{190, 48};
 
 constexpr auto OfferedName = "progress.csv";
 constexpr auto OfferedKind = "CSV (*.csv)";
@@ -61,23 +57,15 @@ constexpr std::array Kinds = {
 
 constexpr LanguageTexts Nothing{"Nothing has been answered here yet.", "Il n'y a encore aucune réponse ici.", {}, "Hier ist noch nichts beantwortet.", "Aquí aún no hay respuestas.", "Nihil hic adhuc responsum est."};
 constexpr LanguageTexts Unreadable{"The answers cannot be read now.", "Les réponses ne peuvent pas être lues maintenant.", {}, "Die Antworten lassen sich jetzt nicht lesen.", "Las respuestas no se pueden leer ahora.", "Responsa nunc legi non possunt."};
-constexpr LanguageTexts YearInWords{"Days of practice in the last year: %1. Answers: %2, right: %3.", "Jours d'exercice des douze derniers mois : %1. Réponses : %2, justes : %3.", {}, "Übungstage in den letzten zwölf Monaten: %1. Antworten: %2, richtig: %3.", "Días de práctica del último año: %1. Respuestas: %2, bien: %3.", "Dies exercitationis duodecim mensium proxime praeteritorum: %1. Responsa: %2, recta: %3."};
+constexpr LanguageTexts YearInWords{"Days of practice in the last year: %1; answers: %2, right: %3.", "Jours d'exercice des douze derniers mois : %1 ; réponses : %2, justes : %3.", {}, "Übungstage in den letzten zwölf Monaten: %1; Antworten: %2, richtig: %3.", "Días de práctica del último año: %1; respuestas: %2, bien: %3.", "Dies exercitationis duodecim mensium proxime praeteritorum: %1; responsa: %2, recta: %3."};
 constexpr LanguageTexts NotExported{"The answers were not exported.", "Les réponses n'ont pas été exportées.", {}, "Die Antworten wurden nicht exportiert.", "Las respuestas no se exportaron.", "Responsa non exscripta sunt."};
 // clang-format on
 
 static_assert(Kinds.size() == Grids.size());
 
-// So many lines of its own type are seen at the least.
-void keepLines(QWidget& view, int lines)
-{
-    shell::keepMeasure(view, "lines", [&view, lines](shell::Growth) {
-        view.setMinimumHeight(lines * view.fontMetrics().lineSpacing());
-    });
-}
-
 } // namespace
 
-Progress::Progress() : Window("Progress", "progress"), cells_(new CellModel(this))
+Progress::Progress() : Window("Progress", "progress")
 {
     makeControls();
     layOut();
@@ -88,21 +76,12 @@ Progress::Progress() : Window("Progress", "progress"), cells_(new CellModel(this
 void Progress::makeControls()
 {
     kind_ = shell::makeControl<QComboBox>(this, "ProgressKind");
+    kind_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     kindLabel_ = shell::makeLabelOf(kind_, "ProgressKindLabel");
     nothing_ = shell::makeLabel(this, "ProgressNothing", shell::SentenceType);
-    grid_ = shell::makeControl<QTableView>(this, "ProgressGrid");
-    grid_->setModel(cells_);
-    grid_->setItemDelegate(new CellDelegate(grid_));
-    grid_->setSelectionMode(QAbstractItemView::SingleSelection);
-    grid_->setTabKeyNavigation(false);
-    for (QHeaderView* const header : {grid_->horizontalHeader(), grid_->verticalHeader()}) {
-        header->setHighlightSections(false);
-        shell::setType(*header, 1);
-    }
-    keepLines(*grid_, GridLines);
-    shell::keepMeasure(*grid_, "cells", [this](shell::Growth) { fitCells(); });
+    grid_ = shell::makeControl<CellTable>(this, "ProgressGrid");
+    cells_ = grid_->cells();
     forms_ = shell::makeControl<FormsTable>(this, "ProgressForms");
-    keepLines(*forms_, FormsLines);
     cellName_ = shell::makeLabelOf(forms_, "ProgressCell");
     shell::setBoldType(*cellName_, 1);
     daysInWords_ = shell::makeLabel(this, "ProgressDaysLabel");
@@ -123,9 +102,9 @@ void Progress::layOut()
                       shell::columnOf(shell::SmallSpace,
                                       {shell::rowOf(shell::SmallSpace, {kindLabel_, kind_, Part::gap(1)}),
                                        {nothing_, 1, Qt::AlignCenter},
-                                       {grid_, 3},
+                                       grid_,
                                        cellName_,
-                                       {forms_, 2},
+                                       {forms_, 1},
                                        Part::space(shell::SmallSpace),
                                        daysInWords_,
                                        days_,
@@ -163,7 +142,10 @@ void Progress::open(Keeper& keeper)
     keeper_ = &keeper;
     setCaptions();
     chooseGridWithAnswers();
+    const int wished = grid_->sizeHint().width();
     refresh();
+    if (grid_->sizeHint().width() > std::max(wished, grid_->width()))
+        forgetSize();
     showInMainWindowState();
     if (grid_->isVisible())
         grid_->setFocus();
@@ -210,15 +192,9 @@ void Progress::showGrid()
     for (QWidget* const part : std::initializer_list<QWidget*>{grid_, cellName_, forms_})
         part->setVisible(worst.isValid());
     grid_->setAccessibleName(kind_->currentText());
-    fitCells();
+    grid_->fitCells();
     grid_->setCurrentIndex(worst);
     showForms();
-}
-
-void Progress::fitCells()
-{
-    grid_->resizeColumnsToContents();
-    grid_->resizeRowsToContents();
 }
 
 void Progress::showForms()

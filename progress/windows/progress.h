@@ -9,11 +9,11 @@ class QCheckBox;
 class QComboBox;
 class QLabel;
 class QPushButton;
-class QTableView;
 
 namespace progress {
 
 class CellModel;
+class CellTable;
 class FormsTable;
 class Keeper;
 class PracticeDays;
@@ -49,18 +49,17 @@ private:
     Grid chosenGrid() const;
     void chooseGridWithAnswers();
     void showGrid();
-    void fitCells();
     void showForms();
     void showDays();
     void chooseFile();
     void exportTo(const std::string& file);
 
     Keeper* keeper_ = nullptr;
-    CellModel* cells_;
+    CellModel* cells_ = nullptr;
     QLabel* kindLabel_ = nullptr;
     QComboBox* kind_ = nullptr;
     QLabel* nothing_ = nullptr;
-    QTableView* grid_ = nullptr;
+    CellTable* grid_ = nullptr;
     QLabel* cellName_ = nullptr;
     FormsTable* forms_ = nullptr;
     QLabel* daysInWords_ = nullptr;

@@ -28,7 +28,7 @@ using shell::Part;
 
 namespace {
 
-constexpr QSize LargestBlock{84, shell::AsItsLines};
+constexpr QSize LargestBlock{112, shell::AsItsLines};
 constexpr int AnswerCharacters = 44;
 constexpr int QuestionLines = 2;
 
@@ -65,6 +65,8 @@ constexpr LanguageTexts Before{"Before: %1, not %2", "Avant : %1, et non %2", {}
 constexpr LanguageTexts BeforeEmpty{"Before: %1", "Avant : %1", {}, "Zuvor: %1", "Antes: %1", "Antea: %1"};
 constexpr LanguageTexts NothingDue{"Nothing is due today.", "Rien n'est à revoir aujourd'hui.", {}, "Heute ist nichts fällig.", "Hoy no hay nada que repasar.", "Hodie nihil repetendum est."};
 constexpr LanguageTexts AllDone{"All that was due is done.", "Tout ce qui était à revoir est fait.", {}, "Alles Fällige ist erledigt.", "Todo lo que había que repasar está hecho.", "Omnia repetenda peracta sunt."};
+constexpr LanguageTexts OneMissed{"All that was due has been asked. 1 was missed and will come again.", "Tout ce qui était à revoir a été demandé. 1 question a été manquée et reviendra.", {}, "Alles Fällige ist abgefragt. 1 war falsch und kommt wieder.", "Se ha preguntado todo lo que había que repasar. 1 pregunta se falló y volverá a salir.", "Omnia repetenda quaesita sunt. 1 perperam responsum est et iterum quaeretur."};
+constexpr LanguageTexts SomeMissed{"All that was due has been asked. %1 were missed and will come again.", "Tout ce qui était à revoir a été demandé. %1 questions ont été manquées et reviendront.", {}, "Alles Fällige ist abgefragt. %1 waren falsch und kommen wieder.", "Se ha preguntado todo lo que había que repasar. %1 preguntas se fallaron y volverán a salir.", "Omnia repetenda quaesita sunt. %1 perperam responsa sunt et iterum quaerentur."};
 // clang-format on
 
 QString nameOfExercise(const std::string& exercise)
@@ -87,6 +89,7 @@ Review::Review() : TypingDrill("Review", "review", shell::exercise::Review)
 void Review::makeControls()
 {
     kind_ = shell::makeControl<KindBox>(this, "ReviewKind");
+    kind_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     kindLabel_ = shell::makeLabelOf(kind_, "ReviewKindLabel");
     title_ = shell::makeLabel(this, "ReviewTitle", shell::FormType);
     left_ = shell::makeLabel(this, "ReviewLeft");
@@ -138,6 +141,7 @@ void Review::open(Keeper& keeper)
 {
     shell::beginDrill(shell::exercise::Review);
     keeper_ = &keeper;
+    round_ = {};
     setCaptions();
     score_->clear();
     beginRound();
@@ -150,8 +154,7 @@ void Review::beginRound()
     Store* const store = keeper_->store();
     const Day today = platform::localDay(platform::current().now());
     const auto& kind = Kinds.at(static_cast<std::size_t>(kind_->currentIndex()));
-    round_ =
-        ReviewRound(store == nullptr ? std::vector<std::int64_t>() : store->dueForms(today, kind.exercise));
+    round_.begin(store == nullptr ? std::vector<std::int64_t>() : store->dueForms(today, kind.exercise));
     clearWhy();
     before_->clear();
     ask();
@@ -185,7 +188,7 @@ void Review::ask()
 void Review::showQuestion()
 {
     title_->setText(asked_ ? nameOfExercise(asked_->exercise) : windowTitle());
-    question_->setText(asked_ ? shownQuestion() : fromUtf8(AllDone));
+    question_->setText(asked_ ? shownQuestion() : end());
     left_->setText(fromUtf8(Left).arg(round_.left()));
     if (asksWord())
         answer_->takeWord();
@@ -198,6 +201,14 @@ void Review::showQuestion()
         control->setEnabled(asked_.has_value());
 }
 
+QString Review::end() const
+{
+    const int missed = round_.missed();
+    if (missed == 0)
+        return fromUtf8(AllDone);
+    return missed == 1 ? fromUtf8(OneMissed) : fromUtf8(SomeMissed).arg(missed);
+}
+
 bool Review::asksWord() const
 {
     return asked_ && asked_->exercise == shell::exercise::Vcabtester;
@@ -207,7 +218,7 @@ bool Review::asksWord() const
 QString Review::shownQuestion() const
 {
     if (!asksWord())
-        return shell::latinText(inLanguageShown(asked_->asked));
+        return shell::latinText(questionInLanguageShown(asked_->exercise, asked_->asked));
     return !answersInLatin() ? shell::latinText(asked_->asked) : fromUtf8(asked_->asked);
 }
 

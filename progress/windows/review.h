@@ -55,6 +55,7 @@ private:
     void typeIntoAnswer(QKeyEvent* key);
     void ask();
     void showQuestion();
+    QString end() const;
     void hint();
 
     Keeper* keeper_ = nullptr;

@@ -1,5 +1,6 @@
 #include "progress/calendar.h"
 #include "progress/csv.h"
+#include "progress/grammar_names.h"
 #include "progress/other_form.h"
 #include "progress/review.h"
 #include "shell/settings.h"
@@ -91,7 +92,8 @@ TEST_F(Progress, AFormIsTheSameWithAndWithoutMarksAndIsAskedAsMarksAreShownNow)
 
 TEST_F(Progress, WhatWasMissedInAReviewComesAgainAsTheLast)
 {
-    progress::ReviewRound round({5, 3, 8});
+    progress::ReviewRound round;
+    round.begin({5, 3, 8});
     std::vector<std::pair<std::int64_t, int>> asked;
     for (bool right = false; round.asked(); right = true) {
         asked.emplace_back(*round.asked(), round.left());
@@ -99,6 +101,8 @@ TEST_F(Progress, WhatWasMissedInAReviewComesAgainAsTheLast)
     }
     EXPECT_EQ(asked, (std::vector<std::pair<std::int64_t, int>>{{5, 3}, {3, 3}, {8, 2}, {5, 1}}));
     EXPECT_EQ(round.left(), 0);
+    round.begin({3, 5});
+    EXPECT_EQ(round.missed(), 1);
 }
 
 TEST_F(Progress, IsWrittenAsATableThatOtherProgramsRead)
@@ -132,6 +136,42 @@ TEST_F(Progress, AnAnswerIsAnotherFormOfTheWordThatIsAsked)
         question.place = place;
         EXPECT_EQ(progress::otherFormOf(question, written).has_value(), isOther) << place << written;
     }
+}
+
+TEST_F(Progress, IsExportedWithEnglishNamesFromWhicheverLanguageTheyWereKeptIn)
+{
+    struct Kept {
+        std::string exercise, asked, expected, exported;
+    };
+    for (const Kept& kept : {
+             Kept{"Conjugation", "amare, Passiv Präsens Indikativ, 3. Person Plur.", "amantur",
+                  "\"amare, Passive Present Indicative, 3rd Person Plur\",amantur"},
+             Kept{"Conjugation", "amare, Futuro de subjuntivo pasivo, 1st Person Sing", "x",
+                  "\"amare, Passive Future Perfect Indicative, 1st Person Sing\",x"},
+             Kept{"Declination", "equus, Dative Einzahl", "equo", "\"equus, Dative Singular\",equo"},
+             Kept{"Declination", "rex, Genitive numerus pluralis", "regum", "\"rex, Genitive Plural\",regum"},
+             Kept{"Quiz", "capio", "Persona i Sing., Conjugatio III (-io), Praesens Indicativum",
+                  "capio,\"1st Person Sing, Third Conjugation (-io), Present Indicative\""},
+             Kept{"NounQuiz", "equi", "singular Genitive Plural Nominative",
+                  "equi,singular Genitive Plural Nominative"},
+             Kept{"Vcabtester", "Einzahl", "Singular", "Einzahl,Singular"},
+         }) {
+        const Row row{.moment = {},
+                      .answer = {.exercise = kept.exercise,
+                                 .word = {},
+                                 .place = {},
+                                 .asked = kept.asked,
+                                 .expected = kept.expected}};
+        EXPECT_NE(progress::csvLine(row).find("," + kept.exported + ","), std::string::npos) << kept.asked;
+    }
+}
+
+TEST_F(Progress, SetsTheCaseOfAPronounOffFromItsPerson)
+{
+    EXPECT_EQ(progress::questionInLanguageShown("Pronouns", "ego-tu-*, 1 Pers. Sing. Accusative"),
+              "ego-tu-*, 1 Pers. Sing., Accusative");
+    EXPECT_EQ(progress::questionInLanguageShown("Declination", "equus, Dative Singular"),
+              "equus, Dative Singular");
 }
 
 } // namespace

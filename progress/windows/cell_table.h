@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QTableView>
+
+namespace progress {
+
+class CellModel;
+
+/// Shows a grid of cells, as high as its rows where the window has room for them. The headings of its columns
+/// stand in one line each, and are broken into more only where the columns need a greater width than it has.
+class CellTable : public QTableView {
+    Q_OBJECT
+
+public:
+    explicit CellTable(QWidget* parent);
+
+    CellModel* cells() const { return cells_; }
+
+    /// Makes room for what the cells hold now.
+    void fitCells();
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    int roomForColumns() const;
+    void fitColumns();
+
+    CellModel* cells_;
+
+    /// The width of all columns where no heading is broken.
+    int unbroken_ = 0;
+};
+
+} // namespace progress
