@@ -57,17 +57,60 @@ void Window::closeOnEscape()
 }
 
 // A window larger than the screen would hide its buttons.
+QSize Window::onScreen(QSize asked) const
+{
+    return asked.boundedTo(screen()->availableSize() * ShareOfScreen);
+}
+
 void Window::fitContent()
 {
     if (maximised_)
         return;
     if (layout() != nullptr)
         layout()->activate();
-    resize(sizeHint().boundedTo(screen()->availableSize() * ShareOfScreen));
+    resize(onScreen(sizeHint()));
     fitted_ = size();
     sizeForgotten_ = false;
     if (isVisible())
         stayOnScreen();
+}
+
+// What asked for more room may give it back soon: the window does not become smaller for that.
+void Window::growTo(QSize asked)
+{
+    const bool fits = isAsFitted();
+    resize(size().expandedTo(onScreen(asked)));
+    if (fits)
+        fitted_ = size();
+    if (isVisible())
+        stayOnScreen();
+}
+
+void Window::growInHeight(int pixels)
+{
+    if (isVisible() && !maximised_ && !isFullScreen())
+        growTo(size() + QSize(0, pixels));
+}
+
+// A hidden window lays nothing out of its own accord when what was written into it asks for more room.
+void Window::widenFor(QLayout& row)
+{
+    QWidget* const block = row.parentWidget();
+    keepMeasure(*block, "row", [&row, block](Growth) {
+        block->layout()->invalidate();
+        block->layout()->activate();
+        const QMargins margins = block->layout()->contentsMargins();
+        const int wanted = row.sizeHint().width() + margins.left() + margins.right();
+        block->setMaximumWidth(std::max(block->maximumWidth(), wanted));
+    });
+    if (maximised_ || !isAsFitted())
+        return;
+    for (QWidget* above = block; above != nullptr; above = above->parentWidget()) {
+        if (above->layout() != nullptr)
+            above->layout()->activate();
+        above->updateGeometry();
+    }
+    growTo({sizeHint().width(), height()});
 }
 
 void Window::stayOnScreen()
@@ -176,6 +219,7 @@ bool Window::eventFilter(QObject* watched, QEvent* event)
 QWidget* Window::centredBlock(QSize charactersAndLines)
 {
     auto* const area = new ContentArea(new QWidget, this);
+    connect(area, &ContentArea::roomMissing, this, &Window::growInHeight);
     auto* const block = new QWidget(area->widget());
     const bool asHighAsItsLines = charactersAndLines.height() == AsItsLines;
     keepMeasure(*block, "size", [=, this](Growth) {
