@@ -22,6 +22,9 @@ namespace {
 // Beside it the spacers' stretch is so little that they grow only once the block has its greatest size.
 constexpr int BlockStretch = 1000;
 
+// A frame needs less at its sides than above and below.
+constexpr double ShareOfWidth = 0.97;
+
 // A maximised window grows by the room that it has beyond this, by quarters of its size.
 constexpr QSize DesignedSize{960, 600};
 constexpr double StepsOfGrowth = 4;
@@ -59,7 +62,8 @@ void Window::closeOnEscape()
 // A window larger than the screen would hide its buttons.
 QSize Window::onScreen(QSize asked) const
 {
-    return asked.boundedTo(screen()->availableSize() * ShareOfScreen);
+    const QSize room = screen()->availableSize();
+    return asked.boundedTo({qRound(room.width() * ShareOfWidth), qRound(room.height() * ShareOfScreen)});
 }
 
 void Window::fitContent()
