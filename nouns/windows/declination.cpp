@@ -91,8 +91,7 @@ Declination::Declination() : BoxDrill("Declination", "declination", shell::exerc
 void Declination::makeControls()
 {
     heading_ = shell::makeLabel(this, "HeadingLabel", shell::FormType);
-    noun_ = shell::makeHeading(this, "NounLabel", shell::QuestionType);
-    shell::wrapText(*noun_, 1);
+    noun_ = shell::makeLongHeading(this, "NounLabel", shell::QuestionType);
     singular_ = shell::makeControl<QGroupBox>(this, "Frame1");
     plural_ = shell::makeControl<QGroupBox>(this, "Frame2");
     dummy_ = shell::makeControl<QWidget>(this, "DDummy");
@@ -114,26 +113,25 @@ void Declination::makeBoxes()
 
 void Declination::layOut()
 {
-    QBoxLayout* const heading =
-        withScore({shell::columnOf(shell::HairSpace, {heading_, {noun_, 1, Qt::AlignTop}}), 1});
+    headingRow_ = withScore({shell::columnOf(shell::HairSpace, {heading_, {noun_, 1, Qt::AlignTop}}), 1});
     nameRows_ = makeRows(box(0));
     singularRows_ = makeRows(box(0));
     pluralRows_ = makeRows(box(0));
     singular_->setLayout(singularRows_);
     plural_->setLayout(pluralRows_);
     layOutLines(LargestBlock, shell::DrillMargins,
-                {heading, shell::rowOf(shell::LargeSpace, {nameRows_, {singular_, 1}, {plural_, 1}}),
-                 whyLabel(),
+                {headingRow_, shell::rowOf(shell::LargeSpace, {nameRows_, {singular_, 1}, {plural_, 1}}),
+                 whyRow(),
                  helpAndButtons({makeCheckButton("Continue"), makeQuestionButton("DeclQuestion"),
                                  makeQuitButton("DeclQuitButton")})});
     // Gives way on a small screen, where the buttons matter more than the frames' place.
     constexpr int above = shell::EdgeMargins.top() + shell::DrillMargins.top() + shell::MediumSpace;
     auto* const space = new QSpacerItem(0, 0);
-    heading->addSpacerItem(space);
-    shell::keepMeasure(*heading, "frames", [=](shell::Growth growth) {
+    headingRow_->addSpacerItem(space);
+    shell::keepMeasure(*headingRow_, "frames", [=, this](shell::Growth growth) {
         space->changeSize(0, pixels(FrameTop, growth) - qRound(above * growth), QSizePolicy::Fixed,
                           QSizePolicy::Maximum);
-        heading->invalidate();
+        headingRow_->invalidate();
     });
 }
 
@@ -166,6 +164,7 @@ void Declination::open()
     drawDeclension();
     showNoun();
     scoreLabel()->clear();
+    widenFor(*headingRow_);
     showInMainWindowState();
     focusQuestion();
 }

@@ -5,6 +5,7 @@
 
 #include <array>
 
+class QBoxLayout;
 class QGridLayout;
 class QGroupBox;
 
@@ -53,6 +54,7 @@ private:
     QGridLayout* singularRows_ = nullptr;
     QGridLayout* pluralRows_ = nullptr;
     QLabel* heading_ = nullptr;
+    QBoxLayout* headingRow_ = nullptr;
     QLabel* noun_ = nullptr;
     QWidget* dummy_ = nullptr;
 };

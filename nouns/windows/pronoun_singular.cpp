@@ -61,8 +61,7 @@ PronounSingular::PronounSingular() : BoxDrill("PronounSingular", "pronoun", shel
 
 void PronounSingular::makeControls()
 {
-    heading_ = shell::makeHeading(this, "HeadingLabel", shell::QuestionType);
-    shell::wrapText(*heading_, 1);
+    heading_ = shell::makeLongHeading(this, "HeadingLabel", shell::QuestionType);
     for (std::size_t i = 0; i < columns_.size(); ++i)
         columns_.at(i) = shell::makeLabel(this, ColumnLabels.at(i));
 }
@@ -84,8 +83,9 @@ void PronounSingular::layOut()
         rows_->addWidget(columns_.at(static_cast<std::size_t>(column)), 0, column + 1);
         rows_->setColumnStretch(column + 1, 1);
     }
+    headingRow_ = withScore({heading_, 1});
     layOutLines(LargestBlock, shell::DrillMargins,
-                {withScore({heading_, 1}), Part::space(shell::SmallSpace), rows_, whyLabel(),
+                {headingRow_, Part::space(shell::SmallSpace), rows_, whyRow(),
                  helpAndButtons({makeCheckButton("PronounOK"), makeQuestionButton("PronounQuestion"),
                                  makeQuitButton("PronounCancel")})});
 }
@@ -110,6 +110,7 @@ void PronounSingular::open()
         shell::fromUtf8(Headings.at(static_cast<std::size_t>(pronounDrill.Group)).currentOrDesigned()));
     showNumber();
     scoreLabel()->clear();
+    widenFor(*headingRow_);
     showInMainWindowState();
     focusQuestion();
 }

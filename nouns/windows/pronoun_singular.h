@@ -5,6 +5,7 @@
 
 #include <array>
 
+class QBoxLayout;
 class QGridLayout;
 
 namespace nouns {
@@ -41,6 +42,7 @@ private:
     std::array<QLabel*, ColumnsOfGroup> columns_{};
     QGridLayout* rows_ = nullptr;
     QLabel* heading_ = nullptr;
+    QBoxLayout* headingRow_ = nullptr;
 };
 
 } // namespace nouns

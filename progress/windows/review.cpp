@@ -113,7 +113,7 @@ void Review::layOut()
                 {shell::rowOf(shell::SmallSpace, {kindLabel_, kind_, Part::gap(1), score_}),
                  shell::rowOf(shell::SmallSpace, {title_, Part::gap(1), left_}), question_,
                  Part::space(shell::SmallSpace), shell::makeLabelOf(answer_, "ReviewAnswerLabel"), answer_,
-                 whyLabel(), before_,
+                 whyRow(), before_,
                  shell::buttonRow({shell::makeLabel(this, "HelpLabel")}, {ok_, hint_, quit_})});
 }
 

@@ -57,9 +57,16 @@ bool ContentArea::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == widget() && event->type() == QEvent::LayoutRequest) {
         updateGeometry();
+        askForRoom();
         fitContent();
     }
     return QScrollArea::eventFilter(watched, event);
+}
+
+void ContentArea::showEvent(QShowEvent* event)
+{
+    QScrollArea::showEvent(event);
+    askForRoom();
 }
 
 void ContentArea::resizeEvent(QResizeEvent* event)
@@ -76,6 +83,14 @@ QSize ContentArea::leastSize(int width) const
     if (layout != nullptr && layout->hasHeightForWidth())
         least.setHeight(layout->minimumHeightForWidth(std::max(width, least.width())));
     return least;
+}
+
+void ContentArea::askForRoom()
+{
+    const QSize room = maximumViewportSize();
+    const int missing = leastSize(room.width()).height() - room.height();
+    if (missing > 0)
+        Q_EMIT roomMissing(missing);
 }
 
 // Lists and spaces of the content give way before it is scrolled.
@@ -104,6 +119,7 @@ void ContentArea::showFocus(QWidget* focused)
 // Its room may just have changed.
 void ContentArea::bringIntoView(QWidget& shown)
 {
+    askForRoom();
     fitContent();
     if (widget()->layout() != nullptr)
         widget()->layout()->activate();

@@ -19,13 +19,19 @@ public:
     /// Scrolls, if need be, so that a widget of the content is seen.
     void bringIntoView(QWidget& shown);
 
+Q_SIGNALS:
+    /// The content, which has changed or is about to be seen, is higher than its room by so many pixels.
+    void roomMissing(int pixels);
+
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
     QSize withScrollBar(QSize content) const;
     QSize leastSize(int width) const;
+    void askForRoom();
     void fitContent();
     void showFocus(QWidget* focused);
 };

@@ -1,16 +1,32 @@
 #include "shell/kit/controls.h"
 
 #include "shell/kit/choice_list.h"
+#include "shell/kit/layout.h"
 #include "shell/kit/measure.h"
 #include "shell/kit/text.h"
 #include "shell/kit/type.h"
 
+#include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QShortcut>
 
 namespace shell {
+
+namespace {
+
+class LongHeading : public QLabel {
+public:
+    using QLabel::QLabel;
+
+    QSize sizeHint() const override
+    {
+        return fontMetrics().size(Qt::TextSingleLine, text()) + QSize(HairSpace, 0);
+    }
+};
+
+} // namespace
 
 QLabel* makeLabel(QWidget* parent, QAnyStringView name)
 {
@@ -45,6 +61,15 @@ QLabel* makeScore(QWidget* parent, QAnyStringView name)
     return score;
 }
 
+QLabel* makeLongHeading(QWidget* parent, QAnyStringView name, double type)
+{
+    auto* const label = makeControl<LongHeading>(parent, name);
+    label->setTextFormat(Qt::PlainText);
+    setBoldType(*label, type);
+    wrapText(*label, 1);
+    return label;
+}
+
 QLabel* makeLabelOf(QWidget* control, QAnyStringView name)
 {
     QLabel* const label = makeLabel(control->parentWidget(), name);
@@ -58,6 +83,21 @@ void wrapText(QLabel& label, int lines)
     keepMeasure(label, "lines", [&label, lines](Growth) {
         label.setMinimumSize(1, lines * label.fontMetrics().lineSpacing());
     });
+}
+
+QLayout* roomFor(QLabel& label, int lines)
+{
+    QGridLayout* const row = gridOf(0, 0);
+    auto* const room = new QSpacerItem(0, 0);
+    row->addWidget(&label, 0, 0);
+    row->addItem(room, 0, 0);
+    label.setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    keepMeasure(*row, "room", [=, &label](Growth) {
+        room->changeSize(0, lines * label.fontMetrics().lineSpacing() + HairSpace, QSizePolicy::Minimum,
+                         QSizePolicy::Preferred);
+        row->invalidate();
+    });
+    return row;
 }
 
 ChoiceList* makeChoiceList(QWidget* parent, QAnyStringView name)

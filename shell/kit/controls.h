@@ -7,6 +7,7 @@
 
 class QKeyEvent;
 class QLabel;
+class QLayout;
 class QPushButton;
 class QWidget;
 
@@ -34,12 +35,19 @@ QLabel* makeHeading(QWidget* parent, QAnyStringView name, double type);
 /// the blank hangs over.
 QLabel* makeScore(QWidget* parent, QAnyStringView name);
 
+/// Such a heading of any length. It asks for room for one line, and breaks where the screen has none.
+QLabel* makeLongHeading(QWidget* parent, QAnyStringView name, double type);
+
 /// The label of a control, to which its access key leads.
 QLabel* makeLabelOf(QWidget* control, QAnyStringView name);
 
 /// Breaks a label's text into lines, where it would widen the window, and keeps room for so many lines. The
 /// label no longer asks for any width of its own.
 void wrapText(QLabel& label, int lines);
+
+/// A row for a label that breaks its text, with room for so many lines. Those that are not in use give way on
+/// a low screen.
+QLayout* roomFor(QLabel& label, int lines);
 
 /// A list of the words or files that a window is about.
 ChoiceList* makeChoiceList(QWidget* parent, QAnyStringView name);

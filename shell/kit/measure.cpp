@@ -3,7 +3,9 @@
 #include <QVariant>
 #include <QWidget>
 
+#include <algorithm>
 #include <utility>
+#include <vector>
 
 namespace shell {
 
@@ -11,11 +13,17 @@ namespace {
 
 constexpr auto GrowthProperty = "growth";
 
+int keptSoFar = 0;
+
 // Stands with its owner in the tree of a window, and goes with it.
 class Measure : public QObject {
 public:
-    Measure(QObject& owner, const char* name) : QObject(&owner) { setObjectName(QLatin1String(name)); }
+    Measure(QObject& owner, const char* name) : QObject(&owner), number(++keptSoFar)
+    {
+        setObjectName(QLatin1String(name));
+    }
 
+    const int number;
     std::function<void(Growth)> take;
 };
 
@@ -38,13 +46,13 @@ Measure* findMeasure(const QObject& owner, const char* name)
     return nullptr;
 }
 
-void takeMeasuresOf(const QObject& owner, Growth growth)
+void findMeasuresOf(const QObject& owner, std::vector<const Measure*>& measures)
 {
-    for (QObject* const child : QObjectList(owner.children()))
-        if (const auto* const measure = dynamic_cast<Measure*>(child))
-            measure->take(growth);
+    for (const QObject* const child : owner.children())
+        if (const auto* const measure = dynamic_cast<const Measure*>(child))
+            measures.push_back(measure);
         else
-            takeMeasuresOf(*child, growth);
+            findMeasuresOf(*child, measures);
 }
 
 } // namespace
@@ -61,7 +69,12 @@ void keepMeasure(QObject& owner, const char* name, std::function<void(Growth)> t
 void takeMeasures(QWidget& window, Growth growth)
 {
     window.setProperty(GrowthProperty, growth);
-    takeMeasuresOf(window, growth);
+    std::vector<const Measure*> measures;
+    findMeasuresOf(window, measures);
+    // A layout stands in the tree before the widgets in it, whose type it may depend on.
+    std::ranges::sort(measures, {}, &Measure::number);
+    for (const Measure* const measure : measures)
+        measure->take(growth);
 }
 
 } // namespace shell

@@ -18,6 +18,8 @@ namespace shell {
 
 namespace {
 
+constexpr int LinesOfWhy = 2;
+
 struct FaultTexts {
     FaultKind kind;
     LanguageTexts texts;
@@ -67,6 +69,11 @@ TypingDrill::TypingDrill(std::string_view name, std::string_view activeName, std
     keepMeasure(*why_, "room",
                 [this](Growth) { why_->setMinimumHeight(why_->fontMetrics().lineSpacing() + HairSpace); });
     connect(this, &Window::left, this, &TypingDrill::clearWhy);
+}
+
+QLayout* TypingDrill::whyRow()
+{
+    return roomFor(*why_, LinesOfWhy);
 }
 
 // The answer that is explained stands until the learner goes on typing.

@@ -11,6 +11,7 @@
 #include <string>
 
 class QLabel;
+class QLayout;
 
 namespace shell {
 
@@ -69,7 +70,8 @@ protected:
     /// Says no longer why an answer was wrong.
     void clearWhy();
 
-    QLabel* whyLabel() const { return why_; }
+    /// A row for the label that says why, and the label that says which question.
+    QLayout* whyRow();
     QLabel* whereLabel() const { return where_; }
 
 private:

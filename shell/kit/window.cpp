@@ -22,6 +22,9 @@ namespace {
 // Beside it the spacers' stretch is so little that they grow only once the block has its greatest size.
 constexpr int BlockStretch = 1000;
 
+// A frame needs less at its sides than above and below.
+constexpr double ShareOfWidth = 0.97;
+
 // A maximised window grows by the room that it has beyond this, by quarters of its size.
 constexpr QSize DesignedSize{960, 600};
 constexpr double StepsOfGrowth = 4;
@@ -57,17 +60,59 @@ void Window::closeOnEscape()
 }
 
 // A window larger than the screen would hide its buttons.
+QSize Window::onScreen(QSize asked) const
+{
+    const QSize room = screen()->availableSize();
+    return asked.boundedTo({qRound(room.width() * ShareOfWidth), qRound(room.height() * ShareOfScreen)});
+}
+
 void Window::fitContent()
 {
     if (maximised_)
         return;
     if (layout() != nullptr)
         layout()->activate();
-    resize(sizeHint().boundedTo(screen()->availableSize() * ShareOfScreen));
+    resize(onScreen(sizeHint()));
     fitted_ = size();
     sizeForgotten_ = false;
     if (isVisible())
         stayOnScreen();
+}
+
+// What asked for more room may give it back soon: the window does not become smaller for that.
+void Window::growTo(QSize asked)
+{
+    resize(size().expandedTo(onScreen(asked)));
+    fitted_ = size();
+    if (isVisible())
+        stayOnScreen();
+}
+
+void Window::growInHeight(int pixels)
+{
+    if (isVisible() && !maximised_ && !isFullScreen() && isAsFitted())
+        growTo(size() + QSize(0, pixels));
+}
+
+// A hidden window lays nothing out of its own accord when what was written into it asks for more room.
+void Window::widenFor(QLayout& row)
+{
+    QWidget* const block = row.parentWidget();
+    keepMeasure(*block, "row", [&row, block](Growth) {
+        block->layout()->invalidate();
+        block->layout()->activate();
+        const QMargins margins = block->layout()->contentsMargins();
+        const int wanted = row.sizeHint().width() + margins.left() + margins.right();
+        block->setMaximumWidth(std::max(block->maximumWidth(), wanted));
+    });
+    if (maximised_ || !isAsFitted())
+        return;
+    for (QWidget* above = block; above != nullptr; above = above->parentWidget()) {
+        if (above->layout() != nullptr)
+            above->layout()->activate();
+        above->updateGeometry();
+    }
+    growTo({sizeHint().width(), height()});
 }
 
 void Window::stayOnScreen()
@@ -176,6 +221,7 @@ bool Window::eventFilter(QObject* watched, QEvent* event)
 QWidget* Window::centredBlock(QSize charactersAndLines)
 {
     auto* const area = new ContentArea(new QWidget, this);
+    connect(area, &ContentArea::roomMissing, this, &Window::growInHeight);
     auto* const block = new QWidget(area->widget());
     const bool asHighAsItsLines = charactersAndLines.height() == AsItsLines;
     keepMeasure(*block, "size", [=, this](Growth) {

@@ -57,6 +57,10 @@ protected:
     void fitContent();
     void forgetSize();
 
+    /// Lets the content become as wide as a row of its block asks for, and a normal window of such a size
+    /// with it.
+    void widenFor(QLayout& row);
+
     /// Makes Escape do what the close box does, wherever the focus is.
     void closeOnEscape();
 
@@ -74,6 +78,9 @@ protected:
 
 private:
     void fitContentSoon();
+    QSize onScreen(QSize asked) const;
+    void growTo(QSize asked);
+    void growInHeight(int pixels);
     void stayOnScreen();
     bool isAsFitted() const;
     void centreOnScreen();

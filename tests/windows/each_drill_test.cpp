@@ -116,6 +116,50 @@ TEST_F(EveryDrill, GrowsWithItsMaximisedWindowUpToTwice)
     EXPECT_EQ(frame.mapTo(&drill, QPoint()).y(), 126);
 }
 
+TEST_F(EveryDrill, OfNounsKeepsEachNameBesideItsBoxInEverySizeOfTypeUpAndDown)
+{
+    const QFont before = QApplication::font();
+    for (const int state : {0, 2}) {
+        settings.MainWindowState = static_cast<std::int16_t>(state);
+        QWidget& drill = open(Declension);
+        for (const char key : QByteArray("++++0----0+++++++--------0+-0")) {
+            QTest::keyClick(&drill, key, Qt::ControlModifier);
+            QApplication::processEvents();
+            for (const char* const name : {"DeclNom", "DeclGen", "DeclDat", "DeclAcc", "DeclAbl"}) {
+                const auto& label = control<QLabel>(drill, name);
+                const int top = label.mapTo(&drill, QPoint()).y();
+                EXPECT_NEAR(top, label.buddy()->mapTo(&drill, QPoint()).y(), 2) << name << key;
+            }
+        }
+        EXPECT_EQ(QApplication::font(), before);
+    }
+}
+
+TEST_F(EveryDrill, HasRoomForItsHeadingAndForARemarkOfTwoLinesAtOnce)
+{
+    settings.CurrentLanguage = shell::language::German;
+    settings.MainWindowState = 0;
+    for (const auto& [drill, row, wrong] : {std::tuple{Conjugation, 4, "longissima:verba"},
+                                            {Declension, 0, "aqua:rumlongissima:"},
+                                            {Pronoun, 0, "egolongissimusverborum"},
+                                            {Pronoun, 2, "hicc"},
+                                            {Drills[3], 0, "rosarum-longissima-verba"}}) {
+        QWidget& window = open(drill, row);
+        QApplication::processEvents();
+        const auto& why = control<QLabel>(window, "WhyLabel");
+        const auto& bar = *control<QScrollArea>(window).verticalScrollBar();
+        const QSize size = window.size();
+        const auto* const heading = window.findChild<QLabel*>("HeadingLabel");
+        EXPECT_TRUE(!heading || row != 0 || heading->height() < 2 * heading->fontMetrics().lineSpacing());
+        answer(window, wrong);
+        QApplication::processEvents();
+        const int line = why.fontMetrics().lineSpacing();
+        EXPECT_GE(why.height(), 2 * line) << drill.window.toStdString();
+        EXPECT_EQ(window.size(), size);
+        EXPECT_FALSE(bar.isVisible()) << drill.window.toStdString();
+    }
+}
+
 TEST_F(EveryDrill, StandsInItsPlaceWithTheJudgementAndTheHelpBesideIt)
 {
     settings.CurrentLanguage = shell::language::Latin;

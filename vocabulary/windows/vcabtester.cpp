@@ -92,7 +92,7 @@ void Vcabtester::layOut()
                  Part::space(shell::LargeSpace),
                  shell::makeLabelOf(answer_, "AnswerLabel"),
                  answer_,
-                 whyLabel(),
+                 whyRow(),
                  {omit_, 0, Qt::AlignLeft},
                  shell::buttonRow({shell::makeLabel(this, "HelpLabel")}, {ok_, revealButton_, cancel_})});
     layout()->setMenuBar(menuBar_);
