@@ -57,12 +57,13 @@ std::unordered_map<std::string, int> numbered(const std::vector<std::string>& na
 QString inLines(const QString& heading, int characters)
 {
     QString lines;
-    qsizetype length = 0;
+    qsizetype begin = 0;
     for (const QString& word : heading.split(u' ')) {
-        const bool fits = length == 0 || length + 1 + word.size() <= characters;
+        const bool fits = lines.size() + 1 + word.size() - begin <= characters;
         if (!lines.isEmpty())
             lines += fits ? u' ' : u'\n';
-        length = fits ? length + 1 + word.size() : word.size();
+        if (!fits)
+            begin = lines.size();
         lines += word;
     }
     return lines;

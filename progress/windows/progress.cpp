@@ -142,10 +142,7 @@ void Progress::open(Keeper& keeper)
     keeper_ = &keeper;
     setCaptions();
     chooseGridWithAnswers();
-    const int wished = grid_->sizeHint().width();
     refresh();
-    if (grid_->sizeHint().width() > std::max(wished, grid_->width()))
-        forgetSize();
     showInMainWindowState();
     if (grid_->isVisible())
         grid_->setFocus();
@@ -195,6 +192,7 @@ void Progress::showGrid()
     grid_->fitCells();
     grid_->setCurrentIndex(worst);
     showForms();
+    growFor(*grid_);
 }
 
 void Progress::showForms()

@@ -95,6 +95,18 @@ void Window::growInHeight(int pixels)
 }
 
 // A hidden window lays nothing out of its own accord when what was written into it asks for more room.
+void Window::growFor(QWidget& content)
+{
+    if (maximised_ || !isAsFitted())
+        return;
+    for (QWidget* above = &content; above != nullptr; above = above->parentWidget()) {
+        if (above->layout() != nullptr)
+            above->layout()->activate();
+        above->updateGeometry();
+    }
+    growTo(sizeHint());
+}
+
 void Window::widenFor(QLayout& row)
 {
     QWidget* const block = row.parentWidget();
@@ -105,14 +117,7 @@ void Window::widenFor(QLayout& row)
         const int wanted = row.sizeHint().width() + margins.left() + margins.right();
         block->setMaximumWidth(std::max(block->maximumWidth(), wanted));
     });
-    if (maximised_ || !isAsFitted())
-        return;
-    for (QWidget* above = block; above != nullptr; above = above->parentWidget()) {
-        if (above->layout() != nullptr)
-            above->layout()->activate();
-        above->updateGeometry();
-    }
-    growTo({sizeHint().width(), height()});
+    growFor(*block);
 }
 
 void Window::stayOnScreen()

@@ -57,8 +57,11 @@ protected:
     void fitContent();
     void forgetSize();
 
-    /// Lets the content become as wide as a row of its block asks for, and a normal window of such a size
-    /// with it.
+    /// Lets a normal window grow to the size that its content asks for now, unless the learner gave it
+    /// another.
+    void growFor(QWidget& content);
+
+    /// The same for a row of a block, which may become wider than the block was laid out for.
     void widenFor(QLayout& row);
 
     /// Makes Escape do what the close box does, wherever the focus is.
