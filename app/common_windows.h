@@ -43,8 +43,8 @@ public:
     template <typename Shown>
     void opens(void (shell::MainMenu::*request)(), const QObject* navigation, OnDemand<Shown>& window);
 
-    /// Joins a drill's window, made when it is opened for the first time, with which the first steps are over:
-    /// its judged answers are announced; leaving it leaves the drill and takes the next step.
+    /// Joins a drill's window, which is made when it is first opened: the first steps are over then. Its
+    /// judged answers are announced; leaving it leaves the drill and takes the next step.
     void joinDrill(shell::DrillWindow& window, const Step& next);
 
     /// Leaves the running drill and hides its window, with the feedback that may be up.

@@ -23,11 +23,11 @@ namespace {
 constexpr std::string_view Comma = ", ";
 constexpr std::array<std::string_view, 2> Separators = {Comma, " / "};
 
-// As the declension drill names them; the noun quiz has a word of its own for the first.
+// The declension drill's, after the name of a case.
+constexpr LanguageTexts SingularAfterCase{"Singular", "singulier", {}, "Einzahl", "Singular", "singularis"};
+
 constexpr std::array Numbers = {
-    nouns::SingularTexts,
-    nouns::PluralTexts,
-    nouns::SingularOfCase,
+    SingularAfterCase, nouns::PluralOfCase, nouns::SingularOfCase, nouns::SingularTexts, nouns::PluralTexts,
 };
 
 bool names(const LanguageTexts& texts, std::string_view name)

@@ -65,9 +65,11 @@ constexpr std::array<LanguageTexts, verbs::PersonCount> Persons = {{
 constexpr LanguageTexts Singular {"Singular", "Singulier", "Singolare", "Einzahl",  "Singular", "Singularis"};
 constexpr LanguageTexts Plural   {"Plural",   "Pluriel",   "Plurale",   "Mehrzahl", "Plural",   "Pluralis"};
 
+constexpr LanguageTexts Sic       {"sic: ",          "sic\u00A0: ",           "sic: ",              "sic: ",                "sic: ",              "sic: "};
 constexpr LanguageTexts Here      {"here ",          "ici ",                  "qui ",               "hier ",              "aquí ",             "hic "};
 constexpr LanguageTexts GrammarHas{"a grammar has ", "une grammaire donne ", "una grammatica ha ", "eine Grammatik hat ", "una gramática da ", "grammatica habet "};
 
+constexpr LanguageTexts Semicolon  {"; ", "\u00A0; ", "; ", "; ", "; ", "; "};
 constexpr LanguageTexts QuoteOpens {"“", "«\u00A0", "«", "„", "«", "“"};
 constexpr LanguageTexts QuoteCloses{"”", "\u00A0»", "»", "“", "»", "”"};
 // clang-format on
@@ -87,8 +89,8 @@ std::string saysOfGrammar(const Cell& cell)
 {
     const bool marksAreHidden = shell::settings.ShowVowelLength != platform::FlagTrue;
     const std::string asked =
-        marksAreHidden ? inLanguage(Here) + quoted(cell.form.text) + "; " : std::string();
-    return "sic: " + asked + inLanguage(GrammarHas) + quoted(*cell.grammarsForm) + ".";
+        marksAreHidden ? inLanguage(Here) + quoted(cell.form.text) + inLanguage(Semicolon) : std::string();
+    return inLanguage(Sic) + asked + inLanguage(GrammarHas) + quoted(*cell.grammarsForm) + ".";
 }
 
 class PageMaker {

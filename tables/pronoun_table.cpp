@@ -21,7 +21,7 @@ std::string columnOfPronouns(int group, int column, int inCase)
     const auto index = static_cast<std::size_t>(column);
     std::string name(nouns::columnTexts(group, inCase).at(index));
     const shell::LanguageTexts& gender = nouns::GenderTexts.at(index);
-    if (group != nouns::PersonalGroup)
+    if (nouns::columnsAreOneWord(group))
         name.replace(0, gender.english->size(), gender.currentOrDesigned());
     return name;
 }

@@ -162,9 +162,9 @@ void Declination::open()
     shell::applyCurrentOrDesignedCaptions(*this, Captions);
     placeRows();
     drawDeclension();
-    showNoun();
     scoreLabel()->clear();
-    widenFor(*headingRow_);
+    showPlace(FormOf, placeOfCase());
+    showNoun();
     showInMainWindowState();
     focusQuestion();
 }
@@ -180,6 +180,7 @@ void Declination::showNoun()
         boxes().at(i)->setAccessibleName(cases_.at(i % CasesOfNumber)->text() + QLatin1Char(' ') +
                                          frame->title());
     }
+    widenFor(*headingRow_);
 }
 
 int Declination::askedBoxNumber() const

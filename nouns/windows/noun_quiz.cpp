@@ -26,6 +26,7 @@ using shell::Caption;
 using shell::makeButton;
 using shell::makeHeading;
 using shell::makeLabel;
+using shell::makeScore;
 using shell::Part;
 using shell::rowOf;
 
@@ -92,7 +93,7 @@ void NounQuiz::makeControls()
     form_ = makeHeading(this, "NounQuizForm", shell::TitleType);
     info_ = makeLabel(this, "NounQuizInfo", shell::FormType);
     indices_ = makeLabel(this, "NounQuizIndices", shell::NoteType);
-    score_ = shell::makeScore(this, "NounQuizScore");
+    score_ = makeScore(this, "NounQuizScore");
     verdict_ = makeHeading(this, "NounVerdict", shell::HeadingType);
     answer_ = makeLabel(this, "NounRightAnswer", shell::FormType);
     answer_->setAlignment(Qt::AlignTop);

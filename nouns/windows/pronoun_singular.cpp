@@ -110,6 +110,7 @@ void PronounSingular::open()
         shell::fromUtf8(Headings.at(static_cast<std::size_t>(pronounDrill.Group)).currentOrDesigned()));
     showNumber();
     scoreLabel()->clear();
+    showPlace(FormOf, placeOfCell());
     widenFor(*headingRow_);
     showInMainWindowState();
     focusQuestion();

@@ -118,7 +118,6 @@ FormsTable::FormsTable(QWidget* parent) : QTableWidget(0, static_cast<int>(Headi
     setHorizontalHeader(new WrappingHeader(this));
     setVerticalScrollMode(ScrollPerPixel);
     verticalHeader()->hide();
-    horizontalHeader()->setStretchLastSection(true);
     horizontalHeader()->setHighlightSections(false);
     shell::setType(*horizontalHeader(), 1);
     shell::keepMeasure(*this, "rows", [this](shell::Growth) { fitColumns(); });
@@ -166,9 +165,14 @@ void FormsTable::fitColumns()
                             CharactersBetween * character;
     const int room = maximumViewportSize().width() - roomForScrollBar(*this);
     const int widest = std::max(widestIn(widths, room), LeastCharacters * character);
+    int all = 0;
+    for (int& width : widths)
+        all += width = std::min(width, widest);
+    horizontalHeader()->setStretchLastSection(all <= room);
     for (std::size_t column = 0; column < widths.size(); ++column)
-        setColumnWidth(static_cast<int>(column), std::min(widths.at(column), widest));
+        setColumnWidth(static_cast<int>(column), widths.at(column));
     resizeRowsToContents();
+    // The header forgets the height that it had for other widths.
     horizontalHeader()->headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
     updateGeometries();
 }

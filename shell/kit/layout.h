@@ -22,7 +22,7 @@ inline constexpr QMargins EdgeMargins{MediumSpace, MediumSpace, MediumSpace, Med
 inline constexpr QMargins FormMargins{LargeSpace, LargeSpace, LargeSpace, LargeSpace};
 inline constexpr QMargins DrillMargins{WideSpace, LargeSpace, WideSpace, LargeSpace};
 
-/// How much of the height of the screen a window takes at the most: its frame and its title need the rest.
+/// How much of the screen a window takes at the most: its frame and its title need the rest.
 inline constexpr double ShareOfScreen = 0.9;
 
 /// What stands in a row or a column: a control, a layout within it, or empty space.

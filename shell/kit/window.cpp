@@ -22,7 +22,7 @@ namespace {
 // Beside it the spacers' stretch is so little that they grow only once the block has its greatest size.
 constexpr int BlockStretch = 1000;
 
-// A frame needs less at its sides than above and below.
+// Of the width more, as a frame needs less at its sides than above and below.
 constexpr double ShareOfWidth = 0.97;
 
 // A maximised window grows by the room that it has beyond this, by quarters of its size.
@@ -44,6 +44,14 @@ void putAbove(QWindow& window, QWindow* below)
         below->setTransientParent(nullptr);
     window.setTransientParent(below);
 }
+
+// Asks for no more height than its lines need where all gives way; what the window has beyond is its own.
+class Block : public QWidget {
+public:
+    using QWidget::QWidget;
+
+    int heightForWidth(int width) const override { return layout()->totalMinimumHeightForWidth(width); }
+};
 
 } // namespace
 
@@ -82,7 +90,10 @@ void Window::fitContent()
 // What asked for more room may give it back soon: the window does not become smaller for that.
 void Window::growTo(QSize asked)
 {
-    resize(size().expandedTo(onScreen(asked)));
+    const QSize grown = size().expandedTo(onScreen(asked));
+    if (grown == size())
+        return;
+    resize(grown);
     fitted_ = size();
     if (isVisible())
         stayOnScreen();
@@ -90,15 +101,19 @@ void Window::growTo(QSize asked)
 
 void Window::growInHeight(int pixels)
 {
-    if (isVisible() && !maximised_ && !isFullScreen() && isAsFitted())
+    if (isVisible() && !maximised_ && isAsFitted())
         growTo(size() + QSize(0, pixels));
 }
 
 // A hidden window lays nothing out of its own accord when what was written into it asks for more room.
 void Window::growFor(QWidget& content)
 {
-    if (maximised_ || !isAsFitted())
+    if (!isAsFitted())
         return;
+    if (maximised_) {
+        forgetSize();
+        return;
+    }
     for (QWidget* above = &content; above != nullptr; above = above->parentWidget()) {
         if (above->layout() != nullptr)
             above->layout()->activate();
@@ -227,8 +242,8 @@ QWidget* Window::centredBlock(QSize charactersAndLines)
 {
     auto* const area = new ContentArea(new QWidget, this);
     connect(area, &ContentArea::roomMissing, this, &Window::growInHeight);
-    auto* const block = new QWidget(area->widget());
     const bool asHighAsItsLines = charactersAndLines.height() == AsItsLines;
+    QWidget* const block = asHighAsItsLines ? new QWidget(area->widget()) : new Block(area->widget());
     keepMeasure(*block, "size", [=, this](Growth) {
         if (!measured_)
             return;

@@ -57,11 +57,12 @@ protected:
     void fitContent();
     void forgetSize();
 
-    /// Lets a normal window grow to the size that its content asks for now, unless the learner gave it
-    /// another.
+    /// Lets the window grow to the size that its content asks for now, when it is normal or becomes so,
+    /// unless the learner gave it another.
     void growFor(QWidget& content);
 
-    /// The same for a row of a block, which may become wider than the block was laid out for.
+    /// The same for a row of a block, which may become wider than the block was laid out for, in a maximised
+    /// window as well.
     void widenFor(QLayout& row);
 
     /// Makes Escape do what the close box does, wherever the focus is.

@@ -50,8 +50,8 @@ constexpr std::array Captions = {
     Caption{"cmdCancel",    {"&Cancel",                "&Annuler",                 "&Annulla",               "&Abbruch",                  "&Cancelar",                    "&Reverte!"}},
     Caption{"cmdApply",     {"A&pply",                 "A&ppliquer",               "A&pplica",               "Über&nehmen",               "A&plicar",                     "A&dhibe!"}},
     Caption{"GODelayNote",  {"It is set in the options menu.", "Elle se règle dans le menu Options.", "Si imposta nel menu Options.", "Eingestellt wird sie im Menü Optionen.", "Se ajusta en el menú Opciones.", "In indice Optiones constituitur."}},
-    Caption{"GOOrderNote",  {"They are set in the options menu.", "Ils se règlent dans le menu Options.", "Si impostano nel menu Options.", "Eingestellt werden sie im Menü Optionen.", "Se ajustan en el menú Opciones.", "In indice Optiones constituuntur."}},
     Caption{"GODelayLabel", {"Pause after an answer:", "Pause après une réponse :", "Pausa dopo una risposta:", "Pause nach einer Antwort:", "Pausa después de una respuesta:", "Mora post responsum:"}},
+    Caption{"GOOrderNote",  {"They are set in the options menu.", "Ils se règlent dans le menu Options.", "Si impostano nel menu Options.", "Eingestellt werden sie im Menü Optionen.", "Se ajustan en el menú Opciones.", "In indice Optiones constituuntur."}},
     Caption{"TextSizeLabel", {"&Text size (Ctrl and +, -, 0):", "&Taille du texte (Ctrl et +, -, 0) :", "&Dimensione del testo (Ctrl e +, -, 0):", "&Schriftgröße (Strg und +, -, 0):", "&Tamaño del texto (Ctrl y +, -, 0):", "&Magnitudo litterarum (Ctrl et +, -, 0):"}},
     Caption{"ShowMacrons",  {"Show &macrons: ā, not a:", "&Macrons : ā et non a:",  "&Macron: ā e non a:",    "&Längenstriche: ā statt a:", "&Macrones: ā y no a:",         "&Lineolas ostende: ā pro a:"}},
 };

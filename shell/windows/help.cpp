@@ -181,8 +181,16 @@ void Help::showBeside(const QWidget& asking)
         standBesideAsking();
 }
 
+// Whoever gives the guide a size beside another window wants that one from then on.
+void Help::forgetOwnSizeOnceResized()
+{
+    if (size() != sizeBeside_)
+        ownSize_.reset();
+}
+
 void Help::takeOwnSize()
 {
+    forgetOwnSizeOnceResized();
     if (ownSize_)
         resize(*ownSize_);
     ownSize_.reset();
@@ -192,6 +200,7 @@ void Help::standBesideAsking()
 {
     if (asking_ == nullptr || isMaximized())
         return;
+    forgetOwnSizeOnceResized();
     const QSize whole = ownSize_.value_or(size());
     const QMargins frame = windowHandle()->frameMargins();
     const int leastWidth =
@@ -202,6 +211,7 @@ void Help::standBesideAsking()
     const QRect inside = place->marginsRemoved(frame);
     if (inside.size() != whole)
         ownSize_ = whole;
+    sizeBeside_ = inside.size();
     setGeometry(inside);
 }
 

@@ -24,9 +24,9 @@ class Help : public Window {
 public:
     Help();
 
-    /// Shows the section of the window that asks, and stands beside that window where the screen has room,
-    /// else in the middle. Reads the help file of the working folder, the German one for a German interface
-    /// where there is one; shows why it cannot be read.
+    /// Shows the section of the window that asks, and stands beside that window where the screen has room, at
+    /// the right edge of a maximised one, else in the middle. Reads the help file of the working folder, the
+    /// German one for a German interface where there is one; shows why it cannot be read.
     void showGuide(const QWidget& asking);
 
 protected:
@@ -38,6 +38,7 @@ private:
     void setCaptions();
     void addShortcut(const QKeySequence& keys, void (Help::*action)());
     void showBeside(const QWidget& asking);
+    void forgetOwnSizeOnceResized();
     void takeOwnSize();
     void standBesideAsking();
 
@@ -53,8 +54,9 @@ private:
     FindField* find_;
     GuideText* text_;
     QPointer<const QWidget> asking_;
-    /// The size of the window before it was narrowed to stand beside another.
+    /// The size of the window before it was fitted beside another, and the one that it was given there.
     std::optional<QSize> ownSize_;
+    QSize sizeBeside_;
 };
 
 } // namespace shell
