@@ -6,6 +6,8 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QPushButton>
+#include <QShortcutEvent>
 
 namespace app {
 
@@ -16,6 +18,18 @@ bool isLetterWithAlt(const QKeyEvent& key)
 {
     return (key.modifiers() & (Qt::AltModifier | Qt::ControlModifier)) == Qt::AltModifier &&
            !key.text().isEmpty() && key.text().front().isPrint();
+}
+
+// Qt shows a button pressed for a tenth of a second first; a key that follows soon would go to the window
+// that the button is about to leave.
+bool pressesAtOnce(QObject* receiver, const QEvent& event)
+{
+    auto* const button = qobject_cast<QPushButton*>(receiver);
+    if (button == nullptr || event.type() != QEvent::Shortcut ||
+        static_cast<const QShortcutEvent&>(event).isAmbiguous())
+        return false;
+    button->click();
+    return true;
 }
 
 } // namespace
@@ -34,6 +48,8 @@ KeyFilter::KeyFilter()
 
 bool KeyFilter::eventFilter(QObject* receiver, QEvent* event)
 {
+    if (pressesAtOnce(receiver, *event))
+        return true;
     if (event->type() != QEvent::KeyPress)
         return false;
     const auto& key = *static_cast<QKeyEvent*>(event);

@@ -79,6 +79,15 @@ TEST_F(MainMenu, OpensEachExerciseByButtonAndItemWithTheGuideAtHandWhereNoViewer
 }
 
 // A desktop takes the state from a window that is hidden, and gives it back late.
+// The next key of a fast typist goes to the window that has been opened.
+TEST_F(MainMenu, OpensAnExerciseAtOnceByItsLetter)
+{
+    QWidget& menu = start();
+    QTest::keyClick(&menu, Qt::Key_N, Qt::AltModifier);
+    EXPECT_FALSE(menu.isVisible());
+    EXPECT_NE(shownWindow("DeclinationChoose"), nullptr);
+}
+
 TEST_F(MainMenu, KeepsInTheSettingsWhetherItIsMaximisedAsLongAsItIsOnTheScreen)
 {
     QWidget& menu = start();
