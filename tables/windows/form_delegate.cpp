@@ -62,7 +62,9 @@ void FormDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
         option.palette.color(groupOf(option), chosen ? QPalette::HighlightedText : QPalette::Text));
     const QFontMetrics metrics(option.font);
     const int line = option.rect.top() + (option.rect.height() - metrics.height() + 1) / 2 + metrics.ascent();
-    int x = option.rect.left() + SpaceBeside;
+    // A heading stays in sight where the table is scrolled to the side.
+    const bool isHeading = index.data(PageModel::HeadingRole).toBool();
+    int x = (isHeading ? std::max(option.rect.left(), 0) : option.rect.left()) + SpaceBeside;
     for (const Piece& piece : piecesOf(index, option.font)) {
         painter->setFont(piece.font);
         painter->drawText(x, line - piece.raised, piece.text);

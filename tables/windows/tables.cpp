@@ -170,6 +170,9 @@ void Tables::connectControls()
     connect(words_, &WordsPanel::wordChosen, this, &Tables::showChosenWord);
     connect(page_, &QAbstractItemModel::modelReset, this, &Tables::fitPage);
     connect(view_->selectionModel(), &QItemSelectionModel::currentChanged, this, &Tables::showRemark);
+    // The headings stay where they are.
+    connect(view_->horizontalScrollBar(), &QScrollBar::valueChanged, view_->viewport(),
+            qOverload<>(&QWidget::update));
     connect(copy_, &QPushButton::clicked, this, &Tables::copy);
     connect(save_, &QPushButton::clicked, this, &Tables::save);
     connect(close_, &QPushButton::clicked, this, &Tables::left);
