@@ -12,6 +12,8 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     constexpr int frameWidth = 2;
     QStyleOptionViewItem plain = option;
     plain.state &= ~(QStyle::State_Selected | QStyle::State_HasFocus | QStyle::State_MouseOver);
+    // The view has drawn the ground of a chosen row by now.
+    painter->fillRect(option.rect, option.palette.base());
     QStyledItemDelegate::paint(painter, plain, index);
     painter->save();
     if (index.data(Qt::BackgroundRole).isValid()) {

@@ -2,6 +2,7 @@
 
 #include "progress/grammar_names.h"
 #include "progress/windows/scroll_bar_room.h"
+#include "progress/windows/shown_answer.h"
 #include "progress/windows/wrapping_header.h"
 #include "shell/kit/latin_text.h"
 #include "shell/kit/measure.h"
@@ -69,7 +70,7 @@ QString asked(const Form& form, const std::string& text)
 {
     if (form.name.exercise == shell::exercise::Vcabtester)
         return ofList(form, shell::AskedWithTranslation, text);
-    return shell::latinText(questionInLanguageShown(form.name.exercise, text));
+    return withLastPartWhole(shell::latinText(questionInLanguageShown(form.name.exercise, text)));
 }
 
 // The quizzes are answered in words.
@@ -88,7 +89,7 @@ QString writtenInstead(const Form& form)
 {
     QStringList texts;
     for (const std::string& written : form.wrongAnswers)
-        texts << (written.empty() ? QStringLiteral("–") : answered(form, written));
+        texts << (written.empty() ? QStringLiteral("–") : withBlanksSeen(answered(form, written)));
     return texts.join(QStringLiteral(", "));
 }
 

@@ -6,6 +6,7 @@
 #include "progress/other_form.h"
 #include "progress/windows/kind_box.h"
 #include "progress/windows/review_box.h"
+#include "progress/windows/shown_answer.h"
 #include "shell/kit/captions.h"
 #include "shell/kit/controls.h"
 #include "shell/kit/text.h"
@@ -218,7 +219,7 @@ bool Review::asksWord() const
 QString Review::shownQuestion() const
 {
     if (!asksWord())
-        return shell::latinText(questionInLanguageShown(asked_->exercise, asked_->asked));
+        return withLastPartWhole(shell::latinText(questionInLanguageShown(asked_->exercise, asked_->asked)));
     return !answersInLatin() ? shell::latinText(asked_->asked) : fromUtf8(asked_->asked);
 }
 
@@ -308,7 +309,7 @@ void Review::showBefore()
         return;
     const QString right = shownAnswer(asked_->expected);
     before_->setText(written_.empty() ? fromUtf8(BeforeEmpty).arg(right)
-                                      : fromUtf8(Before).arg(right, shownAnswer(written_)));
+                                      : fromUtf8(Before).arg(right, withBlanksSeen(shownAnswer(written_))));
 }
 
 void Review::focusQuestion()
