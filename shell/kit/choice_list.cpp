@@ -39,7 +39,10 @@ ChoiceList::ChoiceList(QWidget* parent) : QListWidget(parent)
     setItemDelegate(new AiryRows(this));
     setBackgroundRole(QPalette::Base);
     setAutoFillBackground(true);
-    connect(this, &QListWidget::itemSelectionChanged, this, [this] { Q_EMIT rowChosen(chosenRow()); });
+    connect(this, &QListWidget::itemSelectionChanged, this, [this] {
+        Q_EMIT rowChosen(chosenRow());
+        scrollTo(currentIndex());
+    });
     connect(this, &QListWidget::itemDoubleClicked, this, &ChoiceList::activateChosenRow);
 }
 

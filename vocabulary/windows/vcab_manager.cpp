@@ -142,6 +142,7 @@ void VcabManager::open()
 {
     shown_ = 0;
     comeBack();
+    words_->scrollToTop();
     if (vocabularyList.WordCount > 0)
         words_->setFocus();
     else
