@@ -12,6 +12,9 @@ namespace {
 // An indicator is as high as a capital with a little air.
 constexpr double IndicatorOfLine = 0.75;
 
+// In letters of the button's type, both sides together.
+constexpr int SpaceInButton = 2;
+
 bool isIndicatorSize(QStyle::PixelMetric metric)
 {
     return metric == QStyle::PM_IndicatorWidth || metric == QStyle::PM_IndicatorHeight ||
@@ -50,6 +53,11 @@ QSize IndicatorStyle::sizeFromContents(ContentsType type, const QStyleOption* op
     if (type == CT_MenuItem)
         size.rwidth() += pixelMetric(PM_IndicatorWidth, option, widget) -
                          QProxyStyle::pixelMetric(PM_IndicatorWidth, option, widget);
+    // Beside a larger type the style's own margin is none.
+    const auto* const button = qstyleoption_cast<const QStyleOptionButton*>(option);
+    if (type == CT_PushButton && button != nullptr && !button->text.isEmpty())
+        size.rwidth() =
+            std::max(size.width(), contents.width() + SpaceInButton * option->fontMetrics.averageCharWidth());
     return size;
 }
 
