@@ -45,14 +45,6 @@ void putAbove(QWindow& window, QWindow* below)
     window.setTransientParent(below);
 }
 
-// Asks for no more height than its lines need where all gives way; what the window has beyond is its own.
-class Block : public QWidget {
-public:
-    using QWidget::QWidget;
-
-    int heightForWidth(int width) const override { return layout()->totalMinimumHeightForWidth(width); }
-};
-
 } // namespace
 
 Window::Window(std::string_view name, std::string_view activeName) : activeName_(activeName)
@@ -243,7 +235,7 @@ QWidget* Window::centredBlock(QSize charactersAndLines)
     auto* const area = new ContentArea(new QWidget, this);
     connect(area, &ContentArea::roomMissing, this, &Window::growInHeight);
     const bool asHighAsItsLines = charactersAndLines.height() == AsItsLines;
-    QWidget* const block = asHighAsItsLines ? new QWidget(area->widget()) : new Block(area->widget());
+    auto* const block = new QWidget(area->widget());
     keepMeasure(*block, "size", [=, this](Growth) {
         if (!measured_)
             return;
