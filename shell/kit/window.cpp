@@ -300,9 +300,12 @@ void Window::takeSize(Growth growth)
     takeMeasures(*this, growth);
 }
 
+// The desktop may give a hidden maximised window its normal size, and take it back when the window is shown:
+// Qt would keep what was painted before.
 void Window::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
+    update();
     grow();
 }
 
