@@ -87,8 +87,12 @@ void Window::growTo(QSize asked)
         return;
     resize(grown);
     fitted_ = size();
-    if (isVisible())
+    if (!isVisible())
+        return;
+    if (windowHandle()->isExposed())
         stayOnScreen();
+    else
+        centreAsShown();
 }
 
 void Window::growInHeight(int pixels)
@@ -201,13 +205,17 @@ void Window::showInFront()
         takeSize(growth_);
     winId();
     standAboveModal();
-    if (!isVisible()) {
-        centreOnScreen();
-        windowHandle()->installEventFilter(this);
-    }
+    if (!isVisible())
+        centreAsShown();
     show();
     raise();
     activateWindow();
+}
+
+void Window::centreAsShown()
+{
+    centreOnScreen();
+    windowHandle()->installEventFilter(this);
 }
 
 // A window that was never shown has no frame yet. Its place is set without the frame, as a widget may hear of
@@ -266,9 +274,10 @@ void Window::forgetSize()
 }
 
 // By the size that it has, since a window manager may maximise a window before or after it gives it its size.
+// That it took the state from a window that hid may be heard when that is being shown again.
 void Window::grow()
 {
-    if (!isVisible())
+    if (!isVisible() || (maximised_ && !isMaximized() && !windowHandle()->isExposed()))
         return;
     const Growth growth = isMaximized() ? growthIn(size()) : 1;
     const bool becameNormal = maximised_ && !isMaximized();
@@ -292,9 +301,12 @@ void Window::takeSize(Growth growth)
     takeMeasures(*this, growth);
 }
 
+// The desktop may give a hidden maximised window its normal size, and take it back when the window is shown:
+// Qt would keep what was painted before.
 void Window::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
+    update();
     grow();
 }
 

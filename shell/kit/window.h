@@ -87,6 +87,7 @@ private:
     void growInHeight(int pixels);
     void stayOnScreen();
     bool isAsFitted() const;
+    void centreAsShown();
     void centreOnScreen();
 
     void showAsDesigned();
