@@ -24,9 +24,10 @@ bool isLetterWithAlt(const QKeyEvent& key)
 // that the button is about to leave.
 bool pressesAtOnce(QObject* receiver, const QEvent& event)
 {
+    if (event.type() != QEvent::Shortcut || static_cast<const QShortcutEvent&>(event).isAmbiguous())
+        return false;
     auto* const button = qobject_cast<QPushButton*>(receiver);
-    if (button == nullptr || event.type() != QEvent::Shortcut ||
-        static_cast<const QShortcutEvent&>(event).isAmbiguous())
+    if (button == nullptr)
         return false;
     button->click();
     return true;

@@ -14,7 +14,8 @@ const shell::Window* windowWithTheKeys();
 /// Sees every key before the windows do, as long as it lives. F1 asks for the guide in each window of the
 /// program, though not in an open menu or a message. F1, Enter and Escape count once however long they are
 /// held: a key that is still down when a pause ends must not answer the next question. A letter with Alt
-/// enters no line: it is that of a menu or a button, even where the window has none or it is disabled.
+/// enters no line: it is that of a menu or a button, even where the window has none or it is disabled. A
+/// button is pressed at once by its letter.
 class KeyFilter : public QObject {
     Q_OBJECT
 

@@ -52,10 +52,9 @@ void VcabDivide::open(const std::filesystem::path& file, const LoadFault& fault)
     file_ = file;
     shell::applyCurrentOrDesignedCaptions(*this, Captions);
     const int lists = listsFor(fault.words);
-    text().setText(shell::fromUtf8(Question)
-                       .arg(shell::fromUtf8(file.filename().string()), QString::number(fault.words),
-                            QString::number(MostWords), QString::number(lists),
-                            QString::number(LastCountedWord)));
+    text().setText(shell::fromUtf8(Question).arg(shell::fromUtf8(file.filename().string()),
+                                                 QString::number(fault.words), QString::number(MostWords),
+                                                 QString::number(lists), QString::number(LastCountedWord)));
     askWith(*divide_);
 }
 
