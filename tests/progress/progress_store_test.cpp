@@ -194,9 +194,14 @@ TEST_F(ProgressStore, OfANewerVersionStaysUntouched)
     keeper.reset();
     OtherProgram().run("PRAGMA user_version = 2");
     const std::string before = tests::bytesOf("progress.db");
-    keeper = opened();
+    int openings = 0;
+    keeper = std::make_unique<Keeper>("progress.db", [&](const fs::path& file, progress::Access access) {
+        ++openings;
+        return progress::openStore(file, access);
+    });
     keepAnswers(4, 5);
     EXPECT_EQ(keeper->store(), nullptr);
+    EXPECT_EQ(openings, 1);
     EXPECT_EQ(fake.messages,
               std::vector<std::string>{"progress.db comes from a newer version of this program: "
                                        "answers are not kept."});

@@ -238,6 +238,7 @@ TEST_F(Tables, FindWhatAFormCanBeInTheWordsOfTheQuizzes)
     editVerb(FirstConjugation, 13, {"cla:m", "cla:ma:v", "cla:ma:t", {}});
     EXPECT_EQ(found(listed.index(), "clāmā"),
               "cla:ma:: cla:ma:re, 2. Person Sing., 1. Konjugation, Imperativ\n");
+    EXPECT_EQ(listed.index().find("amet").size(), 1U);
 }
 
 // The letters behind which a mark stands.
