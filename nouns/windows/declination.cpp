@@ -121,7 +121,7 @@ void Declination::layOut()
     plural_->setLayout(pluralRows_);
     layOutLines(LargestBlock, shell::DrillMargins,
                 {headingRow_, shell::rowOf(shell::LargeSpace, {nameRows_, {singular_, 1}, {plural_, 1}}),
-                 whyRow(),
+                 whyLabel(),
                  helpAndButtons({makeCheckButton("Continue"), makeQuestionButton("DeclQuestion"),
                                  makeQuitButton("DeclQuitButton")})});
     // Gives way on a small screen, where the buttons matter more than the frames' place.

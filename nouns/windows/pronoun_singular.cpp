@@ -85,7 +85,7 @@ void PronounSingular::layOut()
     }
     headingRow_ = withScore({heading_, 1});
     layOutLines(LargestBlock, shell::DrillMargins,
-                {headingRow_, Part::space(shell::SmallSpace), rows_, whyRow(),
+                {headingRow_, Part::space(shell::SmallSpace), rows_, whyLabel(),
                  helpAndButtons({makeCheckButton("PronounOK"), makeQuestionButton("PronounQuestion"),
                                  makeQuitButton("PronounCancel")})});
 }

@@ -114,7 +114,7 @@ void Review::layOut()
                 {shell::rowOf(shell::SmallSpace, {kindLabel_, kind_, Part::gap(1), score_}),
                  shell::rowOf(shell::SmallSpace, {title_, Part::gap(1), left_}), question_,
                  Part::space(shell::SmallSpace), shell::makeLabelOf(answer_, "ReviewAnswerLabel"), answer_,
-                 whyRow(), before_,
+                 whyLabel(), before_,
                  shell::buttonRow({shell::makeLabel(this, "HelpLabel")}, {ok_, hint_, quit_})});
 }
 

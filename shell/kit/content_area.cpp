@@ -88,7 +88,10 @@ QSize ContentArea::leastSize(int width) const
 void ContentArea::askForRoom()
 {
     const QSize room = maximumViewportSize();
-    const int missing = leastSize(room.width()).height() - room.height();
+    const QLayout* const layout = widget()->layout();
+    const bool broken = layout != nullptr && layout->hasHeightForWidth();
+    const int asked = broken ? layout->heightForWidth(room.width()) : widget()->sizeHint().height();
+    const int missing = asked - room.height();
     if (missing > 0)
         Q_EMIT roomMissing(missing);
 }

@@ -6,7 +6,6 @@
 #include "shell/kit/text.h"
 #include "shell/kit/type.h"
 
-#include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
@@ -83,21 +82,6 @@ void wrapText(QLabel& label, int lines)
     keepMeasure(label, "lines", [&label, lines](Growth) {
         label.setMinimumSize(1, lines * label.fontMetrics().lineSpacing());
     });
-}
-
-QLayout* roomFor(QLabel& label, int lines)
-{
-    QGridLayout* const row = gridOf(0, 0);
-    auto* const room = new QSpacerItem(0, 0);
-    row->addWidget(&label, 0, 0);
-    row->addItem(room, 0, 0);
-    label.setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    keepMeasure(*row, "room", [=, &label](Growth) {
-        room->changeSize(0, lines * label.fontMetrics().lineSpacing() + HairSpace, QSizePolicy::Minimum,
-                         QSizePolicy::Preferred);
-        row->invalidate();
-    });
-    return row;
 }
 
 ChoiceList* makeChoiceList(QWidget* parent, QAnyStringView name)

@@ -7,7 +7,6 @@
 
 class QKeyEvent;
 class QLabel;
-class QLayout;
 class QPushButton;
 class QWidget;
 
@@ -44,10 +43,6 @@ QLabel* makeLabelOf(QWidget* control, QAnyStringView name);
 /// Breaks a label's text into lines, where it would widen the window, and keeps room for so many lines. The
 /// label no longer asks for any width of its own.
 void wrapText(QLabel& label, int lines);
-
-/// A row for a label that breaks its text, with room for so many lines. Those that are not in use give way on
-/// a low screen.
-QLayout* roomFor(QLabel& label, int lines);
 
 /// A list of the words or files that a window is about.
 ChoiceList* makeChoiceList(QWidget* parent, QAnyStringView name);

@@ -65,15 +65,9 @@ TypingDrill::TypingDrill(std::string_view name, std::string_view activeName, std
       where_(makeLabel(this, "WhereLabel", NoteType))
 {
     why_->setTextFormat(Qt::RichText);
-    wrapText(*why_, 1);
-    keepMeasure(*why_, "room",
-                [this](Growth) { why_->setMinimumHeight(why_->fontMetrics().lineSpacing() + HairSpace); });
+    why_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    wrapText(*why_, LinesOfWhy);
     connect(this, &Window::left, this, &TypingDrill::clearWhy);
-}
-
-QLayout* TypingDrill::whyRow()
-{
-    return roomFor(*why_, LinesOfWhy);
 }
 
 // The answer that is explained stands until the learner goes on typing.

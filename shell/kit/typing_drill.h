@@ -11,7 +11,6 @@
 #include <string>
 
 class QLabel;
-class QLayout;
 
 namespace shell {
 
@@ -70,8 +69,8 @@ protected:
     /// Says no longer why an answer was wrong.
     void clearWhy();
 
-    /// A row for the label that says why, and the label that says which question.
-    QLayout* whyRow();
+    /// The labels that say why, with room for two lines, and which question.
+    QLabel* whyLabel() const { return why_; }
     QLabel* whereLabel() const { return where_; }
 
 private:

@@ -353,6 +353,23 @@ TEST_F(VcabWindows, ShowTheAnswerInRedForOnePause)
     EXPECT_EQ(shell::settings.RightCount, 1);
 }
 
+TEST_F(VcabWindows, ShowAQuestionOfSeveralLinesWholeAndWithoutAHintInTheWholeWidth)
+{
+    start();
+    shell::settings.MainWindowState = 0;
+    QWidget& tester = openTester("pater,father,patris m.\nurbs antiqua et magna,city,urbis f.\n"
+                                 "cum,with> in the company of; when,+ abl.\nurbs antiqua et,city,");
+    const auto& shownWord = control<QLabel>(tester, "VQuestion");
+    for (const char* const meaning : {"father", "city", "with, in the company of; when"}) {
+        answer(tester, "x");
+        QApplication::processEvents();
+        EXPECT_GE(shownWord.height(), shownWord.heightForWidth(shownWord.width())) << meaning;
+        EXPECT_LT(shownWord.width(), line(tester, "VcabAnswer").width());
+        answer(tester, meaning);
+    }
+    EXPECT_EQ(shownWord.width(), line(tester, "VcabAnswer").width());
+}
+
 TEST_F(VcabWindows, WaitWhereNoWordIsLeftAndStartAfreshEachTime)
 {
     QWidget& tester = openTester(",,\nrosa,rose,f.\nre:x");

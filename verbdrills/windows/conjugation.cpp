@@ -73,7 +73,7 @@ void Conjugation::layOut()
 {
     QBoxLayout* const names = shell::columnOf(shell::HairSpace, {title_, verb_, tense_});
     layOutLines(LargestBlock, shell::DrillMargins,
-                {withScore({names, 1}), Part::space(shell::SmallSpace), answerGrid(), whyRow(),
+                {withScore({names, 1}), Part::space(shell::SmallSpace), answerGrid(), whyLabel(),
                  helpAndButtons({makeCheckButton("Ccontinue"), makeQuestionButton("ConjQuestion"),
                                  makeQuitButton("Cquit")})});
 }

@@ -92,7 +92,7 @@ void Vcabtester::layOut()
                  Part::space(shell::LargeSpace),
                  shell::makeLabelOf(answer_, "AnswerLabel"),
                  answer_,
-                 whyRow(),
+                 whyLabel(),
                  {omit_, 0, Qt::AlignLeft},
                  shell::buttonRow({shell::makeLabel(this, "HelpLabel")}, {ok_, revealButton_, cancel_})});
     layout()->setMenuBar(menuBar_);
@@ -161,6 +161,7 @@ void Vcabtester::showTheWord()
 {
     const bool asked = vocabularyTester.WordIsAsked == platform::FlagTrue;
     question_->setText(asked ? questionShown() : shell::fromUtf8(NoWord));
+    hint_->setVisible(!hintText().empty());
     showHint(hintGivesAnswerAway() ? std::string() : hintText());
     if (asked)
         showPlace(WordOf, {vocabularyList.CurrentWord, vocabularyList.WordCount});
