@@ -122,7 +122,8 @@ std::string openDefaultList()
 std::filesystem::path fileToSave()
 {
     std::filesystem::path file = vocabularyList.File;
-    return vocabularyList.FileIsForeign ? file.replace_extension(OwnEnding) : file;
+    const bool keepsItsFormat = !vocabularyList.FileIsForeign || isWrittenWithTabs(file);
+    return keepsItsFormat ? file : file.replace_extension(OwnEnding);
 }
 
 bool wouldReplaceAnotherFile(const std::filesystem::path& path)

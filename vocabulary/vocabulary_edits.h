@@ -52,8 +52,8 @@ std::optional<LoadFault> loadList(const std::filesystem::path& path);
 /// the list in memory is tested.
 std::string openDefaultList();
 
-/// Where a save goes unless another file is chosen: the list's own file or, beside one of another program,
-/// one of that name in the program's own format. Empty for a new list.
+/// Where a save goes unless another file is chosen: the list's own file or, beside one of another program
+/// that is not written with tabs, one of that name in the program's own format. Empty for a new list.
 std::filesystem::path fileToSave();
 
 /// True where a save would replace a file that the list was neither read from nor saved to, or one of another

@@ -61,6 +61,28 @@ QSize IndicatorStyle::sizeFromContents(ContentsType type, const QStyleOption* op
     return size;
 }
 
+// The style's own room for the title of a frame is that of its ink, and cuts the last letter of a large type.
+QRect IndicatorStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option,
+                                     SubControl part, const QWidget* widget) const
+{
+    const QRect own = QProxyStyle::subControlRect(control, option, part, widget);
+    if (control != CC_GroupBox || part != SC_GroupBoxLabel)
+        return own;
+    return own.adjusted(0, 0, option->fontMetrics.averageCharWidth(), 0);
+}
+
+// A scroll bar that is a control of its own shows that it has the focus.
+void IndicatorStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                        QPainter* painter, const QWidget* widget) const
+{
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    if (control != CC_ScrollBar || widget == nullptr || !widget->hasFocus())
+        return;
+    QStyleOptionFocusRect focus;
+    focus.initFrom(widget);
+    drawFocus(focus, painter, widget);
+}
+
 // The frame of the focus is a faint shade of what is chosen, as dark as a dark window.
 void IndicatorStyle::drawFocus(const QStyleOptionFocusRect& focus, QPainter* painter,
                                const QWidget* widget) const

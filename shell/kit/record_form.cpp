@@ -37,8 +37,10 @@ void RecordForm::addControl(QWidget* control, std::string_view caption, std::str
 
 void RecordForm::show(std::span<const std::string_view> texts)
 {
-    for (std::size_t i = 0; i < texts.size(); ++i)
+    for (std::size_t i = 0; i < texts.size(); ++i) {
         box(i)->setText(fromUtf8(texts[i]));
+        box(i)->setCursorPosition(0);
+    }
 }
 
 std::vector<std::string> RecordForm::take() const

@@ -86,9 +86,9 @@ void DelayInterval::open()
     scroll_->setAccessibleName(windowTitle());
     scroll_->setValue(scrollAtFirst());
     showLength(scroll_->value());
-    scroll_->setFocus();
     fitContent();
     showInFront();
+    setFocusInSight(*scroll_);
 }
 
 void DelayInterval::showLength(int scroll)

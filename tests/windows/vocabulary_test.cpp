@@ -241,6 +241,13 @@ TEST_F(VcabWindows, LoadListsOfOtherProgramsAndWriteThemOverOnlyWhereThatIsAllow
     confirm("c.tsv");
     saveAs("c.tsv");
     expectWords({"rosa", "Ro:ma"}, "c.tsv");
+    writeFile("c.tsv", "#cities\nRo:ma\tRome\n");
+    clickIn("VcabManLoad");
+    confirm("c.tsv");
+    clickIn("VcabManSave");
+    EXPECT_EQ(line(files(), "FHFileName").selectedText(), "c.tsv");
+    press(files(), Qt::Key_Return);
+    EXPECT_TRUE(shown("VcabReplace").isVisible());
 }
 
 TEST_F(VcabWindows, OfferToDivideAListThatIsTooLongAndOpenItsFirst)
