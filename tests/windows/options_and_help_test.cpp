@@ -184,6 +184,20 @@ TEST_F(Help, StandsBesideTheWindowThatAsksWhereThereIsRoom)
     }
 }
 
+TEST_F(Help, StandsAtTheEdgeOfTheScreenWhereItCoversLeastWhereThereIsNoRoom)
+{
+    for (const auto& [x, edge] : {std::pair{60, &QRect::right}, {103, &QRect::right}, {140, &QRect::left}}) {
+        QWidget& window = open("MainABout", "About");
+        window.setGeometry(x, 40, 600, 200);
+        press(window, Qt::Key_F1);
+        const QWidget& help = tests::shown("Help");
+        const QRect screen = help.screen()->availableGeometry();
+        EXPECT_EQ((help.frameGeometry().*edge)(), (screen.*edge)());
+        EXPECT_LT(help.frameGeometry().width(), screen.width() / 2);
+        tests::shown("Help").close();
+    }
+}
+
 TEST_F(Help, StandsAtTheRightEdgeOfAMaximisedWindowAndCoversNothingWhereThereIsRoom)
 {
     QWidget& menu = start();
