@@ -173,6 +173,7 @@ void Help::showGuide(const QWidget& asking)
     setCaptions();
     if (&asking != this)
         showBeside(asking);
+    find_->clear();
     text_->goToSection(asking.objectName());
     text_->setFocus();
 }

@@ -258,6 +258,8 @@ TEST_F(Help, FindsWordsAsOneTypesAndBeginsAnewAtTheEnd)
     EXPECT_EQ(tests::focusIn(help), "HelpText");
     press(help, Qt::Key_Escape);
     EXPECT_FALSE(help.isVisible());
+    press(open("MainABout", "About"), Qt::Key_F1);
+    EXPECT_EQ(tests::control<QLineEdit>(help, "HelpFind").text() + label(help, "HelpFindState"), "");
 }
 
 TEST_F(Help, HasTheSameChaptersInBothLanguagesATargetForEveryLinkAndALinkToEach)
