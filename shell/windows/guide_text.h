@@ -32,6 +32,10 @@ public:
     bool findPrevious(const QString& words);
 
 protected:
+    /// The hyphens of endings, which are shown so that they stay with their letters, are copied as plain
+    /// ones.
+    QMimeData* createMimeDataFromSelection() const override;
+
     /// These keep the reader's place where it is.
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
@@ -42,6 +46,7 @@ private:
     void openSections(const QTextBlock& heading);
     QTextCursor readersPlace() const;
     void bringBack(const QTextCursor& place, int top);
+    bool findFrom(int place, const QString& words);
     bool mark(const QTextCursor& found);
 
     QString guide_;
