@@ -121,6 +121,7 @@ GuideText::GuideText(QWidget* parent) : QTextBrowser(parent)
         colours.setColor(QPalette::Inactive, role, colours.color(QPalette::Active, role));
     setPalette(colours);
     setWordWrapMode(QTextOption::WordWrap);
+    connect(this, &QTextBrowser::sourceChanged, this, &GuideText::forgetMarked);
     connect(horizontalScrollBar(), &QScrollBar::rangeChanged, this, &GuideText::offerToScrollSideways);
 }
 
@@ -229,6 +230,36 @@ bool GuideText::mark(const QTextCursor& found)
         verticalScrollBar()->setValue(verticalScrollBar()->value() + place.top() - viewport()->height() / 2);
     setTextCursor(found);
     return true;
+}
+
+// What was marked where the reader comes from is nothing to go on from, and neither is its right margin.
+void GuideText::forgetMarked()
+{
+    moveMark(cursorForPosition(QPoint(0, 0)));
+    horizontalScrollBar()->setValue(0);
+}
+
+// Keeps the text from scrolling to a line that is not wholly in sight.
+void GuideText::moveMark(const QTextCursor& mark)
+{
+    const int shown = verticalScrollBar()->value();
+    setTextCursor(mark);
+    verticalScrollBar()->setValue(shown);
+}
+
+// The links are stepped through from what is marked: from the end of the letter before what is shown.
+bool GuideText::focusNextPrevChild(bool next)
+{
+    QTextCursor place = readersPlace();
+    if (!place.hasSelection()) {
+        while (cursorRect(place).top() < 0 && place.movePosition(QTextCursor::Down)) {
+        }
+        const int top = place.position();
+        place.setPosition(std::max(0, top - 1));
+        place.setPosition(top, QTextCursor::KeepAnchor);
+        moveMark(place);
+    }
+    return QTextBrowser::focusNextPrevChild(next);
 }
 
 QMimeData* GuideText::createMimeDataFromSelection() const

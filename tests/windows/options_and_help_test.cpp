@@ -321,7 +321,7 @@ TEST_F(Help, HasTheSameChaptersInBothLanguagesATargetForEveryLinkAndALinkToEach)
     EXPECT_EQ(outline("morvanti.hlp"), outline("morvanti.de.hlp"));
 }
 
-TEST_F(Help, GoesBackFromLinksAndOpenings)
+TEST_F(Help, GoesWithTabToTheFirstLinkBelowWhatIsShownBackFromLinksAndOpenings)
 {
     tests::copySample("morvanti.hlp");
     auto& help = open("HELPME", "Help");
@@ -329,13 +329,20 @@ TEST_F(Help, GoesBackFromLinksAndOpenings)
     EXPECT_FALSE(button(help, "HelpBack").isEnabled());
     QTextCursor link = text.document()->find("Verb quiz", text.cursorForPosition(QPoint(2, 2)));
     link.setPosition(link.selectionStart() + 2);
+    const auto expectTabTo = [&](const char* words) {
+        press(help, Qt::Key_Tab);
+        EXPECT_EQ(text.textCursor().selectedText(), words);
+    };
+    expectTabTo("Conjugating verbs");
     QTest::mouseClick(text.viewport(), Qt::LeftButton, {}, text.cursorRect(link).center());
+    expectTabTo("what the verb quiz asks");
     press(open("SetDelay", "DelayInterval"), Qt::Key_F1);
     EXPECT_EQ(headingAtTheTop(text), "The pause");
     click(help, "HelpBack");
     EXPECT_EQ(headingAtTheTop(text), "Verb quiz");
     QTest::keyClick(&text, Qt::Key_Left, Qt::AltModifier);
     EXPECT_EQ(headingAtTheTop(text), "Main window");
+    expectTabTo("Vocabulary test");
     EXPECT_FALSE(button(help, "HelpBack").isEnabled());
 }
 
