@@ -171,42 +171,34 @@ TEST_F(Help, OpensAtTheSectionOfTheWindowThatAsksInGermanWhereThatGuideIsThere)
             }
 }
 
-TEST_F(Help, StandsBesideTheWindowThatAsksWhereThereIsRoom)
+TEST_F(Help, StandsBesideTheWindowThatAsksWhereThereIsRoomAndElseCoversLeastOfIt)
 {
-    for (const auto& [x, width] : {std::pair{5, 200}, {500, 200}, {380, 400}}) {
+    for (const auto& [x, width, coveredLeft, coveredRight] : {std::array{5, 200, 0, 0},
+                                                              {500, 200, 0, 0},
+                                                              {380, 400, 0, 0},
+                                                              {60, 600, 0, 300},
+                                                              {103, 600, 0, 300},
+                                                              {140, 600, 300, 0}}) {
         QWidget& window = open("MainABout", "About");
         window.setGeometry(x, 40, width, 200);
         press(window, Qt::Key_F1);
         QWidget& help = tests::shown("Help");
-        EXPECT_FALSE(help.frameGeometry().intersects(window.frameGeometry())) << x;
+        const QRect inSight = window.frameGeometry().adjusted(coveredLeft, 0, -coveredRight, 0);
+        EXPECT_FALSE(help.frameGeometry().intersects(inSight)) << x;
         EXPECT_TRUE(help.screen()->availableGeometry().contains(help.frameGeometry())) << x;
         help.close();
     }
 }
 
-TEST_F(Help, StandsAtTheEdgeOfTheScreenWhereItCoversLeastWhereThereIsNoRoom)
-{
-    for (const auto& [x, edge] : {std::pair{60, &QRect::right}, {103, &QRect::right}, {140, &QRect::left}}) {
-        QWidget& window = open("MainABout", "About");
-        window.setGeometry(x, 40, 600, 200);
-        press(window, Qt::Key_F1);
-        const QWidget& help = tests::shown("Help");
-        const QRect screen = help.screen()->availableGeometry();
-        EXPECT_EQ((help.frameGeometry().*edge)(), (screen.*edge)());
-        EXPECT_LT(help.frameGeometry().width(), screen.width() / 2);
-        tests::shown("Help").close();
-    }
-}
-
 // Where a hyphen or another sign stands within a word, its line may end.
-TEST_F(Help, BreaksNoWordAndNoEndingHoweverNarrowItIsAndScrollsSidewaysOnlyThere)
+TEST_F(Help, BreaksNoWordAndNoEndingWhenNarrowAndFindsAndCopiesEndingsWithAPlainHyphen)
 {
     for (const char* const guide : {"morvanti.hlp", "morvanti.de.hlp"})
         tests::copySample(guide);
     for (const std::string language : {"English", "German"}) {
         settings.CurrentLanguage = language;
         QWidget& help = open("HELPME", "Help");
-        const auto& text = tests::control<QTextBrowser>(help);
+        auto& text = tests::control<QTextBrowser>(help);
         for (const int width : {600, help.minimumSizeHint().width()}) {
             help.resize(width, help.height());
             EXPECT_EQ(text.horizontalScrollBar()->isVisible(), width < 600);
@@ -217,17 +209,11 @@ TEST_F(Help, BreaksNoWordAndNoEndingHoweverNarrowItIsAndScrollsSidewaysOnlyThere
                 const QString before = block.text().left(block.layout()->lineAt(line).textStart());
                 EXPECT_TRUE(before.contains(end)) << before.toStdString();
             }
+        QTest::keyClick(&text, Qt::Key_F, Qt::ControlModifier);
+        tests::type(help, "US -a -um s");
+        QTest::keyClick(&text, Qt::Key_C, Qt::ControlModifier);
+        EXPECT_EQ(QGuiApplication::clipboard()->text(), "us -a -um s");
     }
-}
-
-TEST_F(Help, FindsAndCopiesEndingsWithAPlainHyphen)
-{
-    tests::copySample("morvanti.hlp");
-    QWidget& help = open("HELPME", "Help");
-    QTest::keyClick(help.focusWidget(), Qt::Key_F, Qt::ControlModifier);
-    tests::type(help, "US -a -um s");
-    QTest::keyClick(&tests::control<QTextBrowser>(help), Qt::Key_C, Qt::ControlModifier);
-    EXPECT_EQ(QGuiApplication::clipboard()->text(), "us -a -um s");
 }
 
 TEST_F(Help, StandsAtTheRightEdgeOfAMaximisedWindowAndCoversNothingWhereThereIsRoom)
