@@ -2,9 +2,11 @@
 
 #include "shell/kit/type.h"
 
+#include <QMimeData>
 #include <QRegularExpression>
 #include <QScrollBar>
 #include <QTextBlock>
+#include <QTextDocumentFragment>
 #include <QTextTable>
 
 #include <algorithm>
@@ -14,6 +16,27 @@ namespace shell {
 namespace {
 
 constexpr double LineHeightPercent = 125;
+constexpr QChar FirmHyphen(0x2011);
+
+// The hyphen of an ending, -a, stays with its letters at the end of a line.
+QString withFirmHyphens(QString text)
+{
+    static const QRegularExpression ofEnding(QStringLiteral(R"((?<![\pL\d-])-(?=\pL))"),
+                                             QRegularExpression::UseUnicodePropertiesOption);
+    return text.replace(ofEnding, FirmHyphen);
+}
+
+QString withPlainHyphens(QString text)
+{
+    return text.replace(FirmHyphen, u'-');
+}
+
+// Finds a hyphen of either kind.
+QRegularExpression patternOf(const QString& words)
+{
+    return QRegularExpression(QRegularExpression::escape(withPlainHyphens(words))
+                                  .replace(QStringLiteral("\\-"), QStringLiteral("[-%1]").arg(FirmHyphen)));
+}
 
 QString anchorOf(const QString& heading)
 {
@@ -97,6 +120,8 @@ GuideText::GuideText(QWidget* parent) : QTextBrowser(parent)
     for (const auto role : {QPalette::Highlight, QPalette::HighlightedText})
         colours.setColor(QPalette::Inactive, role, colours.color(QPalette::Active, role));
     setPalette(colours);
+    setWordWrapMode(QTextOption::WordWrap);
+    connect(this, &QTextBrowser::sourceChanged, this, &GuideText::forgetMarked);
     connect(horizontalScrollBar(), &QScrollBar::rangeChanged, this, &GuideText::offerToScrollSideways);
 }
 
@@ -127,7 +152,7 @@ QTextDocument* GuideText::madeReady(const QString& guide)
     ready->setUndoRedoEnabled(false);
     ready->setDefaultFont(font());
     ready->setDocumentMargin(WideSpace);
-    ready->setMarkdown(guide);
+    ready->setMarkdown(withFirmHyphens(guide));
     for (QTextBlock block = ready->begin(); block.isValid(); block = block.next()) {
         setSpace(block);
         if (block.blockFormat().headingLevel() > 0)
@@ -163,21 +188,27 @@ void GuideText::goToSection(const QString& window)
 
 bool GuideText::findHere(const QString& words)
 {
-    const QTextCursor found = document()->find(words, readersPlace().selectionStart());
-    return mark(found.isNull() ? document()->find(words) : found);
+    return findFrom(readersPlace().selectionStart(), words);
 }
 
 bool GuideText::findNext(const QString& words)
 {
-    const QTextCursor found = document()->find(words, readersPlace().selectionEnd());
-    return mark(found.isNull() ? document()->find(words) : found);
+    return findFrom(readersPlace().selectionEnd(), words);
+}
+
+bool GuideText::findFrom(int place, const QString& words)
+{
+    const QTextCursor found = document()->find(patternOf(words), place);
+    return mark(found.isNull() ? document()->find(patternOf(words)) : found);
 }
 
 bool GuideText::findPrevious(const QString& words)
 {
     constexpr auto Backward = QTextDocument::FindBackward;
-    const QTextCursor found = document()->find(words, readersPlace().selectionStart(), Backward);
-    return mark(found.isNull() ? document()->find(words, document()->characterCount() - 1, Backward) : found);
+    const QRegularExpression pattern = patternOf(words);
+    const QTextCursor found = document()->find(pattern, readersPlace().selectionStart(), Backward);
+    return mark(found.isNull() ? document()->find(pattern, document()->characterCount() - 1, Backward)
+                               : found);
 }
 
 // What is marked, as long as it is in sight, else the first letter that is.
@@ -199,6 +230,45 @@ bool GuideText::mark(const QTextCursor& found)
         verticalScrollBar()->setValue(verticalScrollBar()->value() + place.top() - viewport()->height() / 2);
     setTextCursor(found);
     return true;
+}
+
+// What was marked where the reader comes from is nothing to go on from, and neither is its right margin.
+void GuideText::forgetMarked()
+{
+    moveMark(cursorForPosition(QPoint(0, 0)));
+    horizontalScrollBar()->setValue(0);
+}
+
+// Keeps the text from scrolling to a line that is not wholly in sight.
+void GuideText::moveMark(const QTextCursor& mark)
+{
+    const int shown = verticalScrollBar()->value();
+    setTextCursor(mark);
+    verticalScrollBar()->setValue(shown);
+}
+
+// The links are stepped through from what is marked: from the end of the letter before what is shown.
+bool GuideText::focusNextPrevChild(bool next)
+{
+    QTextCursor place = readersPlace();
+    if (!place.hasSelection()) {
+        while (cursorRect(place).top() < 0 && place.movePosition(QTextCursor::Down)) {
+        }
+        const int top = place.position();
+        place.setPosition(std::max(0, top - 1));
+        place.setPosition(top, QTextCursor::KeepAnchor);
+        moveMark(place);
+    }
+    return QTextBrowser::focusNextPrevChild(next);
+}
+
+QMimeData* GuideText::createMimeDataFromSelection() const
+{
+    const QTextDocumentFragment marked = textCursor().selection();
+    auto* const copied = new QMimeData;
+    copied->setText(withPlainHyphens(marked.toPlainText()));
+    copied->setHtml(withPlainHyphens(marked.toHtml()));
+    return copied;
 }
 
 void GuideText::resizeEvent(QResizeEvent* event)

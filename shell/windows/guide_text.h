@@ -32,6 +32,13 @@ public:
     bool findPrevious(const QString& words);
 
 protected:
+    /// Goes to the next link from what is marked, else from the top of what is shown.
+    bool focusNextPrevChild(bool next) override;
+
+    /// The hyphens of endings, which are shown so that they stay with their letters, are copied as plain
+    /// ones.
+    QMimeData* createMimeDataFromSelection() const override;
+
     /// These keep the reader's place where it is.
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
@@ -42,7 +49,10 @@ private:
     void openSections(const QTextBlock& heading);
     QTextCursor readersPlace() const;
     void bringBack(const QTextCursor& place, int top);
+    bool findFrom(int place, const QString& words);
     bool mark(const QTextCursor& found);
+    void forgetMarked();
+    void moveMark(const QTextCursor& mark);
 
     QString guide_;
     QSet<QString> sections_;

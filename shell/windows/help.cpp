@@ -83,21 +83,29 @@ QRect placeAtRight(const QRect& window, const QRect& content, int width, int lea
     return {window.right() + 1 - taken, window.top(), taken, window.height()};
 }
 
-// At the side of the window where there is more room, as wide as that allows; none where it is too narrow.
-std::optional<QRect> placeBeside(const QRect& window, const QRect& screen, QSize size, int leastWidth)
+// The question of a window stands at its left: one in the middle of the screen is rather covered at the
+// right.
+bool standsAtRight(int roomAtLeft, int roomAtRight, int leastWidth)
+{
+    return roomAtRight >= roomAtLeft || (roomAtLeft < leastWidth && roomAtLeft - roomAtRight <= MediumSpace);
+}
+
+// At the side of the window where there is more room, as wide as that allows. Where it is too narrow, at that
+// edge of the screen, so that it covers least.
+QRect placeBeside(const QRect& window, const QRect& screen, QSize size, int leastWidth)
 {
     const int left = window.left() - screen.left();
     const int right = screen.right() - window.right();
-    const int width = std::min(size.width(), std::max(left, right));
-    if (width < leastWidth)
-        return {};
+    const int width = std::max(leastWidth, std::min(size.width(), std::max(left, right)));
     const int height = std::min(size.height(), screen.height());
-    const int x = right >= left ? window.right() + 1 : window.left() - width;
+    const int x = standsAtRight(left, right, leastWidth)
+                      ? std::min(window.right(), screen.right() - width) + 1
+                      : std::max(window.left() - width, screen.left());
     const int y = std::clamp(window.top(), screen.top(), screen.bottom() + 1 - height);
-    return QRect(x, y, width, height);
+    return {x, y, width, height};
 }
 
-std::optional<QRect> placeFor(const QWidget& asking, QSize size, int leastWidth)
+QRect placeFor(const QWidget& asking, QSize size, int leastWidth)
 {
     if (asking.isMaximized())
         return placeAtRight(asking.geometry(), contentOf(asking), size.width(), leastWidth);
@@ -165,6 +173,7 @@ void Help::showGuide(const QWidget& asking)
     setCaptions();
     if (&asking != this)
         showBeside(asking);
+    find_->clear();
     text_->goToSection(asking.objectName());
     text_->setFocus();
 }
@@ -205,10 +214,8 @@ void Help::standBesideAsking()
     const QMargins frame = windowHandle()->frameMargins();
     const int leastWidth =
         std::max(minimumSizeHint().width(), LeastWidthBeside * fontMetrics().averageCharWidth());
-    const auto place = placeFor(*asking_, whole.grownBy(frame), leastWidth + frame.left() + frame.right());
-    if (!place)
-        return;
-    const QRect inside = place->marginsRemoved(frame);
+    const QRect place = placeFor(*asking_, whole.grownBy(frame), leastWidth + frame.left() + frame.right());
+    const QRect inside = place.marginsRemoved(frame);
     if (inside.size() != whole)
         ownSize_ = whole;
     sizeBeside_ = inside.size();

@@ -24,9 +24,10 @@ class Help : public Window {
 public:
     Help();
 
-    /// Shows the section of the window that asks, and stands beside that window where the screen has room, at
-    /// the right edge of a maximised one, else in the middle. Reads the help file of the working folder, the
-    /// German one for a German interface where there is one; shows why it cannot be read.
+    /// Shows the section of the window that asks, with nothing to find, and stands beside that window where
+    /// the screen has room, at the right edge of a maximised one, else at the edge of the screen where it
+    /// covers least. Reads the help file of the working folder, the German one for a German interface where
+    /// there is one; shows why it cannot be read.
     void showGuide(const QWidget& asking);
 
 protected:

@@ -171,16 +171,48 @@ TEST_F(Help, OpensAtTheSectionOfTheWindowThatAsksInGermanWhereThatGuideIsThere)
             }
 }
 
-TEST_F(Help, StandsBesideTheWindowThatAsksWhereThereIsRoom)
+TEST_F(Help, StandsBesideTheWindowThatAsksWhereThereIsRoomAndElseCoversLeastOfIt)
 {
-    for (const auto& [x, width] : {std::pair{5, 200}, {500, 200}, {380, 400}}) {
+    for (const auto& [x, width, coveredLeft, coveredRight] : {std::array{5, 200, 0, 0},
+                                                              {500, 200, 0, 0},
+                                                              {380, 400, 0, 0},
+                                                              {60, 600, 0, 300},
+                                                              {103, 600, 0, 300},
+                                                              {140, 600, 300, 0}}) {
         QWidget& window = open("MainABout", "About");
         window.setGeometry(x, 40, width, 200);
         press(window, Qt::Key_F1);
         QWidget& help = tests::shown("Help");
-        EXPECT_FALSE(help.frameGeometry().intersects(window.frameGeometry())) << x;
+        const QRect inSight = window.frameGeometry().adjusted(coveredLeft, 0, -coveredRight, 0);
+        EXPECT_FALSE(help.frameGeometry().intersects(inSight)) << x;
         EXPECT_TRUE(help.screen()->availableGeometry().contains(help.frameGeometry())) << x;
         help.close();
+    }
+}
+
+// Where a hyphen or another sign stands within a word, its line may end.
+TEST_F(Help, BreaksNoWordAndNoEndingWhenNarrowAndFindsAndCopiesEndingsWithAPlainHyphen)
+{
+    for (const char* const guide : {"morvanti.hlp", "morvanti.de.hlp"})
+        tests::copySample(guide);
+    for (const std::string language : {"English", "German"}) {
+        settings.CurrentLanguage = language;
+        QWidget& help = open("HELPME", "Help");
+        auto& text = tests::control<QTextBrowser>(help);
+        for (const int width : {600, help.minimumSizeHint().width()}) {
+            help.resize(width, help.height());
+            EXPECT_EQ(text.horizontalScrollBar()->isVisible(), width < 600);
+        }
+        const QRegularExpression end(R"((\s|\S[^\s\w])$)");
+        for (QTextBlock block = text.document()->begin(); block.isValid(); block = block.next())
+            for (int line = 1; line < block.layout()->lineCount(); ++line) {
+                const QString before = block.text().left(block.layout()->lineAt(line).textStart());
+                EXPECT_TRUE(before.contains(end)) << before.toStdString();
+            }
+        QTest::keyClick(&text, Qt::Key_F, Qt::ControlModifier);
+        tests::type(help, "US -a -um s");
+        QTest::keyClick(&text, Qt::Key_C, Qt::ControlModifier);
+        EXPECT_EQ(QGuiApplication::clipboard()->text(), "us -a -um s");
     }
 }
 
@@ -208,7 +240,7 @@ TEST_F(Help, KeepsTheHeadingAtTheTopAndGrowsInFixedTypeTooWhenTheTypeGrows)
     tests::copySample("morvanti.hlp");
     press(open("SetDelay", "DelayInterval"), Qt::Key_F1);
     const auto& text = tests::control<QTextBrowser>(tests::shown("Help"));
-    const QTextBlock example = text.document()->find("f. -ae, puell").block();
+    const QTextBlock example = text.document()->find("ae, puell, girl").block();
     const double before = example.layout()->boundingRect().height();
     for (const auto key : {Qt::Key_Plus, Qt::Key_Plus, Qt::Key_Plus, Qt::Key_0, Qt::Key_Minus}) {
         QTest::keyClick(text.window(), key, Qt::ControlModifier);
@@ -244,6 +276,8 @@ TEST_F(Help, FindsWordsAsOneTypesAndBeginsAnewAtTheEnd)
     EXPECT_EQ(tests::focusIn(help), "HelpText");
     press(help, Qt::Key_Escape);
     EXPECT_FALSE(help.isVisible());
+    press(open("MainABout", "About"), Qt::Key_F1);
+    EXPECT_EQ(tests::control<QLineEdit>(help, "HelpFind").text() + label(help, "HelpFindState"), "");
 }
 
 TEST_F(Help, HasTheSameChaptersInBothLanguagesATargetForEveryLinkAndALinkToEach)
@@ -273,22 +307,28 @@ TEST_F(Help, HasTheSameChaptersInBothLanguagesATargetForEveryLinkAndALinkToEach)
     EXPECT_EQ(outline("morvanti.hlp"), outline("morvanti.de.hlp"));
 }
 
-TEST_F(Help, GoesBackFromLinksAndOpenings)
+TEST_F(Help, GoesWithTabToTheFirstLinkBelowWhatIsShownBackFromLinksAndOpenings)
 {
     tests::copySample("morvanti.hlp");
     auto& help = open("HELPME", "Help");
     auto& text = tests::control<QTextBrowser>(help);
-    EXPECT_FALSE(text.horizontalScrollBar()->isVisible());
     EXPECT_FALSE(button(help, "HelpBack").isEnabled());
     QTextCursor link = text.document()->find("Verb quiz", text.cursorForPosition(QPoint(2, 2)));
     link.setPosition(link.selectionStart() + 2);
+    const auto expectTabTo = [&](const char* words) {
+        press(help, Qt::Key_Tab);
+        EXPECT_EQ(text.textCursor().selectedText(), words);
+    };
+    expectTabTo("Conjugating verbs");
     QTest::mouseClick(text.viewport(), Qt::LeftButton, {}, text.cursorRect(link).center());
+    expectTabTo("what the verb quiz asks");
     press(open("SetDelay", "DelayInterval"), Qt::Key_F1);
     EXPECT_EQ(headingAtTheTop(text), "The pause");
     click(help, "HelpBack");
     EXPECT_EQ(headingAtTheTop(text), "Verb quiz");
     QTest::keyClick(&text, Qt::Key_Left, Qt::AltModifier);
     EXPECT_EQ(headingAtTheTop(text), "Main window");
+    expectTabTo("Vocabulary test");
     EXPECT_FALSE(button(help, "HelpBack").isEnabled());
 }
 
