@@ -17,8 +17,8 @@ namespace progress {
 
 namespace {
 
-// On a low screen so many lines are seen at the least, with the headings.
-constexpr int LeastLines = 5;
+// On a low screen so many rows are seen at the least.
+constexpr int LeastRows = 6;
 
 // To how many characters the lines of headings are shortened, until the columns fit.
 constexpr std::array LinesOfHeadings = {14, 12};
@@ -45,21 +45,28 @@ void CellTable::fitCells()
     fitColumns();
 }
 
-// Headers and bars that were never shown may want a little less than they get.
 QSize CellTable::sizeHint() const
 {
-    const int frame = 2 * frameWidth();
-    const bool allColumnsSeen = horizontalHeader()->length() <= roomForColumns();
-    const int bar = allColumnsSeen ? 0 : horizontalScrollBar()->sizeHint().height();
-    return {frame + verticalHeader()->sizeHint().width() + unbroken_ + roomForScrollBar(*this) +
-                shell::SmallSpace,
-            frame + horizontalHeader()->sizeHint().height() + verticalHeader()->length() + bar};
+    const int headings = verticalHeader()->sizeHint().width();
+    return {2 * frameWidth() + headings + unbroken_ + roomForScrollBar(*this) + shell::SmallSpace,
+            heightOfRows(verticalHeader()->count())};
 }
 
 QSize CellTable::minimumSizeHint() const
 {
     return {QTableView::minimumSizeHint().width(),
-            std::min(LeastLines * fontMetrics().lineSpacing(), sizeHint().height())};
+            heightOfRows(std::min(LeastRows, verticalHeader()->count()))};
+}
+
+// Headers and bars that were never shown may want a little less than they get.
+int CellTable::heightOfRows(int rows) const
+{
+    const bool allColumnsSeen = horizontalHeader()->length() <= roomForColumns();
+    int height = 2 * frameWidth() + horizontalHeader()->sizeHint().height();
+    height += allColumnsSeen ? 0 : horizontalScrollBar()->sizeHint().height();
+    for (int row = 0; row < rows; ++row)
+        height += rowHeight(row);
+    return height;
 }
 
 void CellTable::resizeEvent(QResizeEvent* event)

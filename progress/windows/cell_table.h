@@ -6,7 +6,8 @@ namespace progress {
 
 class CellModel;
 
-/// Shows a grid of cells, as high as its rows where the window has room for them. The headings of its columns
+/// Shows a grid of cells, as high as its rows where the window has room for them, and as a few of them
+/// where it has not. The headings of its columns
 /// stand in one line each, and are broken into more only where the columns need a greater width than it has.
 class CellTable : public QTableView {
     Q_OBJECT
@@ -26,6 +27,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    int heightOfRows(int rows) const;
     int roomForColumns() const;
     void fitColumns();
 

@@ -12,10 +12,13 @@
 #include "shell/settings.h"
 #include "shell/vowel_marks.h"
 
+#include <QHeaderView>
 #include <QResizeEvent>
+#include <QScrollBar>
 
 #include <algorithm>
 #include <array>
+#include <numeric>
 #include <span>
 #include <vector>
 
@@ -30,10 +33,14 @@ namespace {
 constexpr int LeastCharacters = 16;
 
 constexpr int CharactersWished = 110;
-constexpr int LinesWished = 6;
 
-// On a low screen so many lines are seen at the least, with the headings.
+// With the headings; rows are seen whole up to the greatest number, even on a low screen.
+constexpr int LeastLinesWished = 6;
+constexpr int MostLinesWished = 22;
 constexpr int LeastLines = 4;
+constexpr int MostLinesOfRow = 12;
+
+constexpr int GridLine = 1;
 
 // Between what stands in a column and the next one.
 constexpr int CharactersBetween = 2;
@@ -108,9 +115,11 @@ int widestIn(std::span<const int> widths, int room)
     return ordered.back();
 }
 
+static_assert(Headings.size() == FormsTable::Columns);
+
 } // namespace
 
-FormsTable::FormsTable(QWidget* parent) : QTableWidget(0, static_cast<int>(Headings.size()), parent)
+FormsTable::FormsTable(QWidget* parent) : QTableWidget(0, static_cast<int>(Columns), parent)
 {
     setEditTriggers(NoEditTriggers);
     setSelectionBehavior(SelectRows);
@@ -126,6 +135,9 @@ FormsTable::FormsTable(QWidget* parent) : QTableWidget(0, static_cast<int>(Headi
 
 void FormsTable::showForms(std::vector<Form> forms)
 {
+    // Before it was ever seen the rows break as in the width that it will ask for.
+    if (!testAttribute(Qt::WA_WState_Created))
+        resize(widthWished(), height());
     QStringList headings;
     for (const LanguageTexts& heading : Headings)
         headings << fromUtf8(heading);
@@ -140,12 +152,31 @@ void FormsTable::showForms(std::vector<Form> forms)
 
 QSize FormsTable::sizeHint() const
 {
-    return {CharactersWished * fontMetrics().averageCharWidth(), LinesWished * fontMetrics().lineSpacing()};
+    const int line = fontMetrics().lineSpacing();
+    return {widthWished(), std::clamp(heightWished_, LeastLinesWished * line, MostLinesWished * line)};
 }
 
 QSize FormsTable::minimumSizeHint() const
 {
-    return {QTableWidget::minimumSizeHint().width(), LeastLines * fontMetrics().lineSpacing()};
+    const int line = fontMetrics().lineSpacing();
+    int highest = 0;
+    for (int row = 0; row < rowCount(); ++row)
+        highest = std::max(highest, rowHeight(row));
+    highest = std::min(highest, MostLinesOfRow * line);
+    const int bar =
+        horizontalHeader()->length() > room(width()) ? horizontalScrollBar()->sizeHint().height() : 0;
+    return {QTableWidget::minimumSizeHint().width(),
+            std::max(LeastLines * line, heightAroundRows() + highest + bar)};
+}
+
+int FormsTable::widthWished() const
+{
+    return CharactersWished * fontMetrics().averageCharWidth();
+}
+
+int FormsTable::heightAroundRows() const
+{
+    return 2 * frameWidth() + horizontalHeader()->sizeHint().height();
 }
 
 void FormsTable::resizeEvent(QResizeEvent* event)
@@ -153,29 +184,67 @@ void FormsTable::resizeEvent(QResizeEvent* event)
     QTableWidget::resizeEvent(event);
     if (event->size().width() != event->oldSize().width())
         fitColumns();
+    if (hasFocus())
+        scrollTo(currentIndex());
 }
 
 // Room for the scroll bar is kept even where there is none, so that the rows never break otherwise for it.
-void FormsTable::fitColumns()
+int FormsTable::room(int width) const
+{
+    return width - 2 * frameWidth() - roomForScrollBar(*this);
+}
+
+FormsTable::Widths FormsTable::widthsIn(int room) const
 {
     const int character = fontMetrics().averageCharWidth();
-    std::array<int, Headings.size()> widths{};
+    Widths widths{};
     for (std::size_t column = 0; column < widths.size(); ++column)
         widths.at(column) = std::max(sizeHintForColumn(static_cast<int>(column)),
                                      horizontalHeader()->sectionSizeHint(static_cast<int>(column))) +
                             CharactersBetween * character;
-    const int room = maximumViewportSize().width() - roomForScrollBar(*this);
     const int widest = std::max(widestIn(widths, room), LeastCharacters * character);
-    int all = 0;
     for (int& width : widths)
-        all += width = std::min(width, widest);
-    horizontalHeader()->setStretchLastSection(all <= room);
+        width = std::min(width, widest);
+    return widths;
+}
+
+int FormsTable::heightOfRow(int row, const Widths& widths) const
+{
+    QStyleOptionViewItem option;
+    initViewItemOption(&option);
+    option.features |= QStyleOptionViewItem::WrapText;
+    int height = verticalHeader()->minimumSectionSize();
+    for (int column = 0; column < columnCount(); ++column) {
+        option.rect = {0, 0, widths.at(static_cast<std::size_t>(column)) - GridLine, height};
+        const QSize text = itemDelegate()->sizeHint(option, model()->index(row, column));
+        height = std::max(height, text.height() + GridLine);
+    }
+    return height;
+}
+
+void FormsTable::fitColumns()
+{
+    const Widths widths = widthsIn(room(width()));
+    horizontalHeader()->setStretchLastSection(std::accumulate(widths.begin(), widths.end(), 0) <=
+                                              room(width()));
     for (std::size_t column = 0; column < widths.size(); ++column)
         setColumnWidth(static_cast<int>(column), widths.at(column));
     resizeRowsToContents();
     // The header forgets the height that it had for other widths.
     horizontalHeader()->headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
+    takeHeightWished();
     updateGeometries();
+    updateGeometry();
+}
+
+// In the width that it asks for: with larger type it is wider soon.
+void FormsTable::takeHeightWished()
+{
+    const Widths widths = widthsIn(room(std::max(width(), widthWished())));
+    const int most = MostLinesWished * fontMetrics().lineSpacing();
+    heightWished_ = heightAroundRows();
+    for (int row = 0; row < rowCount() && heightWished_ < most; ++row)
+        heightWished_ += heightOfRow(row, widths);
 }
 
 void FormsTable::showForm(int row, const Form& form)

@@ -14,6 +14,7 @@
 #include "shell/kit/text.h"
 #include "shell/kit/type.h"
 
+#include <QApplication>
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QComboBox>
@@ -118,6 +119,7 @@ void Progress::connectControls()
 {
     connect(kind_, &QComboBox::activated, this, &Progress::showGrid);
     connect(grid_->selectionModel(), &QItemSelectionModel::currentChanged, this, &Progress::showForms);
+    connect(grid_, &CellTable::clicked, this, [this] { growFor(*forms_); });
     shell::onEnter(*grid_, [this] { forms_->setFocus(); });
     connect(days_, &PracticeDays::dayChosen, day_, &QLabel::setText);
     connect(keep_, &QCheckBox::clicked, this, &Progress::keepingSwitched);
@@ -192,7 +194,6 @@ void Progress::showGrid()
     grid_->fitCells();
     grid_->setCurrentIndex(worst);
     showForms();
-    growFor(*grid_);
 }
 
 void Progress::showForms()
@@ -203,6 +204,9 @@ void Progress::showForms()
     cellName_->setText(place.isValid() ? cells_->nameAt(place).replace(u'&', QStringLiteral("&&"))
                                        : QString());
     forms_->showForms(cell == nullptr || store == nullptr ? std::vector<Form>() : store->formsOf(cell->name));
+    // A window that moves under the mouse would choose another cell.
+    if (QApplication::mouseButtons() == Qt::NoButton)
+        growFor(*forms_);
 }
 
 void Progress::showDays()

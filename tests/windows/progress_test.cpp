@@ -1,4 +1,5 @@
 #include "shell/answer_record.h"
+#include "shell/settings.h"
 #include "tests/support/window_test.h"
 
 namespace {
@@ -139,6 +140,37 @@ TEST_F(Progress, TheTenCasesOfANounAreSeenAtOnceUnderHeadingsOfOneLine)
     EXPECT_GE(grid.viewport()->height(), grid.rowViewportPosition(9) + grid.rowHeight(9));
     const auto& kind = tests::control<QComboBox>(progress, "ProgressKind");
     EXPECT_GT(kind.width(), kind.fontMetrics().horizontalAdvance("Zeitformen nach Konjugation"));
+}
+
+TEST_F(Progress, TheGridAndTheHighestFormAreSeenWholeInALowWindowAndManyFormsMakeItHigher)
+{
+    start();
+    shell::settings.MainWindowState = shell::window_state::Normal;
+    for (const std::string tense : {"Present", "Imperfect", "Future", "Perfect", "Pluperfect"})
+        tellOfAmare(tense + " Indicative", "1st Person Sing", "amo", "amo");
+    tellOfAmare("Passive Pluperfect Subjunctive", "1st Person Sing", "amatus -a -um essem", "amatus essem");
+    QWidget& progress = openProgress();
+    const int withOneForm = progress.height();
+    for (const std::string person :
+         {"2nd Person Sing", "3rd Person Sing", "1st Person Plur", "2nd Person Plur"})
+        for (const std::string written :
+             {"amatus ", "a very long answer indeed ", "one that is longer still "})
+            tellOfAmare("Passive Pluperfect Subjunctive", person, "amati essemus",
+                        written + written + written);
+    openProgress();
+    EXPECT_GT(progress.height(), withOneForm + 20);
+
+    progress.resize(500, 350);
+    QApplication::processEvents();
+    const auto& grid = tests::control<QTableView>(progress, "ProgressGrid");
+    EXPECT_GE(grid.viewport()->height(), grid.rowViewportPosition(5) + grid.rowHeight(5));
+    auto& forms = tests::control<QTableWidget>(progress, "ProgressForms");
+    forms.setFocus();
+    for (int row = 0; row < forms.rowCount(); ++row) {
+        const QRect last = forms.visualItemRect(forms.item(row, 3));
+        EXPECT_TRUE(last.top() >= 0 && last.bottom() <= forms.viewport()->height()) << row;
+        tests::press(progress, Qt::Key_Down);
+    }
 }
 
 TEST_F(Progress, AnswersAreExportedAndKeptOrNotAndDeletedOnceTheQuestionIsAnswered)
