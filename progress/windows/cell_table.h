@@ -6,9 +6,9 @@ namespace progress {
 
 class CellModel;
 
-/// Shows a grid of cells, as high as its rows where the window has room for them, and as a few of them
-/// where it has not. The headings of its columns
-/// stand in one line each, and are broken into more only where the columns need a greater width than it has.
+/// Shows a grid of cells, as high as its rows where the window has room for them, and as a few of them where
+/// it has not. The headings of its columns stand in one line each, and are broken into more only where the
+/// columns need a greater width than it has.
 class CellTable : public QTableView {
     Q_OBJECT
 

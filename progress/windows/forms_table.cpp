@@ -18,7 +18,6 @@
 
 #include <algorithm>
 #include <array>
-#include <numeric>
 #include <span>
 #include <vector>
 
@@ -39,8 +38,6 @@ constexpr int LeastLinesWished = 6;
 constexpr int MostLinesWished = 22;
 constexpr int LeastLines = 4;
 constexpr int MostLinesOfRow = 12;
-
-constexpr int GridLine = 1;
 
 // Between what stands in a column and the next one.
 constexpr int CharactersBetween = 2;
@@ -115,11 +112,9 @@ int widestIn(std::span<const int> widths, int room)
     return ordered.back();
 }
 
-static_assert(Headings.size() == FormsTable::Columns);
-
 } // namespace
 
-FormsTable::FormsTable(QWidget* parent) : QTableWidget(0, static_cast<int>(Columns), parent)
+FormsTable::FormsTable(QWidget* parent) : QTableWidget(0, static_cast<int>(Headings.size()), parent)
 {
     setEditTriggers(NoEditTriggers);
     setSelectionBehavior(SelectRows);
@@ -153,7 +148,8 @@ void FormsTable::showForms(std::vector<Form> forms)
 QSize FormsTable::sizeHint() const
 {
     const int line = fontMetrics().lineSpacing();
-    return {widthWished(), std::clamp(heightWished_, LeastLinesWished * line, MostLinesWished * line)};
+    const int height = heightAroundRows() + verticalHeader()->length();
+    return {widthWished(), std::clamp(height, LeastLinesWished * line, MostLinesWished * line)};
 }
 
 QSize FormsTable::minimumSizeHint() const
@@ -164,7 +160,7 @@ QSize FormsTable::minimumSizeHint() const
         highest = std::max(highest, rowHeight(row));
     highest = std::min(highest, MostLinesOfRow * line);
     const int bar =
-        horizontalHeader()->length() > room(width()) ? horizontalScrollBar()->sizeHint().height() : 0;
+        horizontalHeader()->length() > roomForColumns() ? horizontalScrollBar()->sizeHint().height() : 0;
     return {QTableWidget::minimumSizeHint().width(),
             std::max(LeastLines * line, heightAroundRows() + highest + bar)};
 }
@@ -189,62 +185,31 @@ void FormsTable::resizeEvent(QResizeEvent* event)
 }
 
 // Room for the scroll bar is kept even where there is none, so that the rows never break otherwise for it.
-int FormsTable::room(int width) const
+int FormsTable::roomForColumns() const
 {
-    return width - 2 * frameWidth() - roomForScrollBar(*this);
-}
-
-FormsTable::Widths FormsTable::widthsIn(int room) const
-{
-    const int character = fontMetrics().averageCharWidth();
-    Widths widths{};
-    for (std::size_t column = 0; column < widths.size(); ++column)
-        widths.at(column) = std::max(sizeHintForColumn(static_cast<int>(column)),
-                                     horizontalHeader()->sectionSizeHint(static_cast<int>(column))) +
-                            CharactersBetween * character;
-    const int widest = std::max(widestIn(widths, room), LeastCharacters * character);
-    for (int& width : widths)
-        width = std::min(width, widest);
-    return widths;
-}
-
-int FormsTable::heightOfRow(int row, const Widths& widths) const
-{
-    QStyleOptionViewItem option;
-    initViewItemOption(&option);
-    option.features |= QStyleOptionViewItem::WrapText;
-    int height = verticalHeader()->minimumSectionSize();
-    for (int column = 0; column < columnCount(); ++column) {
-        option.rect = {0, 0, widths.at(static_cast<std::size_t>(column)) - GridLine, height};
-        const QSize text = itemDelegate()->sizeHint(option, model()->index(row, column));
-        height = std::max(height, text.height() + GridLine);
-    }
-    return height;
+    return width() - 2 * frameWidth() - roomForScrollBar(*this);
 }
 
 void FormsTable::fitColumns()
 {
-    const Widths widths = widthsIn(room(width()));
-    horizontalHeader()->setStretchLastSection(std::accumulate(widths.begin(), widths.end(), 0) <=
-                                              room(width()));
+    const int character = fontMetrics().averageCharWidth();
+    std::array<int, Headings.size()> widths{};
+    for (std::size_t column = 0; column < widths.size(); ++column)
+        widths.at(column) = std::max(sizeHintForColumn(static_cast<int>(column)),
+                                     horizontalHeader()->sectionSizeHint(static_cast<int>(column))) +
+                            CharactersBetween * character;
+    const int widest = std::max(widestIn(widths, roomForColumns()), LeastCharacters * character);
+    int all = 0;
+    for (int& width : widths)
+        all += width = std::min(width, widest);
+    horizontalHeader()->setStretchLastSection(all <= roomForColumns());
     for (std::size_t column = 0; column < widths.size(); ++column)
         setColumnWidth(static_cast<int>(column), widths.at(column));
     resizeRowsToContents();
     // The header forgets the height that it had for other widths.
     horizontalHeader()->headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
-    takeHeightWished();
     updateGeometries();
     updateGeometry();
-}
-
-// In the width that it asks for: with larger type it is wider soon.
-void FormsTable::takeHeightWished()
-{
-    const Widths widths = widthsIn(room(std::max(width(), widthWished())));
-    const int most = MostLinesWished * fontMetrics().lineSpacing();
-    heightWished_ = heightAroundRows();
-    for (int row = 0; row < rowCount() && heightWished_ < most; ++row)
-        heightWished_ += heightOfRow(row, widths);
 }
 
 void FormsTable::showForm(int row, const Form& form)

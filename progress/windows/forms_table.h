@@ -4,8 +4,6 @@
 
 #include <QTableWidget>
 
-#include <array>
-#include <cstddef>
 #include <vector>
 
 namespace progress {
@@ -17,8 +15,6 @@ class FormsTable : public QTableWidget {
     Q_OBJECT
 
 public:
-    static constexpr std::size_t Columns = 4;
-
     explicit FormsTable(QWidget* parent);
 
     void showForms(std::vector<Form> forms);
@@ -33,19 +29,9 @@ protected:
 private:
     void showForm(int row, const Form& form);
     void fitColumns();
-
-    using Widths = std::array<int, Columns>;
-
-    /// What a table so wide has for its columns, and how wide they are in it.
-    int room(int width) const;
-    Widths widthsIn(int room) const;
-
+    int roomForColumns() const;
     int widthWished() const;
     int heightAroundRows() const;
-    int heightOfRow(int row, const Widths& widths) const;
-    void takeHeightWished();
-
-    int heightWished_ = 0;
 };
 
 } // namespace progress
