@@ -33,6 +33,16 @@ bool pressesAtOnce(QObject* receiver, const QEvent& event)
     return true;
 }
 
+// A list that is open would close, and leave the key to the window as well.
+bool closesOnlyWhatIsOpen(QEvent& event)
+{
+    if (event.type() != QEvent::ShortcutOverride || QApplication::activePopupWidget() == nullptr ||
+        static_cast<const QKeyEvent&>(event).key() != Qt::Key_Escape)
+        return false;
+    event.accept();
+    return true;
+}
+
 } // namespace
 
 const shell::Window* windowWithTheKeys()
@@ -49,7 +59,7 @@ KeyFilter::KeyFilter()
 
 bool KeyFilter::eventFilter(QObject* receiver, QEvent* event)
 {
-    if (pressesAtOnce(receiver, *event))
+    if (pressesAtOnce(receiver, *event) || closesOnlyWhatIsOpen(*event))
         return true;
     if (event->type() != QEvent::KeyPress)
         return false;

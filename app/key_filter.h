@@ -15,7 +15,7 @@ const shell::Window* windowWithTheKeys();
 /// program, though not in an open menu or a message. F1, Enter and Escape count once however long they are
 /// held: a key that is still down when a pause ends must not answer the next question. A letter with Alt
 /// enters no line: it is that of a menu or a button, even where the window has none or it is disabled. A
-/// button is pressed at once by its letter.
+/// button is pressed at once by its letter. Escape closes a list that is open, and not its window.
 class KeyFilter : public QObject {
     Q_OBJECT
 

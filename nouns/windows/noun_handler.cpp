@@ -10,9 +10,11 @@
 #include "shell/kit/type.h"
 #include "shell/settings.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
 #include <QEvent>
+#include <QItemSelectionModel>
 #include <QLineEdit>
 
 #include <algorithm>
@@ -95,6 +97,19 @@ std::string messageOf(NounEdit edit, int paradigm)
         .toStdString();
 }
 
+// Where none is chosen yet, the first arrow key in the opened list comes to the first paradigm.
+class ParadigmBox : public QComboBox {
+public:
+    using QComboBox::QComboBox;
+
+    void showPopup() override
+    {
+        QComboBox::showPopup();
+        if (currentIndex() < 0)
+            view()->selectionModel()->clearCurrentIndex();
+    }
+};
+
 // A text that cannot be changed stands on the window's own ground.
 void setTypable(QLineEdit& box, bool typable)
 {
@@ -118,7 +133,7 @@ NounHandler::NounHandler() : ListManager(Names)
 
 void NounHandler::makeForm()
 {
-    paradigms_ = shell::makeControl<QComboBox>(this, "NHParadigm");
+    paradigms_ = shell::makeControl<ParadigmBox>(this, "NHParadigm");
     paradigms_->setPlaceholderText(QStringLiteral("choose one"));
     form()->addControl(paradigms_, "&Paradigm");
     form()->addBoxes(this, Fields);
@@ -198,7 +213,9 @@ void NounHandler::showWhatCanBeDone()
 void NounHandler::chooseParadigm()
 {
     const int paradigm = chosenParadigm();
-    form()->box(ObliqueStem)->setEnabled(paradigm == ThirdDeclension || paradigm == ParadigmUnchosen);
+    const bool hasOwn = paradigm == ThirdDeclension || paradigm == ParadigmUnchosen;
+    form()->box(ObliqueStem)->setEnabled(hasOwn);
+    setTypable(*form()->box(ObliqueStem), hasOwn && !form()->box(Stem)->isReadOnly());
     if (paradigm == ParadigmUnchosen || hasFixedNouns(paradigm))
         showNoRoom();
     else

@@ -12,6 +12,7 @@
 #include "shell/settings.h"
 #include "shell/vowel_marks.h"
 
+#include <QApplication>
 #include <QHeaderView>
 #include <QResizeEvent>
 #include <QScrollBar>
@@ -33,10 +34,12 @@ constexpr int LeastCharacters = 16;
 
 constexpr int CharactersWished = 110;
 
-// With the headings; rows are seen whole up to the greatest number, even on a low screen.
+// With the headings.
 constexpr int LeastLinesWished = 6;
 constexpr int MostLinesWished = 22;
 constexpr int LeastLines = 4;
+
+// Up to so many a row is seen whole, even on a low screen.
 constexpr int MostLinesOfRow = 12;
 
 // Between what stands in a column and the next one.
@@ -94,7 +97,7 @@ QString writtenInstead(const Form& form)
     QStringList texts;
     for (const std::string& written : form.wrongAnswers)
         texts << (written.empty() ? QStringLiteral("–") : withBlanksSeen(answered(form, written)));
-    return texts.join(QStringLiteral(", "));
+    return texts.join(QStringLiteral("; "));
 }
 
 // The width that none may pass so that all of them fit into the room.
@@ -159,8 +162,7 @@ QSize FormsTable::minimumSizeHint() const
     for (int row = 0; row < rowCount(); ++row)
         highest = std::max(highest, rowHeight(row));
     highest = std::min(highest, MostLinesOfRow * line);
-    const int bar =
-        horizontalHeader()->length() > roomForColumns() ? horizontalScrollBar()->sizeHint().height() : 0;
+    const int bar = horizontalHeader()->stretchLastSection() ? 0 : horizontalScrollBar()->sizeHint().height();
     return {QTableWidget::minimumSizeHint().width(),
             std::max(LeastLines * line, heightAroundRows() + highest + bar)};
 }
@@ -209,7 +211,9 @@ void FormsTable::fitColumns()
     // The header forgets the height that it had for other widths.
     horizontalHeader()->headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
     updateGeometries();
-    updateGeometry();
+    // A window that moved under a pressed button of the mouse would choose another cell.
+    if (QApplication::mouseButtons() == Qt::NoButton)
+        updateGeometry();
 }
 
 void FormsTable::showForm(int row, const Form& form)

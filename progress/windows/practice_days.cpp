@@ -37,8 +37,9 @@ constexpr int WeekdayOfDayNought = 3;
 constexpr std::array Months = {"I", "II", "III", "IV", "V", "VI", "VII", "VIII", "IX", "X", "XI", "XII"};
 
 // clang-format off
-//                                   English                     French                           Italian German                       Spanish                         Latin
-constexpr shell::LanguageTexts OfDay{"%1: %2 answers, %3 right", "%1 : %2 réponses, %3 justes",   {},     "%1: %2 Antworten, %3 richtig", "%1: %2 respuestas, %3 bien", "%1: %2 responsa, %3 recta"};
+//                                      English                     French                         Italian German                         Spanish                         Latin
+constexpr shell::LanguageTexts OneOfDay{"%1: %2 answer, %3 right",  "%1 : %2 réponse, %3 juste",   {},     "%1: %2 Antwort, %3 richtig",   "%1: %2 respuesta, %3 bien",    "%1: %2 responsum, %3 rectum"};
+constexpr shell::LanguageTexts OfDay   {"%1: %2 answers, %3 right", "%1 : %2 réponses, %3 justes", {},     "%1: %2 Antworten, %3 richtig", "%1: %2 respuestas, %3 bien",   "%1: %2 responsa, %3 recta"};
 
 // The names of months are English ones.
 //                                        English        French        Italian German        Spanish       Latin
@@ -102,7 +103,7 @@ void PracticeDays::choose(std::size_t day)
 
 QString PracticeDays::inWords(const DayOfPractice& day) const
 {
-    return shell::fromUtf8(OfDay)
+    return shell::fromUtf8(day.share.answered == 1 ? OneOfDay : OfDay)
         .arg(QLocale::c().toString(dateOf(day.day), shell::fromUtf8(DateFormat)))
         .arg(day.share.answered)
         .arg(day.share.right);

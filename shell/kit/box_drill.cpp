@@ -125,6 +125,7 @@ void BoxDrill::showScore(const std::string& text)
 void BoxDrill::greyAnsweredBox()
 {
     askedBox().lookAnswered();
+    askedBox().setCursorPosition(0);
 }
 
 void BoxDrill::emptyBoxes()

@@ -20,7 +20,8 @@ public:
     void bringIntoView(QWidget& shown);
 
 Q_SIGNALS:
-    /// The content, which has changed or is about to be seen, is higher than its room by so many pixels.
+    /// The content, which has changed or is about to be seen, asks for so many pixels more than its room is
+    /// high.
     void roomMissing(int pixels);
 
 protected:

@@ -1,7 +1,6 @@
 #include "shell/kit/controls.h"
 
 #include "shell/kit/choice_list.h"
-#include "shell/kit/layout.h"
 #include "shell/kit/measure.h"
 #include "shell/kit/text.h"
 #include "shell/kit/type.h"

@@ -1,5 +1,7 @@
 #include "shell/kit/indicator_style.h"
 
+#include <QAbstractItemView>
+#include <QPainter>
 #include <QStyleOptionButton>
 #include <QWidget>
 
@@ -93,6 +95,16 @@ void IndicatorStyle::drawFocus(const QStyleOptionFocusRect& focus, QPainter* pai
     QProxyStyle::drawPrimitive(PE_FrameFocusRect, &plain, painter, widget);
 }
 
+// Of several lists on a window the one that has the focus is framed as a box to write in is.
+void IndicatorStyle::drawFrameOfFocus(const QStyleOption& frame, QPainter* painter)
+{
+    painter->save();
+    painter->setPen(frame.palette.color(QPalette::Highlight));
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRect(frame.rect.adjusted(0, 0, -1, -1));
+    painter->restore();
+}
+
 // Styles draw the outline by a shade darker than the window, which is not to be seen beside a dark one.
 void IndicatorStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                    const QWidget* widget) const
@@ -100,6 +112,11 @@ void IndicatorStyle::drawPrimitive(PrimitiveElement element, const QStyleOption*
     const auto* const focus = qstyleoption_cast<const QStyleOptionFocusRect*>(option);
     if (element == PE_FrameFocusRect && focus != nullptr) {
         drawFocus(*focus, painter, widget);
+        return;
+    }
+    if (element == PE_Frame && qobject_cast<const QAbstractItemView*>(widget) != nullptr &&
+        widget->hasFocus()) {
+        drawFrameOfFocus(*option, painter);
         return;
     }
     const auto* const indicator = qstyleoption_cast<const QStyleOptionButton*>(option);

@@ -35,6 +35,7 @@ void RecordForm::addControl(QWidget* control, std::string_view caption, std::str
     addWidget(control, lines_++, 1);
 }
 
+// Of a long text the beginning is seen.
 void RecordForm::show(std::span<const std::string_view> texts)
 {
     for (std::size_t i = 0; i < texts.size(); ++i) {

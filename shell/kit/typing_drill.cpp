@@ -44,9 +44,15 @@ std::optional<LanguageTexts> textsOf(FaultKind kind)
     return {};
 }
 
+// Blanks at an end, and one beside another, would not be shown; at any other a long answer goes on in the
+// next line.
 QString shown(std::string_view letters)
 {
-    return fromUtf8(letters).toHtmlEscaped().replace(u' ', QStringLiteral("&nbsp;"));
+    QString text = fromUtf8(letters);
+    for (qsizetype i = 0; i < text.size(); ++i)
+        if (text.at(i) == u' ' && (i == 0 || i + 1 == text.size() || text.at(i + 1) == u' '))
+            text[i] = QChar::Nbsp;
+    return text.toHtmlEscaped().replace(QChar(QChar::Nbsp), QStringLiteral("&nbsp;"));
 }
 
 // The answer with the letter that differs underlined; where it stops too early, the place behind it.
@@ -89,6 +95,7 @@ void TypingDrill::revealAnswer()
     clearWhy();
     askedBox().lookRevealed();
     askedBox().setText(fromUtf8(answer()));
+    askedBox().setCursorPosition(0);
     askedBox().repaint();
     answerShown();
     if (!pauseWithDrill())

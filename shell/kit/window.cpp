@@ -107,7 +107,7 @@ void Window::showInFront()
         takeSize(growth_);
     winId();
     standAboveModal();
-    if (!isVisible())
+    if (!isVisible() && !isMaximized())
         centreAsShown();
     show();
     raise();
@@ -135,7 +135,8 @@ bool Window::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Expose && windowHandle()->isExposed()) {
         watched->removeEventFilter(this);
-        centreOnScreen();
+        if (!isMaximized())
+            centreOnScreen();
     }
     return false;
 }

@@ -17,6 +17,16 @@ namespace {
 // Of the width more, as a frame needs less at its sides than above and below.
 constexpr double ShareOfWidth = 0.97;
 
+// A hidden window lays nothing out of its own accord when what was written into it asks for other room.
+void layOutUpFrom(QWidget& content)
+{
+    for (QWidget* above = &content; above != nullptr; above = above->parentWidget()) {
+        if (above->layout() != nullptr)
+            above->layout()->activate();
+        above->updateGeometry();
+    }
+}
+
 } // namespace
 
 // A window larger than the screen would hide its buttons.
@@ -61,7 +71,6 @@ void Window::growInHeight(int pixels)
         growTo(size() + QSize(0, pixels));
 }
 
-// A hidden window lays nothing out of its own accord when what was written into it asks for more room.
 void Window::growFor(QWidget& content)
 {
     if (!isAsFitted())
@@ -70,11 +79,7 @@ void Window::growFor(QWidget& content)
         forgetSize();
         return;
     }
-    for (QWidget* above = &content; above != nullptr; above = above->parentWidget()) {
-        if (above->layout() != nullptr)
-            above->layout()->activate();
-        above->updateGeometry();
-    }
+    layOutUpFrom(content);
     growTo(sizeHint());
 }
 
@@ -112,6 +117,14 @@ bool Window::isAsFitted() const
 {
     const QSize inNormalState = maximised_ ? normalGeometry().size() : size();
     return fitted_.isValid() && inNormalState == fitted_.expandedTo(minimumSize());
+}
+
+void Window::fitAnew(QWidget& content)
+{
+    if (!isAsFitted())
+        return;
+    layOutUpFrom(content);
+    forgetSize();
 }
 
 void Window::forgetSize()

@@ -252,7 +252,7 @@ bool GuideText::focusNextPrevChild(bool next)
 {
     QTextCursor place = readersPlace();
     if (!place.hasSelection()) {
-        while (cursorRect(place).top() < 0 && place.movePosition(QTextCursor::Down)) {
+        while (cursorRect(place).top() < 0 && place.movePosition(QTextCursor::NextCharacter)) {
         }
         const int top = place.position();
         place.setPosition(std::max(0, top - 1));

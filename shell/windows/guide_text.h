@@ -32,7 +32,8 @@ public:
     bool findPrevious(const QString& words);
 
 protected:
-    /// Goes to the next link from what is marked, else from the top of what is shown.
+    /// Goes to the next link from what is marked, else from the top of what is shown; back from the first to
+    /// the last.
     bool focusNextPrevChild(bool next) override;
 
     /// The hyphens of endings, which are shown so that they stay with their letters, are copied as plain

@@ -132,6 +132,8 @@ void ReadingsPanel::showReadings()
     readings_->clear();
     readings_->addItems(rows_);
     fitHeight();
+    readings_->setFrameShape(rows_.isEmpty() ? QFrame::NoFrame : QFrame::StyledPanel);
+    readings_->viewport()->setAutoFillBackground(!rows_.isEmpty());
     readings_->setVisible(roomStays || !rows_.isEmpty());
 }
 

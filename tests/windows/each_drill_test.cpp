@@ -159,7 +159,7 @@ TEST_F(EveryDrill, HasRoomForItsHeadingAndForARemarkOfTwoLinesAtOnce)
         const int line = why.fontMetrics().lineSpacing();
         EXPECT_GE(why.height(), 2 * line) << drill.window.toStdString();
         EXPECT_EQ(window.size(), size);
-        EXPECT_FALSE(bar.isVisible()) << drill.window.toStdString();
+        EXPECT_FALSE(bar.isVisible()) << drill.window.toStdString() << row;
     }
 }
 

@@ -191,7 +191,16 @@ TEST_F(Managers, CopyAWordAsALineOfItsFileWithMarksThatAreNotShown)
     chooseWord(2, 0);
     clickAdd();
     EXPECT_EQ(control<QComboBox>(*manager).currentIndex(), -1);
-    control<QComboBox>(*manager).setFocus();
+    auto& paradigms = control<QComboBox>(*manager);
+    paradigms.setFocus();
+    paradigms.showPopup();
+    QTest::keyClick(paradigms.view(), Qt::Key_Escape);
+    QApplication::processEvents();
+    EXPECT_TRUE(manager->isVisible() && !paradigms.view()->isVisible());
+    paradigms.showPopup();
+    QTest::keyClick(paradigms.view(), Qt::Key_Down);
+    QTest::keyClick(paradigms.view(), Qt::Key_Return);
+    EXPECT_EQ(paradigms.currentIndex(), 0);
     press(*manager, Qt::Key_End);
     clickAdd();
     EXPECT_EQ(copied(), ", fi:ni, , , , ");

@@ -86,7 +86,7 @@ TEST_F(Progress, AGridHasTheShareOfEachCellAndACellItsWorstFormFirstWithWhatWasW
     QStringList first;
     for (int column = 0; column < forms.columnCount(); ++column)
         first << withPlainBlanks(forms.item(0, column)->text());
-    EXPECT_EQ(first.join('|'), "amare, Present Indicative, 3rd Person Sing|40 %|amat|amabt, ambat");
+    EXPECT_EQ(first.join('|'), "amare, Present Indicative, 3rd Person Sing|40 %|amat|amabt; ambat");
     EXPECT_EQ(forms.item(1, 1)->text(), "100 %");
     const int line = forms.rowHeight(0);
     progress.resize(300, 600);

@@ -365,16 +365,28 @@ TEST_F(VcabWindows, ShowAQuestionOfSeveralLinesWholeAndWithoutAHintInTheWholeWid
     start();
     shell::settings.MainWindowState = 0;
     QWidget& tester = openTester("pater,father,patris m.\nurbs antiqua et magna,city,urbis f.\n"
-                                 "cum,with> in the company of; when,+ abl.\nurbs antiqua et,city,");
+                                 "honorificabilitudinitatibus,honour,pl.\nurbs antiqua et,city,");
     const auto& shownWord = control<QLabel>(tester, "VQuestion");
-    for (const char* const meaning : {"father", "city", "with, in the company of; when"}) {
+    const int height = tester.height();
+    for (const char* const meaning : {"father", "city", "honour"}) {
         answer(tester, "x");
         QApplication::processEvents();
         EXPECT_GE(shownWord.height(), shownWord.heightForWidth(shownWord.width())) << meaning;
+        EXPECT_EQ(shownWord.height() > shownWord.fontMetrics().lineSpacing(), meaning[0] != 'f') << meaning;
         EXPECT_LT(shownWord.width(), line(tester, "VcabAnswer").width());
         answer(tester, meaning);
     }
     EXPECT_EQ(shownWord.width(), line(tester, "VcabAnswer").width());
+    EXPECT_GT(tester.height(), height);
+    writeFile("a.lst", "pater,father,patris m.");
+    choose(tester, "VcabTesterFileOpen");
+    doubleClickRow(list(shown("VcabLoader"), "VcabFile"), 0);
+    QApplication::processEvents();
+    EXPECT_EQ(tester.height(), height);
+    choose(tester, "VcabtesterOptionsPromptLatin");
+    EXPECT_EQ(question(tester) + label(tester, "VHint"), "father");
+    answer(tester, "puer");
+    EXPECT_EQ(label(tester, "VHint"), "patris m.");
 }
 
 TEST_F(VcabWindows, WaitWhereNoWordIsLeftAndStartAfreshEachTime)

@@ -30,7 +30,7 @@ using shell::LanguageTexts;
 
 namespace {
 
-constexpr QSize LargestBlock{100, 32};
+constexpr QSize LargestBlock{150, 32};
 constexpr int WordCharacters = 22;
 
 // The boxes of the form, in their order.

@@ -153,6 +153,7 @@ void Vcabtester::comeBack()
         beginTest();
     setCaptions();
     showTheWord();
+    fitAnew(*question_);
     showInMainWindowState();
     focusQuestion();
 }
@@ -160,7 +161,7 @@ void Vcabtester::comeBack()
 void Vcabtester::showTheWord()
 {
     const bool asked = vocabularyTester.WordIsAsked == platform::FlagTrue;
-    question_->setText(asked ? questionShown() : shell::fromUtf8(NoWord));
+    question_->showText(asked ? questionShown() : shell::fromUtf8(NoWord));
     hint_->setVisible(!hintText().empty());
     showHint(hintGivesAnswerAway() ? std::string() : hintText());
     if (asked)
@@ -177,7 +178,7 @@ void Vcabtester::showTheWord()
 
 void Vcabtester::showHint(const std::string& hint)
 {
-    hint_->setText(shell::latinText(hint));
+    hint_->showText(shell::latinText(hint));
     answer_->setAccessibleDescription(
         hint.empty() ? question_->text() : question_->text() + QStringLiteral(", ") + hint_->text());
     hint_->repaint();

@@ -19,8 +19,9 @@ protected:
     bool takesHintKeys() const override { return false; }
 };
 
-/// A label for a text of a list, shown letter by letter as it stands, in as many lines as it takes. It asks
-/// for room for its longest word and for all its lines, within reason.
+/// A label for a text of a list, shown letter by letter as it stands, in as many lines as it takes; a word
+/// that is too long for a line is broken. It asks for room for its longest word and for all its lines, within
+/// reason.
 class WordLabel : public QLabel {
     Q_OBJECT
 
@@ -31,12 +32,25 @@ public:
         setWordWrap(true);
     }
 
+    void showText(const QString& text)
+    {
+        constexpr QChar mayBreak(0x200B);
+        QString broken;
+        qsizetype lengthOfWord = 0;
+        for (const QChar letter : text) {
+            lengthOfWord = letter.isSpace() ? 0 : lengthOfWord + 1;
+            if (lengthOfWord > FirmLetters)
+                broken += mayBreak;
+            broken += letter;
+        }
+        setText(broken);
+    }
+
     QSize minimumSizeHint() const override
     {
-        constexpr int longestWord = 24;
         constexpr int mostLines = 5;
         const int room =
-            std::min(QLabel::minimumSizeHint().width(), longestWord * fontMetrics().averageCharWidth());
+            std::min(QLabel::minimumSizeHint().width(), LongestWord * fontMetrics().averageCharWidth());
         const int height = heightForWidth(std::max(room, width()));
         return {room, std::min(height, mostLines * fontMetrics().lineSpacing())};
     }
@@ -53,6 +67,10 @@ protected:
     }
 
     void mouseDoubleClickEvent(QMouseEvent* /*event*/) override { Q_EMIT doubleClicked(); }
+
+private:
+    static constexpr int FirmLetters = 18;
+    static constexpr int LongestWord = 24;
 };
 
 } // namespace vocabulary
