@@ -28,6 +28,9 @@ using verbs::currentParadigm;
 namespace {
 
 constexpr QSize LargestBlock{96, shell::AsItsLines};
+
+// As long as aedificatus -a -um essem.
+constexpr int CharactersOfForm = 28;
 constexpr int PersonsOfNumber = 3;
 constexpr std::array PersonRows = {"FirstPerson", "SecondPerson", "ThirdPerson"};
 
@@ -64,6 +67,7 @@ void Conjugation::makeControls()
     verb_ = shell::makeHeading(this, "VerbLabel", shell::QuestionType);
     for (std::size_t i = 0; i < glosses_.size(); ++i) {
         addBox(this, QStringLiteral("ConjText%1").arg(i));
+        shell::setLeastWidth(box(static_cast<int>(i)), CharactersOfForm);
         glosses_.at(i) = makeLabel(this, QStringLiteral("Ctransl%1").arg(i), shell::NoteType);
         glosses_.at(i)->setWordWrap(true);
     }

@@ -69,7 +69,7 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* /*event*/) override { Q_EMIT doubleClicked(); }
 
 private:
-    static constexpr int FirmLetters = 18;
+    static constexpr int FirmLetters = 14;
     static constexpr int LongestWord = 24;
 };
 
