@@ -27,10 +27,10 @@ using verbs::currentParadigm;
 
 namespace {
 
-constexpr QSize LargestBlock{96, shell::AsItsLines};
+constexpr QSize LargestBlock{108, shell::AsItsLines};
 
 // As long as aedificatus -a -um essem.
-constexpr int CharactersOfForm = 28;
+constexpr int CharactersOfForm = 27;
 constexpr int PersonsOfNumber = 3;
 constexpr std::array PersonRows = {"FirstPerson", "SecondPerson", "ThirdPerson"};
 
