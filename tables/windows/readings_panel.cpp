@@ -131,8 +131,8 @@ void ReadingsPanel::showReadings()
     const QSignalBlocker quiet(readings_);
     readings_->clear();
     readings_->addItems(rows_);
-    fitHeight();
     readings_->setFrameShape(rows_.isEmpty() ? QFrame::NoFrame : QFrame::StyledPanel);
+    fitHeight();
     readings_->viewport()->setAutoFillBackground(!rows_.isEmpty());
     readings_->setVisible(roomStays || !rows_.isEmpty());
 }

@@ -129,6 +129,8 @@ TEST_F(Tables, TellAllThatAFormCanBeAndShowItInItsTable)
     tests::fill(line(window, "TablesForm"), " AMĒT");
     EXPECT_EQ(tests::rows(readings),
               QStringList{"amet: amare, 3rd Person Sing, First Conjugation, Present Subjunctive"});
+    tests::fill(line(window, "TablesForm"), "puella");
+    EXPECT_EQ(readings.viewport()->height(), 2 * readings.sizeHintForRow(0));
     tests::fill(line(window, "TablesForm"), "reges");
     ASSERT_EQ(readings.count(), 3);
     EXPECT_EQ(readings.viewport()->height(), 3 * readings.sizeHintForRow(0));
