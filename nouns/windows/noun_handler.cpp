@@ -290,7 +290,10 @@ void NounHandler::addNewRow()
     if (words()->count() == newRow)
         words()->addItem(shell::fromUtf8(NewItem));
     words()->setCurrentRow(newRow);
-    form()->box(Stem)->setFocus();
+    if (chosenParadigm() == ParadigmUnchosen)
+        paradigms_->setFocus();
+    else
+        form()->box(Stem)->setFocus();
 }
 
 void NounHandler::storeNewNoun()

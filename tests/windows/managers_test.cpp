@@ -192,7 +192,7 @@ TEST_F(Managers, CopyAWordAsALineOfItsFileWithMarksThatAreNotShown)
     clickAdd();
     EXPECT_EQ(control<QComboBox>(*manager).currentIndex(), -1);
     auto& paradigms = control<QComboBox>(*manager);
-    paradigms.setFocus();
+    EXPECT_TRUE(paradigms.hasFocus());
     paradigms.showPopup();
     QTest::keyClick(paradigms.view(), Qt::Key_Escape);
     QApplication::processEvents();
