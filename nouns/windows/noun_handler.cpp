@@ -115,6 +115,7 @@ void setTypable(QLineEdit& box, bool typable)
 {
     box.setReadOnly(!typable);
     QPalette colours = QApplication::palette(&box);
+    colours.setBrush(QPalette::Disabled, QPalette::Base, colours.window());
     if (!typable)
         colours.setBrush(QPalette::Base, colours.window());
     box.setPalette(colours);
@@ -213,9 +214,7 @@ void NounHandler::showWhatCanBeDone()
 void NounHandler::chooseParadigm()
 {
     const int paradigm = chosenParadigm();
-    const bool hasOwn = paradigm == ThirdDeclension || paradigm == ParadigmUnchosen;
-    form()->box(ObliqueStem)->setEnabled(hasOwn);
-    setTypable(*form()->box(ObliqueStem), hasOwn && !form()->box(Stem)->isReadOnly());
+    form()->box(ObliqueStem)->setEnabled(paradigm == ThirdDeclension || paradigm == ParadigmUnchosen);
     if (paradigm == ParadigmUnchosen || hasFixedNouns(paradigm))
         showNoRoom();
     else

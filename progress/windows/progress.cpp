@@ -192,8 +192,10 @@ void Progress::showGrid()
         part->setVisible(worst.isValid());
     grid_->setAccessibleName(kind_->currentText());
     grid_->fitCells();
-    grid_->setCurrentIndex(worst);
-    showForms();
+    if (grid_->currentIndex() == worst)
+        showForms();
+    else
+        grid_->setCurrentIndex(worst);
 }
 
 void Progress::showForms()

@@ -1,18 +1,15 @@
 #pragma once
 
+#include "shell/kit/text.h"
+
 #include <QString>
 
 namespace progress {
 
-/// What was written, with the blanks seen that a reader would miss: before it, behind it, or one more within.
-inline QString withBlanksSeen(QString written)
+/// What was written, with all its blanks seen.
+inline QString withBlanksSeen(const QString& written)
 {
-    for (qsizetype i = 0; i < written.size(); ++i) {
-        const bool isAtAnEnd = i == 0 || i == written.size() - 1 || written.at(i + 1) == u' ';
-        if (written.at(i) == u' ' && isAtAnEnd)
-            written[i] = u'␣';
-    }
-    return written;
+    return shell::withUnseenBlanksAs(written, u'␣');
 }
 
 /// What was asked, whose last part no line breaks: a person, or a case with its number.

@@ -88,9 +88,8 @@ QSize ContentArea::leastSize(int width) const
 void ContentArea::askForRoom()
 {
     const QSize room = maximumViewportSize();
-    const QLayout* const layout = widget()->layout();
-    const bool broken = layout != nullptr && layout->hasHeightForWidth();
-    const int asked = broken ? layout->heightForWidth(room.width()) : widget()->sizeHint().height();
+    const bool breaks = widget()->hasHeightForWidth();
+    const int asked = breaks ? widget()->heightForWidth(room.width()) : widget()->sizeHint().height();
     const int missing = asked - room.height();
     if (missing > 0)
         Q_EMIT roomMissing(missing);

@@ -28,6 +28,16 @@ bool isDark(const QPalette& palette)
     return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
 }
 
+// Of several lists on a window the one that has the focus is framed as a box to write in is.
+void drawFrameOfFocus(const QStyleOption& frame, QPainter& painter)
+{
+    painter.save();
+    painter.setPen(frame.palette.color(QPalette::Highlight));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(frame.rect.adjusted(0, 0, -1, -1));
+    painter.restore();
+}
+
 } // namespace
 
 IndicatorStyle::IndicatorStyle(QStyle* style) : QProxyStyle(style) {}
@@ -95,16 +105,6 @@ void IndicatorStyle::drawFocus(const QStyleOptionFocusRect& focus, QPainter* pai
     QProxyStyle::drawPrimitive(PE_FrameFocusRect, &plain, painter, widget);
 }
 
-// Of several lists on a window the one that has the focus is framed as a box to write in is.
-void IndicatorStyle::drawFrameOfFocus(const QStyleOption& frame, QPainter* painter)
-{
-    painter->save();
-    painter->setPen(frame.palette.color(QPalette::Highlight));
-    painter->setBrush(Qt::NoBrush);
-    painter->drawRect(frame.rect.adjusted(0, 0, -1, -1));
-    painter->restore();
-}
-
 // Styles draw the outline by a shade darker than the window, which is not to be seen beside a dark one.
 void IndicatorStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                    const QWidget* widget) const
@@ -116,7 +116,7 @@ void IndicatorStyle::drawPrimitive(PrimitiveElement element, const QStyleOption*
     }
     if (element == PE_Frame && qobject_cast<const QAbstractItemView*>(widget) != nullptr &&
         widget->hasFocus()) {
-        drawFrameOfFocus(*option, painter);
+        drawFrameOfFocus(*option, *painter);
         return;
     }
     const auto* const indicator = qstyleoption_cast<const QStyleOptionButton*>(option);

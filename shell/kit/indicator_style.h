@@ -28,7 +28,6 @@ public:
                        const QWidget* widget) const override;
 
 private:
-    static void drawFrameOfFocus(const QStyleOption& frame, QPainter* painter);
     void drawFocus(const QStyleOptionFocusRect& focus, QPainter* painter, const QWidget* widget) const;
 };
 

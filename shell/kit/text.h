@@ -21,4 +21,16 @@ inline QString fromUtf8(const LanguageTexts& texts)
     return fromUtf8(texts.currentOrDesigned());
 }
 
+/// A text with another sign for the blanks that a reader would miss: before it, behind it, or one more
+/// within.
+inline QString withUnseenBlanksAs(QString text, QChar sign)
+{
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const bool isUnseen = i == 0 || i == text.size() - 1 || text.at(i + 1) == u' ';
+        if (text.at(i) == u' ' && isUnseen)
+            text[i] = sign;
+    }
+    return text;
+}
+
 } // namespace shell

@@ -44,15 +44,10 @@ std::optional<LanguageTexts> textsOf(FaultKind kind)
     return {};
 }
 
-// Blanks at an end, and one beside another, would not be shown; at any other a long answer goes on in the
-// next line.
+// At the other blanks a long answer goes on in the next line.
 QString shown(std::string_view letters)
 {
-    QString text = fromUtf8(letters);
-    for (qsizetype i = 0; i < text.size(); ++i)
-        if (text.at(i) == u' ' && (i == 0 || i + 1 == text.size() || text.at(i + 1) == u' '))
-            text[i] = QChar::Nbsp;
-    return text.toHtmlEscaped().replace(QChar(QChar::Nbsp), QStringLiteral("&nbsp;"));
+    return withUnseenBlanksAs(fromUtf8(letters), QChar::Nbsp).toHtmlEscaped();
 }
 
 // The answer with the letter that differs underlined; where it stops too early, the place behind it.

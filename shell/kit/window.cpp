@@ -107,7 +107,7 @@ void Window::showInFront()
         takeSize(growth_);
     winId();
     standAboveModal();
-    if (!isVisible() && !isMaximized())
+    if (!isVisible())
         centreAsShown();
     show();
     raise();
@@ -121,9 +121,11 @@ void Window::centreAsShown()
 }
 
 // A window that was never shown has no frame yet. Its place is set without the frame, as a widget may hear of
-// its new frame late.
+// its new frame late. A place of its own would take a maximised window out of that state.
 void Window::centreOnScreen()
 {
+    if (isMaximized())
+        return;
     const QMargins frame = windowHandle()->frameMargins();
     QRect place = QRect({}, size()).marginsAdded(frame);
     place.moveCenter(screen()->geometry().center());
@@ -135,8 +137,7 @@ bool Window::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Expose && windowHandle()->isExposed()) {
         watched->removeEventFilter(this);
-        if (!isMaximized())
-            centreOnScreen();
+        centreOnScreen();
     }
     return false;
 }

@@ -57,8 +57,8 @@ protected:
     void fitContent();
     void forgetSize();
 
-    /// Lets a window that grew for its content take the size that it asks for when it is shown next, unless
-    /// the learner gave it another.
+    /// Lets a window that grew for its content take the size that it asks for now when it is shown next,
+    /// unless the learner gave it another.
     void fitAnew(QWidget& content);
 
     /// Lets the window grow to the size that its content asks for now, when it is normal or becomes so,

@@ -198,8 +198,9 @@ bool GuideText::findNext(const QString& words)
 
 bool GuideText::findFrom(int place, const QString& words)
 {
-    const QTextCursor found = document()->find(patternOf(words), place);
-    return mark(found.isNull() ? document()->find(patternOf(words)) : found);
+    const QRegularExpression pattern = patternOf(words);
+    const QTextCursor found = document()->find(pattern, place);
+    return mark(found.isNull() ? document()->find(pattern) : found);
 }
 
 bool GuideText::findPrevious(const QString& words)

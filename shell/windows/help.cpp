@@ -91,8 +91,7 @@ bool standsAtRight(int roomAtLeft, int roomAtRight, int leastWidth)
 }
 
 // At the side of the window where there is more room, as wide as that allows. Where it is too narrow, at that
-// edge of the screen, so that it covers least or
-// nearly so.
+// edge of the screen, so that it covers least or nearly so.
 QRect placeBeside(const QRect& window, const QRect& screen, QSize size, int leastWidth)
 {
     const int left = window.left() - screen.left();

@@ -31,6 +31,7 @@ constexpr QSize LargestBlock{108, shell::AsItsLines};
 
 // As long as aedificatus -a -um essem.
 constexpr int CharactersOfForm = 27;
+
 constexpr int PersonsOfNumber = 3;
 constexpr std::array PersonRows = {"FirstPerson", "SecondPerson", "ThirdPerson"};
 
