@@ -9,6 +9,7 @@ namespace {
 
 constexpr char Mark = ':';
 constexpr char Blank = ' ';
+constexpr std::string_view OtherGenders = " -a -um";
 
 bool goesOn(char byte)
 {
@@ -42,6 +43,12 @@ std::string without(std::string_view text, char left)
     return rest;
 }
 
+bool isWithoutGenders(std::string_view text, std::string_view whole)
+{
+    const auto place = whole.find(OtherGenders);
+    return place != std::string_view::npos && text == std::string(whole).erase(place, OtherGenders.size());
+}
+
 FaultKind kindOfMarks(std::string_view answer, std::string_view right)
 {
     const auto given = std::ranges::count(answer, Mark);
@@ -57,6 +64,10 @@ FaultKind kindOf(std::string_view answer, std::string_view right)
         return FaultKind::Capital;
     if (answer.size() > right.size() && without(answer, Blank) == without(right, Blank))
         return FaultKind::BlankTooMany;
+    if (isWithoutGenders(answer, right))
+        return FaultKind::GendersMissing;
+    if (isWithoutGenders(right, answer))
+        return FaultKind::GendersTooMany;
     if (without(answer, Mark) == without(right, Mark))
         return kindOfMarks(answer, right);
     return FaultKind::Other;

@@ -8,11 +8,13 @@ namespace shell {
 /// Why an answer was wrong, where it is plain.
 enum class FaultKind {
     Other,
-    Capital,      ///< only capitals differ
-    BlankTooMany, ///< but for blanks it is right, and it has more of them
-    MarkMissing,  ///< but for the marks of long vowels it is right, and it has fewer of them
-    MarkTooMany,  ///< likewise, and it has more
-    MarkMoved,    ///< likewise, and it has as many
+    Capital,        ///< only capitals differ
+    BlankTooMany,   ///< but for blanks it is right, and it has more of them
+    GendersMissing, ///< but for " -a -um" it is right, and it lacks them
+    GendersTooMany, ///< likewise, and it has them
+    MarkMissing,    ///< but for the marks of long vowels it is right, and it has fewer of them
+    MarkTooMany,    ///< likewise, and it has more
+    MarkMoved,      ///< likewise, and it has as many
 };
 
 /// The first letter of a wrong answer that differs: where it begins, and how many bytes it has; none, at the
