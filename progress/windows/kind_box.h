@@ -27,18 +27,10 @@ protected:
     {
         if (shell::isEnter(*event))
             Q_EMIT chosen();
-        else if (isLetter(*event))
+        else if (shell::writes(*event) && event->key() != Qt::Key_Space)
             Q_EMIT letterTyped(event);
         else
             QComboBox::keyPressEvent(event);
-    }
-
-private:
-    static bool isLetter(const QKeyEvent& key)
-    {
-        constexpr Qt::KeyboardModifiers command = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
-        return !(key.modifiers() & command) && !key.text().isEmpty() && key.text().front().isPrint() &&
-               key.key() != Qt::Key_Space;
     }
 };
 

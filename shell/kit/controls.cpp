@@ -126,4 +126,11 @@ bool isEnter(const QKeyEvent& key)
     return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
 }
 
+bool writes(const QKeyEvent& key)
+{
+    constexpr Qt::KeyboardModifiers thirdLevel = Qt::ControlModifier | Qt::AltModifier;
+    const Qt::KeyboardModifiers command = key.modifiers() & (thirdLevel | Qt::MetaModifier);
+    return (!command || command == thirdLevel) && !key.text().isEmpty() && key.text().front().isPrint();
+}
+
 } // namespace shell

@@ -63,4 +63,8 @@ void onEnter(QWidget& control, const std::function<void()>& step);
 /// Whether a key is one of the two Enter keys.
 bool isEnter(const QKeyEvent& key);
 
+/// Whether a key writes something. With Ctrl, Alt or Meta none does; Ctrl and Alt together are the third
+/// level of some keyboards.
+bool writes(const QKeyEvent& key);
+
 } // namespace shell

@@ -15,12 +15,6 @@ namespace {
 
 constexpr QChar LineEnd = u'\n';
 
-bool isLetter(const QKeyEvent& key)
-{
-    constexpr Qt::KeyboardModifiers command = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
-    return !(key.modifiers() & command) && !key.text().isEmpty() && key.text().front().isPrint();
-}
-
 bool wouldPressButton(const QKeyEvent& key)
 {
     return (isEnter(key) || key.key() == Qt::Key_Space) &&
@@ -65,7 +59,7 @@ bool TypedAhead::keeps(const QKeyEvent& key)
         keys_.chop(1);
         return true;
     }
-    if (!isLetter(key))
+    if (!writes(key))
         return false;
     keep(key.text());
     return true;
