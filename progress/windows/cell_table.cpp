@@ -20,7 +20,8 @@ namespace {
 // On a low screen so many rows are seen at the least.
 constexpr int LeastRows = 6;
 
-// To how many characters the lines of headings are shortened, until the columns fit.
+// To how many characters the lines of headings are shortened, until the columns fit. The table asks for the
+// room of the first, and leaves headings whole where it has more.
 constexpr std::array LinesOfHeadings = {14, 12};
 
 } // namespace
@@ -48,7 +49,7 @@ void CellTable::fitCells()
 QSize CellTable::sizeHint() const
 {
     const int headings = verticalHeader()->sizeHint().width();
-    return {2 * frameWidth() + headings + unbroken_ + roomForScrollBar(*this) + shell::SmallSpace,
+    return {2 * frameWidth() + headings + widthWished_ + roomForScrollBar(*this) + shell::SmallSpace,
             heightOfRows(verticalHeader()->count())};
 }
 
@@ -83,9 +84,11 @@ int CellTable::roomForColumns() const
 
 void CellTable::fitColumns()
 {
+    cells_->breakHeadings(LinesOfHeadings.front());
+    resizeColumnsToContents();
+    widthWished_ = horizontalHeader()->length();
     cells_->joinHeadings();
     resizeColumnsToContents();
-    unbroken_ = horizontalHeader()->length();
     for (const int characters : LinesOfHeadings) {
         if (horizontalHeader()->length() <= roomForColumns())
             break;

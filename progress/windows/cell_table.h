@@ -34,7 +34,7 @@ private:
     CellModel* cells_;
 
     /// The width of all columns where no heading is broken.
-    int unbroken_ = 0;
+    int widthWished_ = 0;
 };
 
 } // namespace progress

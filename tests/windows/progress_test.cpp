@@ -138,6 +138,11 @@ TEST_F(Progress, TheTenCasesOfANounAreSeenAtOnceUnderHeadingsOfOneLine)
     const auto& grid = tests::control<QTableView>(progress, "ProgressGrid");
     EXPECT_EQ(grid.model()->headerData(0, Qt::Horizontal).toString(), "2. Deklination (-us)");
     EXPECT_GE(grid.viewport()->height(), grid.rowViewportPosition(9) + grid.rowHeight(9));
+    for (const std::string paradigm : {"First", "Third", "Fourth", "Fifth"})
+        tell("Declination", "rex", paradigm + " Declension / Genitive Singular", "regis", "regis");
+    openProgress();
+    const auto& forms = tests::control<QTableWidget>(progress, "ProgressForms");
+    EXPECT_LE(grid.sizeHint().width(), forms.sizeHint().width()) << "no room for headings that can break";
     const auto& kind = tests::control<QComboBox>(progress, "ProgressKind");
     EXPECT_GT(kind.width(), kind.fontMetrics().horizontalAdvance("Zeitformen nach Konjugation"));
 }
