@@ -131,8 +131,8 @@ Help::Help()
 
 void Help::layOut(QPushButton* close)
 {
-    auto* const top = rowOf(SmallSpace, {back_, Part::gap(1), state_, find_});
-    centredBlock(LargestBlock)->setLayout(columnOf(MediumSpace, {top, text_, buttonRow({}, {close})}));
+    auto* const top = rowOf(SmallSpace, {back_, Part::gap(1), find_});
+    centredBlock(LargestBlock)->setLayout(columnOf(MediumSpace, {top, text_, buttonRow({state_}, {close})}));
     resize(inLetters(fontMetrics(), NormalSize).boundedTo(screen()->availableSize() * ShareOfScreen));
 }
 

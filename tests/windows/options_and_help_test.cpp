@@ -261,6 +261,7 @@ TEST_F(Help, FindsWordsAsOneTypesAndBeginsAnewAtTheEnd)
     EXPECT_EQ(tests::focusIn(help), "HelpFind");
     tests::type(help, "lun");
     EXPECT_EQ(found(), 4);
+    const int least = help.minimumSizeHint().width();
     for (const int next : {13, 4, 13}) {
         press(help, Qt::Key_Return);
         EXPECT_EQ(found(), next);
@@ -271,6 +272,8 @@ TEST_F(Help, FindsWordsAsOneTypesAndBeginsAnewAtTheEnd)
     }
     tests::type(help, "o");
     EXPECT_EQ(label(help, "HelpFindState"), "Not found");
+    QApplication::processEvents();
+    EXPECT_EQ(help.minimumSizeHint().width(), least) << "it would grow, past the edge of the screen";
     EXPECT_EQ(found(), 13);
     press(help, Qt::Key_Escape);
     EXPECT_EQ(tests::focusIn(help), "HelpText");
