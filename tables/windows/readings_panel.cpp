@@ -133,7 +133,8 @@ void ReadingsPanel::showReadings()
     readings_->addItems(rows_);
     readings_->setFrameShape(rows_.isEmpty() ? QFrame::NoFrame : QFrame::StyledPanel);
     fitHeight();
-    readings_->viewport()->setAutoFillBackground(!rows_.isEmpty());
+    for (QWidget* const ground : {static_cast<QWidget*>(readings_), readings_->viewport()})
+        ground->setAutoFillBackground(!rows_.isEmpty());
     readings_->setVisible(roomStays || !rows_.isEmpty());
 }
 

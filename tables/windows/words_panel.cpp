@@ -82,9 +82,12 @@ void WordsPanel::refresh()
     filterWords();
 }
 
+// A word that the filter hides takes it away.
 void WordsPanel::choose(const Word& word)
 {
     word_ = word;
+    if (!filtered_->mapFromSource(words_->indexOf(word)).isValid())
+        filter_->clear();
     markChosenWord();
 }
 

@@ -150,7 +150,10 @@ TEST_F(Tables, TellAllThatAFormCanBeAndShowItInItsTable)
     shell::looks.ShowMacrons = true;
     openTables();
     tests::fill(line(window, "TablesForm"), "ama");
+    tests::fill(line(window, "TablesFilter"), "cap");
     EXPECT_EQ(tests::rows(readings).first(), "amā: amāre, 2nd Person Sing, First Conjugation, Imperative");
+    tests::clickRow(readings, 0);
+    EXPECT_EQ(tree().currentIndex().data(), "amāre") << "the filter hides it";
 }
 
 TEST_F(Tables, OpenAgainInTheSizeThatTheTypeNeedsOrTheLearnerGaveAndTakeANewFormForTheOld)
