@@ -26,6 +26,10 @@ bool asksForHint(const QString& typed)
 AnswerBox::AnswerBox(QWidget* parent) : QLineEdit(parent)
 {
     setType(*this, FormType);
+    connect(this, &QLineEdit::textEdited, this, [this] {
+        if (keepsItsLook_)
+            lookIdle();
+    });
 }
 
 void AnswerBox::lookIdle()

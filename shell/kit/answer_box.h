@@ -22,7 +22,7 @@ public:
     /// Grey: answered right in this round.
     void lookAnswered();
 
-    /// Grey ground alone, with which a round in random order begins.
+    /// Grey ground alone, with which a round in random order begins. It goes once something is typed there.
     void lookGrey();
 
     /// True for these two, which a box keeps until the round ends.
