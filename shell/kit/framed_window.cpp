@@ -31,9 +31,10 @@ void FramedWindow::showFrame()
     placeFrame();
 }
 
+// The larger type of a maximised window leaves the size that it has in its normal state alone.
 void FramedWindow::fitFrame()
 {
-    setMinimumSize(frame_->minimumSizeHint());
+    setMinimumSize(isMaximized() ? QSize(0, 0) : frame_->minimumSizeHint());
     placeFrame();
 }
 

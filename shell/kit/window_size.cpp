@@ -42,11 +42,14 @@ void Window::fitContent()
         return;
     if (layout() != nullptr)
         layout()->activate();
+    const bool wasNormal = fitted_.isValid();
     resize(onScreen(sizeHint()));
     fitted_ = size();
     sizeForgotten_ = false;
-    if (isVisible())
+    if (isVisible() && wasNormal)
         stayOnScreen();
+    else if (isVisible())
+        centreOnScreen();
 }
 
 // What asked for more room may give it back soon: the window does not become smaller for that.
