@@ -87,4 +87,16 @@ AnswerFault faultOf(std::string_view answer, std::string_view right)
     return {kindOf(answer, right), start, end - start};
 }
 
+AnswerFault withWholeVowel(const AnswerFault& fault, std::string_view answer)
+{
+    AnswerFault whole = fault;
+    if (whole.start > 0 && answer.substr(whole.start).starts_with(Mark)) {
+        --whole.start;
+        ++whole.length;
+    }
+    if (answer.substr(whole.start + whole.length).starts_with(Mark))
+        ++whole.length;
+    return whole;
+}
+
 } // namespace shell

@@ -28,4 +28,7 @@ struct AnswerFault {
 /// Compares a wrong answer with the right one. Both are UTF-8.
 AnswerFault faultOf(std::string_view answer, std::string_view right);
 
+/// The same fault where vowels are shown with their macrons: a vowel and the mark behind it are one letter.
+AnswerFault withWholeVowel(const AnswerFault& fault, std::string_view answer);
+
 } // namespace shell

@@ -3,9 +3,11 @@
 #include "shell/kit/answer_box.h"
 #include "shell/kit/content_area.h"
 #include "shell/kit/controls.h"
+#include "shell/kit/latin_text.h"
 #include "shell/kit/text.h"
 #include "shell/kit/type.h"
 #include "shell/kit/typed_ahead.h"
+#include "shell/looks.h"
 #include "shell/pause.h"
 
 #include <QAccessible>
@@ -44,21 +46,6 @@ std::optional<LanguageTexts> textsOf(FaultKind kind)
         if (fault.kind == kind)
             return fault.texts;
     return {};
-}
-
-// At the other blanks a long answer goes on in the next line.
-QString shown(std::string_view letters)
-{
-    return withUnseenBlanksAs(fromUtf8(letters), QChar::Nbsp).toHtmlEscaped();
-}
-
-// The answer with the letter that differs underlined; where it stops too early, the place behind it.
-QString underlined(std::string_view answer, const AnswerFault& fault)
-{
-    const QString letter =
-        fault.length == 0 ? QStringLiteral("&nbsp;") : shown(answer.substr(fault.start, fault.length));
-    return shown(answer.substr(0, fault.start)) + QStringLiteral("<u>%1</u>").arg(letter) +
-           shown(answer.substr(fault.start + fault.length));
 }
 
 } // namespace
@@ -135,6 +122,23 @@ void TypingDrill::clearWhy()
     why_->clear();
     bringIntoView(askedBox());
     why_->setAccessibleName({});
+}
+
+// At the blanks that are seen a long answer goes on in the next line.
+QString TypingDrill::shown(std::string_view letters) const
+{
+    const QString text = answersInLatin() ? latinText(letters) : fromUtf8(letters);
+    return withUnseenBlanksAs(text, QChar::Nbsp).toHtmlEscaped();
+}
+
+// The answer with the letter that differs underlined; where it stops too early, the place behind it.
+QString TypingDrill::underlined(std::string_view answer, const AnswerFault& fault) const
+{
+    const bool withMacrons = answersInLatin() && looks.ShowMacrons;
+    const auto [kind, start, length] = withMacrons ? withWholeVowel(fault, answer) : fault;
+    const QString letter = length == 0 ? QStringLiteral("&nbsp;") : shown(answer.substr(start, length));
+    return shown(answer.substr(0, start)) + QStringLiteral("<u>%1</u>").arg(letter) +
+           shown(answer.substr(start + length));
 }
 
 void TypingDrill::explain(const std::string& typed)

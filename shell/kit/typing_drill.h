@@ -9,6 +9,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 class QLabel;
 
@@ -75,6 +76,8 @@ protected:
 
 private:
     void explain(const std::string& typed);
+    QString shown(std::string_view letters) const;
+    QString underlined(std::string_view answer, const AnswerFault& fault) const;
     std::optional<LanguageTexts> reasonOf(FaultKind kind, const std::string& typed) const;
     void typeKeysKept();
 

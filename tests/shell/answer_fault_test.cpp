@@ -38,4 +38,16 @@ TEST(AnswerFault, NamesWhatIsPlainAndFindsTheFirstLetterThatDiffers)
     }
 }
 
+TEST(AnswerFault, HoldsAVowelWithItsMarkWhereMacronsAreShown)
+{
+    for (const auto& [answer, right, differs] :
+         {std::tuple<std::string, std::string, std::string>{"amo:", "amo", "o:"},
+          {"ami:s", "ama:s", "i:"},
+          {"xa:", "a:", "x"},
+          {"ama:", "ama:s", ""}}) {
+        const auto fault = shell::withWholeVowel(shell::faultOf(answer, right), answer);
+        EXPECT_EQ(answer.substr(fault.start, fault.length), differs) << answer;
+    }
+}
+
 } // namespace
