@@ -58,7 +58,10 @@ bool ContentArea::eventFilter(QObject* watched, QEvent* event)
     if (watched == widget() && event->type() == QEvent::LayoutRequest) {
         updateGeometry();
         askForRoom();
+        const int width = widget()->width();
         fitContent();
+        if (widget()->width() != width)
+            showFocus(QApplication::focusWidget());
     }
     return QScrollArea::eventFilter(watched, event);
 }
@@ -115,7 +118,15 @@ void ContentArea::showFocus(QWidget* focused)
         return;
     if (QApplication::mouseButtons() == Qt::NoButton)
         verticalScrollBar()->setValue(0);
-    ensureWidgetVisible(focused, LargeSpace, LargeSpace);
+    reveal(*focused, LargeSpace);
+}
+
+// Of what is wider than the room its beginning is seen.
+void ContentArea::reveal(QWidget& shown, int margin)
+{
+    ensureWidgetVisible(&shown, margin, margin);
+    if (shown.width() > viewport()->width())
+        horizontalScrollBar()->setValue(shown.mapTo(widget(), QPoint(-margin, 0)).x());
 }
 
 // Its room may just have changed.
@@ -125,7 +136,7 @@ void ContentArea::bringIntoView(QWidget& shown)
     fitContent();
     if (widget()->layout() != nullptr)
         widget()->layout()->activate();
-    ensureWidgetVisible(&shown, 0, HairSpace);
+    reveal(shown, HairSpace);
 }
 
 void bringIntoView(QWidget& shown)

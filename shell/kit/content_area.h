@@ -35,6 +35,7 @@ private:
     void askForRoom();
     void fitContent();
     void showFocus(QWidget* focused);
+    void reveal(QWidget& shown, int margin);
 };
 
 /// Scrolls the content that a widget stands in, if need be, so that it is seen.

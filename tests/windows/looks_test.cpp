@@ -79,6 +79,21 @@ TEST_F(Looks, LeaveANormalWindowAsLargeAsItsContentAfterLargeTypeAndAfterItWasMa
     EXPECT_EQ(menu.size(), designed + QSize(40, 40));
 }
 
+TEST_F(Looks, LetAMaximisedChooserBecomeAsSmallAsItWas)
+{
+    QWidget& chooser = open("FileConj", "ConjugationChoose");
+    const QSize least = chooser.minimumSize();
+    const QSize screen(1920, 1080);
+    chooser.resize(screen);
+    chooser.overrideWindowState(Qt::WindowMaximized);
+    QResizeEvent resized(screen, screen);
+    QApplication::sendEvent(&chooser, &resized);
+    QApplication::processEvents();
+    chooser.showNormal();
+    chooser.resize(least);
+    EXPECT_EQ(chooser.size(), least);
+}
+
 TEST_F(Looks, TakeMacronsAsMarksWhereTheyAreTypedOrPastedWithTheCursorBehindThem)
 {
     QWidget& manager = open("FileVerbManager", "VerbManager");
@@ -120,7 +135,22 @@ TEST_F(Looks, ShowMacronsWhereNothingIsTypedAndLeaveWhatIsComparedAndHeadingsAsT
     EXPECT_EQ(tests::rows(tests::control<QListWidget>(editor)), QStringList{"mīles"});
     EXPECT_EQ(line(editor, "VcabManWord").text(), "mi:les");
     tests::doubleClickRow(tests::control<QListWidget>(open("FileDecl", "DeclinationChoose")), 0);
-    EXPECT_EQ(label(tests::shown("Declination"), "HeadingLabel"), "Prima Declinatio:");
+    QWidget& drill = tests::shown("Declination");
+    EXPECT_EQ(label(drill, "HeadingLabel"), "Prima Declinatio:");
+    tests::answer(drill, "xā");
+    EXPECT_EQ(label(drill, "WhyLabel"), "<u>x</u>ā");
+}
+
+TEST_F(Looks, KeepTheBeginningOfARemarkInViewWhereTheTypeIsTooWideForTheScreen)
+{
+    QWidget& menu = start();
+    percentAfter(menu, Qt::Key_Plus, Qt::ControlModifier, 9);
+    tests::doubleClickRow(tests::control<QListWidget>(open("FileConj", "ConjugationChoose")), 0);
+    QWidget& drill = tests::shown("Conjugation");
+    tests::answer(drill, "x");
+    const auto& why = tests::control<QLabel>(drill, "WhyLabel");
+    EXPECT_GT(why.width(), drill.width());
+    EXPECT_GE(why.mapTo(&drill, QPoint()).x(), 0);
 }
 
 TEST_F(Looks, SpeakTheLanguageOfTheInterfaceInContextMenusAndMessages)
