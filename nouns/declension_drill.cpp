@@ -3,6 +3,7 @@
 #include "nouns/case_order.h"
 #include "nouns/chooser_rows.h"
 #include "nouns/declensions.h"
+#include "nouns/noun_forms.h"
 #include "nouns/noun_tables.h"
 #include "platform/random.h"
 #include "shell/round.h"
@@ -100,6 +101,14 @@ bool answersAnotherCase(const std::string& answer)
         if (answer == forms[number])
             return true;
     return false;
+}
+
+bool answersWithStem(const std::string& answer)
+{
+    const int paradigm = declensionDrill.DrillParadigm;
+    return paradigm == ThirdDeclensionNeuter &&
+           hasObliqueStem(paradigm, declensionDrill.CurrentCaseIndex + 1) &&
+           answer.ends_with(declensionDrill.ExpectedAnswer);
 }
 
 shell::Place placeOfCase()

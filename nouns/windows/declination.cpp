@@ -216,7 +216,9 @@ std::string Declination::answer() const
 
 std::optional<shell::LanguageTexts> Declination::answersAnother(const std::string& typed) const
 {
-    return answersAnotherCase(typed) ? std::optional(OtherForm) : std::nullopt;
+    if (answersAnotherCase(typed))
+        return OtherForm;
+    return answersWithStem(typed) ? std::optional(EndingAlone) : std::nullopt;
 }
 
 void Declination::answerShown()

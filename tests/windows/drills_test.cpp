@@ -156,7 +156,8 @@ TEST_F(EveryDrill, KeepsWhatIsTypedInAPauseForTheBoxThatIsAskedNextUnlessItIsLef
             duringPause([&] {
                 press(window, Qt::Key_Return);
                 commit(window, "a");
-                type(window, "b?");
+                QTest::keyClick(window.focusWidget(), 'b', Qt::ControlModifier | Qt::AltModifier);
+                type(window, "?");
                 press(window, Qt::Key_Backspace);
                 EXPECT_EQ(label(window, "WhyLabel"), right ? "" : "<u>x</u>");
                 for (const QScrollBar* const bar : window.findChildren<QScrollBar*>())
@@ -207,6 +208,10 @@ TEST_F(EveryDrill, SaysWhyAnAnswerWasWrongUntilTheNextKeyAndHowFarOneIs)
     EXPECT_EQ(label(persons, "WhyLabel"), "<u>t</u>u");
     answer(persons, "mihi");
     EXPECT_TRUE(label(persons, "WhyLabel").endsWith("Das ist eine andere Form desselben Wortes."));
+    QWidget& neuter = open(Declension, 5);
+    answer(neuter, QString::fromStdString(Declension.right(neuter)));
+    answer(neuter, "xis");
+    EXPECT_EQ(label(neuter, "WhyLabel"), "<u>x</u>is &nbsp; Hier wird nur die Endung gefragt.");
     settings.QuestionOrder = shell::question_order::Random;
     for (const Drill& drill : {Declension, Pronoun})
         for (int number = 1; number < 4; ++number) {
