@@ -2,6 +2,7 @@
 
 #include "nouns/fixed_nouns.h"
 #include "nouns/noun_list.h"
+#include "tables/form.h"
 
 namespace tables {
 
@@ -22,6 +23,15 @@ std::string_view writtenStem(int paradigm, int number)
     if (!fixed.empty())
         return fixed[static_cast<std::size_t>(number - 1)].stem;
     return nouns::nounList.StemAsWritten[paradigm][number - 1];
+}
+
+std::string askedForm(int paradigm, int number, int inCase)
+{
+    if (!nouns::fixedNounsOf(paradigm).nouns.empty())
+        return formOf(formsOfNoun(paradigm, number).at(static_cast<std::size_t>(inCase - 1))).text;
+    const nouns::NounRecord noun = nouns::nounAt(paradigm, number);
+    const auto forms = nouns::decline(paradigm, number, noun.stem, noun.obliqueStem);
+    return formOf(forms.at(static_cast<std::size_t>(inCase - 1))).text;
 }
 
 void appendStemsOfNoun(std::string& text, int paradigm, int number)

@@ -5,6 +5,8 @@
 #include "shell/language_texts.h"
 #include "shell/macrons.h"
 #include "shell/settings.h"
+#include "shell/vowel_marks.h"
+#include "tables/noun_table.h"
 #include "tables/pronoun_table.h"
 #include "tables/word_forms.h"
 #include "verbdrills/quiz_texts.h"
@@ -69,6 +71,8 @@ constexpr LanguageTexts Sic       {"sic: ",          "sic\u00A0: ",           "s
 constexpr LanguageTexts Here      {"here ",          "ici ",                  "qui ",               "hier ",              "aquí ",             "hic "};
 constexpr LanguageTexts GrammarHas{"a grammar has ", "une grammaire donne ", "una grammatica ha ", "eine Grammatik hat ", "una gramática da ", "grammatica habet "};
 
+constexpr LanguageTexts InTheDrill{"In the drill: ", "Dans l'exercice\u00A0: ", "Nell'esercizio: ",  "In der Abfrage: ",     "En el ejercicio: ",  "In exercitatione: "};
+
 constexpr LanguageTexts Semicolon  {"; ", "\u00A0; ", "; ", "; ", "; ", "; "};
 constexpr LanguageTexts QuoteOpens {"“", "«\u00A0", "«", "„", "«", "“"};
 constexpr LanguageTexts QuoteCloses{"”", "\u00A0»", "»", "“", "»", "”"};
@@ -91,6 +95,14 @@ std::string saysOfGrammar(const Cell& cell)
     const std::string asked =
         marksAreHidden ? inLanguage(Here) + quoted(cell.form.text) + inLanguage(Semicolon) : std::string();
     return inLanguage(Sic) + asked + inLanguage(GrammarHas) + quoted(*cell.grammarsForm) + ".";
+}
+
+std::string saysOfDrill(const Word& word, int cell, const Form& shown)
+{
+    if (word.kind != WordKind::Noun || !shell::marksAreShown())
+        return {};
+    const std::string asked = askedForm(word.paradigm, word.number, cell);
+    return asked == shown.text ? std::string() : inLanguage(InTheDrill) + quoted(asked) + ".";
 }
 
 class PageMaker {
@@ -163,7 +175,8 @@ private:
         const Cell& cell = table_.at(static_cast<std::size_t>(number - 1));
         const Form form = asShown(cell.form);
         return {number, macronsWhereShown(form.stem()), macronsWhereShown(form.ending()),
-                cell.grammarsForm ? std::optional(saysOfGrammar(cell)) : std::nullopt};
+                cell.grammarsForm ? std::optional(saysOfGrammar(cell)) : std::nullopt,
+                saysOfDrill(word_, number, form)};
     }
 
     const Word word_;
@@ -171,6 +184,12 @@ private:
 };
 
 } // namespace
+
+std::string PageCell::remark() const
+{
+    const std::string ofGrammar = saysOfGrammar.value_or("");
+    return ofGrammar + (ofGrammar.empty() || saysOfDrill.empty() ? "" : " ") + saysOfDrill;
+}
 
 Page pageOf(const Word& word)
 {

@@ -17,7 +17,14 @@ struct PageCell {
     std::string ending;
     std::optional<std::string> saysOfGrammar;
 
+    /// How a drill asks a form of a noun whose stem it shows without its marks: "In the drill: “regis”.";
+    /// else empty.
+    std::string saysOfDrill;
+
     std::string form() const { return stem + ending; }
+
+    /// All that is said of the form; may be empty.
+    std::string remark() const;
 
     bool operator==(const PageCell&) const = default;
 };

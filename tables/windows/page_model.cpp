@@ -62,7 +62,7 @@ QVariant PageModel::data(const QModelIndex& index, int role) const
     case SicRole:
         return cell.saysOfGrammar.has_value();
     case Qt::ToolTipRole:
-        return cell.saysOfGrammar ? shell::fromUtf8(*cell.saysOfGrammar) : QVariant();
+        return shell::fromUtf8(cell.remark());
     case Qt::AccessibleDescriptionRole:
         return description(cell);
     default:
@@ -83,8 +83,8 @@ QVariant PageModel::dataOfHeading(const QModelIndex& index, int role) const
 QString PageModel::description(const PageCell& cell) const
 {
     std::string text = cellInWords(word_, cell.cell);
-    if (cell.saysOfGrammar)
-        text += ". " + *cell.saysOfGrammar;
+    if (const std::string remark = cell.remark(); !remark.empty())
+        text += ". " + remark;
     return shell::fromUtf8(text);
 }
 
