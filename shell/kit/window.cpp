@@ -109,6 +109,7 @@ void Window::showInFront()
     standAboveModal();
     if (!isVisible())
         centreAsShown();
+    setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
     raise();
     activateWindow();

@@ -30,9 +30,9 @@ public:
     /// Shows the window, brings it to the front, and gives it the state that `MainWindowState` asks for.
     void showInMainWindowState();
 
-    /// Shows the window, with its frame, in the middle of the screen and brings it to the front. It stays
-    /// above a window that is modal, and can be used then; a modal window stays above the one that was
-    /// active.
+    /// Shows the window, with its frame, in the middle of the screen and brings it to the front; one that was
+    /// minimised comes back where it was. It stays above a window that is modal, and can be used then; a
+    /// modal window stays above the one that was active.
     void showInFront();
 
     /// Lets a window that is shown be used beside the one that is modal now, without going to it.

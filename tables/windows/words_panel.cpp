@@ -82,7 +82,6 @@ void WordsPanel::refresh()
     filterWords();
 }
 
-// A word that the filter hides takes it away.
 void WordsPanel::choose(const Word& word)
 {
     word_ = word;

@@ -31,10 +31,10 @@ public:
     /// that is listed no more the first one is chosen. It is not told.
     void refresh();
 
-    /// Chooses a word, and brings it into view where the filter leaves it. It is not told.
+    /// Chooses a word, and brings it into view; a filter that hides it is cleared. It is not told.
     void choose(const Word& word);
 
-    /// The same, with the filter cleared.
+    /// The same, with the filter cleared in any case.
     void chooseAmongAll(const Word& word);
 
     /// Makes the panel as wide as its longest name, but no wider than `room`. Where that is very little, long

@@ -154,6 +154,11 @@ TEST_F(Tables, TellAllThatAFormCanBeAndShowItInItsTable)
     EXPECT_EQ(tests::rows(readings).first(), "amā: amāre, 2nd Person Sing, First Conjugation, Imperative");
     tests::clickRow(readings, 0);
     EXPECT_EQ(tree().currentIndex().data(), "amāre") << "the filter hides it";
+    // The drill shows the stems of the list without their marks.
+    choose("rex");
+    view().setFocus();
+    press(window, Qt::Key_Down);
+    EXPECT_EQ(chosen() + label(window, "TablesRemark").toStdString(), "rēgisIn the drill: “regis”.");
 }
 
 TEST_F(Tables, OpenAgainInTheSizeThatTheTypeNeedsOrTheLearnerGaveAndTakeANewFormForTheOld)
@@ -212,6 +217,9 @@ TEST_F(Tables, OpenByF2AtTheWordThatStandsInADrillOrListAndCostNothing)
     EXPECT_TRUE(tree().visualRect(tree().currentIndex()).isValid()) << "its branch is open";
     EXPECT_EQ(line(shown("Tables"), "TablesForm").text(), "");
     EXPECT_EQ(chosen(Qt::AccessibleDescriptionRole), "singular Nominative") << "not the form last looked up";
+    shown("Tables").setWindowState(Qt::WindowMinimized);
+    press(modal, Qt::Key_F2);
+    EXPECT_FALSE(shown("Tables").isMinimized());
     press(modal, Qt::Key_Escape);
     EXPECT_EQ(shown("Tables").windowHandle()->transientParent(), shown("DeclinationChoose").windowHandle());
     tests::doubleClickRow(list(shown("DeclinationChoose"), "DeclinationList"), 1);
