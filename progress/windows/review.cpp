@@ -160,7 +160,7 @@ void Review::beginRound()
     before_->clear();
     ask();
     if (!asked_)
-        question_->setText(fromUtf8(NothingDue));
+        question_->setText(ofKind(fromUtf8(NothingDue)));
 }
 
 void Review::typeIntoAnswer(QKeyEvent* key)
@@ -206,8 +206,14 @@ QString Review::end() const
 {
     const int missed = round_.missed();
     if (missed == 0)
-        return fromUtf8(AllDone);
-    return missed == 1 ? fromUtf8(OneMissed) : fromUtf8(SomeMissed).arg(missed);
+        return ofKind(fromUtf8(AllDone));
+    return ofKind(missed == 1 ? fromUtf8(OneMissed) : fromUtf8(SomeMissed).arg(missed));
+}
+
+// Of other kinds more may be due.
+QString Review::ofKind(const QString& sentence) const
+{
+    return kind_->currentIndex() == 0 ? sentence : kind_->currentText() + QStringLiteral(": ") + sentence;
 }
 
 bool Review::asksWord() const
@@ -221,11 +227,6 @@ QString Review::shownQuestion() const
     if (!asksWord())
         return withLastPartWhole(shell::latinText(questionInLanguageShown(asked_->exercise, asked_->asked)));
     return !answersInLatin() ? shell::latinText(asked_->asked) : fromUtf8(asked_->asked);
-}
-
-QString Review::shownAnswer(const std::string& text) const
-{
-    return answersInLatin() ? shell::latinText(text) : fromUtf8(text);
 }
 
 shell::AnswerBox& Review::askedBox() const
@@ -307,9 +308,10 @@ void Review::showBefore()
     clearWhy();
     if (!asked_)
         return;
-    const QString right = shownAnswer(asked_->expected);
-    before_->setText(written_.empty() ? fromUtf8(BeforeEmpty).arg(right)
-                                      : fromUtf8(Before).arg(right, withBlanksSeen(shownAnswer(written_))));
+    const QString right = fromUtf8(shownAnswer(asked_->expected));
+    before_->setText(written_.empty()
+                         ? fromUtf8(BeforeEmpty).arg(right)
+                         : fromUtf8(Before).arg(right, withBlanksSeen(fromUtf8(shownAnswer(written_)))));
 }
 
 void Review::focusQuestion()

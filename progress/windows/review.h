@@ -49,13 +49,13 @@ private:
 
     bool asksWord() const;
     QString shownQuestion() const;
-    QString shownAnswer(const std::string& text) const;
     void showBefore();
     void beginRound();
     void typeIntoAnswer(QKeyEvent* key);
     void ask();
     void showQuestion();
     QString end() const;
+    QString ofKind(const QString& sentence) const;
     void hint();
 
     Keeper* keeper_ = nullptr;

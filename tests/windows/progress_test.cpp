@@ -265,6 +265,10 @@ TEST_F(Progress, AReviewAsksWhatIsDueAndWhatWasMissedAsTheLast)
     tests::press(review, Qt::Key_Down);
     tests::press(review, Qt::Key_Down);
     EXPECT_EQ(asked(review) + leftIn(review), "rex, Genitive Singular1");
+    kind.setFocus();
+    tests::press(review, Qt::Key_Down);
+    EXPECT_EQ(asked(review), "Pronouns: Nothing is due today.") << "of others something is";
+    tests::press(review, Qt::Key_Up);
     tests::press(review, Qt::Key_Return);
     EXPECT_EQ(tests::focusIn(review), "ReviewAnswer");
     kind.setFocus();
