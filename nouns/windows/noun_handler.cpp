@@ -292,7 +292,7 @@ void NounHandler::addNewRow()
     if (chosenParadigm() == ParadigmUnchosen)
         paradigms_->setFocus();
     else
-        form()->box(Stem)->setFocus();
+        form()->goOnIn(Stem);
 }
 
 void NounHandler::storeNewNoun()

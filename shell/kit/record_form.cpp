@@ -44,6 +44,12 @@ void RecordForm::show(std::span<const std::string_view> texts)
     }
 }
 
+void RecordForm::goOnIn(std::size_t number) const
+{
+    box(number)->setFocus();
+    box(number)->end(false);
+}
+
 std::vector<std::string> RecordForm::take() const
 {
     std::vector<std::string> texts;

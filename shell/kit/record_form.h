@@ -38,6 +38,9 @@ public:
     /// Shows one text in each box, in their order; throws std::out_of_range where there are more than boxes.
     void show(std::span<const std::string_view> texts);
 
+    /// Gives a box the focus, with the cursor behind its text, so that one goes on writing there.
+    void goOnIn(std::size_t number) const;
+
     /// The texts in the boxes, in their order.
     std::vector<std::string> take() const;
 

@@ -64,6 +64,14 @@ constexpr std::array Captions = {
 constexpr LanguageTexts NewList{"new list",             "nouvelle liste",         {},    "neue Liste",            "lista nueva",           "index novus"};
 // clang-format on
 
+// A record without a word is seen by its translation.
+QString shownInList(const WordRecord& record)
+{
+    return record.word.empty() && !record.translation.empty()
+               ? QStringLiteral("(%1)").arg(shell::fromUtf8(record.translation))
+               : shell::latinText(record.word);
+}
+
 // The name of the list's file.
 QString listName()
 {
@@ -127,7 +135,7 @@ QLayout* VcabManager::buttons()
 void VcabManager::connectControls()
 {
     connect(words_, &ChoiceList::rowChosen, this, [this](int row) { moveTo(row + 1); });
-    connect(words_, &ChoiceList::rowActivated, this, [this] { form_->box(Word)->setFocus(); });
+    connect(words_, &ChoiceList::rowActivated, this, [this] { form_->goOnIn(Word); });
     for (const QLineEdit* const box : form_->boxes())
         connect(box, &QLineEdit::returnPressed, this, &VcabManager::enterRecord);
     connect(accept_, &QPushButton::clicked, this, &VcabManager::accept);
@@ -146,7 +154,7 @@ void VcabManager::open()
     if (vocabularyList.WordCount > 0)
         words_->setFocus();
     else
-        form_->box(Word)->setFocus();
+        form_->goOnIn(Word);
 }
 
 void VcabManager::comeBack()
@@ -167,7 +175,7 @@ void VcabManager::listWords()
     while (words_->count() > vocabularyList.WordCount)
         const std::unique_ptr<QListWidgetItem> surplus(words_->takeItem(words_->count() - 1));
     for (int row = 0; row < words_->count(); ++row)
-        words_->item(row)->setText(shell::latinText(vocabularyList.Working[row + 1].word));
+        words_->item(row)->setText(shownInList(vocabularyList.Working[row + 1]));
 }
 
 // Marks the record in the list, and leaves the boxes alone.
@@ -249,7 +257,7 @@ void VcabManager::add()
         showRecord(0);
         words_->scrollToBottom();
     }
-    form_->box(Word)->setFocus();
+    form_->goOnIn(Word);
 }
 
 // A text that was typed and not yet accepted outlives the record: it can still be added, but only by Add.
@@ -282,8 +290,10 @@ void VcabManager::leaveFor(void (VcabManager::*request)())
     if (!takeBoxes())
         return;
     showRecord(shown_);
-    if (vocabularyList.WordCount > words)
+    if (vocabularyList.WordCount > words) {
         words_->scrollToBottom();
+        form_->goOnIn(Word);
+    }
     Q_EMIT(this->*request)();
 }
 
