@@ -32,7 +32,7 @@ constexpr std::array Captions = {
 
 // The number of words stands in the place of %1.
 constexpr LanguageTexts Count{"Words: %1",                          "Mots : %1",                            {}, "Wörter: %1",                        "Palabras: %1",                           "Verba: %1"};
-constexpr LanguageTexts LongCount{"Words: %1. The test counts %2.", "Mots : %1. Le test en compte %2.",     {}, "Wörter: %1. Der Test zählt %2.",    "Palabras: %1. La prueba cuenta %2.",     "Verba: %1. Probatio %2 numerat."};
+constexpr LanguageTexts LongCount{"Words: %1. The test counts the first %2; any other ends the program.", "Mots : %1. Le test compte les %2 premiers ; tout autre met fin au programme.", {}, "Wörter: %1. Der Test zählt die ersten %2; jedes andere beendet das Programm.", "Palabras: %1. La prueba cuenta las primeras %2; cualquier otra termina el programa.", "Verba: %1. Probatio prima %2 numerat; aliud quodque programma finit."};
 // clang-format on
 
 QString countOf(const VocabularyFile& file)
