@@ -2,6 +2,7 @@
 
 #include "shell/kit/type.h"
 
+#include <QKeyEvent>
 #include <QMimeData>
 #include <QRegularExpression>
 #include <QScrollBar>
@@ -261,6 +262,16 @@ bool GuideText::focusNextPrevChild(bool next)
         moveMark(place);
     }
     return QTextBrowser::focusNextPrevChild(next);
+}
+
+void GuideText::keyPressEvent(QKeyEvent* event)
+{
+    if (event->matches(QKeySequence::MoveToStartOfDocument))
+        verticalScrollBar()->triggerAction(QScrollBar::SliderToMinimum);
+    else if (event->matches(QKeySequence::MoveToEndOfDocument))
+        verticalScrollBar()->triggerAction(QScrollBar::SliderToMaximum);
+    else
+        QTextBrowser::keyPressEvent(event);
 }
 
 QMimeData* GuideText::createMimeDataFromSelection() const

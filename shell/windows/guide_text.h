@@ -36,6 +36,9 @@ protected:
     /// the last.
     bool focusNextPrevChild(bool next) override;
 
+    /// The keys that lead to the beginning and the end of a text do so with Ctrl as without.
+    void keyPressEvent(QKeyEvent* event) override;
+
     /// The hyphens of endings, which are shown so that they stay with their letters, are copied as plain
     /// ones.
     QMimeData* createMimeDataFromSelection() const override;
