@@ -32,6 +32,7 @@ CellTable::CellTable(QWidget* parent) : QTableView(parent), cells_(new CellModel
     setItemDelegate(new CellDelegate(this));
     setSelectionMode(SingleSelection);
     setTabKeyNavigation(false);
+    setWordWrap(false);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
     for (QHeaderView* const header : {horizontalHeader(), verticalHeader()}) {
         header->setHighlightSections(false);
@@ -43,6 +44,9 @@ CellTable::CellTable(QWidget* parent) : QTableView(parent), cells_(new CellModel
 void CellTable::fitCells()
 {
     resizeRowsToContents();
+    cells_->breakHeadings(LinesOfHeadings.front());
+    resizeColumnsToContents();
+    widthWished_ = horizontalHeader()->length();
     fitColumns();
 }
 
@@ -84,9 +88,6 @@ int CellTable::roomForColumns() const
 
 void CellTable::fitColumns()
 {
-    cells_->breakHeadings(LinesOfHeadings.front());
-    resizeColumnsToContents();
-    widthWished_ = horizontalHeader()->length();
     cells_->joinHeadings();
     resizeColumnsToContents();
     for (const int characters : LinesOfHeadings) {

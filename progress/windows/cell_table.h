@@ -33,7 +33,7 @@ private:
 
     CellModel* cells_;
 
-    /// The width of all columns where no heading is broken.
+    /// The width of all columns where headings are broken as little as they may be.
     int widthWished_ = 0;
 };
 
