@@ -1,6 +1,7 @@
 #include "shell/answer_fault.h"
 
 #include <algorithm>
+#include <array>
 #include <string>
 
 namespace shell {
@@ -9,7 +10,7 @@ namespace {
 
 constexpr char Mark = ':';
 constexpr char Blank = ' ';
-constexpr std::string_view OtherGenders = " -a -um";
+constexpr std::array<std::string_view, 2> OtherGenders = {" -a -um", " -ae -a"};
 
 bool goesOn(char byte)
 {
@@ -45,8 +46,10 @@ std::string without(std::string_view text, char left)
 
 bool isWithoutGenders(std::string_view text, std::string_view whole)
 {
-    const auto place = whole.find(OtherGenders);
-    return place != std::string_view::npos && text == std::string(whole).erase(place, OtherGenders.size());
+    return std::ranges::any_of(OtherGenders, [&](std::string_view genders) {
+        const auto place = whole.find(genders);
+        return place != std::string_view::npos && text == std::string(whole).erase(place, genders.size());
+    });
 }
 
 FaultKind kindOfMarks(std::string_view answer, std::string_view right)
@@ -85,18 +88,6 @@ AnswerFault faultOf(std::string_view answer, std::string_view right)
     while (end < answer.size() && goesOn(answer[end]))
         ++end;
     return {kindOf(answer, right), start, end - start};
-}
-
-AnswerFault withWholeVowel(const AnswerFault& fault, std::string_view answer)
-{
-    AnswerFault whole = fault;
-    if (whole.start > 0 && answer.substr(whole.start).starts_with(Mark)) {
-        --whole.start;
-        ++whole.length;
-    }
-    if (answer.substr(whole.start + whole.length).starts_with(Mark))
-        ++whole.length;
-    return whole;
 }
 
 } // namespace shell

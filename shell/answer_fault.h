@@ -10,7 +10,7 @@ enum class FaultKind {
     Other,
     Capital,        ///< only capitals differ
     BlankTooMany,   ///< but for blanks it is right, and it has more of them
-    GendersMissing, ///< but for " -a -um" it is right, and it lacks them
+    GendersMissing, ///< but for " -a -um" or " -ae -a" it is right, and it lacks them
     GendersTooMany, ///< likewise, and it has them
     MarkMissing,    ///< but for the marks of long vowels it is right, and it has fewer of them
     MarkTooMany,    ///< likewise, and it has more
@@ -27,8 +27,5 @@ struct AnswerFault {
 
 /// Compares a wrong answer with the right one. Both are UTF-8.
 AnswerFault faultOf(std::string_view answer, std::string_view right);
-
-/// The same fault where vowels are shown with their macrons: a vowel and the mark behind it are one letter.
-AnswerFault withWholeVowel(const AnswerFault& fault, std::string_view answer);
 
 } // namespace shell

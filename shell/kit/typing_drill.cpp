@@ -3,11 +3,11 @@
 #include "shell/kit/answer_box.h"
 #include "shell/kit/content_area.h"
 #include "shell/kit/controls.h"
-#include "shell/kit/latin_text.h"
+#include "shell/kit/measure.h"
 #include "shell/kit/text.h"
 #include "shell/kit/type.h"
 #include "shell/kit/typed_ahead.h"
-#include "shell/looks.h"
+#include "shell/macrons.h"
 #include "shell/pause.h"
 
 #include <QAccessible>
@@ -48,6 +48,21 @@ std::optional<LanguageTexts> textsOf(FaultKind kind)
     return {};
 }
 
+// At the other blanks a long answer goes on in the next line.
+QString inHtml(std::string_view letters)
+{
+    return withUnseenBlanksAs(fromUtf8(letters), QChar::Nbsp).toHtmlEscaped();
+}
+
+// The answer with the letter that differs underlined; where it stops too early, the place behind it.
+QString underlined(std::string_view answer, std::string_view right)
+{
+    const auto [kind, start, length] = faultOf(answer, right);
+    const QString letter = length == 0 ? QStringLiteral("&nbsp;") : inHtml(answer.substr(start, length));
+    return inHtml(answer.substr(0, start)) + QStringLiteral("<u>%1</u>").arg(letter) +
+           inHtml(answer.substr(start + length));
+}
+
 } // namespace
 
 TypingDrill::TypingDrill(std::string_view name, std::string_view activeName, std::string_view exerciseType)
@@ -66,9 +81,15 @@ void TypingDrill::joinBox(const AnswerBox& box)
     connect(&box, &QLineEdit::textEdited, this, &TypingDrill::clearWhy);
 }
 
+// The last question is the one whose number takes most room: nothing beside it gives way in the middle of a
+// drill.
 void TypingDrill::showPlace(const LanguageTexts& text, Place place)
 {
-    where_->setText(fromUtf8(text).arg(place.number).arg(place.count));
+    const QString ofCount = fromUtf8(text);
+    where_->setText(ofCount.arg(place.number).arg(place.count));
+    keepMeasure(*where_, "width", [this, last = ofCount.arg(place.count).arg(place.count)](Growth) {
+        where_->setMinimumWidth(where_->fontMetrics().horizontalAdvance(last));
+    });
 }
 
 void TypingDrill::revealAnswer()
@@ -124,30 +145,18 @@ void TypingDrill::clearWhy()
     why_->setAccessibleName({});
 }
 
-// At the blanks that are seen a long answer goes on in the next line.
-QString TypingDrill::shown(std::string_view letters) const
+std::string TypingDrill::shownAnswer(std::string_view text) const
 {
-    const QString text = answersInLatin() ? latinText(letters) : fromUtf8(letters);
-    return withUnseenBlanksAs(text, QChar::Nbsp).toHtmlEscaped();
-}
-
-// The answer with the letter that differs underlined; where it stops too early, the place behind it.
-QString TypingDrill::underlined(std::string_view answer, const AnswerFault& fault) const
-{
-    const bool withMacrons = answersInLatin() && looks.ShowMacrons;
-    const auto [kind, start, length] = withMacrons ? withWholeVowel(fault, answer) : fault;
-    const QString letter = length == 0 ? QStringLiteral("&nbsp;") : shown(answer.substr(start, length));
-    return shown(answer.substr(0, start)) + QStringLiteral("<u>%1</u>").arg(letter) +
-           shown(answer.substr(start + length));
+    return answersInLatin() ? macronsWhereShown(text) : std::string(text);
 }
 
 void TypingDrill::explain(const std::string& typed)
 {
     if (typed.empty())
         return;
-    const AnswerFault fault = faultOf(typed, answer());
-    const auto reason = reasonOf(fault.kind, typed);
-    QString text = underlined(typed, fault);
+    const std::string right = answer();
+    const auto reason = reasonOf(faultOf(typed, right).kind, typed);
+    QString text = underlined(shownAnswer(typed), shownAnswer(right));
     if (reason)
         text += QStringLiteral(" &nbsp; ") + fromUtf8(reason->currentOrDesigned()).toHtmlEscaped();
     why_->setText(text);

@@ -49,6 +49,9 @@ protected:
     /// Whether the answer is Latin, where a colon marks a long vowel.
     virtual bool answersInLatin() const { return true; }
 
+    /// An answer as a label shows it: a Latin one with macrons where the learner wishes them.
+    std::string shownAnswer(std::string_view text) const;
+
     /// Shows the answer in the box asked for a pause, in which nothing can be typed, and asks again; it
     /// counts for nothing. Does nothing while no answer can be shown.
     void revealAnswer();
@@ -76,8 +79,6 @@ protected:
 
 private:
     void explain(const std::string& typed);
-    QString shown(std::string_view letters) const;
-    QString underlined(std::string_view answer, const AnswerFault& fault) const;
     std::optional<LanguageTexts> reasonOf(FaultKind kind, const std::string& typed) const;
     void typeKeysKept();
 
