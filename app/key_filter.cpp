@@ -13,11 +13,9 @@ namespace app {
 
 namespace {
 
-// Ctrl with Alt is the third level of some keyboards, and writes.
 bool isLetterWithAlt(const QKeyEvent& key)
 {
-    return (key.modifiers() & (Qt::AltModifier | Qt::ControlModifier)) == Qt::AltModifier &&
-           !key.text().isEmpty() && key.text().front().isPrint();
+    return (key.modifiers() & Qt::AltModifier) && shell::hasSign(key) && !shell::writes(key);
 }
 
 // Qt shows a button pressed for a tenth of a second first; a key that follows soon would go to the window

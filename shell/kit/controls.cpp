@@ -126,11 +126,16 @@ bool isEnter(const QKeyEvent& key)
     return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
 }
 
+bool hasSign(const QKeyEvent& key)
+{
+    return !key.text().isEmpty() && key.text().front().isPrint();
+}
+
 bool writes(const QKeyEvent& key)
 {
     constexpr Qt::KeyboardModifiers thirdLevel = Qt::ControlModifier | Qt::AltModifier;
     const Qt::KeyboardModifiers command = key.modifiers() & (thirdLevel | Qt::MetaModifier);
-    return (!command || command == thirdLevel) && !key.text().isEmpty() && key.text().front().isPrint();
+    return (!command || command == thirdLevel) && hasSign(key);
 }
 
 } // namespace shell

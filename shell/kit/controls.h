@@ -63,7 +63,10 @@ void onEnter(QWidget& control, const std::function<void()>& step);
 /// Whether a key is one of the two Enter keys.
 bool isEnter(const QKeyEvent& key);
 
-/// Whether a key writes something. With Ctrl, Alt or Meta none does; Ctrl and Alt together are the third
+/// Whether a key has a letter or another sign on it, whatever else is pressed.
+bool hasSign(const QKeyEvent& key);
+
+/// Whether it writes that sign. None does with Ctrl, Alt or Meta, but for Ctrl and Alt together, the third
 /// level of some keyboards.
 bool writes(const QKeyEvent& key);
 
