@@ -25,7 +25,7 @@ public:
     /// Grey ground alone, with which a round in random order begins. It goes once something is typed there.
     void lookGrey();
 
-    /// True for these two, which a box keeps until the round ends.
+    /// True for these two, which a box keeps while others are asked.
     bool keepsItsLook() const { return keepsItsLook_; }
 
     /// Red: the answer is shown.

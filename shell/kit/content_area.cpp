@@ -58,9 +58,9 @@ bool ContentArea::eventFilter(QObject* watched, QEvent* event)
     if (watched == widget() && event->type() == QEvent::LayoutRequest) {
         updateGeometry();
         askForRoom();
-        const int width = widget()->width();
+        const QSize before = widget()->size();
         fitContent();
-        if (widget()->width() != width)
+        if (widget()->size() != before)
             showFocus(QApplication::focusWidget());
     }
     return QScrollArea::eventFilter(watched, event);
@@ -118,25 +118,19 @@ void ContentArea::showFocus(QWidget* focused)
         return;
     if (QApplication::mouseButtons() == Qt::NoButton)
         verticalScrollBar()->setValue(0);
-    reveal(*focused, LargeSpace);
+    ensureWidgetVisible(focused, LargeSpace, LargeSpace);
 }
 
-// Of what is wider than the room its beginning is seen.
-void ContentArea::reveal(QWidget& shown, int margin)
-{
-    ensureWidgetVisible(&shown, margin, margin);
-    if (shown.width() > viewport()->width())
-        horizontalScrollBar()->setValue(shown.mapTo(widget(), QPoint(-margin, 0)).x());
-}
-
-// Its room may just have changed.
+// Its room may just have changed. Of what is wider than the window its beginning is seen.
 void ContentArea::bringIntoView(QWidget& shown)
 {
     askForRoom();
     fitContent();
     if (widget()->layout() != nullptr)
         widget()->layout()->activate();
-    reveal(shown, HairSpace);
+    ensureWidgetVisible(&shown, HairSpace, HairSpace);
+    if (shown.width() > viewport()->width())
+        horizontalScrollBar()->setValue(shown.mapTo(widget(), QPoint(-HairSpace, 0)).x());
 }
 
 void bringIntoView(QWidget& shown)

@@ -5,7 +5,8 @@
 namespace shell {
 
 /// Content of a window, or of a part of it. It is shown whole where the screen has room for it, and can be
-/// scrolled where the screen has not; what receives the focus comes into view.
+/// scrolled where the screen has not; what receives the focus, or has it when the content takes another
+/// size, comes into view.
 class ContentArea : public QScrollArea {
     Q_OBJECT
 
@@ -35,7 +36,6 @@ private:
     void askForRoom();
     void fitContent();
     void showFocus(QWidget* focused);
-    void reveal(QWidget& shown, int margin);
 };
 
 /// Scrolls the content that a widget stands in, if need be, so that it is seen.

@@ -31,7 +31,8 @@ void FramedWindow::showFrame()
     placeFrame();
 }
 
-// The larger type of a maximised window leaves the size that it has in its normal state alone.
+// The larger type of a maximised window leaves the size that it has in its normal state alone. With the type
+// of that state the frame is laid out anew, and fitted again.
 void FramedWindow::fitFrame()
 {
     setMinimumSize(isMaximized() ? QSize(0, 0) : frame_->minimumSizeHint());

@@ -23,7 +23,8 @@ protected:
     /// Shows the window, at first in the size of its frame, as far as the screen allows.
     void showFrame();
 
-    /// Fits the window to what stands in the frame. It does so itself a little after a change.
+    /// Fits the window to what stands in the frame; a maximised one has no least size. It does so itself a
+    /// little after a change.
     void fitFrame();
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -36,20 +36,22 @@ QSize Window::onScreen(QSize asked) const
     return asked.boundedTo({qRound(room.width() * ShareOfWidth), qRound(room.height() * ShareOfScreen)});
 }
 
+// A window that was maximised from the first has no place of its own yet.
 void Window::fitContent()
 {
     if (maximised_)
         return;
     if (layout() != nullptr)
         layout()->activate();
-    const bool wasNormal = fitted_.isValid();
+    const bool hasPlace = fitted_.isValid();
     resize(onScreen(sizeHint()));
     fitted_ = size();
     sizeForgotten_ = false;
-    if (isVisible() && wasNormal)
-        stayOnScreen();
-    else if (isVisible())
+    if (!isVisible())
+        return;
+    if (!hasPlace)
         centreOnScreen();
+    stayOnScreen();
 }
 
 // What asked for more room may give it back soon: the window does not become smaller for that.

@@ -81,6 +81,8 @@ TEST_F(Looks, LeaveANormalWindowAsLargeAsItsContentAfterLargeTypeAndAfterItWasMa
 
 TEST_F(Looks, LetAMaximisedChooserBecomeAsSmallAsItWas)
 {
+    start();
+    shell::settings.MainWindowState = shell::window_state::Normal;
     QWidget& chooser = open("FileConj", "ConjugationChoose");
     const QSize least = chooser.minimumSize();
     const QSize screen(1920, 1080);
@@ -92,6 +94,8 @@ TEST_F(Looks, LetAMaximisedChooserBecomeAsSmallAsItWas)
     chooser.showNormal();
     chooser.resize(least);
     EXPECT_EQ(chooser.size(), least);
+    QApplication::processEvents();
+    EXPECT_EQ(chooser.minimumSize(), least);
 }
 
 TEST_F(Looks, TakeMacronsAsMarksWhereTheyAreTypedOrPastedWithTheCursorBehindThem)
