@@ -72,6 +72,7 @@ TypingDrill::TypingDrill(std::string_view name, std::string_view activeName, std
     why_->setTextFormat(Qt::RichText);
     why_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     wrapText(*why_, LinesOfWhy);
+    where_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     connect(this, &Window::left, this, &TypingDrill::clearWhy);
 }
 
