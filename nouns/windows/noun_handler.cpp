@@ -2,6 +2,7 @@
 
 #include "nouns/noun_list_file.h"
 #include "platform/platform.h"
+#include "shell/kit/choice_box.h"
 #include "shell/kit/choice_list.h"
 #include "shell/kit/controls.h"
 #include "shell/kit/latin_text.h"
@@ -12,7 +13,6 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
-#include <QComboBox>
 #include <QEvent>
 #include <QItemSelectionModel>
 #include <QLineEdit>
@@ -98,13 +98,13 @@ std::string messageOf(NounEdit edit, int paradigm)
 }
 
 // Where none is chosen yet, the first arrow key in the opened list comes to the first paradigm.
-class ParadigmBox : public QComboBox {
+class ParadigmBox : public shell::ChoiceBox {
 public:
-    using QComboBox::QComboBox;
+    using ChoiceBox::ChoiceBox;
 
     void showPopup() override
     {
-        QComboBox::showPopup();
+        ChoiceBox::showPopup();
         if (currentIndex() < 0)
             view()->selectionModel()->clearCurrentIndex();
     }

@@ -1,19 +1,19 @@
 #pragma once
 
+#include "shell/kit/choice_box.h"
 #include "shell/kit/controls.h"
 
-#include <QComboBox>
 #include <QKeyEvent>
 
 namespace progress {
 
 /// The choice of what a review asks. The arrows choose; what is typed is meant for the answer, and would
 /// choose another kind by its first letter.
-class KindBox : public QComboBox {
+class KindBox : public shell::ChoiceBox {
     Q_OBJECT
 
 public:
-    using QComboBox::QComboBox;
+    using ChoiceBox::ChoiceBox;
 
 Q_SIGNALS:
     /// Enter was pressed: the choice is made.
@@ -30,7 +30,7 @@ protected:
         else if (shell::writes(*event) && event->key() != Qt::Key_Space)
             Q_EMIT letterTyped(event);
         else
-            QComboBox::keyPressEvent(event);
+            ChoiceBox::keyPressEvent(event);
     }
 };
 

@@ -10,6 +10,7 @@
 #include "progress/windows/forms_table.h"
 #include "progress/windows/practice_days.h"
 #include "shell/kit/captions.h"
+#include "shell/kit/choice_box.h"
 #include "shell/kit/controls.h"
 #include "shell/kit/text.h"
 #include "shell/kit/type.h"
@@ -17,7 +18,6 @@
 #include <QApplication>
 #include <QBoxLayout>
 #include <QCheckBox>
-#include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
 
@@ -76,7 +76,7 @@ Progress::Progress() : Window("Progress", "progress")
 
 void Progress::makeControls()
 {
-    kind_ = shell::makeControl<QComboBox>(this, "ProgressKind");
+    kind_ = shell::makeControl<shell::ChoiceBox>(this, "ProgressKind");
     kind_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     kindLabel_ = shell::makeLabelOf(kind_, "ProgressKindLabel");
     nothing_ = shell::makeLabel(this, "ProgressNothing", shell::SentenceType);

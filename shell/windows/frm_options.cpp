@@ -4,6 +4,7 @@
 #include "platform/printed_number.h"
 #include "shell/delay.h"
 #include "shell/kit/captions.h"
+#include "shell/kit/choice_box.h"
 #include "shell/kit/controls.h"
 #include "shell/kit/layout.h"
 #include "shell/kit/text.h"
@@ -16,7 +17,6 @@
 
 #include <QBoxLayout>
 #include <QCheckBox>
-#include <QComboBox>
 #include <QEvent>
 #include <QFormLayout>
 #include <QFrame>
@@ -134,7 +134,7 @@ void FrmOptions::fillOrderFrame(QFrame& frame)
 void FrmOptions::fillDisplayFrame(QFrame& frame)
 {
     auto* const page = makeControl<QWidget>(&frame, "OptionsDisplay");
-    textSize_ = makeControl<QComboBox>(page, "TextSize");
+    textSize_ = makeControl<ChoiceBox>(page, "TextSize");
     for (const int size : TextSizes)
         textSize_->addItem(QStringLiteral("%1 %").arg(size), size);
     macrons_ = makeControl<QCheckBox>(page, "ShowMacrons");

@@ -143,7 +143,14 @@ TEST_F(Progress, TheTenCasesOfANounAreSeenAtOnceUnderHeadingsOfOneLine)
     openProgress();
     const auto& forms = tests::control<QTableWidget>(progress, "ProgressForms");
     EXPECT_LE(grid.sizeHint().width(), forms.sizeHint().width()) << "no room for headings that can break";
-    const auto& kind = tests::control<QComboBox>(progress, "ProgressKind");
+    auto& kind = tests::control<QComboBox>(progress, "ProgressKind");
+    const QSize least = kind.minimumSizeHint();
+    for (const double times : {3.0, 1.0}) {
+        QFont font = progress.font();
+        font.setPointSizeF(QApplication::font().pointSizeF() * times);
+        kind.setFont(font);
+        EXPECT_EQ(kind.minimumSizeHint() == least, times == 1);
+    }
     EXPECT_GT(kind.width(), kind.fontMetrics().horizontalAdvance("Zeitformen nach Konjugation"));
 }
 
