@@ -5,6 +5,7 @@
 #include "verbdrills/verb_question.h"
 
 #include <QButtonGroup>
+#include <QFocusEvent>
 #include <QGridLayout>
 #include <QRadioButton>
 
@@ -21,6 +22,23 @@ constexpr std::array NumberButtons = {"QuizSing", "QuizPlural"};
 constexpr int FirstPerson = 1;
 constexpr int Singular = 0;
 constexpr int Plural = 1;
+
+// A letter that other controls have as well brings the focus to an option and does not choose it. From there
+// Tab and the arrow keys lead back to the one that is chosen.
+class Option : public QRadioButton {
+public:
+    using QRadioButton::QRadioButton;
+
+protected:
+    void focusInEvent(QFocusEvent* event) override
+    {
+        QRadioButton::focusInEvent(event);
+        const bool byStep =
+            event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+        if (byStep && !isChecked())
+            group()->checkedButton()->setFocus(event->reason());
+    }
+};
 
 // Tab comes to the option that is chosen. Qt sees to that only where the learner chooses.
 void chooseOption(const QButtonGroup& group, int chosen)
@@ -46,7 +64,7 @@ void PersonAndNumber::addOptions(QButtonGroup* group, std::span<const char* cons
                                  int column)
 {
     for (int row = 0; const char* const name : names) {
-        auto* const option = shell::makeControl<QRadioButton>(this, name);
+        auto* const option = shell::makeControl<Option>(this, name);
         group->addButton(option, first + row);
         grid_->addWidget(option, row++, column);
     }
