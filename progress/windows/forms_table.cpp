@@ -91,12 +91,25 @@ QString answered(const Form& form, const std::string& text)
     return shell::latinText(text);
 }
 
+// A macron and a ":" that were written for each other are not shown alike.
+bool hasAnswersAlike(const Form& form)
+{
+    return std::ranges::any_of(form.wrongAnswers, [&](const std::string& written) {
+        return written != form.expected && answered(form, written) == answered(form, form.expected);
+    });
+}
+
+QString answeredUnlike(const Form& form, const std::string& text)
+{
+    return hasAnswersAlike(form) ? fromUtf8(text) : answered(form, text);
+}
+
 // Nothing that was written is a dash.
 QString writtenInstead(const Form& form)
 {
     QStringList texts;
     for (const std::string& written : form.wrongAnswers)
-        texts << (written.empty() ? QStringLiteral("–") : withBlanksSeen(answered(form, written)));
+        texts << (written.empty() ? QStringLiteral("–") : withBlanksSeen(answeredUnlike(form, written)));
     return texts.join(QStringLiteral("; "));
 }
 
@@ -218,9 +231,9 @@ void FormsTable::fitColumns()
 
 void FormsTable::showForm(int row, const Form& form)
 {
-    const std::array texts = {asked(form, withMarksAsShown(form, form.asked)),
-                              fromUtf8(textOf(shareOf(form))),
-                              answered(form, withMarksAsShown(form, form.expected)), writtenInstead(form)};
+    const std::array texts = {
+        asked(form, withMarksAsShown(form, form.asked)), fromUtf8(textOf(shareOf(form))),
+        answeredUnlike(form, withMarksAsShown(form, form.expected)), writtenInstead(form)};
     int column = 0;
     for (const QString& text : texts) {
         auto* const item = new QTableWidgetItem(text);

@@ -308,10 +308,11 @@ void Review::showBefore()
     clearWhy();
     if (!asked_)
         return;
-    const QString right = fromUtf8(shownAnswer(asked_->expected));
-    before_->setText(written_.empty()
-                         ? fromUtf8(BeforeEmpty).arg(right)
-                         : fromUtf8(Before).arg(right, withBlanksSeen(fromUtf8(shownAnswer(written_)))));
+    const std::string& expected = asked_->expected;
+    const QString right = fromUtf8(shownBeside(written_, expected));
+    const QString written = withBlanksSeen(fromUtf8(shownBeside(expected, written_)));
+    before_->setText(written_.empty() ? fromUtf8(BeforeEmpty).arg(right)
+                                      : fromUtf8(Before).arg(right, written));
 }
 
 void Review::focusQuestion()

@@ -146,9 +146,10 @@ void TypingDrill::clearWhy()
     why_->setAccessibleName({});
 }
 
-std::string TypingDrill::shownAnswer(std::string_view text) const
+std::string TypingDrill::shownBeside(std::string_view other, std::string_view text) const
 {
-    return answersInLatin() ? macronsWhereShown(text) : std::string(text);
+    std::string shown = macronsWhereShown(text);
+    return answersInLatin() && shown != macronsWhereShown(other) ? shown : std::string(text);
 }
 
 void TypingDrill::explain(const std::string& typed)
@@ -157,7 +158,7 @@ void TypingDrill::explain(const std::string& typed)
         return;
     const std::string right = answer();
     const auto reason = reasonOf(faultOf(typed, right).kind, typed);
-    QString text = underlined(shownAnswer(typed), shownAnswer(right));
+    QString text = underlined(shownBeside(right, typed), shownBeside(typed, right));
     if (reason)
         text += QStringLiteral(" &nbsp; ") + fromUtf8(reason->currentOrDesigned()).toHtmlEscaped();
     why_->setText(text);

@@ -131,6 +131,8 @@ TEST_F(Looks, ShowMacronsWhereNothingIsTypedAndLeaveWhatIsComparedAndHeadingsAsT
     EXPECT_EQ(label(test, "VQuestion") + ' ' + label(test, "VHint"), "mīles mīlitis, m.");
     tests::choose(test, "VcabtesterOptionsPromptLatin");
     EXPECT_EQ(label(test, "VQuestion"), "note: a soldier");
+    tests::answer(test, "mīles");
+    EXPECT_EQ(label(test, "WhyLabel"), "m<u>ī</u>les") << "what looks alike is shown as it was written";
     tests::answer(test, "mi:les");
     EXPECT_EQ(shell::settings.RightCount, 1);
     tests::choose(test, "VcabTesterEdit");
