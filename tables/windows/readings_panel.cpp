@@ -123,8 +123,8 @@ void ReadingsPanel::beginLookUp()
     form_->selectAll();
 }
 
-// While a form is typed the room of the readings stays where there are none: the table below would be laid
-// out anew, and jump, at each letter.
+// While a form is typed the room of one reading stays where there are none: the table below would jump at
+// each letter.
 void ReadingsPanel::showReadings()
 {
     const bool roomStays = !readings_->isHidden() && !form_->text().isEmpty();
@@ -140,8 +140,10 @@ void ReadingsPanel::showReadings()
 
 void ReadingsPanel::fitHeight()
 {
-    if (rows_.isEmpty())
+    if (rows_.isEmpty()) {
+        readings_->setFixedHeight(readings_->fontMetrics().lineSpacing());
         return;
+    }
     const int row = readings_->sizeHintForRow(0);
     const int most = std::min(MostReadingsShown, window()->height() / PartOfLowWindow / row);
     const int rows = std::clamp(static_cast<int>(rows_.size()), 1, std::max(1, most));
