@@ -31,6 +31,8 @@ void RecordForm::addControl(QWidget* control, std::string_view caption, std::str
 {
     QLabel* const made = makeLabelOf(control, label);
     made->setText(fromUtf8(caption));
+    // Letters stand closer in a text that is measured than in one with a letter underlined.
+    made->setContentsMargins(0, 0, HairSpace, 0);
     addWidget(made, lines_, 0);
     addWidget(control, lines_++, 1);
 }
