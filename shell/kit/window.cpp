@@ -75,12 +75,15 @@ void Window::showAsDesigned()
         forgetSize();
         takeSize(1);
     }
-    if (sizeForgotten_ || !fitted_.isValid())
+    const bool takesSize = sizeForgotten_ || !fitted_.isValid();
+    if (takesSize)
         fitContent();
     if (settings.MainWindowState == window_state::Normal)
         showNormal();
     else
         show();
+    if (takesSize)
+        stayOnScreen();
 }
 
 // Takes the size that it will have at once: fonts of another size need not be loaded.
