@@ -46,6 +46,8 @@ static_assert(std::ranges::equal(CaseTexts, CaseNames, {}, &shell::LanguageTexts
 
 /// What a wrong answer is that the word has elsewhere.
 inline constexpr shell::LanguageTexts OtherForm{"This is another form of the same word.", "C'est une autre forme du même mot.", "È un'altra forma della stessa parola.", "Das ist eine andere Form desselben Wortes.", "Es otra forma de la misma palabra.", "Haec est alia forma eiusdem verbi."};
+
+/// What it is where it has the stem of a neuter as well.
 inline constexpr shell::LanguageTexts EndingAlone{"Only the ending is asked here.", "On ne demande ici que la terminaison.", "Qui si chiede solo la desinenza.", "Hier wird nur die Endung gefragt.", "Aquí solo se pide la terminación.", "Hic sola desinentia quaeritur."};
 // clang-format on
 

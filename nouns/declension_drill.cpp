@@ -105,10 +105,9 @@ bool answersAnotherCase(const std::string& answer)
 
 bool answersWithStem(const std::string& answer)
 {
-    const int paradigm = declensionDrill.DrillParadigm;
-    return paradigm == ThirdDeclensionNeuter &&
-           hasObliqueStem(paradigm, declensionDrill.CurrentCaseIndex + 1) &&
-           answer.ends_with(declensionDrill.ExpectedAnswer);
+    const auto& forms = nounTables.NounForms[declensionDrill.DrillParadigm];
+    return declensionDrill.DrillParadigm == ThirdDeclensionNeuter &&
+           hasStemBeforeEnding(answer, forms[NominativeSingular], declensionDrill.ExpectedAnswer);
 }
 
 shell::Place placeOfCase()

@@ -63,8 +63,7 @@ Judgement judgeDeclension(const std::string& answer);
 /// Whether a wrong answer is another form of the noun.
 bool answersAnotherCase(const std::string& answer);
 
-/// Whether it has a stem before the right ending where that alone is asked: in the third declension neuter,
-/// whose list keeps no stem.
+/// Whether it has the stem before the ending where that alone is asked.
 bool answersWithStem(const std::string& answer);
 
 /// The how-many-th form of the noun is asked.

@@ -38,4 +38,12 @@ FormsOfNoun decline(int paradigm, int number, std::string_view stem, std::string
     return forms;
 }
 
+bool hasStemBeforeEnding(std::string_view answer, std::string_view nominative, std::string_view ending)
+{
+    // As far as the stems of a neuter are alike: caput, capitis; iter, itineris.
+    constexpr std::size_t alike = 2;
+    const std::string_view beginning = nominative.substr(0, alike);
+    return answer.starts_with(beginning) && answer.ends_with(ending) && !ending.starts_with(beginning);
+}
+
 } // namespace nouns

@@ -21,4 +21,8 @@ bool hasObliqueStem(int paradigm, int inCase);
 using FormsOfNoun = std::array<shell::FormParts, CaseCount>;
 FormsOfNoun decline(int paradigm, int number, std::string_view stem, std::string_view obliqueStem);
 
+/// Whether an answer has its stem before the ending that alone is asked, as of all neuters of the third
+/// declension: it begins as the nominative does, and ends as it is to.
+bool hasStemBeforeEnding(std::string_view answer, std::string_view nominative, std::string_view ending);
+
 } // namespace nouns

@@ -2,6 +2,7 @@
 
 #include "nouns/case_names.h"
 #include "nouns/chooser_rows.h"
+#include "nouns/noun_forms.h"
 #include "nouns/paradigm_names.h"
 #include "nouns/pronoun_columns.h"
 #include "shell/settings.h"
@@ -106,7 +107,12 @@ std::optional<LanguageTexts> otherFormOf(const AnswerRecord& question, const std
     const bool isOther =
         std::ranges::any_of(formsOfWordAsked(forms, *word, question),
                             [&](const shell::FormParts& form) { return isForm(form, question, written); });
-    return isOther ? std::optional(nouns::OtherForm) : std::nullopt;
+    if (isOther)
+        return nouns::OtherForm;
+    const bool isNeuter = word->kind == WordKind::Noun && word->paradigm == nouns::ThirdDeclensionNeuter;
+    return isNeuter && nouns::hasStemBeforeEnding(written, question.word, question.expected)
+               ? std::optional(nouns::EndingAlone)
+               : std::nullopt;
 }
 
 } // namespace progress
