@@ -75,14 +75,15 @@ void Window::showAsDesigned()
         forgetSize();
         takeSize(1);
     }
-    const bool takesSize = sizeForgotten_ || !fitted_.isValid();
-    if (takesSize)
+    const bool hadPlace = fitted_.isValid();
+    const QSize before = size();
+    if (sizeForgotten_ || !hadPlace)
         fitContent();
     if (settings.MainWindowState == window_state::Normal)
         showNormal();
     else
         show();
-    if (takesSize)
+    if (hadPlace && size() != before)
         stayOnScreen();
 }
 

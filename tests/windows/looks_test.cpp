@@ -70,6 +70,12 @@ TEST_F(Looks, LeaveANormalWindowAsLargeAsItsContentAfterLargeTypeAndAfterItWasMa
     EXPECT_TRUE(QTest::qWaitFor([&] { return menu.height() > designed.height(); }));
     percentAfter(menu, Qt::Key_0);
     EXPECT_TRUE(QTest::qWaitFor([&] { return menu.size() == designed; }));
+    menu.move(menu.screen()->availableGeometry().bottomRight() - QPoint(designed.width(), designed.height()));
+    percentAfter(open("FileVerbManager", "VerbManager"), Qt::Key_Plus, Qt::ControlModifier, 4);
+    sizeIn(shell::window_state::Normal);
+    EXPECT_TRUE(menu.screen()->availableGeometry().contains(menu.frameGeometry()));
+    percentAfter(menu, Qt::Key_0);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return menu.size() == designed; }));
     sizeIn(shell::window_state::Maximised);
     menu.resize(menu.screen()->size());
     menu.overrideWindowState(Qt::WindowMaximized);
