@@ -22,7 +22,7 @@ struct Form {
 
 Form formOf(const shell::FormParts& parts);
 
-/// The form as the drills ask it: without marks where `ShowVowelLength` is not true. Of two marks side by
+/// The form as the tables show it: without marks where `ShowVowelLength` is not true. Of two marks side by
 /// side in a stem one stays, as in the lists.
 Form asShown(const Form& form);
 

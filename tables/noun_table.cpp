@@ -25,7 +25,7 @@ std::string_view writtenStem(int paradigm, int number)
     return nouns::nounList.StemAsWritten[paradigm][number - 1];
 }
 
-std::string askedForm(int paradigm, int number, int inCase)
+std::string formInDrill(int paradigm, int number, int inCase)
 {
     if (!nouns::fixedNounsOf(paradigm).nouns.empty())
         return formOf(formsOfNoun(paradigm, number).at(static_cast<std::size_t>(inCase - 1))).text;

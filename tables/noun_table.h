@@ -12,9 +12,9 @@ namespace tables {
 /// alone. Nothing is drawn, and no table of the drills is touched.
 nouns::FormsOfNoun formsOfNoun(int paradigm, int number);
 
-/// The form that the drills ask for in a case now: stems of the list have lost their marks there, but for
-/// those of nouns that were added while marks were shown.
-std::string askedForm(int paradigm, int number, int inCase);
+/// The form that the drills ask for in a case while marks are shown: stems of the list have lost theirs, but
+/// for nouns that were added meanwhile.
+std::string formInDrill(int paradigm, int number, int inCase);
 
 /// Its stem as it was written; in the third declension the whole nominative.
 std::string_view writtenStem(int paradigm, int number);

@@ -101,7 +101,7 @@ std::string saysOfDrill(const Word& word, int cell, const Form& shown)
 {
     if (word.kind != WordKind::Noun || !shell::marksAreShown())
         return {};
-    const std::string asked = askedForm(word.paradigm, word.number, cell);
+    const std::string asked = formInDrill(word.paradigm, word.number, cell);
     return asked == shown.text ? std::string() : inLanguage(InTheDrill) + quoted(asked) + ".";
 }
 

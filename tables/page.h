@@ -17,8 +17,8 @@ struct PageCell {
     std::string ending;
     std::optional<std::string> saysOfGrammar;
 
-    /// How a drill asks a form of a noun whose stem it shows without its marks: "In the drill: “regis”.";
-    /// else empty.
+    /// Where marks are shown, how a drill asks a form of a noun whose stem it shows without them: "In the
+    /// drill: “regis”."; else empty.
     std::string saysOfDrill;
 
     std::string form() const { return stem + ending; }

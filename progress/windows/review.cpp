@@ -65,6 +65,7 @@ constexpr LanguageTexts Left{"%1 left", "%1 à revoir", {}, "%1 übrig", "%1 por
 constexpr LanguageTexts Before{"Before: %1, not %2", "Avant : %1, et non %2", {}, "Zuvor: %1, nicht %2", "Antes: %1, no %2", "Antea: %1, non %2"};
 constexpr LanguageTexts BeforeEmpty{"Before: %1", "Avant : %1", {}, "Zuvor: %1", "Antes: %1", "Antea: %1"};
 constexpr LanguageTexts NothingDue{"Nothing is due today.", "Rien n'est à revoir aujourd'hui.", {}, "Heute ist nichts fällig.", "Hoy no hay nada que repasar.", "Hodie nihil repetendum est."};
+constexpr LanguageTexts OfKind{"%1: %2", "%1 : %2", {}, "%1: %2", "%1: %2", "%1: %2"};
 constexpr LanguageTexts AllDone{"All that was due is done.", "Tout ce qui était à revoir est fait.", {}, "Alles Fällige ist erledigt.", "Todo lo que había que repasar está hecho.", "Omnia repetenda peracta sunt."};
 constexpr LanguageTexts OneMissed{"All that was due has been asked. 1 was missed and will come again.", "Tout ce qui était à revoir a été demandé. 1 question a été manquée et reviendra.", {}, "Alles Fällige ist abgefragt. 1 war falsch und kommt wieder.", "Se ha preguntado todo lo que había que repasar. 1 pregunta se falló y volverá a salir.", "Omnia repetenda quaesita sunt. 1 perperam responsum est et iterum quaeretur."};
 constexpr LanguageTexts SomeMissed{"All that was due has been asked. %1 were missed and will come again.", "Tout ce qui était à revoir a été demandé. %1 questions ont été manquées et reviendront.", {}, "Alles Fällige ist abgefragt. %1 waren falsch und kommen wieder.", "Se ha preguntado todo lo que había que repasar. %1 preguntas se fallaron y volverán a salir.", "Omnia repetenda quaesita sunt. %1 perperam responsa sunt et iterum quaerentur."};
@@ -213,7 +214,7 @@ QString Review::end() const
 // Of other kinds more may be due.
 QString Review::ofKind(const QString& sentence) const
 {
-    return kind_->currentIndex() == 0 ? sentence : kind_->currentText() + QStringLiteral(": ") + sentence;
+    return kind_->currentIndex() == 0 ? sentence : fromUtf8(OfKind).arg(kind_->currentText(), sentence);
 }
 
 bool Review::asksWord() const
@@ -309,8 +310,8 @@ void Review::showBefore()
     if (!asked_)
         return;
     const std::string& expected = asked_->expected;
-    const QString right = fromUtf8(shownBeside(written_, expected));
-    const QString written = withBlanksSeen(fromUtf8(shownBeside(expected, written_)));
+    const QString right = fromUtf8(shownBeside(expected, written_));
+    const QString written = withBlanksSeen(fromUtf8(shownBeside(written_, expected)));
     before_->setText(written_.empty() ? fromUtf8(BeforeEmpty).arg(right)
                                       : fromUtf8(Before).arg(right, written));
 }

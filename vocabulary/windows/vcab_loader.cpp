@@ -30,9 +30,9 @@ constexpr std::array Captions = {
     Caption{"VcabLoaderCancel", {"&Cancel",          "&Annuler",                 {},     "&Abbruch",         "&Cancelar",                   "&Reverte!"}},
 };
 
-// The number of words stands in the place of %1.
+// The number of words stands in the place of %1, and that of those which the test counts in that of %2.
 constexpr LanguageTexts Count{"Words: %1",                          "Mots : %1",                            {}, "Wörter: %1",                        "Palabras: %1",                           "Verba: %1"};
-constexpr LanguageTexts LongCount{"Words: %1. The test counts the first %2; any other ends the program.", "Mots : %1. Le test compte les %2 premiers ; tout autre met fin au programme.", {}, "Wörter: %1. Der Test zählt die ersten %2; jedes andere beendet das Programm.", "Palabras: %1. La prueba cuenta las primeras %2; cualquier otra termina el programa.", "Verba: %1. Probatio prima %2 numerat; aliud quodque programma finit."};
+constexpr LanguageTexts LongCount{"Words: %1. The test counts the first %2; any other ends the program.", "Mots : %1. Le test compte les %2 premiers ; tout autre met fin au programme.", {}, "Wörter: %1. Der Test zählt die ersten %2; jedes andere beendet das Programm.", "Palabras: %1. La prueba cuenta las primeras %2; cualquier otra termina el programa.", "Verba: %1. Probatio prima %2 numerat; quodlibet aliud programma finit."};
 // clang-format on
 
 QString countOf(const VocabularyFile& file)
