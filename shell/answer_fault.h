@@ -10,8 +10,8 @@ enum class FaultKind {
     Other,
     Capital,        ///< only capitals differ
     BlankTooMany,   ///< but for blanks it is right, and it has more of them
-    GendersMissing, ///< but for " -a -um" or " -ae -a" it is right, and it lacks them
-    GendersTooMany, ///< likewise, and it has them
+    GendersMissing, ///< but for " -a -um" it is right, and it lacks them
+    GendersTooMany, ///< likewise, and it has them, or " -ae -a"
     MarkMissing,    ///< but for the marks of long vowels it is right, and it has fewer of them
     MarkTooMany,    ///< likewise, and it has more
     MarkMoved,      ///< likewise, and it has as many

@@ -99,7 +99,7 @@ bool hasAnswersAlike(const Form& form)
     });
 }
 
-QString answeredUnlike(const Form& form, const std::string& text)
+QString answeredDistinctly(const Form& form, const std::string& text)
 {
     return hasAnswersAlike(form) ? fromUtf8(text) : answered(form, text);
 }
@@ -109,7 +109,7 @@ QString writtenInstead(const Form& form)
 {
     QStringList texts;
     for (const std::string& written : form.wrongAnswers)
-        texts << (written.empty() ? QStringLiteral("–") : withBlanksSeen(answeredUnlike(form, written)));
+        texts << (written.empty() ? QStringLiteral("–") : withBlanksSeen(answeredDistinctly(form, written)));
     return texts.join(QStringLiteral("; "));
 }
 
@@ -233,7 +233,7 @@ void FormsTable::showForm(int row, const Form& form)
 {
     const std::array texts = {
         asked(form, withMarksAsShown(form, form.asked)), fromUtf8(textOf(shareOf(form))),
-        answeredUnlike(form, withMarksAsShown(form, form.expected)), writtenInstead(form)};
+        answeredDistinctly(form, withMarksAsShown(form, form.expected)), writtenInstead(form)};
     int column = 0;
     for (const QString& text : texts) {
         auto* const item = new QTableWidgetItem(text);

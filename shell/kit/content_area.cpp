@@ -110,8 +110,8 @@ void ContentArea::fitContent()
     widget()->resize(room.expandedTo(least));
 }
 
-// What stands above is seen as far as the focus lets it; under a pressed button of the mouse nothing moves
-// that needs not.
+// What stands above is seen as far as the focus lets it, and of a box that is typed in its cursor; under a
+// pressed button of the mouse nothing moves that needs not.
 void ContentArea::showFocus(QWidget* focused)
 {
     if (focused == nullptr || !widget()->isAncestorOf(focused))

@@ -63,7 +63,7 @@ void onEnter(QWidget& control, const std::function<void()>& step);
 /// Whether a key is one of the two Enter keys.
 bool isEnter(const QKeyEvent& key);
 
-/// Whether a key has a letter or another sign on it, whatever else is pressed.
+/// Whether a key carries a letter or another sign that can be seen.
 bool hasSign(const QKeyEvent& key);
 
 /// Whether it writes that sign. None does with Ctrl, Alt or Meta, but for Ctrl and Alt together, the third

@@ -146,7 +146,7 @@ void TypingDrill::clearWhy()
     why_->setAccessibleName({});
 }
 
-std::string TypingDrill::shownBeside(std::string_view other, std::string_view text) const
+std::string TypingDrill::shownBeside(std::string_view text, std::string_view other) const
 {
     std::string shown = macronsWhereShown(text);
     return answersInLatin() && shown != macronsWhereShown(other) ? shown : std::string(text);
@@ -158,7 +158,7 @@ void TypingDrill::explain(const std::string& typed)
         return;
     const std::string right = answer();
     const auto reason = reasonOf(faultOf(typed, right).kind, typed);
-    QString text = underlined(shownBeside(right, typed), shownBeside(typed, right));
+    QString text = underlined(shownBeside(typed, right), shownBeside(right, typed));
     if (reason)
         text += QStringLiteral(" &nbsp; ") + fromUtf8(reason->currentOrDesigned()).toHtmlEscaped();
     why_->setText(text);

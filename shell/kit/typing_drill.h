@@ -49,9 +49,9 @@ protected:
     /// Whether the answer is Latin, where a colon marks a long vowel.
     virtual bool answersInLatin() const { return true; }
 
-    /// An answer as a label shows it beside another: a Latin one with macrons where the learner wishes them,
-    /// but as it was written where both would look alike.
-    std::string shownBeside(std::string_view other, std::string_view text) const;
+    /// An answer as a label shows it beside another one: a Latin answer with macrons where the learner wishes
+    /// them, but as it was written where both would look alike.
+    std::string shownBeside(std::string_view text, std::string_view other) const;
 
     /// Shows the answer in the box asked for a pause, in which nothing can be typed, and asks again; it
     /// counts for nothing. Does nothing while no answer can be shown.

@@ -123,8 +123,8 @@ void ReadingsPanel::beginLookUp()
     form_->selectAll();
 }
 
-// While a form is typed the room of one reading stays where there are none: the table below would jump at
-// each letter.
+// While a form is typed the room of one reading stays where there are none: the table below moves less often
+// for it.
 void ReadingsPanel::showReadings()
 {
     const bool roomStays = !readings_->isHidden() && !form_->text().isEmpty();
@@ -141,10 +141,11 @@ void ReadingsPanel::showReadings()
 void ReadingsPanel::fitHeight()
 {
     if (rows_.isEmpty()) {
-        readings_->setFixedHeight(readings_->fontMetrics().lineSpacing());
+        readings_->setFixedHeight(heightOfOne_);
         return;
     }
     const int row = readings_->sizeHintForRow(0);
+    heightOfOne_ = row + 2 * readings_->frameWidth();
     const int most = std::min(MostReadingsShown, window()->height() / PartOfLowWindow / row);
     const int rows = std::clamp(static_cast<int>(rows_.size()), 1, std::max(1, most));
     readings_->setFixedHeight(rows * row + 2 * readings_->frameWidth());

@@ -60,6 +60,9 @@ private:
     std::vector<Reading> found_;
     QStringList rows_;
 
+    /// Of a list with one reading, as it was shown last.
+    int heightOfOne_ = 0;
+
     QLabel* label_ = nullptr;
     QLineEdit* form_ = nullptr;
     QLabel* state_ = nullptr;

@@ -423,7 +423,8 @@ TEST_F(VcabWindows, OpenAnotherListWithoutCountsOrGoOnWithTheirOwn)
     QListWidget& lists = list(loader, "VcabFile");
     EXPECT_EQ(rows(lists), QStringList({"b.voc", "c.txt", "d.lst", "e.lst", "vr-vcab.lst"}));
     for (const char* const count :
-         {"Words: 1", "Words: 301", "Words: 151. The test counts the first 150; any other ends the program.", "", "Words: 3"}) {
+         {"Words: 1", "Words: 301", "Words: 151. The test counts the first 150; any other ends the program.",
+          "", "Words: 3"}) {
         press(loader, Qt::Key_Down);
         EXPECT_EQ(label(loader, "VcabLoaderCount"), count);
     }
