@@ -141,18 +141,31 @@ void Vcabtester::open()
     const std::string message = openDefaultList();
     findChild<QAction*>(QStringLiteral("VcabtesterOptionsOrderSequential"))->setChecked(true);
     findChild<QAction*>(QStringLiteral("VcabtesterOptionsPromptEnglish"))->setChecked(true);
-    comeBack();
+    ask();
+    showAgain();
     if (!message.empty())
         platform::current().showMessage(message);
 }
 
+// What was being judged is asked again.
 void Vcabtester::comeBack()
 {
-    shell::settings.ExerciseType = shell::exercise::Vcabtester;
+    if (vocabularyList.CurrentWord == 0 || answer_->isReadOnly())
+        ask();
+    showAgain();
+}
+
+void Vcabtester::ask()
+{
     if (vocabularyList.CurrentWord == 0)
         beginTest();
-    setCaptions();
     showTheWord();
+}
+
+void Vcabtester::showAgain()
+{
+    shell::settings.ExerciseType = shell::exercise::Vcabtester;
+    setCaptions();
     fitAnew(*question_);
     showInMainWindowState();
     focusQuestion();

@@ -25,8 +25,8 @@ public:
     /// Starts afresh with the default list.
     void open();
 
-    /// Comes back from another window: the question stands again, or the list is tested from its beginning
-    /// where it has changed.
+    /// Comes back from another window: the question stands again with what was typed, or the list is tested
+    /// from its beginning where it has changed.
     void comeBack();
 
     void moveOn() override;
@@ -53,6 +53,8 @@ private:
     void connectPrompt(std::string_view item, std::string_view promptLanguage);
     void setCaptions();
 
+    void ask();
+    void showAgain();
     void reveal();
     void choosePrompt(std::string_view promptLanguage);
     void omit(bool omitted);
