@@ -61,7 +61,9 @@ FaultKind kindOfMarks(std::string_view answer, std::string_view right)
     return given < wanted ? FaultKind::MarkMissing : FaultKind::MarkTooMany;
 }
 
-FaultKind kindOf(std::string_view answer, std::string_view right)
+} // namespace
+
+FaultKind faultOf(std::string_view answer, std::string_view right)
 {
     if (inSmallLetters(answer) == inSmallLetters(right))
         return FaultKind::Capital;
@@ -76,9 +78,7 @@ FaultKind kindOf(std::string_view answer, std::string_view right)
     return FaultKind::Other;
 }
 
-} // namespace
-
-AnswerFault faultOf(std::string_view answer, std::string_view right)
+Letter letterThatDiffers(std::string_view answer, std::string_view right)
 {
     const auto differing = std::ranges::mismatch(answer, right).in1;
     auto start = static_cast<std::size_t>(differing - answer.begin());
@@ -87,7 +87,7 @@ AnswerFault faultOf(std::string_view answer, std::string_view right)
     std::size_t end = std::min(start + 1, answer.size());
     while (end < answer.size() && goesOn(answer[end]))
         ++end;
-    return {kindOf(answer, right), start, end - start};
+    return {start, end - start};
 }
 
 } // namespace shell

@@ -17,15 +17,17 @@ enum class FaultKind {
     MarkMoved,      ///< likewise, and it has as many
 };
 
-/// The first letter of a wrong answer that differs: where it begins, and how many bytes it has; none, at the
-/// end, where the answer only stops too early.
-struct AnswerFault {
-    FaultKind kind;
+/// Compares a wrong answer with the right one. Both are UTF-8.
+FaultKind faultOf(std::string_view answer, std::string_view right);
+
+/// A letter of a text: where it begins, and how many bytes it has.
+struct Letter {
     std::size_t start;
     std::size_t length;
 };
 
-/// Compares a wrong answer with the right one. Both are UTF-8.
-AnswerFault faultOf(std::string_view answer, std::string_view right);
+/// The first letter of a wrong answer that differs; an empty one, at the end, where the answer only stops too
+/// early. Both are UTF-8.
+Letter letterThatDiffers(std::string_view answer, std::string_view right);
 
 } // namespace shell

@@ -2,7 +2,6 @@
 
 #include "nouns/fixed_nouns.h"
 #include "nouns/noun_list.h"
-#include "tables/form.h"
 
 namespace tables {
 
@@ -25,15 +24,6 @@ std::string_view writtenStem(int paradigm, int number)
     return nouns::nounList.StemAsWritten[paradigm][number - 1];
 }
 
-std::string formInDrill(int paradigm, int number, int inCase)
-{
-    if (!nouns::fixedNounsOf(paradigm).nouns.empty())
-        return formOf(formsOfNoun(paradigm, number).at(static_cast<std::size_t>(inCase - 1))).text;
-    const nouns::NounRecord noun = nouns::nounAt(paradigm, number);
-    const auto forms = nouns::decline(paradigm, number, noun.stem, noun.obliqueStem);
-    return formOf(forms.at(static_cast<std::size_t>(inCase - 1))).text;
-}
-
 void appendStemsOfNoun(std::string& text, int paradigm, int number)
 {
     text.append(writtenStem(paradigm, number)).append(",").append(obliqueStem(paradigm, number));
@@ -42,6 +32,16 @@ void appendStemsOfNoun(std::string& text, int paradigm, int number)
 nouns::FormsOfNoun formsOfNoun(int paradigm, int number)
 {
     return nouns::decline(paradigm, number, writtenStem(paradigm, number), obliqueStem(paradigm, number));
+}
+
+nouns::FormsOfNoun formsInDrill(int paradigm, int number)
+{
+    if (!nouns::fixedNounsOf(paradigm).nouns.empty())
+        return formsOfNoun(paradigm, number);
+    const std::string_view oblique = paradigm == nouns::ThirdDeclension
+                                         ? nouns::nounList.NounListObliqueStem[paradigm][number - 1]
+                                         : std::string_view();
+    return nouns::decline(paradigm, number, nouns::nounList.NounListStem[paradigm][number - 1], oblique);
 }
 
 } // namespace tables

@@ -12,9 +12,9 @@ namespace tables {
 /// alone. Nothing is drawn, and no table of the drills is touched.
 nouns::FormsOfNoun formsOfNoun(int paradigm, int number);
 
-/// The form that the drills ask for in a case while marks are shown: stems of the list have lost theirs, but
-/// for nouns that were added meanwhile.
-std::string formInDrill(int paradigm, int number, int inCase);
+/// The same as the drills ask them while marks are shown: stems of the list have lost theirs, but for nouns
+/// that were added meanwhile.
+nouns::FormsOfNoun formsInDrill(int paradigm, int number);
 
 /// Its stem as it was written; in the third declension the whole nominative.
 std::string_view writtenStem(int paradigm, int number);

@@ -97,17 +97,19 @@ std::string saysOfGrammar(const Cell& cell)
     return inLanguage(Sic) + asked + inLanguage(GrammarHas) + quoted(*cell.grammarsForm) + ".";
 }
 
-std::string saysOfDrill(const Word& word, int cell, const Form& shown)
+std::vector<shell::FormParts> formsInDrillOf(const Word& word)
 {
     if (word.kind != WordKind::Noun || !shell::marksAreShown())
         return {};
-    const std::string asked = formInDrill(word.paradigm, word.number, cell);
-    return asked == shown.text ? std::string() : inLanguage(InTheDrill) + quoted(asked) + ".";
+    const nouns::FormsOfNoun forms = formsInDrill(word.paradigm, word.number);
+    return {forms.begin(), forms.end()};
 }
 
 class PageMaker {
 public:
-    explicit PageMaker(const Word& word) : word_(word), table_(tableOf(word)) {}
+    explicit PageMaker(const Word& word) : word_(word), table_(tableOf(word)), inDrill_(formsInDrillOf(word))
+    {
+    }
 
     Page make() const
     {
@@ -176,11 +178,22 @@ private:
         const Form form = asShown(cell.form);
         return {number, macronsWhereShown(form.stem()), macronsWhereShown(form.ending()),
                 cell.grammarsForm ? std::optional(saysOfGrammar(cell)) : std::nullopt,
-                saysOfDrill(word_, number, form)};
+                saysOfDrill(number, form)};
+    }
+
+    std::string saysOfDrill(int number, const Form& shown) const
+    {
+        if (inDrill_.empty())
+            return {};
+        const std::string asked = formOf(inDrill_.at(static_cast<std::size_t>(number - 1))).text;
+        return asked == shown.text ? std::string() : inLanguage(InTheDrill) + quoted(asked) + ".";
     }
 
     const Word word_;
     const std::vector<Cell> table_;
+
+    // Empty where the drill shows all marks that the table shows.
+    const std::vector<shell::FormParts> inDrill_;
 };
 
 } // namespace

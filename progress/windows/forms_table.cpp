@@ -91,25 +91,27 @@ QString answered(const Form& form, const std::string& text)
     return shell::latinText(text);
 }
 
-// A macron and a ":" that were written for each other are not shown alike.
-bool hasAnswersAlike(const Form& form)
+QString asWritten(const Form& /*form*/, const std::string& text)
 {
-    return std::ranges::any_of(form.wrongAnswers, [&](const std::string& written) {
-        return written != form.expected && answered(form, written) == answered(form, form.expected);
-    });
+    return fromUtf8(text);
 }
 
-QString answeredDistinctly(const Form& form, const std::string& text)
+// How the answers to a form are shown: a macron and a ":" that were written for each other not alike.
+auto showingOf(const Form& form)
 {
-    return hasAnswersAlike(form) ? fromUtf8(text) : answered(form, text);
+    const bool lookAlike = std::ranges::any_of(form.wrongAnswers, [&](const std::string& written) {
+        return written != form.expected && answered(form, written) == answered(form, form.expected);
+    });
+    return lookAlike ? &asWritten : &answered;
 }
 
 // Nothing that was written is a dash.
 QString writtenInstead(const Form& form)
 {
+    const auto showing = showingOf(form);
     QStringList texts;
     for (const std::string& written : form.wrongAnswers)
-        texts << (written.empty() ? QStringLiteral("–") : withBlanksSeen(answeredDistinctly(form, written)));
+        texts << (written.empty() ? QStringLiteral("–") : withBlanksSeen(showing(form, written)));
     return texts.join(QStringLiteral("; "));
 }
 
@@ -233,7 +235,7 @@ void FormsTable::showForm(int row, const Form& form)
 {
     const std::array texts = {
         asked(form, withMarksAsShown(form, form.asked)), fromUtf8(textOf(shareOf(form))),
-        answeredDistinctly(form, withMarksAsShown(form, form.expected)), writtenInstead(form)};
+        showingOf(form)(form, withMarksAsShown(form, form.expected)), writtenInstead(form)};
     int column = 0;
     for (const QString& text : texts) {
         auto* const item = new QTableWidgetItem(text);

@@ -57,7 +57,7 @@ QString inHtml(std::string_view letters)
 // The answer with the letter that differs underlined; where it stops too early, the place behind it.
 QString underlined(std::string_view answer, std::string_view right)
 {
-    const auto [kind, start, length] = faultOf(answer, right);
+    const auto [start, length] = letterThatDiffers(answer, right);
     const QString letter = length == 0 ? QStringLiteral("&nbsp;") : inHtml(answer.substr(start, length));
     return inHtml(answer.substr(0, start)) + QStringLiteral("<u>%1</u>").arg(letter) +
            inHtml(answer.substr(start + length));
@@ -157,7 +157,7 @@ void TypingDrill::explain(const std::string& typed)
     if (typed.empty())
         return;
     const std::string right = answer();
-    const auto reason = reasonOf(faultOf(typed, right).kind, typed);
+    const auto reason = reasonOf(faultOf(typed, right), typed);
     QString text = underlined(shownBeside(typed, right), shownBeside(right, typed));
     if (reason)
         text += QStringLiteral(" &nbsp; ") + fromUtf8(reason->currentOrDesigned()).toHtmlEscaped();

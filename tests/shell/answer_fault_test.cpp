@@ -34,9 +34,9 @@ TEST(AnswerFault, NamesWhatIsPlainAndFindsTheFirstLetterThatDiffers)
         {"né", "nè", "é", FaultKind::Other},
     };
     for (const auto& [answer, right, differs, kind] : faults) {
-        const auto fault = shell::faultOf(answer, right);
-        EXPECT_EQ(fault.kind, kind) << answer;
-        EXPECT_EQ(answer.substr(fault.start, fault.length), differs) << answer;
+        EXPECT_EQ(shell::faultOf(answer, right), kind) << answer;
+        const auto [start, length] = shell::letterThatDiffers(answer, right);
+        EXPECT_EQ(answer.substr(start, length), differs) << answer;
     }
 }
 
